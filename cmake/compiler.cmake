@@ -1,0 +1,38 @@
+# What every target of ours is compiled with. Foreign sources (the test framework) are not.
+add_library(varnel_compile INTERFACE)
+target_include_directories(varnel_compile INTERFACE ${CMAKE_SOURCE_DIR})
+target_compile_definitions(varnel_compile INTERFACE
+  VARNEL_VERSION_MAJOR=${PROJECT_VERSION_MAJOR} VARNEL_VERSION_MINOR=${PROJECT_VERSION_MINOR})
+if(MSVC)
+  target_compile_options(varnel_compile INTERFACE /W4 /WX /utf-8 /permissive- /Zc:__cplusplus)
+else()
+  target_compile_options(varnel_compile INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror
+    -Wno-format-zero-length)  # a report without a message is a report
+  if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    # This release of the compiler sees overlapping copies in std::string's operator+ that are none.
+    target_compile_options(varnel_compile INTERFACE -Wno-restrict)
+  endif()
+endif()
+if(WIN32)
+  target_compile_definitions(varnel_compile INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX)
+endif()
+if(VARNEL_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# Header-only libraries of Debian's that both builds share. A cross compiler must not see /usr/include as a whole, so each
+# library is reached through a folder of links that holds nothing else.
+function(varnel_header_library name)
+  set(folder ${CMAKE_BINARY_DIR}/headers/${name})
+  file(MAKE_DIRECTORY ${folder})
+  foreach(entry ${ARGN})
+    if(NOT EXISTS ${entry})
+      message(FATAL_ERROR "${entry} is missing: install the packages that ./test installs")
+    endif()
+    get_filename_component(base ${entry} NAME)
+    file(CREATE_LINK ${entry} ${folder}/${base} SYMBOLIC)
+  endforeach()
+  add_library(${name} INTERFACE)
+  target_include_directories(${name} SYSTEM INTERFACE ${folder})
+endfunction()
