@@ -1,0 +1,157 @@
+#include "host/lwtool2_scene.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "host/item_names.h"
+#include "host/lwtool2_errors.h"
+#include "host/lwtool2_eval.h"
+#include "host/lwtool2_globals.h"
+
+namespace lw {
+namespace {
+
+std::string copied(const char* text) { return text == nullptr ? std::string() : std::string(text); }
+
+// The first channel of that path in the group or in the groups below it; null when there is none.
+ChannelId findChannel(GroupId group, const std::string& pathOfGroup, const std::string& wanted) {
+  const LWChannelInfo& channels = channelInfo();
+  for (ChannelId c = channels.nextChannel(group, nullptr); c != nullptr; c = channels.nextChannel(group, c)) {
+    if (pathOfGroup + copied(channels.channelName(c)) == wanted) return c;
+  }
+  for (GroupId below = channels.nextGroup(group, nullptr); below != nullptr; below = channels.nextGroup(group, below)) {
+    const ChannelId found = findChannel(below, pathOfGroup + copied(channels.groupName(below)) + ".", wanted);
+    if (found != nullptr) return found;
+  }
+  return nullptr;
+}
+
+EnvelopeId envelopeOf(ItemId item, const char* pathName) {
+  const GroupId group = itemInfo().chanGroup(item);
+  // A null group would mean the root of all channels, which are not this item's.
+  const ChannelId channel = group == nullptr ? nullptr : findChannel(group, {}, pathName);
+  if (channel == nullptr) throwReported(FormatString("getChannelByPathName() returned NULL !(%s)", pathName));
+  const EnvelopeId envelope = channelInfo().channelEnvelope(channel);
+  if (envelope == nullptr) throwReported(FormatString("channelEnvelope() returned NULL !(%s)", pathName));
+  return envelope;
+}
+
+}  // namespace
+
+std::string itemName(ItemId item) { return copied(itemInfo().name(item)); }
+
+ItemKind ClassifyItem(ItemId item) {
+  switch (itemInfo().type(item)) {
+    case kItemObject:
+      return isObjectFileName(copied(objectInfo().filename(item))) ? ItemKind::FileObject : ItemKind::OtherObject;
+    case kItemLight: return ItemKind::Light;
+    case kItemCamera: return ItemKind::Camera;
+    case kItemBone: return ItemKind::Bone;
+    default: return ItemKind::Other;
+  }
+}
+
+std::string SplitItemName(ItemId item, int group) { return splitItemName(itemName(item), group); }
+
+unsigned commandId(ItemId item) { return static_cast<unsigned>(reinterpret_cast<std::uintptr_t>(item)); }
+
+ItemId CSceneItems::FindItemByName(const std::string& name) {
+  if (!walked_) walk();
+  const auto found = first_.find(name);
+  return found == first_.end() ? nullptr : found->second;
+}
+
+void CSceneItems::added(ItemId item, const std::string& name) {
+  if (!walked_) return;
+  // Under another name than the one asked for, or beside an item of that name, the new item may change more than its own
+  // entry: the host counts items of equal name, and where it puts a new one among the others is its own affair.
+  const bool alone = itemName(item) == name && first_.count(name) == 0;
+  if (alone) {
+    first_.emplace(name, item);
+  } else {
+    forget();
+  }
+}
+
+void CSceneItems::walk() {
+  first_.clear();
+  const LWItemInfo& items = itemInfo();
+  for (ItemId object = items.first(kItemObject, nullptr); object != nullptr; object = items.next(object)) {
+    enter(object);
+    for (ItemId bone = items.first(kItemBone, object); bone != nullptr; bone = items.next(bone)) enter(bone);
+  }
+  for (const int type : {kItemLight, kItemCamera}) {
+    for (ItemId item = items.first(type, nullptr); item != nullptr; item = items.next(item)) enter(item);
+  }
+  walked_ = true;
+}
+
+void CSceneItems::enter(ItemId item) { first_.emplace(itemName(item), item); }
+
+Selection SaveSelection() {
+  RefreshInterfaceInfo();
+  Selection selection;
+  selection.reserve(128);
+  const ItemId* item = interfaceInfo().selItems;
+  for (; item != nullptr && *item != nullptr; ++item) {
+    if (std::find(selection.begin(), selection.end(), *item) == selection.end()) selection.push_back(*item);
+  }
+  return selection;
+}
+
+bool RestoreSelection(const Selection& selection) {
+  if (selection.empty()) return true;
+  const char* command = "SelectItem";
+  for (auto item = selection.rbegin(); item != selection.rend(); ++item) {
+    EvalF("%s 0x%x", command, commandId(*item));
+    command = "AddToSelection";
+  }
+  RefreshInterfaceInfo();
+  return true;
+}
+
+CSavedSelection::~CSavedSelection() {
+  guarded([this] { RestoreSelection(items_); });
+}
+
+void SetChannelValue(ItemId item, const char* pathName, double value) {
+  const EnvelopeId envelope = envelopeOf(item, pathName);
+  const LWEnvelopeFuncs& keys = envelopes();
+  const KeyId first = keys.nextKey(envelope, nullptr);
+  const bool onlyKey = first != nullptr && keys.nextKey(envelope, first) == nullptr;
+  if (onlyKey) {
+    if (keys.keySet(envelope, first, kKeyValue, &value) == 0)
+      throw ex::CBaseEx(FormatString("g_envf->keySet() !(%s)", pathName));
+    return;
+  }
+  RefreshTimeInfo();
+  if (keys.createKey(envelope, timeInfo().time, value) == nullptr) {
+    throw ex::CBaseEx(FormatString("g_envf->createKey() !(%s)", pathName));
+  }
+}
+
+bool SetPosition(ItemId item, double x, double y, double z) {
+  SetChannelValue(item, "Position.X", x);
+  SetChannelValue(item, "Position.Y", y);
+  SetChannelValue(item, "Position.Z", z);
+  return true;
+}
+
+bool SetRotation(ItemId item, double h, double p, double b) {
+  SetChannelValue(item, "Rotation.H", h);
+  SetChannelValue(item, "Rotation.P", p);
+  SetChannelValue(item, "Rotation.B", b);
+  return true;
+}
+
+bool SetScale(ItemId item, double x, double y, double z) {
+  SetChannelValue(item, "Scale.X", x);
+  SetChannelValue(item, "Scale.Y", y);
+  SetChannelValue(item, "Scale.Z", z);
+  return true;
+}
+
+bool ResetRotation(ItemId item) { return SetRotation(item, 0, 0, 0); }
+bool ResetScale(ItemId item) { return SetScale(item, 1, 1, 1); }
+
+}  // namespace lw

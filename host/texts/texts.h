@@ -1,0 +1,82 @@
+// Every text that a user sees, in both languages. A row holds both, so the languages cannot drift apart.
+// All texts are UTF-8 and live as long as the module: the host may keep the pointers.
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+namespace texts {
+
+enum class Language { English, Japanese };
+inline constexpr std::size_t kLanguageCount = 2;
+
+// A null-ended array of texts: the choices of one popup or tab control.
+using Choices = const char* const*;
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Property panel
+
+enum class ChoiceList : std::size_t {
+  Pages,
+  FalloffType,
+  BoneCalc,
+  BoneType,
+  Objective,
+  OffOn,
+  IKInitialState,
+  SoftIK,
+  DistanceType,
+  MotionGroups,
+  BlendMethod,
+  Controller,
+  FollowChannel,
+  Colour,
+  RotationOrder,
+};
+inline constexpr std::size_t kChoiceListCount = 15;
+
+// Labels by control number; an empty text where a control has none. One entry more than there are controls.
+inline constexpr std::size_t kPropertyLabelCount = 193;
+const std::array<const char*, kPropertyLabelCount>& propertyLabels(Language language);
+
+struct ChoiceListRow {
+  ChoiceList list;
+  unsigned count;  // entries with the closing null
+  Choices english;
+  Choices japanese;
+  Choices in(Language language) const { return language == Language::Japanese ? japanese : english; }
+};
+const std::array<ChoiceListRow, kChoiceListCount>& propertyChoices();
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Renamer panel
+
+enum class RenamerList : std::size_t { RenameMode, RenameTarget, RenameOrder, ColumnLetter };
+inline constexpr std::size_t kRenamerListCount = 4;
+inline constexpr std::size_t kRenamerLabelCount = 35;
+const std::array<const char*, kRenamerLabelCount>& renamerLabels(Language language);
+
+struct RenamerListRow {
+  RenamerList list;
+  unsigned count;
+  Choices english;
+  Choices japanese;
+  Choices in(Language language) const { return language == Language::Japanese ? japanese : english; }
+};
+const std::array<RenamerListRow, kRenamerListCount>& renamerChoices();
+
+// Messages as pairs of title and text, each pair closed by an empty entry.
+enum class RenamerMessage : std::size_t { NoSelection = 0, DuplicatedNames = 3 };
+inline constexpr std::size_t kRenamerMessageCount = 6;
+using RenamerMessages = std::array<const char*, kRenamerMessageCount>;
+const RenamerMessages& renamerMessages(Language language);
+
+// ---------------------------------------------------------------------------------------------------------------------
+// The Layout tool's panel
+
+enum class LayoutText : std::size_t { ExecuteSkelegonToBone = 2, ExecuteRecordPivotRotation = 3, Run = 4 };
+inline constexpr std::size_t kLayoutTextCount = 6;
+using LayoutTexts = std::array<const char*, kLayoutTextCount>;
+const LayoutTexts& layoutTexts(Language language);
+
+}  // namespace texts
