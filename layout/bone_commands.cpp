@@ -1,0 +1,184 @@
+#include "layout/bone_commands.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace lwp {
+namespace {
+
+using skg::Slot;
+
+constexpr double kPercent = 0.01;
+constexpr double kDegrees = 57.29577951308232;
+
+enum AxisIndex : std::size_t { X, Y, Z, H, P, B, SX, SY, SZ };
+
+constexpr AxisRow kAxes[] = {
+    // clang-format off
+    // axis group bit  limits     controller                limits                least              greatest           stiffness
+    //      follow                 factor                 offset                 gate  limit's failure ends, lines
+    {"X",  0, 0x1, 1,        Slot::XPositionController, Slot::XPositionLimits, Slot::XPositionMin, Slot::XPositionMax, Slot::XPositionStiffness,
+            Slot::XPositionFollow, Slot::XPositionFactor, Slot::XPositionOffset, X,  true,  725, 731, 758},
+    // A refused LimitY is reported and the sequence goes on, deliberately.
+    {"Y",  0, 0x2, 1,        Slot::YPositionController, Slot::YPositionLimits, Slot::YPositionMin, Slot::YPositionMax, Slot::YPositionStiffness,
+            Slot::YPositionFollow, Slot::YPositionFactor, Slot::YPositionOffset, Y,  false, 763, 770, 798},
+    {"Z",  0, 0x4, 1,        Slot::ZPositionController, Slot::ZPositionLimits, Slot::ZPositionMin, Slot::ZPositionMax, Slot::ZPositionStiffness,
+            Slot::ZPositionFollow, Slot::ZPositionFactor, Slot::ZPositionOffset, Z,  true,  803, 809, 836},
+    // Only the limits of a rotation are turned into degrees; the transform goes as it is stored, deliberately.
+    {"H",  1, 0x1, kDegrees, Slot::HeadingController,   Slot::HeadingLimits,   Slot::HeadingMin,   Slot::HeadingMax,   Slot::HeadingStiffness,
+            Slot::HeadingFollow,   Slot::HeadingFactor,   Slot::HeadingOffset,   H,  true,  864, 870, 899},
+    {"P",  1, 0x2, kDegrees, Slot::PitchController,     Slot::PitchLimits,     Slot::PitchMin,     Slot::PitchMax,     Slot::PitchStiffness,
+            Slot::PitchFollow,     Slot::PitchFactor,     Slot::PitchOffset,     P,  true,  904, 910, 939},
+    {"B",  1, 0x4, kDegrees, Slot::BankController,      Slot::BankLimits,      Slot::BankMin,      Slot::BankMax,      Slot::BankStiffness,
+            Slot::BankFollow,      Slot::BankFactor,      Slot::BankOffset,      B,  true,  944, 950, 979},
+    {"SX", 2, 0x1, 1,        Slot::XScaleController,    Slot::XScaleLimits,    Slot::XScaleMin,    Slot::XScaleMax,    Slot::XScaleStiffness,
+            Slot::XScaleFollow,    Slot::XScaleFactor,    Slot::XScaleOffset,    SX, true,  1002, 1008, 1035},
+    {"SY", 2, 0x2, 1,        Slot::YScaleController,    Slot::YScaleLimits,    Slot::YScaleMin,    Slot::YScaleMax,    Slot::YScaleStiffness,
+            Slot::YScaleFollow,    Slot::YScaleFactor,    Slot::YScaleOffset,    SY, true,  1040, 1046, 1073},
+    // SZ follows by the controller of SY, not its own, deliberately: stored rigs count on it.
+    {"SZ", 2, 0x4, 1,        Slot::ZScaleController,    Slot::ZScaleLimits,    Slot::ZScaleMin,    Slot::ZScaleMax,    Slot::ZScaleStiffness,
+            Slot::ZScaleFollow,    Slot::ZScaleFactor,    Slot::ZScaleOffset,    SY, true,  1078, 1084, 1111},
+    // clang-format on
+};
+static_assert(std::size(kAxes) == SZ + 1);
+
+// One maker for each form, so that a row names only what is its own.
+constexpr BoneCommand integer(const char* name, Slot slot, int line, When when = When::Always) {
+  return {.name = name, .sends = Sends::Integer, .slot = slot, .when = when, .line = line};
+}
+constexpr BoneCommand switched(const char* name, Slot slot, int line) {
+  return {.name = name, .sends = Sends::Switch, .slot = slot, .line = line};
+}
+constexpr BoneCommand real(const char* name, Slot slot, double factor, int line, When when = When::Always) {
+  return {.name = name, .sends = Sends::Real, .slot = slot, .factor = factor, .when = when, .line = line};
+}
+constexpr BoneCommand reals(const char* name, Slot slot, Slot second, double factor, int line, When when) {
+  return {
+      .name = name, .sends = Sends::TwoReals, .slot = slot, .second = second, .factor = factor, .when = when, .line = line};
+}
+constexpr BoneCommand toggle(const char* name, Slot slot, FlagWord word, unsigned bit, int line, When when = When::Always) {
+  return {.name = name,
+          .sends = Sends::Toggle,
+          .slot = slot,
+          .when = when,
+          .word = word,
+          .bit = bit,
+          .updates = bit,
+          .line = line};
+}
+constexpr BoneCommand updating(BoneCommand row, unsigned bit) {
+  row.updates = bit;
+  return row;
+}
+constexpr BoneCommand item(const char* name, Sends sends, Slot slot, bool matchRotation, bool matchScale, int line) {
+  return {.name = name,
+          .sends = sends,
+          .slot = slot,
+          .when = When::TextGiven,
+          .matchRotation = matchRotation,
+          .matchScale = matchScale,
+          .line = line};
+}
+constexpr BoneCommand axisGroup(AxisIndex axis) {
+  return {.name = kAxes[axis].axis,
+          .sends = Sends::AxisGroup,
+          .slot = kAxes[axis].controller,
+          .axis = axis,
+          .line = kAxes[axis].firstLine};
+}
+
+constexpr FlagWord kBone = FlagWord::Bone;
+constexpr FlagWord kItem = FlagWord::Item;
+
+constexpr BoneCommand kCommands[] = {
+    // clang-format off
+    item("BoneSource", Sends::FoundItem, Slot::UseBonesFromObject, false, false, 342),
+    // The slot stores the choice from 0, the command counts from 1.
+    {.name = "BoneFalloffType", .sends = Sends::Integer, .slot = Slot::FalloffType, .offset = 1, .line = 349},
+    integer ("BoneMode",                Slot::BoneCalc,               353),
+    integer ("NumLimitedBones",         Slot::LimitBoneNum,           357),
+    switched("BoneType",                Slot::BoneType,               382),
+    toggle  ("BoneActive",              Slot::BoneActive,             kBone, lw::kBoneActive,              389),
+    {.name = "BoneWeightMapName", .sends = Sends::WeightMap, .slot = Slot::WeightMap, .line = 398},
+    toggle  ("BoneWeightMapOnly",       Slot::WeightMapOnly,          kBone, lw::kBoneWeightMapOnly,       410, When::HasWeightMap),
+    // Sent under the same name as the switch above, deliberately: there is no other command for it here.
+    toggle  ("BoneWeightMapOnly",       Slot::WeightNormalization,    kBone, lw::kBoneWeightNormalization, 422, When::HasWeightMapAndOnly),
+    real    ("BoneStrength",            Slot::Strength,               kPercent, 430),
+    toggle  ("BoneStrengthMultiply",    Slot::StrengthMultiply,       kBone, lw::kBoneStrengthMultiply,    436),
+    toggle  ("BoneLimitedRange",        Slot::LimitedRange,           kBone, lw::kBoneLimitedRange,        445),
+    // The range is stored in metres and sent as if it were a percentage, deliberately.
+    real    ("BoneMinRange",            Slot::RangeMin,               kPercent, 455, When::LimitedRangeOn),
+    real    ("BoneMaxRange",            Slot::RangeMax,               kPercent, 456, When::LimitedRangeOn),
+    toggle  ("BoneJointComp",           Slot::JointComp,              kBone, lw::kBoneJointComp,           463),
+    toggle  ("BoneJointCompParent",     Slot::JointCompParent,        kBone, lw::kBoneJointCompParent,     472),
+    reals   ("BoneJointCompAmounts",    Slot::JointCompAmount,        Slot::JointCompParentAmount,  kPercent, 483, When::JointCompOn),
+    toggle  ("BoneMuscleFlex",          Slot::MuscleFlex,             kBone, lw::kBoneMuscleFlex,          0),  // no report, deliberately
+    toggle  ("BoneMuscleFlexParent",    Slot::MuscleFlexParent,       kBone, lw::kBoneMuscleFlexParent,    499),
+    reals   ("BoneMuscleFlexAmounts",   Slot::MuscleFlexAmount,       Slot::MuscleFlexParentAmount, kPercent, 510, When::MuscleFlexOn),
+    toggle  ("BoneBulge",               Slot::Bulge,                  kBone, lw::kBoneBulge,               517),
+    real    ("BoneBulgeAmount",         Slot::BulgeAmount,            kPercent, 525, When::BulgeOn),
+    toggle  ("BoneBulgeParent",         Slot::BulgeParent,            kBone, lw::kBoneBulgeParent,         532),
+    real    ("BoneBulgeParentAmount",   Slot::BulgeParentAmount,      kPercent, 540, When::BulgeParentOn),
+    toggle  ("BoneTwist",               Slot::Twist,                  kBone, lw::kBoneTwist,               548, When::IsJoint),
+    real    ("BoneTwistAmount",         Slot::TwistAmount,            kPercent, 557, When::IsTwistedJoint),
+    real    ("ItemIconScale",           Slot::IconSize,               kPercent, 562),
+    item    ("TargetItem", Sends::ItemOrNull, Slot::TargetItem,       false, false, 568),
+    item    ("PoleItem",   Sends::ItemOrNull, Slot::PoleItem,         false, false, 577),
+    integer ("RotationOrder",           Slot::RotationOrder,          585),
+    toggle  ("UnaffectedByIK",          Slot::UnaffectedByIK,         kItem, lw::kItemUnaffectedByIK,      592),
+    item    ("GoalItem",   Sends::ItemOrNull, Slot::GoalObject,       true,  false, 601),
+    integer ("GoalObjective",           Slot::Objective,              609, When::HasGoal),
+    integer ("IKInitialState",          Slot::IKInitialState,         615),
+    integer ("IKInitialStateFrame",     Slot::IKInitialStateFrame,    621, When::StartsAtFrame),
+    // What is kept of it is the bit of UnaffectedByIK, not its own, deliberately.
+    updating(toggle("UseIKChainVals",   Slot::Chain,                  kItem, lw::kItemUseIKChain,          633, When::FollowsIKParent),
+             lw::kItemUnaffectedByIK),
+    real    ("IKFKBlending",            Slot::IKFKBlending,           kPercent, 642),
+    real    ("GoalStrength",            Slot::GoalStrength,           1,        647, When::HasGoal),
+    integer ("SoftIK",                  Slot::SoftIK,                 653, When::HasReachableGoal),
+    integer ("SoftIKDistanceType",      Slot::SoftIKDistanceType,     665, When::HasSoftIK),
+    real    ("SoftIKMin",               Slot::SoftIKMin,              kPercent, 666, When::HasSoftIK),
+    real    ("SoftIKMax",               Slot::SoftIKMax,              kPercent, 667, When::HasSoftIK),
+    toggle  ("MatchGoalOrientation",    Slot::MatchGoalOrientation,   kItem, lw::kItemMatchGoalOrientation, 675, When::HasGoal),
+    toggle  ("KeepGoalWithinReach",     Slot::KeepGoalInReach,        kItem, lw::kItemKeepGoalInReach,     685, When::HasGoal),
+    toggle  ("FullTimeIK",              Slot::FullTimeIK,             kItem, lw::kItemFullTimeIK,          695, When::HasGoal),
+    integer ("PositionItemWorld",       Slot::PositionItemWorld,      702),
+    item    ("PositionItem", Sends::ItemOrNull, Slot::PositionItem,   false, false, 708),
+    integer ("PositionItemBlendMethod", Slot::PositionBlendMethod,    715),
+    real    ("PositionItemBlend",       Slot::PositionBlend,          kPercent, 720, When::HasPositionItem),
+    axisGroup(X), axisGroup(Y), axisGroup(Z),
+    integer ("RotationItemWorld",       Slot::RotationItemWorld,      841),
+    item    ("RotationItem", Sends::ItemOrNull, Slot::RotationItem,   true,  false, 847),
+    integer ("RotationItemBlendMethod", Slot::RotationBlendMethod,    854),
+    real    ("RotationItemBlend",       Slot::RotationBlend,          kPercent, 859, When::HasRotationItem),
+    axisGroup(H), axisGroup(P), axisGroup(B),
+    // Sent whatever came of the null, deliberately.
+    item    ("ScaleItem",  Sends::ItemUnchecked, Slot::ScaleItem,     true,  true,  986),
+    integer ("ScaleItemBlendMethod",    Slot::ScaleBlendMethod,       992),
+    real    ("ScaleItemBlend",          Slot::ScaleBlend,             kPercent, 997, When::HasScaleItem),
+    axisGroup(SX), axisGroup(SY), axisGroup(SZ),
+    real    ("PathAlignLookAhead",      Slot::PathLookAhead,          1, 1123, When::AlignsToPath),
+    real    ("PathAlignMaxLookSteps",   Slot::PathMaxSteps,           1, 1125, When::AlignsToPath),
+    real    ("PathAlignReliableDist",   Slot::PathReliableDistance,   1, 1127, When::AlignsToPath),
+    switched("ItemVisibility",          Slot::Visibility,             1132),
+    {.name = "ItemColor", .sends = Sends::Colour, .slot = Slot::Colour, .line = 1137},
+    // clang-format on
+};
+
+// The range, the soft IK distances and the path alignment are three rows of two and three commands.
+constexpr std::size_t kCommandsSharingARow = 1 + 2 + 2;
+
+constexpr std::size_t countedRows() {
+  std::size_t rows = 0;
+  for (const BoneCommand& command : kCommands) rows += command.sends == Sends::AxisGroup ? kAxisCommands : 1;
+  return rows - kCommandsSharingARow;
+}
+static_assert(countedRows() == kBoneCommandRows);
+
+}  // namespace
+
+std::span<const BoneCommand> boneCommands() { return kCommands; }
+std::span<const AxisRow> axisRows() { return kAxes; }
+
+}  // namespace lwp

@@ -1,0 +1,170 @@
+#include "layout/conversion.h"
+
+#include <exception>
+#include <optional>
+#include <string>
+
+#include "host/item_names.h"
+#include "host/lwtool2_errors.h"
+#include "host/lwtool2_eval.h"
+#include "host/lwtool2_globals.h"
+#include "layout/ST_bone_set_params.h"
+#include "layout/object_reader.h"
+#include "layout/stored_properties.h"
+
+namespace lwp {
+namespace {
+
+using lw::EvalF;
+using skg::SkelegonProperties;
+using skg::Slot;
+
+constexpr const char* kSource = "ST_CSkgConvPanel";
+
+// IK, motion controllers and deformations slow every command down: off for the life of this object, then on.
+class CSwitchedOff {
+ public:
+  CSwitchedOff() { switchAll(0); }
+  ~CSwitchedOff() {
+    lw::guarded([] { switchAll(1); });
+  }
+  CSwitchedOff(const CSwitchedOff&) = delete;
+  CSwitchedOff& operator=(const CSwitchedOff&) = delete;
+
+ private:
+  static void switchAll(int on) {
+    for (const char* command : {"EnableIK", "EnableMC", "EnableDeformations"}) EvalF("%s %d", command, on);
+  }
+};
+
+// Switches the host's auto-confirm off again when a throw leaves the scope.
+class CAutoConfirmOffOnThrow {
+ public:
+  CAutoConfirmOffOnThrow() = default;
+  ~CAutoConfirmOffOnThrow() {
+    if (std::uncaught_exceptions() > throwsBefore_) lw::guarded([] { EvalF("AutoConfirm 0"); });
+  }
+  CAutoConfirmOffOnThrow(const CAutoConfirmOffOnThrow&) = delete;
+  CAutoConfirmOffOnThrow& operator=(const CAutoConfirmOffOnThrow&) = delete;
+
+ private:
+  int throwsBefore_ = std::uncaught_exceptions();
+};
+
+// The names by which an object item's skelegons are found in its file, and by which "[file]:" is replaced.
+struct ObjectNames {
+  std::string layer;
+  std::string object;
+};
+
+ObjectNames namesOf(lw::ItemId object) {
+  ObjectNames names{lw::SplitItemName(object, 2), lw::SplitItemName(object, 1)};
+  // Without a colon the item may be the only layer of its file, which Layout names after the file alone.
+  if (names.layer.empty() && lw::objectInfo().layerLoaded(object) == 0) {
+    names.layer = lw::itemName(object);
+    names.object = names.layer;
+  }
+  return names;
+}
+
+// The first layer of that name. The only layer of a file goes by the file's name when its number is 0, as Layout names its
+// item. `filePath` is the host's path, in UTF-8 as item names are: a narrow one may hold bytes that look like a backslash.
+std::optional<st::ObjectLayer> layerNamed(const st::ObjectFileData& data, const std::string& name,
+                                          const std::string& filePath) {
+  const bool namedByFile = data.layerCount() == 1 && data.layer(0).number() == 0;
+  for (const st::ObjectLayer layer : data.layers()) {
+    const std::string layerName = namedByFile ? lw::fileBaseName(filePath) : std::string(layer.name());
+    if (layerName == name) return layer;
+  }
+  return std::nullopt;
+}
+
+bool recordPivotRotation(lw::ItemId bone) {
+  EvalF("SelectItem 0x%x", lw::commandId(bone));
+  lw::RefreshInterfaceInfo();
+  return EvalF("RecordPivotRotation") && lw::ResetRotation(bone);
+}
+
+// Gives one bone its settings. The message format of what failed, or null.
+const char* applyAll(lw::CSceneItems& scene, lw::ItemId bone, const SkelegonProperties& properties, bool recordPivot) {
+  if (!ApplyBoneParameters(scene, bone, properties)) return "bone_set_params(): !(%s)";
+  if (!ApplyItemParents(scene, properties)) return "set_item_parent(): !(%s)";
+  if (!ApplyItemShapes(scene, properties)) return "set_item_shape(): !(%s)";
+  if (recordPivot && !recordPivotRotation(bone)) return "RecordPivotRotation(): !(%s)";
+  return nullptr;
+}
+
+void applyToLayer(lw::CSceneItems& scene, const st::ObjectFileData& data, const st::ObjectLayer& layer,
+                  const std::string& objectName, bool recordPivot) {
+  const std::size_t count = layer.skelegonCount();
+  for (std::size_t k = 0; k < count; ++k) {
+    lw::StatusProgress(static_cast<float>(k) / static_cast<float>(count), "%s", "Now setting bone properties...");
+    SkelegonProperties properties = storedProperties(data, layer.skelegon(k));
+    putObjectName(properties, objectName);
+    const std::string& name = properties[Slot::Name];
+    if (name.empty()) continue;
+    const lw::ItemId bone = scene.FindItemByName(name);
+    if (bone == nullptr) {
+      lw::StatusText("item not found ! (%s)", name.c_str());
+      continue;
+    }
+    if (const char* const failure = applyAll(scene, bone, properties, recordPivot)) {
+      // The rest of this layer is left alone, but the run goes on with the next object.
+      lw::StatusText(failure, name.c_str());
+      return;
+    }
+  }
+}
+
+// One selected object. The report line of what failed, or 0.
+int convertObject(lw::CSceneItems& scene, NarrowPath& path, lw::ItemId object, bool executeSkelegonToBone,
+                  bool recordPivot) {
+  scene.forget();
+  if (executeSkelegonToBone && !ConvertSkelegons(object)) return 454;
+  return ConvertObjectSkelegons(scene, path, object, recordPivot) ? 0 : 457;
+}
+
+}  // namespace
+
+bool ConvertSkelegons(lw::ItemId object) {
+  EvalF("SelectItem 0x%x", lw::commandId(object));
+  lw::RefreshInterfaceInfo();
+  const CAutoConfirmOffOnThrow guard;
+  // Stops at the first failure, which with this evaluator never comes: deliberately no repair of auto-confirm there.
+  return EvalF("AutoConfirm 1") && EvalF("RefreshNow") && EvalF("SkelegonsToBones") && EvalF("AutoConfirm 0") &&
+         EvalF("RefreshNow");
+}
+
+bool ConvertObjectSkelegons(lw::CSceneItems& scene, NarrowPath& path, lw::ItemId object, bool recordPivot) {
+  const ObjectNames names = namesOf(object);
+  const char* const hostPath = lw::objectInfo().filename(object);
+  const std::string filePath = hostPath == nullptr ? "" : hostPath;
+  st::ObjectFileData data;
+  if (!st::ReadObjectFile(data, path.ToNarrowPath(hostPath == nullptr ? nullptr : filePath.c_str()))) return false;
+
+  const std::optional<st::ObjectLayer> layer = layerNamed(data, names.layer, filePath);
+  if (!layer) return true;
+  applyToLayer(scene, data, *layer, names.object, recordPivot);
+  lw::StatusProgress(1.0F, "%s", "Now setting bone properties...done.");
+  return true;
+}
+
+void convertSelection(bool executeSkelegonToBone, bool recordPivotRotation) {
+  lw::StatusText("%s start...", kOptimizeName);
+  {
+    const CSwitchedOff switches;
+    const lw::CSavedSelection selection;
+    lw::CSceneItems scene;
+    static NarrowPath path;
+    for (const lw::ItemId item : selection.items()) {
+      if (lw::ClassifyItem(item) != lw::ItemKind::FileObject) continue;
+      if (const int line = convertObject(scene, path, item, executeSkelegonToBone, recordPivotRotation)) {
+        lw::ReportError(kSource, line, "");
+        break;
+      }
+    }
+  }
+  lw::StatusText("%s done.", kOptimizeName);
+}
+
+}  // namespace lwp

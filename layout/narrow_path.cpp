@@ -1,0 +1,20 @@
+#include "layout/narrow_path.h"
+
+#include "host/platform.h"
+
+namespace lwp {
+
+const std::string& NarrowPath::ToNarrowPath(const char* utf8) {
+  if (utf8 == nullptr) {
+    path_.clear();
+    return path_;
+  }
+  const std::u16string wide = platform::utf16FromUtf8(utf8);
+  const std::size_t units = wide.size() + 1;
+  if (units > kMaxPathUnits || units > kPathBufferUnits) return path_;
+  std::string narrow = platform::narrowFromUtf16(wide);
+  if (narrow.size() + 1 <= kMaxPathBytes) path_ = std::move(narrow);
+  return path_;
+}
+
+}  // namespace lwp
