@@ -11,6 +11,10 @@ else()
   if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     # This release of the compiler sees overlapping copies in std::string's operator+ that are none.
     target_compile_options(varnel_compile INTERFACE -Wno-restrict)
+    if(NOT WIN32)
+      # Unique symbols would keep the module in memory after it was closed; a host loads and unloads it at will.
+      target_compile_options(varnel_compile INTERFACE -fno-gnu-unique)
+    endif()
   endif()
 endif()
 if(WIN32)
