@@ -1,0 +1,75 @@
+#include "layout/CFileStream.h"
+
+#include <cstring>
+#include <fstream>
+#include <utility>
+
+namespace lwp::st {
+
+namespace {
+
+// A folder opens as a file on some systems; its length is then senseless or reading it fails.
+std::streamoff lengthOf(std::ifstream& file) {
+  file.seekg(0, std::ios::end);
+  const std::streamoff length = file.tellg();
+  file.seekg(0, std::ios::beg);
+  return file ? length : -1;
+}
+
+}  // namespace
+
+CFileStream::CFileStream(std::span<const std::byte> bytes)
+    : m_bytes(bytes.size() <= kLongestFile ? bytes : std::span<const std::byte>()) {}
+
+bool CFileStream::load(const std::string& narrowPath) {
+  m_file.reset();
+  m_bytes = {};
+  m_position = 0;
+
+  std::ifstream file(narrowPath, std::ios::binary);
+  if (!file) return false;
+  const std::streamoff length = lengthOf(file);
+  if (length < 0 || static_cast<std::uintmax_t>(length) > kLongestFile) return false;
+
+  const auto size = static_cast<std::size_t>(length);
+  auto bytes = std::make_unique_for_overwrite<std::byte[]>(size);
+  if (!file.read(reinterpret_cast<char*>(bytes.get()), length)) return false;
+  m_file = std::move(bytes);
+  m_bytes = {m_file.get(), size};
+  return true;
+}
+
+bool CFileStream::readF4(float& value) {
+  const std::byte* at = take(kBytesOfU4);
+  if (at == nullptr) return false;
+  value = loadF4(at);
+  return true;
+}
+
+bool CFileStream::readVEC12(Vec12& value) {
+  const std::byte* at = take(kBytesOfVec12);
+  if (at == nullptr) return false;
+  value = loadVec12(at);
+  return true;
+}
+
+bool CFileStream::readS0(std::string_view& text) {
+  if (atEnd()) return false;
+  const auto* start = reinterpret_cast<const char*>(m_bytes.data() + m_position);
+  const void* zero = std::memchr(start, 0, left());
+  if (zero == nullptr) return false;
+  const auto length = static_cast<std::size_t>(static_cast<const char*>(zero) - start);
+  const std::size_t withZero = length + 1;
+  if (take(withZero + withZero % 2) == nullptr) return false;
+  text = {start, length};
+  return true;
+}
+
+bool CFileStream::readWindow(std::uint32_t size, CFileStream& window) {
+  const std::byte* at = take(size);
+  if (at == nullptr) return false;
+  window = CFileStream(std::span(at, size));
+  return true;
+}
+
+}  // namespace lwp::st

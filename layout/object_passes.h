@@ -1,0 +1,94 @@
+// The three passes over an object file's chunks: counting, counting the tags of each skelegon, filling the store.
+// The object reader runs them one after the other over the same bytes; each relies on what those before it made sure of.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "layout/CLWOFileStream.h"
+#include "layout/object_store.h"
+#include "layout/skelegon_tags.h"
+
+namespace lwp::st {
+
+// How much there is of everything in an object.
+struct ObjectCounts {
+  std::size_t tagTexts = 0;
+  std::size_t tagTextBytes = 0;
+  std::size_t layers = 0;
+  std::size_t layerNameBytes = 0;
+  std::size_t points = 0;
+  std::size_t faces = 0;
+  std::size_t faceIndices = 0;
+  std::size_t skelegons = 0;
+};
+
+// Takes no memory. Refuses all that is not sound in itself; only the tags of skelegons it leaves to the next pass.
+class CountingPass : public ObjectChunks {
+ public:
+  const ObjectCounts& counts() const { return m_counts; }
+
+  bool takeTagTexts(CFileStream body) override;
+  bool takeLayer(CFileStream body) override;
+  bool takePoints(CFileStream body) override;
+  bool takeFaces(CFileStream body) override;
+  bool takeSkelegons(CFileStream body) override;
+  bool takeSkelegonTags(std::uint32_t type, CFileStream body) override;
+
+ private:
+  ObjectCounts m_counts;
+};
+
+// Counts the points and tags of each skelegon. Refuses a tag whose skelegon the layer does not have, or not yet.
+class TagCountingPass : public ObjectChunks {
+ public:
+  explicit TagCountingPass(SkelegonStore& skelegons) : m_skelegons(&skelegons) {}
+
+  // Whether no tag list names a lower skelegon after a higher one.
+  bool listsAscend() const { return m_listsAscend; }
+
+  bool takeTagTexts(CFileStream body) override;
+  bool takeLayer(CFileStream body) override;
+  bool takePoints(CFileStream body) override;
+  bool takeFaces(CFileStream body) override;
+  bool takeSkelegons(CFileStream body) override;
+  bool takeSkelegonTags(std::uint32_t type, CFileStream body) override;
+
+ private:
+  SkelegonStore* m_skelegons;
+  std::uint32_t m_count = 0;
+  std::uint32_t m_firstOfLayer = 0;
+  bool m_listsAscend = true;
+};
+
+// Takes the memory and puts everything in place. Refuses a polygon with a point that its layer does not have: points may
+// stand behind the polygons, so that shows at the end of the layer only.
+class FillingPass : public ObjectChunks {
+ public:
+  FillingPass(ObjectStore& store, const ObjectCounts& counts, bool tagListsAscend);
+
+  bool takeTagTexts(CFileStream body) override;
+  bool takeLayer(CFileStream body) override;
+  bool takePoints(CFileStream body) override;
+  bool takeFaces(CFileStream body) override;
+  bool takeSkelegons(CFileStream body) override;
+  bool takeSkelegonTags(std::uint32_t type, CFileStream body) override;
+
+  // To be called when all chunks were taken.
+  bool finish();
+
+ private:
+  // Below every point number; those have 24 bits.
+  static constexpr std::int32_t kNoPoint = -1;
+
+  bool endLayer();
+
+  ObjectStore* m_store;
+  TagPlacing m_tags;
+  // Where the next thing of each kind goes; the start of the next layer.
+  LayerRecord m_next{};
+  std::uint32_t m_faceIndices = 0;
+  std::int32_t m_highestPoint = kNoPoint;
+};
+
+}  // namespace lwp::st

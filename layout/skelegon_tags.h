@@ -1,0 +1,88 @@
+// The bodies of PTAG chunks: pairs of a skelegon's number, of two or four bytes, and the number of a tag text. Writers put
+// one such list for each type of tag behind the skelegons, so the tags of one skelegon lie far apart in the file.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "layout/big_endian.h"
+#include "layout/object_store.h"
+
+namespace lwp::st {
+
+// A list of pairs that is being read.
+class TagPairs {
+ public:
+  TagPairs() = default;
+  explicit TagPairs(std::span<const std::byte> list) : m_at(list.data()), m_end(list.data() + list.size()) {}
+
+  // Calls take(skelegon, text) for the next pairs, as long as their skelegon is below 'limit'. Stops in front of a pair that
+  // is not complete.
+  template <class Take>
+  void readBelow(std::uint32_t limit, Take take);
+
+  bool atEnd() const { return m_at == m_end; }
+  std::size_t left() const { return static_cast<std::size_t>(m_end - m_at); }
+
+ private:
+  static constexpr std::size_t kBytesOfShortPair = kBytesOfShortIndex + kBytesOfU2;
+  static constexpr std::size_t kBytesOfLongPair = kBytesOfLongIndex + kBytesOfU2;
+
+  const std::byte* m_at = nullptr;
+  const std::byte* m_end = nullptr;
+};
+
+// Puts the tags of a layer's skelegons in place, those of each skelegon in the order of the lists.
+//
+// One list after the other would mean a walk through the whole store for each of them. Where the lists ascend, some
+// skelegons are done at a time instead: their pairs from all lists, while their part of the store is in the cache.
+class TagPlacing {
+ public:
+  // 'listsAscend': no pair of any list names a lower skelegon than the one before.
+  TagPlacing(SkelegonStore& skelegons, bool listsAscend) : m_skelegons(&skelegons), m_listsAscend(listsAscend) {}
+
+  // A sound list of the layer whose skelegons are 'first' and the 'count' - 1 behind it. It may be kept until 'finish'.
+  void add(std::uint32_t type, std::span<const std::byte> list, std::uint32_t first, std::uint32_t count);
+
+  // Places what was kept: to be called at the end of a layer.
+  void finish();
+
+ private:
+  // So many lists are kept; a further one has them placed first.
+  static constexpr std::size_t kListsAtOnce = 64;
+  // So many skelegons are done at a time: with some dozens of tags they fit into the smallest cache.
+  static constexpr std::uint32_t kSkelegonsAtOnce = 128;
+
+  struct List {
+    std::uint32_t type = 0;
+    TagPairs pairs;
+  };
+
+  bool isWorthInterleaving() const;
+  void place(List& list, std::uint32_t limit);
+
+  SkelegonStore* m_skelegons;
+  bool m_listsAscend;
+  std::uint32_t m_first = 0;
+  std::uint32_t m_count = 0;
+  std::array<List, kListsAtOnce> m_lists;
+  std::size_t m_listCount = 0;
+};
+
+template <class Take>
+void TagPairs::readBelow(std::uint32_t limit, Take take) {
+  const std::byte* at = m_at;
+  while (static_cast<std::size_t>(m_end - at) >= kBytesOfShortPair) {
+    const bool isLong = *at == kLongIndexMark;
+    if (isLong && static_cast<std::size_t>(m_end - at) < kBytesOfLongPair) break;
+    const std::uint32_t skelegon = isLong ? loadLongIndex(at) : loadU2(at);
+    if (skelegon >= limit) break;
+    take(skelegon, loadU2(at + (isLong ? kBytesOfLongIndex : kBytesOfShortIndex)));
+    at += isLong ? kBytesOfLongPair : kBytesOfShortPair;
+  }
+  m_at = at;
+}
+
+}  // namespace lwp::st
