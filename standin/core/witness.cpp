@@ -1,0 +1,63 @@
+#include "standin/core/witness.h"
+
+namespace standin {
+
+Witness& witness() {
+  static Witness instance;
+  return instance;
+}
+
+void Witness::reset() {
+  const bool measuring = measuring_;
+  const int depth = depth_;
+  auto afterModule = std::move(afterModule_);
+  *this = Witness();
+  measuring_ = measuring;
+  depth_ = depth;
+  afterModule_ = std::move(afterModule);
+}
+
+void Witness::fault(std::string function, std::string what) { faults_.push_back({std::move(function), std::move(what)}); }
+
+std::string Witness::report() const {
+  std::string text;
+  for (const Fault& fault : faults_) text += fault.function + ": " + fault.what + "\n";
+  return text;
+}
+
+void Witness::refuseCall(std::uint64_t n) {
+  refuseAt_ = n == 0 ? 0 : calls_ + n;
+  refusalHappened_ = false;
+  refusedFunction_.clear();
+}
+
+bool Witness::enter(const char* function) {
+  ++calls_;
+  if (refuseAt_ == 0 || calls_ != refuseAt_) return false;
+  refusalHappened_ = true;
+  refusedFunction_ = function;
+  return true;
+}
+
+void Witness::startClock() {
+  if (!measuring_ || clockRuns_) return;
+  clockRuns_ = true;
+  started_ = Clock::now();
+}
+
+void Witness::stopClock() {
+  if (!clockRuns_) return;
+  moduleTime_ += Clock::now() - started_;
+  clockRuns_ = false;
+}
+
+HostCall::HostCall(const char* function) : function_(function), clockRan_(witness().clockRuns_) {
+  witness().stopClock();
+  refused_ = witness().enter(function);
+}
+
+HostCall::~HostCall() {
+  if (clockRan_) witness().startClock();
+}
+
+}  // namespace standin

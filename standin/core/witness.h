@@ -1,0 +1,131 @@
+// What the stand-in host sees of the module's behaviour: every call counted, the first fault kept, a chosen call refused.
+//
+// Each function that the module can call starts with a HostCall; each call that the stand-in makes into the module goes
+// through callModule. The host runs on one thread, so there is one witness, begun anew for each session.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace standin {
+
+struct Fault {
+  std::string function;  // the host function that was misused, or the module function that misbehaved
+  std::string what;
+};
+
+class Witness {
+ public:
+  // Forgets faults, counts and refusals: a new session begins.
+  void reset();
+
+  void fault(std::string function, std::string what);
+  const std::vector<Fault>& faults() const { return faults_; }
+  // All faults as lines of text, empty when there is none.
+  std::string report() const;
+
+  // Host calls since the reset.
+  std::uint64_t calls() const { return calls_; }
+  // Lets the n-th host call from now fail once, in the way that call can fail. 0 takes the wish back.
+  void refuseCall(std::uint64_t n);
+  // True when the refusal asked for has happened.
+  bool refusalHappened() const { return refusalHappened_; }
+  const std::string& refusedFunction() const { return refusedFunction_; }
+
+  // Time spent in module code and in host code since the reset, while measuring is on.
+  void measure(bool on) { measuring_ = on; }
+  std::chrono::nanoseconds moduleTime() const { return moduleTime_; }
+  // True while module code is on the stack.
+  bool inModule() const { return depth_ > 0; }
+  // Asked with the function's name whenever the module has returned to the host for good: what must not be left behind then.
+  // There is one such check; it outlives a reset and is taken back with nullptr by who set it.
+  void afterModule(std::function<void(const char* function)> check) { afterModule_ = std::move(check); }
+
+ private:
+  friend class HostCall;
+  template <class F>
+  friend auto callModule(const char* name, F&& call);
+  using Clock = std::chrono::steady_clock;
+
+  bool enter(const char* function);
+  void startClock();
+  void stopClock();
+
+  std::vector<Fault> faults_;
+  std::uint64_t calls_ = 0;
+  std::uint64_t refuseAt_ = 0;
+  bool refusalHappened_ = false;
+  std::string refusedFunction_;
+  bool measuring_ = false;
+  bool clockRuns_ = false;
+  int depth_ = 0;
+  Clock::time_point started_;
+  std::chrono::nanoseconds moduleTime_{0};
+  std::function<void(const char*)> afterModule_;
+};
+
+Witness& witness();
+
+// Stands at the head of every function that the module can call. `function` must outlive the call.
+class HostCall {
+ public:
+  explicit HostCall(const char* function);
+  ~HostCall();
+  HostCall(const HostCall&) = delete;
+  HostCall& operator=(const HostCall&) = delete;
+
+  // True when this is the call that was chosen to fail: answer as the real function answers when it fails.
+  bool refused() const { return refused_; }
+  const char* function() const { return function_; }
+  void fault(std::string what) const { witness().fault(function_, std::move(what)); }
+
+ private:
+  const char* function_;
+  bool clockRan_;
+  bool refused_;
+};
+
+// Calls into the module. An exception that comes out is a fault: no exception may cross the host's interface.
+// Gives an empty optional (or false) in that case.
+template <class F>
+auto callModule(const char* name, F&& call) {
+  using Result = std::invoke_result_t<F>;
+  struct Depth {
+    explicit Depth(const char* name) : function(name) {
+      ++witness().depth_;
+      witness().startClock();
+    }
+    ~Depth() {
+      witness().stopClock();
+      if (--witness().depth_ == 0 && witness().afterModule_) witness().afterModule_(function);
+    }
+    Depth(const Depth&) = delete;
+    Depth& operator=(const Depth&) = delete;
+    const char* function;
+  } depth(name);
+  const auto faulted = [&] { witness().fault(name, "let an exception out into the host"); };
+  if constexpr (std::is_void_v<Result>) {
+    try {
+      std::forward<F>(call)();
+      return true;
+    } catch (...) {
+      faulted();
+      return false;
+    }
+  } else {
+    try {
+      return std::optional<Result>(std::forward<F>(call)());
+    } catch (...) {
+      faulted();
+      return std::optional<Result>();
+    }
+  }
+}
+
+}  // namespace standin

@@ -1,0 +1,374 @@
+#include "standin/layout/command_table.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <utility>
+
+#include "standin/layout/skelegon_bones.h"
+
+namespace standin {
+namespace {
+
+using Rows = std::vector<CommandRow>;
+
+constexpr int kAnyInt = std::numeric_limits<int>::max();
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Kinds of rows
+
+ArgumentRule whole(int least, int greatest) { return {ArgumentKind::integer, least, greatest}; }
+constexpr ArgumentRule kReal{ArgumentKind::real, 0, 0};
+constexpr ArgumentRule kItem{ArgumentKind::item, 0, 0};
+
+// A part of an item that a row sets: from the item to a reference.
+template <class T>
+using Part = T& (*)(Item&);
+
+CommandRow toggle(std::string name, CommandTarget target, Part<bool> part) {
+  return {std::move(name), target, {}, [part](LayoutState&, Item* item, const Arguments&) -> Rejection {
+            part(*item) = !part(*item);
+            return {};
+          }};
+}
+
+CommandRow number(std::string name, CommandTarget target, int least, int greatest, Part<int> part, int base = 0) {
+  return {std::move(name),
+          target,
+          {whole(least, greatest)},
+          [part, base](LayoutState&, Item* item, const Arguments& arguments) -> Rejection {
+            part(*item) = arguments[0].integer - base;
+            return {};
+          }};
+}
+
+CommandRow flag(std::string name, CommandTarget target, Part<bool> part) {
+  return {std::move(name), target, {whole(0, 1)}, [part](LayoutState&, Item* item, const Arguments& arguments) -> Rejection {
+            part(*item) = arguments[0].integer != 0;
+            return {};
+          }};
+}
+
+CommandRow real(std::string name, CommandTarget target, Part<double> part) {
+  return {std::move(name), target, {kReal}, [part](LayoutState&, Item* item, const Arguments& arguments) -> Rejection {
+            part(*item) = arguments[0].real;
+            return {};
+          }};
+}
+
+CommandRow twoReals(std::string name, CommandTarget target, Part<std::array<double, 2>> part) {
+  return {
+      std::move(name), target, {kReal, kReal}, [part](LayoutState&, Item* item, const Arguments& arguments) -> Rejection {
+        part(*item) = {arguments[0].real, arguments[1].real};
+        return {};
+      }};
+}
+
+CommandRow link(std::string name, Part<Item*> part) {
+  return {std::move(name),
+          CommandTarget::item,
+          {kItem},
+          [part](LayoutState&, Item* item, const Arguments& arguments) -> Rejection {
+            if (arguments[0].item == item) return "an item cannot point to itself";
+            part(*item) = arguments[0].item;
+            return {};
+          }};
+}
+
+// A switch of the whole program. The command page knows it as a plain toggle; with 0 or 1 it is set.
+CommandRow programSwitch(std::string name, bool LayoutState::*member) {
+  return {std::move(name),
+          CommandTarget::none,
+          {{ArgumentKind::optionalInteger, 0, 1}},
+          [member](LayoutState& state, Item*, const Arguments& arguments) -> Rejection {
+            state.*member = arguments[0].given ? arguments[0].integer != 0 : !(state.*member);
+            return {};
+          }};
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Actions
+
+Rejection selectItem(LayoutState& state, Item*, const Arguments& arguments) {
+  state.scene.deselectAll();
+  state.scene.addToSelection(*arguments[0].item);
+  return {};
+}
+
+Rejection addToSelection(LayoutState& state, Item*, const Arguments& arguments) {
+  state.scene.addToSelection(*arguments[0].item);
+  return {};
+}
+
+Rejection addNull(LayoutState& state, Item*, const Arguments& arguments) {
+  Item& null = state.scene.addNull(arguments[0].text);
+  if (!state.scene.options().newNullSelected) return {};
+  state.scene.deselectAll();
+  state.scene.addToSelection(null);
+  return {};
+}
+
+Rejection skelegonsToBones(LayoutState& state, Item* item, const Arguments&) {
+  if (item->skelegons.polygons.empty()) return "the object has no skelegons";
+  // The host tells how many bones it made, in a box that the user has to close.
+  if (state.autoConfirm == 0) return std::string(kAsksUser) + "confirm the conversion";
+  if (state.autoConfirm < 0) return "the conversion was not confirmed";
+  const std::vector<Item*> bones = makeBonesOfSkelegons(state.scene, *item);
+  if (!state.scene.options().newBonesSelected) return {};
+  state.scene.deselectAll();
+  for (Item* bone : bones) state.scene.addToSelection(*bone);
+  return {};
+}
+
+Rejection statusMessage(LayoutState& state, Item*, const Arguments& arguments) {
+  const std::string& text = arguments[0].text;
+  Event event{EventKind::status, text, {}, std::nullopt};
+  const std::size_t close = text.find('}');
+  if (text.starts_with('{') && close != std::string::npos) {
+    double fraction = 0;
+    const auto [end, error] = std::from_chars(text.data() + 1, text.data() + close, fraction, std::chars_format::fixed);
+    if (error == std::errc() && end == text.data() + close && fraction >= 0 && fraction <= 1) {
+      event.progress = fraction;
+      event.text = text.substr(close + 1);
+    }
+  }
+  state.transcript.add(std::move(event));
+  return {};
+}
+
+Rejection parentItem(LayoutState& state, Item* item, const Arguments& arguments) {
+  return state.scene.setParent(*item, arguments[0].item) ? Rejection() : "an item cannot come to stand below itself";
+}
+
+Rejection rotationOrder(LayoutState& state, Item* item, const Arguments& arguments) {
+  item->settings.order = static_cast<RotationOrder>(arguments[0].integer);
+  state.scene.moved(*item);
+  return {};
+}
+
+Rejection recordPivotRotation(LayoutState& state, Item* item, const Arguments&) {
+  state.scene.recordPivotRotation(*item, state.time);
+  return {};
+}
+
+Rejection applyServer(LayoutState& state, Item* item, const Arguments& arguments) {
+  const AppliedServer wanted{arguments[0].text, arguments[1].text};
+  const auto same = [&](const AppliedServer& known) {
+    return known.className == wanted.className && known.name == wanted.name;
+  };
+  if (std::none_of(state.knownServers.begin(), state.knownServers.end(), same)) return "no such server";
+  item->settings.servers.push_back(wanted);
+  return {};
+}
+
+Rejection itemVisibility(LayoutState&, Item* item, const Arguments& arguments) {
+  const int greatest = item->kind == ItemKind::object ? 13 : 1;
+  if (arguments[0].integer > greatest) return "visibility " + std::to_string(arguments[0].integer) + " is for objects only";
+  item->settings.visibility = arguments[0].integer;
+  return {};
+}
+
+// Switching it on switches normalisation on too; switching it off leaves normalisation alone.
+Rejection weightMapOnly(LayoutState&, Item* item, const Arguments&) {
+  item->bone.weightMapOnly = !item->bone.weightMapOnly;
+  if (item->bone.weightMapOnly) item->bone.weightNormalization = true;
+  return {};
+}
+
+Rejection weightMapName(LayoutState&, Item* item, const Arguments& arguments) {
+  item->bone.weightMap = arguments[0].text == "(none)" ? std::string() : arguments[0].text;
+  return {};
+}
+
+Rejection boneSource(LayoutState&, Item* item, const Arguments& arguments) {
+  if (arguments[0].item->kind != ItemKind::object) return "bones come from an object";
+  item->owner->object.boneSource = arguments[0].item;
+  return {};
+}
+
+// Documented with a state; without one it switches over.
+Rejection useIkChain(LayoutState&, Item* item, const Arguments& arguments) {
+  bool& on = item->settings.ik.useChain;
+  on = arguments[0].given ? arguments[0].integer != 0 : !on;
+  return {};
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// The rows
+
+void addProgramRows(Rows& rows) {
+  using enum CommandTarget;
+  rows.push_back({"SelectItem", none, {kItem}, selectItem});
+  rows.push_back({"AddToSelection", none, {kItem}, addToSelection});
+  rows.push_back({"AddNull", none, {{ArgumentKind::rest, 0, 0}}, addNull});
+  rows.push_back({"SkelegonsToBones", object, {}, skelegonsToBones});
+  rows.push_back(
+      {"AutoConfirm", none, {whole(-1, 1)}, [](LayoutState& state, Item*, const Arguments& arguments) -> Rejection {
+         state.autoConfirm = arguments[0].integer;
+         return {};
+       }});
+  rows.push_back({"RefreshNow", none, {}, [](LayoutState& state, Item*, const Arguments&) -> Rejection {
+                    ++state.refreshes;
+                    return {};
+                  }});
+  rows.push_back({"StatusMsg", none, {{ArgumentKind::optionalRest, 0, 0}}, statusMessage});
+  rows.push_back(programSwitch("EnableIK", &LayoutState::ikEnabled));
+  rows.push_back(programSwitch("EnableMC", &LayoutState::motionControllersEnabled));
+  rows.push_back(programSwitch("EnableDeformations", &LayoutState::deformationsEnabled));
+}
+
+void addItemRows(Rows& rows) {
+  using enum CommandTarget;
+  rows.push_back({"ParentItem", item, {kItem}, parentItem});
+  rows.push_back(link("TargetItem", [](Item& i) -> Item*& { return i.settings.target; }));
+  rows.push_back(link("PoleItem", [](Item& i) -> Item*& { return i.settings.pole; }));
+  rows.push_back(link("GoalItem", [](Item& i) -> Item*& { return i.settings.ik.goal; }));
+  rows.push_back({"RotationOrder", item, {whole(0, 5)}, rotationOrder});
+  rows.push_back({"RecordPivotRotation", item, {}, recordPivotRotation});
+  rows.push_back({"ApplyServer", object, {{ArgumentKind::word, 0, 0}, {ArgumentKind::rest, 0, 0}}, applyServer});
+  rows.push_back({"ItemVisibility", item, {whole(0, 13)}, itemVisibility});
+  rows.push_back(number("ItemColor", item, 0, 14, [](Item& i) -> int& { return i.settings.colour; }));
+  rows.push_back(real("ItemIconScale", item, [](Item& i) -> double& { return i.settings.iconScale; }));
+  rows.push_back(real("PathAlignLookAhead", item, [](Item& i) -> double& { return i.settings.pathAlign.lookAhead; }));
+  rows.push_back({"PathAlignMaxLookSteps",
+                  item,
+                  {{ArgumentKind::wholeReal, 0, 0}},
+                  [](LayoutState&, Item* i, const Arguments& arguments) -> Rejection {
+                    i->settings.pathAlign.maxSteps = arguments[0].integer;
+                    return {};
+                  }});
+  rows.push_back(
+      real("PathAlignReliableDist", item, [](Item& i) -> double& { return i.settings.pathAlign.reliableDistance; }));
+}
+
+void addIkRows(Rows& rows) {
+  using enum CommandTarget;
+  rows.push_back(toggle("UnaffectedByIK", item, [](Item& i) -> bool& { return i.settings.ik.unaffected; }));
+  rows.push_back(toggle("FullTimeIK", item, [](Item& i) -> bool& { return i.settings.ik.fullTime; }));
+  rows.push_back(toggle("MatchGoalOrientation", item, [](Item& i) -> bool& { return i.settings.ik.matchGoalOrientation; }));
+  rows.push_back(toggle("KeepGoalWithinReach", item, [](Item& i) -> bool& { return i.settings.ik.keepGoalInReach; }));
+  rows.push_back({"UseIKChainVals", item, {{ArgumentKind::optionalInteger, 0, 1}}, useIkChain});
+  rows.push_back(number("GoalObjective", item, 0, 2, [](Item& i) -> int& { return i.settings.ik.objective; }));
+  rows.push_back(real("GoalStrength", item, [](Item& i) -> double& { return i.settings.ik.goalStrength; }));
+  rows.push_back(number("IKInitialState", item, 0, 3, [](Item& i) -> int& { return i.settings.ik.initialState; }));
+  rows.push_back(number("IKInitialStateFrame", item, -kAnyInt, kAnyInt,
+                        [](Item& i) -> int& { return i.settings.ik.initialStateFrame; }));
+  rows.push_back(real("IKFKBlending", item, [](Item& i) -> double& { return i.settings.ik.blending; }));
+  rows.push_back(number("SoftIK", item, 0, 3, [](Item& i) -> int& { return i.settings.ik.softKind; }));
+  rows.push_back(number("SoftIKDistanceType", item, 0, 2, [](Item& i) -> int& { return i.settings.ik.softDistance; }));
+  rows.push_back(real("SoftIKMin", item, [](Item& i) -> double& { return i.settings.ik.softLeast; }));
+  rows.push_back(real("SoftIKMax", item, [](Item& i) -> double& { return i.settings.ik.softGreatest; }));
+}
+
+template <std::size_t Which>
+SameItemSettings& same(Item& item) {
+  return item.settings.same[Which];
+}
+
+template <std::size_t Which>
+void addSameItemRows(Rows& rows, const std::string& name) {
+  using enum CommandTarget;
+  rows.push_back(link(name, [](Item& i) -> Item*& { return same<Which>(i).item; }));
+  rows.push_back(number(name + "BlendMethod", item, 0, 1, [](Item& i) -> int& { return same<Which>(i).blendMethod; }));
+  rows.push_back(real(name + "Blend", item, [](Item& i) -> double& { return same<Which>(i).blend; }));
+  // Scale has no world switch.
+  if (Which != 2) rows.push_back(flag(name + "World", item, [](Item& i) -> bool& { return same<Which>(i).world; }));
+}
+
+template <std::size_t Which>
+AxisSettings& axis(Item& item) {
+  return item.settings.axes[Which];
+}
+
+template <std::size_t Which>
+void addAxisRows(Rows& rows) {
+  using enum CommandTarget;
+  const std::string name = kAxisNames[Which];
+  rows.push_back(number(name + "Controller", item, 0, 7, [](Item& i) -> int& { return axis<Which>(i).controller; }));
+  rows.push_back(toggle("Limit" + name, item, [](Item& i) -> bool& { return axis<Which>(i).limited; }));
+  rows.push_back({name + "Limits", item, {kReal, kReal}, [](LayoutState&, Item* i, const Arguments& arguments) -> Rejection {
+                    axis<Which>(*i).least = arguments[0].real;
+                    axis<Which>(*i).greatest = arguments[1].real;
+                    return {};
+                  }});
+  rows.push_back(real(name + "Stiffness", item, [](Item& i) -> double& { return axis<Which>(i).stiffness; }));
+  rows.push_back(number(name + "Follow", item, 0, 8, [](Item& i) -> int& { return axis<Which>(i).follow; }));
+  rows.push_back(
+      {name + "Transform", item, {kReal, kReal}, [](LayoutState&, Item* i, const Arguments& arguments) -> Rejection {
+         axis<Which>(*i).factor = arguments[0].real;
+         axis<Which>(*i).offset = arguments[1].real;
+         return {};
+       }});
+}
+
+template <std::size_t... Which>
+void addAllAxisRows(Rows& rows, std::index_sequence<Which...>) {
+  (addAxisRows<Which>(rows), ...);
+}
+
+void addBoneRows(Rows& rows) {
+  using enum CommandTarget;
+  rows.push_back({"BoneSource", bone, {kItem}, boneSource});
+  // The command counts from 1, the query from 0.
+  rows.push_back(number(
+      "BoneFalloffType", bone, 1, 9, [](Item& i) -> int& { return i.bone.falloff; }, 1));
+  // Of the bone's object, for all its bones.
+  rows.push_back(number("BoneMode", bone, 0, 3, [](Item& i) -> int& { return i.owner->object.boneMode; }));
+  rows.push_back(number("NumLimitedBones", bone, 0, kAnyInt, [](Item& i) -> int& { return i.owner->object.limitedBones; }));
+  rows.push_back(number("BoneType", bone, 0, 1, [](Item& i) -> int& { return i.bone.type; }));
+  rows.push_back(toggle("BoneActive", bone, [](Item& i) -> bool& { return i.bone.active; }));
+  rows.push_back({"BoneWeightMapName", bone, {{ArgumentKind::rest, 0, 0}}, weightMapName});
+  rows.push_back({"BoneWeightMapOnly", bone, {}, weightMapOnly});
+  rows.push_back(toggle("BoneNormalization", bone, [](Item& i) -> bool& { return i.bone.weightNormalization; }));
+  rows.push_back(real("BoneStrength", bone, [](Item& i) -> double& { return i.bone.strength; }));
+  rows.push_back(toggle("BoneStrengthMultiply", bone, [](Item& i) -> bool& { return i.bone.strengthMultiply; }));
+  rows.push_back(toggle("BoneLimitedRange", bone, [](Item& i) -> bool& { return i.bone.limitedRange; }));
+  rows.push_back(real("BoneMinRange", bone, [](Item& i) -> double& { return i.bone.minRange; }));
+  rows.push_back(real("BoneMaxRange", bone, [](Item& i) -> double& { return i.bone.maxRange; }));
+}
+
+void addBoneFormRows(Rows& rows) {
+  using enum CommandTarget;
+  rows.push_back(toggle("BoneJointComp", bone, [](Item& i) -> bool& { return i.bone.jointComp; }));
+  rows.push_back(toggle("BoneJointCompParent", bone, [](Item& i) -> bool& { return i.bone.jointCompParent; }));
+  rows.push_back(twoReals(
+      "BoneJointCompAmounts", bone, [](Item & i) -> auto& { return i.bone.jointCompAmounts; }));
+  rows.push_back(toggle("BoneMuscleFlex", bone, [](Item& i) -> bool& { return i.bone.muscleFlex; }));
+  rows.push_back(toggle("BoneMuscleFlexParent", bone, [](Item& i) -> bool& { return i.bone.muscleFlexParent; }));
+  rows.push_back(twoReals(
+      "BoneMuscleFlexAmounts", bone, [](Item & i) -> auto& { return i.bone.muscleFlexAmounts; }));
+  rows.push_back(toggle("BoneBulge", bone, [](Item& i) -> bool& { return i.bone.bulge; }));
+  rows.push_back(real("BoneBulgeAmount", bone, [](Item& i) -> double& { return i.bone.bulgeAmount; }));
+  rows.push_back(toggle("BoneBulgeParent", bone, [](Item& i) -> bool& { return i.bone.bulgeParent; }));
+  rows.push_back(real("BoneBulgeParentAmount", bone, [](Item& i) -> double& { return i.bone.bulgeParentAmount; }));
+  rows.push_back(toggle("BoneTwist", bone, [](Item& i) -> bool& { return i.bone.twist; }));
+  rows.push_back(real("BoneTwistAmount", bone, [](Item& i) -> double& { return i.bone.twistAmount; }));
+}
+
+Rows allRows() {
+  Rows rows;
+  addProgramRows(rows);
+  addItemRows(rows);
+  addIkRows(rows);
+  addSameItemRows<0>(rows, "PositionItem");
+  addSameItemRows<1>(rows, "RotationItem");
+  addSameItemRows<2>(rows, "ScaleItem");
+  addAllAxisRows(rows, std::make_index_sequence<kAxisCount>());
+  addBoneRows(rows);
+  addBoneFormRows(rows);
+  return rows;
+}
+
+}  // namespace
+
+const std::unordered_map<std::string_view, const CommandRow*>& commandTable() {
+  static const Rows rows = allRows();
+  static const auto table = [] {
+    std::unordered_map<std::string_view, const CommandRow*> byName;
+    for (const CommandRow& row : rows) byName.emplace(row.name, &row);
+    return byName;
+  }();
+  return table;
+}
+
+}  // namespace standin

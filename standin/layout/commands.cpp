@@ -1,0 +1,57 @@
+#include "standin/layout/commands.h"
+
+#include <algorithm>
+
+#include "standin/layout/command_table.h"
+
+namespace standin {
+namespace {
+
+Event outcome(std::string_view command, const Rejection& why) {
+  if (why.empty()) return {EventKind::command, std::string(command), {}, {}};
+  if (why.starts_with(kAsksUser)) return {EventKind::asked, std::string(command), why.substr(kAsksUser.size()), {}};
+  return {EventKind::rejected, std::string(command), why, {}};
+}
+
+bool fits(const Item& item, CommandTarget target) {
+  switch (target) {
+    case CommandTarget::bone: return item.kind == ItemKind::bone;
+    case CommandTarget::object: return item.kind == ItemKind::object;
+    default: return true;
+  }
+}
+
+Rejection act(LayoutState& state, const CommandRow& row, const Arguments& arguments) {
+  if (row.target == CommandTarget::none) return row.act(state, nullptr, arguments);
+  const std::vector<Item*> selection = state.scene.selection();
+  if (selection.empty()) return "nothing is selected";
+  if (!std::all_of(selection.begin(), selection.end(), [&](const Item* item) { return fits(*item, row.target); })) {
+    return row.target == CommandTarget::bone ? "the selection is not of bones" : "the selection is not of objects";
+  }
+  for (Item* item : selection) {
+    Rejection why = row.act(state, item, arguments);
+    if (!why.empty()) return why;
+  }
+  return {};
+}
+
+Rejection run(LayoutState& state, std::string_view command) {
+  const std::size_t end = std::min(command.find(' '), command.size());
+  const auto found = commandTable().find(command.substr(0, end));
+  if (found == commandTable().end()) return "unknown command";
+  Arguments arguments;
+  if (const auto failure = readArguments(state.scene, found->second->arguments, command.substr(end), arguments)) {
+    return (failure->missing ? std::string(kAsksUser) : std::string()) + failure->why;
+  }
+  return act(state, *found->second, arguments);
+}
+
+}  // namespace
+
+bool runCommand(LayoutState& state, std::string_view command) {
+  const Rejection why = run(state, command);
+  state.transcript.add(outcome(command, why));
+  return why.empty();
+}
+
+}  // namespace standin

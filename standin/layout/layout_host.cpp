@@ -1,0 +1,117 @@
+#include "standin/layout/layout_host.h"
+
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <memory>
+
+#include "standin/core/gap_slots.h"
+#include "standin/core/globals.h"
+#include "standin/core/witness.h"
+#include "standin/layout/commands.h"
+#include "standin/layout/services.h"
+#include "standin/panels/services.h"
+
+namespace standin {
+
+template <>
+inline constexpr const char* kTableName<lw::LWLayoutGeneric> = "LWLayoutGeneric";
+
+namespace {
+
+LayoutHost* theHost = nullptr;
+
+// Services that a module looks for and never calls.
+const std::vector<std::string>& presentOnly() {
+  static const std::vector<std::string> names{
+      "LW Fog Info",          "LW Camera Info 10",     "LW Scene Info 12", "Color Picker",        "ContextMenuServices 2",
+      "Directory Info 2",     "File Request",          "File Request 3",   "Image Utility 6",     "LW Image List 9",
+      "Instance Update",      "RasterServices 4",      "LWShelfFuncs 2",   "Surface Functions 6", "LWXPanel 3",
+      "LSUniversalRequester", "LW Communication Ring", "NodeInputFuncs 5", "NodeOutputFuncs 4",   "NodeFuncs 3",
+      "LW Light Info 6",
+  };
+  return names;
+}
+
+void offerServices(LayoutHost& host) {
+  Globals& offered = globals();
+  offered.offer("LW Item Info 9", itemInfoTable());
+  offered.offer("LW Object Info 14", objectInfoTable());
+  offered.offer("LW Bone Info 7", boneInfoTable());
+  offered.offer("Scene Objects 9", sceneObjectsTable());
+  offered.offer("Info Messages 4", messageTable());
+  offered.offer("Channel Info 3", channelInfoTable());
+  offered.offer("Animation Envelopes 4", envelopeTable());
+  offered.offer("LW Command Interface", reinterpret_cast<void*>(commandFunction()));
+  offered.offer("LW Interface Info 8", std::function<void*()>([&host] { return host.freshInterfaceInfo(); }));
+  offered.offer("LW Time Info", std::function<void*()>([&host] { return host.freshTimeInfo(); }));
+  offered.offerPresence(presentOnly());
+  offerPanelServices();
+}
+
+}  // namespace
+
+LayoutHost::LayoutHost(const LayoutOptions& options) : state_(options) {
+  theHost = this;
+  witness().reset();
+  globals().reset();
+  offerServices(*this);
+  setProductInfo(kProductInfo);
+  setLocale(kLocaleEnglish);
+}
+
+LayoutHost::~LayoutHost() {
+  if (theHost != this) return;
+  globals().reset();
+  theHost = nullptr;
+}
+
+LayoutHost& LayoutHost::current() { return *theHost; }
+
+void LayoutHost::setProductInfo(std::uint32_t word) { globals().offerNumber("Product Info", word); }
+void LayoutHost::setLocale(std::uint32_t language) { globals().offerNumber("Locale Info", language); }
+
+std::vector<Item*> LayoutHost::loadObject(const std::string& path, std::string* why) {
+  const Outcome<ObjectFile> file = readObject(path);
+  if (why != nullptr) *why = file.why();
+  return file ? scene().addObject(*file, path) : std::vector<Item*>();
+}
+
+void LayoutHost::select(const std::vector<Item*>& items) {
+  scene().deselectAll();
+  for (Item* item : items) scene().addToSelection(*item);
+}
+
+bool LayoutHost::command(std::string_view utf8) { return runCommand(state_, utf8); }
+
+std::optional<int> LayoutHost::activate(ModuleFile& module, std::string_view server, int version) {
+  const auto local = std::make_unique<lw::LWLayoutGeneric>();
+  STANDIN_FILL_GAP(*local, 0);
+  return module.activate(server, version, local.get());
+}
+
+void* LayoutHost::freshInterfaceInfo() {
+  InterfaceRecord& record = interfaceRecords_.next(&spoilInterfaceRecord);
+  record.info = {};
+  record.info.curTime = state_.time;
+  record.selection.clear();
+  for (const Item* item : scene().selection()) record.selection.push_back(scene().idOf(item));
+  record.selection.push_back(nullptr);
+  const bool none = scene().selection().empty() && scene().options().selectedItemsNullWhenEmpty;
+  record.info.selItems = none ? nullptr : record.selection.data();
+  record.info.generalFlags = (state_.ikEnabled ? 0x80U : 0U) | (state_.motionControllersEnabled ? 0x800U : 0U);
+  fillInterfaceFunctions(record.info);
+  return &record.info;
+}
+
+void* LayoutHost::freshTimeInfo() {
+  lw::LWTimeInfo& info = timeRecords_.next([](lw::LWTimeInfo& old) {
+    old.time = std::numeric_limits<double>::quiet_NaN();
+    old.frame = std::numeric_limits<int>::min();
+  });
+  info.time = state_.time;
+  info.frame = static_cast<int>(std::lround(state_.time * scene().options().framesPerSecond));
+  return &info;
+}
+
+}  // namespace standin

@@ -1,0 +1,33 @@
+// One session of the stand-in Layout: the scene and everything beside it that commands change and queries show.
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "standin/layout/options.h"
+#include "standin/layout/scene.h"
+#include "standin/layout/transcript.h"
+
+namespace standin {
+
+struct LayoutState {
+  explicit LayoutState(const LayoutOptions& options) : scene(options) {}
+
+  Scene scene;
+  Transcript transcript;
+  double time = 0;  // of the interface, in seconds
+  bool ikEnabled = true;
+  bool motionControllersEnabled = true;
+  bool deformationsEnabled = true;
+  int autoConfirm = 0;  // 1 answers yes, -1 answers no, 0 asks
+  std::size_t refreshes = 0;
+  // The server plug-ins that this host has to apply to items.
+  std::vector<AppliedServer> knownServers{{"CustomObjHandler", "LW_ItemShape"}};
+  // Answers to the questions of the message service, in order. Without one the answer is cancel.
+  std::deque<int> answers;
+};
+
+}  // namespace standin

@@ -1,0 +1,306 @@
+#include "standin/layout/scene.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace standin {
+namespace {
+
+constexpr std::array<std::uint32_t, 4> kFirstNumber{0x10000000, 0x20000000, 0x30000000, 0x40000000};
+// By kind of item.
+constexpr std::array<int, 4> kFreshVisibility{6, 1, 1, 1};
+constexpr std::array<int, 4> kFreshColour{10, 13, 9, 8};
+
+std::size_t kindIndex(ItemKind kind) { return static_cast<std::size_t>(kind); }
+
+bool holdsSkelegons(const PolygonGroup& group) { return group.type == lw::kTypeBone; }
+
+Vec3 vector(const FilePoint& point) { return {point[0], point[1], point[2]}; }
+
+}  // namespace
+
+std::string fileBaseName(const std::string& path) {
+  const std::size_t separator = path.find_last_of("/\\");
+  const std::string name = separator == std::string::npos ? path : path.substr(separator + 1);
+  return name.substr(0, name.rfind('.'));
+}
+
+Scene::Scene(LayoutOptions options) : options_(std::move(options)) {}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Making and removing
+
+Item& Scene::make(ItemKind kind, const std::string& name, Item* owner) {
+  Item& item = items_.emplace_back();
+  auto& ofKind = byKind_[kindIndex(kind)];
+  item.kind = kind;
+  item.serial = items_.size() - 1;
+  item.number = kFirstNumber[kindIndex(kind)] + static_cast<std::uint32_t>(ofKind.size());
+  ofKind.push_back(&item);
+  item.owner = owner;
+  item.placeInList = listOf(item).size();
+  listOf(item).push_back(&item);
+  item.settings.visibility = freshVisibility(kind);
+  item.settings.colour = freshColour(kind);
+  for (std::size_t axis = 0; axis < kAxisCount; ++axis) {
+    const double resting = axis < kAxisSX ? 0 : 1;
+    item.motion[axis] = Envelope(resting);
+    for (int key = 0; key < options_.keysOnNewItems; ++key) item.motion[axis].create(key, resting);
+  }
+  giveName(item, name);
+  return item;
+}
+
+std::vector<Item*>& Scene::listOf(const Item& item) {
+  return item.kind == ItemKind::bone ? item.owner->bones : lists_[kindIndex(item.kind)];
+}
+
+void Scene::giveName(Item& item, const std::string& name) {
+  std::string scope = std::to_string(item.owner == nullptr ? kindIndex(item.kind) : item.owner->number) + '/';
+  Namesakes& namesakes = names_[std::move(scope) + name];
+  item.givenName = name;
+  item.namesakes = &namesakes;
+  item.ordinal = namesakes.size();
+  namesakes.push_back(&item);
+}
+
+Item& Scene::addNull(const std::string& name) { return make(ItemKind::object, name, nullptr); }
+Item& Scene::addLight(const std::string& name) { return make(ItemKind::light, name, nullptr); }
+Item& Scene::addCamera(const std::string& name) { return make(ItemKind::camera, name, nullptr); }
+
+Item& Scene::addBone(Item& object, const std::string& name, Item* parentBone) {
+  Item& bone = make(ItemKind::bone, name, &object);
+  attach(bone, parentBone == nullptr ? &object : parentBone);
+  return bone;
+}
+
+std::size_t Scene::fileIndex(const ObjectFile& file, const std::string& path) {
+  const auto known =
+      std::find_if(files_.begin(), files_.end(), [&](const LoadedFile& loaded) { return loaded.path == path; });
+  if (known != files_.end()) return static_cast<std::size_t>(known - files_.begin());
+  LoadedFile loaded{path, fileBaseName(path) + "#" + std::to_string(files_.size()), {}};
+  for (const ObjectLayer& layer : file.layers) {
+    loaded.layers.push_back({layer.number, layer.name});
+    for (const VertexMap& map : layer.maps) {
+      const std::pair<std::uint32_t, std::string> entry(map.type, map.name);
+      if (std::find(maps_.begin(), maps_.end(), entry) == maps_.end()) maps_.push_back(entry);
+    }
+  }
+  files_.push_back(std::move(loaded));
+  return files_.size() - 1;
+}
+
+std::vector<Item*> Scene::addObject(const ObjectFile& file, const std::string& path) {
+  const std::size_t fileNumber = fileIndex(file, path);
+  const std::string base = fileBaseName(path);
+  const bool namedAfterFile = file.layers.size() == 1 && file.layers.front().number == 0;
+  std::vector<Item*> made;
+  for (const ObjectLayer& layer : file.layers) {
+    std::string name = base;
+    if (!namedAfterFile)
+      name.append(":").append(layer.name.empty() ? "Layer" + std::to_string(layer.number + 1) : layer.name);
+    Item& item = make(ItemKind::object, name, nullptr);
+    item.source = LayerSource{fileNumber, layer.number};
+    item.pivot = vector(layer.pivot);
+    for (const PolygonGroup& group : layer.groups) {
+      if (!holdsSkelegons(group)) continue;
+      item.skelegons.polygons.insert(item.skelegons.polygons.end(), group.polygons.begin(), group.polygons.end());
+    }
+    if (!item.skelegons.polygons.empty()) item.skelegons.points = layer.points;
+    made.push_back(&item);
+  }
+  for (std::size_t i = 0; i < made.size(); ++i) {
+    if (!file.layers[i].parent) continue;
+    const auto parent = std::find_if(file.layers.begin(), file.layers.end(),
+                                     [&](const ObjectLayer& layer) { return layer.number == *file.layers[i].parent; });
+    // A layer that names itself, or closes a ring, stays without a parent.
+    if (parent != file.layers.end()) setParent(*made[i], made[static_cast<std::size_t>(parent - file.layers.begin())]);
+  }
+  return made;
+}
+
+void Scene::remove(Item& item) {
+  const std::vector<Item*> bones = item.bones;
+  for (Item* bone : bones) removeOne(*bone);
+  removeOne(item);
+}
+
+void Scene::removeOne(Item& item) {
+  if (item.selected) {
+    item.selected = false;
+    std::erase(selection_, &item);
+  }
+  moved(item);
+  while (!item.children.empty()) {
+    Item& child = *item.children.back();
+    detach(child);
+    if (child.owner != nullptr && child.owner != &item) attach(child, child.owner);
+  }
+  detach(item);
+  auto& list = listOf(item);
+  list.erase(list.begin() + static_cast<std::ptrdiff_t>(item.placeInList));
+  for (std::size_t place = item.placeInList; place < list.size(); ++place) list[place]->placeInList = place;
+  auto& namesakes = *item.namesakes;
+  namesakes.erase(namesakes.begin() + static_cast<std::ptrdiff_t>(item.ordinal));
+  for (std::size_t place = item.ordinal; place < namesakes.size(); ++place) namesakes[place]->ordinal = place;
+  item.alive = false;
+  forget(item);
+}
+
+void Scene::forget(const Item& gone) {
+  const auto drop = [&](Item*& link) {
+    if (link == &gone) link = nullptr;
+  };
+  for (Item& item : items_) {
+    drop(item.settings.target);
+    drop(item.settings.pole);
+    drop(item.settings.ik.goal);
+    drop(item.object.boneSource);
+    for (SameItemSettings& same : item.settings.same) drop(same.item);
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Names and identifiers
+
+std::string Scene::nameOf(const Item& item) const {
+  if (item.namesakes->size() < 2) return item.givenName;
+  return item.givenName + " (" + std::to_string(item.ordinal + 1) + ")";
+}
+
+Item* Scene::find(std::string_view name) const {
+  for (Item* object : objects()) {
+    if (nameOf(*object) == name) return object;
+    for (Item* bone : object->bones) {
+      if (nameOf(*bone) == name) return bone;
+    }
+  }
+  for (const auto* list : {&lights(), &cameras()}) {
+    for (Item* item : *list) {
+      if (nameOf(*item) == name) return item;
+    }
+  }
+  return nullptr;
+}
+
+std::vector<std::string> Scene::vertexMaps(std::uint32_t type) const {
+  std::vector<std::string> names;
+  for (const auto& [mapType, name] : maps_) {
+    if (type == 0 || mapType == type) names.push_back(name);
+  }
+  return names;
+}
+
+lw::ItemId Scene::idOf(const Item* item) const {
+  if (item == nullptr) return nullptr;
+  return reinterpret_cast<lw::ItemId>(options_.highIdBits | item->number);  // NOLINT(performance-no-int-to-ptr)
+}
+
+Item* Scene::byNumber(std::uint32_t number) {
+  for (std::size_t kind = 0; kind < byKind_.size(); ++kind) {
+    const std::uint32_t place = number - kFirstNumber[kind];
+    if (number >= kFirstNumber[kind] && place < byKind_[kind].size()) return byKind_[kind][place];
+  }
+  return nullptr;
+}
+
+Item* Scene::byId(lw::ItemId id) {
+  Item* item = byNumber(static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(id)));
+  return item != nullptr && idOf(item) == id ? item : nullptr;
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Hierarchy and space
+
+void Scene::attach(Item& item, Item* parent) {
+  item.parent = parent;
+  if (parent == nullptr) return;
+  item.placeAmongChildren = parent->children.size();
+  parent->children.push_back(&item);
+}
+
+void Scene::detach(Item& item) {
+  if (item.parent == nullptr) return;
+  auto& children = item.parent->children;
+  children.back()->placeAmongChildren = item.placeAmongChildren;
+  std::swap(children[item.placeAmongChildren], children.back());
+  children.pop_back();
+  item.parent = nullptr;
+}
+
+bool Scene::setParent(Item& item, Item* parent) {
+  if (parent == &item) return false;
+  const Item* above = item.children.empty() ? nullptr : parent;  // nothing can stand below an item without children
+  for (; above != nullptr; above = above->parent) {
+    if (above == &item) return false;
+  }
+  moved(item);
+  detach(item);
+  attach(item, parent);
+  return true;
+}
+
+void Scene::moved(Item& item) {
+  std::vector<Item*> changed{&item};
+  while (!changed.empty()) {
+    Item* next = changed.back();
+    changed.pop_back();
+    if (!next->placementValid) continue;
+    next->placementValid = false;
+    changed.insert(changed.end(), next->children.begin(), next->children.end());
+  }
+}
+
+int Scene::freshVisibility(ItemKind kind) { return kFreshVisibility[kindIndex(kind)]; }
+int Scene::freshColour(ItemKind kind) { return kFreshColour[kindIndex(kind)]; }
+
+Vec3 Scene::motionAt(const Item& item, Axis first, double time) {
+  return {item.motion[first].valueAt(time), item.motion[first + 1].valueAt(time), item.motion[first + 2].valueAt(time)};
+}
+
+// A child's position counts from its parent's pivot, along the parent's axes.
+const Placement& Scene::placement(Item& item, double time) {
+  std::vector<Item*> chain;
+  for (Item* above = &item; above != nullptr; above = above->parent) {
+    if (above->placementValid && above->placementTime == time) break;
+    chain.push_back(above);
+  }
+  while (!chain.empty()) {
+    Item& next = *chain.back();
+    chain.pop_back();
+    Matrix3 axes = rotation(next.pivotRotation, next.settings.order) *
+                   rotation(motionAt(next, kAxisH, time), next.settings.order) * scaling(motionAt(next, kAxisSX, time));
+    Vec3 position = motionAt(next, kAxisX, time);
+    if (next.parent != nullptr) {
+      position = next.parent->placement.position + next.parent->placement.axes * position;
+      axes = next.parent->placement.axes * axes;
+    }
+    next.placement = {axes, position};
+    next.placementTime = time;
+    next.placementValid = true;
+  }
+  return item.placement;
+}
+
+void Scene::recordPivotRotation(Item& item, double time) {
+  const RotationOrder order = item.settings.order;
+  item.pivotRotation = anglesOf(rotation(item.pivotRotation, order) * rotation(motionAt(item, kAxisH, time), order), order);
+  for (const Axis axis : {kAxisH, kAxisP, kAxisB}) item.motion[axis].assign(time, 0);
+  moved(item);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Selection
+
+void Scene::deselectAll() {
+  for (Item* item : selection_) item->selected = false;
+  selection_.clear();
+}
+
+void Scene::addToSelection(Item& item) {
+  if (item.selected) return;
+  item.selected = true;
+  selection_.push_back(&item);
+}
+
+}  // namespace standin

@@ -1,0 +1,198 @@
+// "Channel Info 3" and the channel group of an item.
+#include <array>
+
+#include "standin/core/gap_slots.h"
+#include "standin/layout/channel_services.h"
+
+namespace standin {
+
+template <>
+inline constexpr const char* kTableName<lw::LWChannelInfo> = "LWChannelInfo";
+
+namespace {
+
+enum ChannelType : int { kFloat = 2, kDistance = 3, kPercent = 4, kAngle = 5 };
+
+struct ChannelRow {
+  const char* name;
+  ChannelType type;
+  std::size_t group;
+};
+
+constexpr std::array<ChannelRow, kChannelCount> kChannels{{
+    {"Position.X", kDistance, kItemGroup},
+    {"Position.Y", kDistance, kItemGroup},
+    {"Position.Z", kDistance, kItemGroup},
+    {"Rotation.H", kAngle, kItemGroup},
+    {"Rotation.P", kAngle, kItemGroup},
+    {"Rotation.B", kAngle, kItemGroup},
+    {"Scale.X", kFloat, kItemGroup},
+    {"Scale.Y", kFloat, kItemGroup},
+    {"Scale.Z", kFloat, kItemGroup},
+    {"GoalStrength", kFloat, kIkGroup},
+    {"IKFKBlending", kPercent, kIkGroup},
+    {"Position.X", kDistance, kIkGroup},
+}};
+
+bool isThere(std::size_t channel) {
+  const LayoutOptions& options = currentScene().options();
+  if (channel == kChannelDecoy) return options.decoyChannel;
+  return kChannels[channel].group != kItemGroup || options.missingChannel != kChannels[channel].name;
+}
+
+// An item of the scene behind a handle; null with a fault when the handle is of another kind or the item is gone.
+template <class Id>
+Item* checkedHandle(const HostCall& call, Id id, HandleKind kind, const char* what, std::size_t parts, Handle& handle) {
+  auto& items = currentScene().all();
+  if (!fromHandle(id, kind, handle) || handle.item >= items.size() || handle.part >= parts) {
+    call.fault(std::string("was given something that is no ") + what);
+    return nullptr;
+  }
+  Item& item = items[handle.item];
+  if (item.alive) return &item;
+  call.fault(std::string("was given the ") + what + " of an item that was removed");
+  return nullptr;
+}
+
+Item* checkedGroup(const HostCall& call, lw::GroupId id, Handle& handle) {
+  return checkedHandle(call, id, HandleKind::group, "channel group", kGroupCount, handle);
+}
+
+Item* checkedChannel(const HostCall& call, lw::ChannelId id, Handle& handle) {
+  return checkedHandle(call, id, HandleKind::channel, "channel", kChannelCount, handle);
+}
+
+// The group of the first item that is alive, from a serial number on. Null at the end.
+lw::GroupId rootGroupFrom(std::size_t serial) {
+  const auto& items = currentScene().all();
+  while (serial < items.size() && !items[serial].alive) ++serial;
+  return serial < items.size() ? toHandle<lw::GroupId>(HandleKind::group, {serial, kItemGroup, 0}) : nullptr;
+}
+
+lw::GroupId nextGroup(lw::GroupId parent, lw::GroupId previous) {
+  const HostCall call("LWChannelInfo::nextGroup");
+  Handle above;
+  Handle before;
+  if (parent != nullptr && checkedGroup(call, parent, above) == nullptr) return nullptr;
+  if (previous != nullptr && checkedGroup(call, previous, before) == nullptr) return nullptr;
+  if (call.refused()) return nullptr;
+  if (parent == nullptr) return rootGroupFrom(previous == nullptr ? 0 : before.item + 1);
+  if (previous != nullptr && (before.item != above.item || before.part == above.part)) {
+    call.fault("the previous group is not below the parent");
+  }
+  if (above.part != kItemGroup || previous != nullptr) return nullptr;
+  return toHandle<lw::GroupId>(HandleKind::group, {above.item, kIkGroup, 0});
+}
+
+lw::ChannelId nextChannel(lw::GroupId group, lw::ChannelId previous) {
+  const HostCall call("LWChannelInfo::nextChannel");
+  Handle in;
+  Handle before;
+  if (checkedGroup(call, group, in) == nullptr) return nullptr;
+  if (previous != nullptr && checkedChannel(call, previous, before) == nullptr) return nullptr;
+  if (previous != nullptr && (before.item != in.item || kChannels[before.part].group != in.part)) {
+    call.fault("the previous channel is not in the group");
+    return nullptr;
+  }
+  if (call.refused()) return nullptr;
+  for (std::size_t channel = previous == nullptr ? 0 : before.part + 1; channel < kChannelCount; ++channel) {
+    if (kChannels[channel].group != in.part || !isThere(channel)) continue;
+    return toHandle<lw::ChannelId>(HandleKind::channel, {in.item, channel, 0});
+  }
+  return nullptr;
+}
+
+const char* groupName(lw::GroupId group) {
+  const HostCall call("LWChannelInfo::groupName");
+  Handle handle;
+  const Item* item = checkedGroup(call, group, handle);
+  if (item == nullptr || call.refused()) return nullptr;
+  return handle.part == kItemGroup ? giveText(currentScene().nameOf(*item)) : giveText("IK");
+}
+
+const char* channelName(lw::ChannelId channel) {
+  const HostCall call("LWChannelInfo::channelName");
+  Handle handle;
+  const Item* item = checkedChannel(call, channel, handle);
+  return item == nullptr || call.refused() ? nullptr : giveText(kChannels[handle.part].name);
+}
+
+lw::GroupId groupParent(lw::GroupId group) {
+  const HostCall call("LWChannelInfo::groupParent");
+  Handle handle;
+  const Item* item = checkedGroup(call, group, handle);
+  if (item == nullptr || call.refused() || handle.part == kItemGroup) return nullptr;
+  return toHandle<lw::GroupId>(HandleKind::group, {handle.item, kItemGroup, 0});
+}
+
+lw::GroupId channelParent(lw::ChannelId channel) {
+  const HostCall call("LWChannelInfo::channelParent");
+  Handle handle;
+  const Item* item = checkedChannel(call, channel, handle);
+  if (item == nullptr || call.refused()) return nullptr;
+  return toHandle<lw::GroupId>(HandleKind::group, {handle.item, kChannels[handle.part].group, 0});
+}
+
+int channelType(lw::ChannelId channel) {
+  const HostCall call("LWChannelInfo::channelType");
+  Handle handle;
+  const Item* item = checkedChannel(call, channel, handle);
+  return item == nullptr || call.refused() ? 0 : kChannels[handle.part].type;
+}
+
+double channelEvaluate(lw::ChannelId channel, double time) {
+  const HostCall call("LWChannelInfo::channelEvaluate");
+  Handle handle;
+  const Item* item = checkedChannel(call, channel, handle);
+  if (item == nullptr || call.refused()) return 0;
+  if (handle.part < kAxisCount) return item->motion[handle.part].valueAt(time);
+  if (handle.part == kChannelGoalStrength) return item->settings.ik.goalStrength;
+  return handle.part == kChannelBlending ? item->settings.ik.blending : 0;
+}
+
+lw::EnvelopeId channelEnvelope(lw::ChannelId channel) {
+  const HostCall call("LWChannelInfo::channelEnvelope");
+  Handle handle;
+  const Item* item = checkedChannel(call, channel, handle);
+  if (item == nullptr || call.refused() || handle.part >= kAxisCount) return nullptr;
+  if (currentScene().options().channelWithoutKeys == kChannels[handle.part].name) return nullptr;
+  return toHandle<lw::EnvelopeId>(HandleKind::envelope, {handle.item, handle.part, 0});
+}
+
+}  // namespace
+
+lw::GroupId channelGroupOf(lw::ItemId id) {
+  const HostCall call("LWItemInfo::chanGroup");
+  const Item* item = checkedItem(call, id);
+  if (item == nullptr || call.refused()) return nullptr;
+  return toHandle<lw::GroupId>(HandleKind::group, {item->serial, kItemGroup, 0});
+}
+
+Item* checkedEnvelope(const HostCall& call, lw::EnvelopeId id, Handle& handle) {
+  return checkedHandle(call, id, HandleKind::envelope, "envelope", kAxisCount, handle);
+}
+
+bool checkedEnvelopeGroup(const HostCall& call, lw::GroupId id) {
+  Handle handle;
+  return checkedGroup(call, id, handle) != nullptr;
+}
+
+lw::LWChannelInfo* channelInfoTable() {
+  static lw::LWChannelInfo table = [] {
+    lw::LWChannelInfo t{};
+    t.nextGroup = &nextGroup;
+    t.nextChannel = &nextChannel;
+    t.groupName = &groupName;
+    t.channelName = &channelName;
+    t.groupParent = &groupParent;
+    t.channelParent = &channelParent;
+    t.channelType = &channelType;
+    t.channelEvaluate = &channelEvaluate;
+    t.channelEnvelope = &channelEnvelope;
+    STANDIN_FILL_GAP(t, 72);
+    return t;
+  }();
+  return &table;
+}
+
+}  // namespace standin

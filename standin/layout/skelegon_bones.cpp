@@ -1,0 +1,111 @@
+#include "standin/layout/skelegon_bones.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <unordered_map>
+#include <utility>
+
+namespace standin {
+namespace {
+
+constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
+
+// For each skelegon the first one that ends where it begins. Of a ring of skelegons the first in the file begins anew.
+std::vector<std::size_t> parentsByPoint(const std::vector<ObjectPolygon>& skelegons) {
+  std::unordered_map<std::uint32_t, std::size_t> endingAt;
+  for (std::size_t i = 0; i < skelegons.size(); ++i) endingAt.try_emplace(skelegons[i].points[1], i);
+  std::vector<std::size_t> parents(skelegons.size(), kNone);
+  for (std::size_t i = 0; i < skelegons.size(); ++i) {
+    const auto found = endingAt.find(skelegons[i].points[0]);
+    if (found != endingAt.end() && found->second != i) parents[i] = found->second;
+  }
+  std::vector<std::size_t> walkOf(skelegons.size(), kNone);
+  for (std::size_t i = 0; i < skelegons.size(); ++i) {
+    std::size_t at = i;
+    while (at != kNone && walkOf[at] == kNone) {
+      walkOf[at] = i;
+      at = parents[at];
+    }
+    if (at == kNone || walkOf[at] != i) continue;
+    std::size_t first = at;
+    for (std::size_t ring = parents[at]; ring != at; ring = parents[ring]) first = std::min(first, ring);
+    parents[first] = kNone;
+  }
+  return parents;
+}
+
+Vec3 vector(const FilePoint& point) { return {point[0], point[1], point[2]}; }
+
+// A bone lies along +Z of its own axes, without bank in its object.
+Matrix3 restAxes(const Vec3& direction) {
+  const double heading = std::atan2(direction[0], direction[2]);
+  const double pitch = std::asin(std::clamp(-direction[1], -1.0, 1.0));
+  return rotation({heading, pitch, 0}, RotationOrder::HPB);
+}
+
+void rest(Item& bone, const Vec3& head, const Vec3& tail) {
+  bone.rest.position = head;
+  bone.rest.length = length(tail - head);
+  if (bone.rest.length > 0) bone.rest.direction = (tail - head) * (1 / bone.rest.length);
+}
+
+// Sets the motion that puts the bone at its rest position.
+void place(Item& bone, const Item* parentBone) {
+  Matrix3 axes = restAxes(bone.rest.direction);
+  Vec3 position = bone.rest.position;
+  if (parentBone != nullptr) {
+    const Matrix3 back = transposed(restAxes(parentBone->rest.direction));
+    axes = back * axes;
+    position = back * (position - parentBone->rest.position);
+  }
+  const Vec3 angles = anglesOf(axes, bone.settings.order);
+  for (std::size_t i = 0; i < 3; ++i) {
+    bone.motion[kAxisX + i].assign(0, position[i]);
+    bone.motion[kAxisH + i].assign(0, angles[i]);
+  }
+}
+
+// The host's own tags of a skelegon: its weight map and its colour. A colour of another name leaves the bone's as it is.
+void takeTags(Item& bone, const ObjectPolygon& skelegon) {
+  if (const std::string* map = skelegon.tag(lw::kTagBoneWeight)) bone.bone.weightMap = *map;
+  if (const std::string* colour = skelegon.tag(lw::kTagColour)) {
+    const auto found = std::find(kColourNames.begin(), kColourNames.end(), *colour);
+    if (found != kColourNames.end()) bone.settings.colour = static_cast<int>(found - kColourNames.begin());
+  }
+}
+
+std::string boneName(const ObjectPolygon& skelegon) {
+  const std::string* tag = skelegon.tag(lw::kTagBone);
+  return tag == nullptr || tag->empty() ? "Bone" : *tag;
+}
+
+}  // namespace
+
+std::vector<Item*> makeBonesOfSkelegons(Scene& scene, Item& object) {
+  const SkelegonSource source = std::exchange(object.skelegons, {});
+  std::vector<ObjectPolygon> skelegons;
+  for (const ObjectPolygon& polygon : source.polygons) {
+    const auto known = [&](std::uint32_t point) { return point < source.points.size(); };
+    if (polygon.points.size() == 2 && std::all_of(polygon.points.begin(), polygon.points.end(), known))
+      skelegons.push_back(polygon);
+  }
+  const std::vector<std::size_t> parents = parentsByPoint(skelegons);
+  std::vector<Item*> bones;
+  bones.reserve(skelegons.size());
+  for (const ObjectPolygon& skelegon : skelegons) {
+    Item& bone = scene.addBone(object, boneName(skelegon));
+    rest(bone, vector(source.points[skelegon.points[0]]), vector(source.points[skelegon.points[1]]));
+    takeTags(bone, skelegon);
+    bones.push_back(&bone);
+  }
+  for (std::size_t i = 0; i < bones.size(); ++i) {
+    Item* parent = parents[i] == kNone ? nullptr : bones[parents[i]];
+    if (parent != nullptr) scene.setParent(*bones[i], parent);
+    place(*bones[i], parent);
+  }
+  return bones;
+}
+
+}  // namespace standin

@@ -1,0 +1,64 @@
+#include "standin/layout/transcript.h"
+
+#include "standin/layout/number_text.h"
+
+namespace standin {
+namespace {
+
+bool isCommand(const Event& event) {
+  return event.kind == EventKind::command || event.kind == EventKind::rejected || event.kind == EventKind::asked;
+}
+
+bool isShownOnStatusLine(const Event& event) {
+  return event.kind == EventKind::command && event.text.starts_with("StatusMsg");
+}
+
+std::string line(const Event& event) {
+  switch (event.kind) {
+    case EventKind::command: return "  " + event.text;
+    case EventKind::rejected: return "! " + event.text + "  -- rejected: " + event.why;
+    case EventKind::asked: return "? " + event.text + "  -- would ask the user: " + event.why;
+    case EventKind::status:
+      return "| " + (event.progress ? fixedText(*event.progress * 100, 0) + " % " : std::string()) + event.text;
+    case EventKind::message: return "[" + event.why + "] " + event.text;
+  }
+  return {};
+}
+
+}  // namespace
+
+void Transcript::add(Event event) {
+  ++counts_[static_cast<std::size_t>(event.kind)];
+  if (recording_) events_.push_back(std::move(event));
+}
+
+void Transcript::clear() {
+  events_.clear();
+  counts_ = {};
+}
+
+std::vector<std::string> Transcript::texts(EventKind kind) const {
+  std::vector<std::string> texts;
+  for (const Event& event : events_) {
+    if (event.kind == kind) texts.push_back(event.text);
+  }
+  return texts;
+}
+
+std::vector<std::string> Transcript::commands() const {
+  std::vector<std::string> commands;
+  for (const Event& event : events_) {
+    if (isCommand(event)) commands.push_back(event.text);
+  }
+  return commands;
+}
+
+std::string Transcript::text() const {
+  std::string text;
+  for (const Event& event : events_) {
+    if (!isShownOnStatusLine(event)) text += line(event) + '\n';
+  }
+  return text;
+}
+
+}  // namespace standin

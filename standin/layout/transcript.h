@@ -1,0 +1,53 @@
+// What happened in the stand-in Layout, in order: commands with their results, the status line, messages to the user.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace standin {
+
+enum class EventKind {
+  command,   // accepted
+  rejected,  // a command that was not; `why` says the reason
+  asked,     // a command that would have asked the user for something and so did not go on
+  status,    // a text on the status line
+  message,   // a message box; `why` is its kind
+};
+
+struct Event {
+  EventKind kind = EventKind::command;
+  std::string text;
+  std::string why;
+  std::optional<double> progress;  // of a status text: how far the progress bar is
+};
+
+class Transcript {
+ public:
+  void add(Event event);
+  const std::vector<Event>& events() const { return events_; }
+  void clear();
+  // While recording is off, events are only counted. It is on at first.
+  void record(bool on) { recording_ = on; }
+
+  std::size_t count(EventKind kind) const { return counts_[static_cast<std::size_t>(kind)]; }
+  std::size_t commandCount() const {
+    return count(EventKind::command) + count(EventKind::rejected) + count(EventKind::asked);
+  }
+  // Texts of one kind, in order.
+  std::vector<std::string> texts(EventKind kind) const;
+  // Every command as it was sent, whatever became of it; a status text is listed by its command too.
+  std::vector<std::string> commands() const;
+  // One line for each event; a status text stands for the command that set it.
+  std::string text() const;
+
+ private:
+  std::vector<Event> events_;
+  std::array<std::size_t, 5> counts_{};
+  bool recording_ = true;
+};
+
+}  // namespace standin

@@ -1,0 +1,318 @@
+// The three functions of a control's record: draw, get and set.
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstring>
+
+#include "standin/core/witness.h"
+#include "standin/panels/metrics.h"
+#include "standin/panels/services.h"
+
+namespace standin {
+namespace {
+
+// How an attribute travels in the value union. The type code is looked at for all but pointers.
+enum class Carrier { Integer, Range, String, Value, Pointer };
+
+struct AttributeRow {
+  int attribute;
+  const char* name;
+  Carrier carrier;
+  bool readable;
+  bool writable;
+};
+
+// clang-format off
+constexpr std::array kAttributes{
+    //           attribute                        name                  carrier           read   write
+    AttributeRow{lw::kControlX,                   "x",                  Carrier::Integer, true,  true},
+    AttributeRow{lw::kControlY,                   "y",                  Carrier::Integer, true,  true},
+    AttributeRow{lw::kControlWidth,               "width",              Carrier::Integer, true,  true},
+    AttributeRow{lw::kControlHeight,              "height",             Carrier::Integer, true,  true},
+    AttributeRow{lw::kControlValue,               "value",              Carrier::Value,   true,  true},
+    AttributeRow{lw::kControlHotX,                "hot area's x",       Carrier::Integer, true,  false},
+    AttributeRow{lw::kControlHotY,                "hot area's y",       Carrier::Integer, true,  false},
+    AttributeRow{lw::kControlHotWidth,            "hot area's width",   Carrier::Integer, true,  false},
+    AttributeRow{lw::kControlHotHeight,           "hot area's height",  Carrier::Integer, true,  false},
+    AttributeRow{lw::kControlLabelWidth,          "label width",        Carrier::Integer, true,  false},
+    AttributeRow{lw::kControlMouseX,              "mouse x",            Carrier::Integer, true,  false},
+    AttributeRow{lw::kControlMouseY,              "mouse y",            Carrier::Integer, true,  false},
+    AttributeRow{lw::kControlFlags,               "flags",              Carrier::Integer, true,  true},
+    AttributeRow{lw::kControlDrawCallback,        "draw callback",      Carrier::Pointer, true,  true},
+    AttributeRow{lw::kControlEventCallback,       "event callback",     Carrier::Pointer, true,  true},
+    AttributeRow{lw::kControlLabel,               "label",              Carrier::String,  true,  true},
+    AttributeRow{lw::kControlUserData,            "user data",          Carrier::Pointer, true,  true},
+    AttributeRow{lw::kControlPanel,               "panel",              Carrier::Pointer, true,  false},
+    AttributeRow{lw::kControlServices,            "services table",     Carrier::Pointer, true,  false},
+    AttributeRow{lw::kControlRangeLeast,          "least value",        Carrier::Range,   true,  true},
+    AttributeRow{lw::kControlRangeGreatest,       "greatest value",     Carrier::Range,   true,  true},
+    AttributeRow{lw::kControlFocus,               "input focus",        Carrier::Integer, false, true},
+    AttributeRow{lw::kControlMouseButton,         "mouse button",       Carrier::Integer, true,  false},
+    AttributeRow{lw::kControlSelectCallback,      "selection callback", Carrier::Pointer, true,  true},
+    AttributeRow{lw::kControlClickCount,          "click count",        Carrier::Integer, true,  false},
+    AttributeRow{lw::kControlMenuFlagsCallback,   "menu flags callback", Carrier::Pointer, true, true},
+};
+// clang-format on
+
+constexpr int kGhostedFlag = 0x100;
+constexpr int kErasedFlag = 0x200;
+constexpr int kScalingFlag = 0x400;
+
+const AttributeRow* rowFor(int attribute) {
+  for (const AttributeRow& row : kAttributes) {
+    if (row.attribute == attribute) return &row;
+  }
+  return nullptr;
+}
+
+int typeOf(ValueForm form) {
+  switch (form) {
+    case ValueForm::Integer: return lw::kValueInteger;
+    case ValueForm::Float: return lw::kValueFloat;
+    case ValueForm::String: return lw::kValueString;
+    case ValueForm::None: break;
+  }
+  return 0;
+}
+
+bool isTypeRight(const Control& control, const AttributeRow& row, int type) {
+  switch (row.carrier) {
+    case Carrier::Integer: return type == lw::kValueInteger;
+    case Carrier::Range: return type == lw::kValueInteger || type == lw::kValueFloat;
+    case Carrier::String: return type == lw::kValueString;
+    case Carrier::Value: return type == typeOf(control.kind->value);
+    case Carrier::Pointer: return true;
+  }
+  return false;
+}
+
+bool carriesText(const Control& control, const AttributeRow& row) {
+  return row.carrier == Carrier::String || (row.carrier == Carrier::Value && control.kind->value == ValueForm::String);
+}
+
+std::string attributeOf(const AttributeRow& row, const Control& control) {
+  return "attribute " + std::to_string(row.attribute) + " (" + row.name + ") of " + control.describe();
+}
+
+// The row of an attribute that may be used so, or null after a fault.
+const AttributeRow* usable(const HostCall& call, const Control& control, int attribute, const lw::LWValue* value,
+                           bool reading) {
+  const AttributeRow* row = rowFor(attribute);
+  if (row == nullptr) {
+    call.fault("attribute " + std::to_string(attribute) + " is not offered, of " + control.describe());
+  } else if (value == nullptr) {
+    call.fault("got no value for " + attributeOf(*row, control));
+  } else if (reading ? !row->readable : !row->writable) {
+    call.fault(attributeOf(*row, control) + (reading ? " cannot be read" : " cannot be set"));
+  } else if (row->carrier == Carrier::Value && control.kind->value == ValueForm::None) {
+    call.fault(control.describe() + " has no value");
+  } else if (!isTypeRight(control, *row, value->type)) {
+    call.fault(attributeOf(*row, control) + " got a value of the wrong type " + std::to_string(value->type));
+  } else if (carriesText(control, *row) && (value->str.buf == nullptr || (reading && value->str.bufLen <= 0))) {
+    call.fault(attributeOf(*row, control) + " got no buffer");
+  } else {
+    return row;
+  }
+  return nullptr;
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Reading
+
+// A text that fills the buffer is given without its final zero.
+void giveText(const std::string& text, lw::LWValString& out) {
+  const auto room = static_cast<std::size_t>(out.bufLen);
+  const std::size_t most = panels().options.terminatesTexts ? room - 1 : room;
+  const std::size_t length = std::min(text.size(), most);
+  std::memcpy(out.buf, text.data(), length);
+  if (length < room) out.buf[length] = '\0';
+}
+
+void giveValue(const Control& control, lw::LWValue& out) {
+  switch (control.kind->value) {
+    case ValueForm::Integer: out.intv.value = control.integer; break;
+    case ValueForm::Float: out.flt.value = control.real; break;
+    case ValueForm::String: giveText(control.text, out.str); break;
+    case ValueForm::None: break;
+  }
+}
+
+void giveRange(int bound, lw::LWValue& out) {
+  if (out.type == lw::kValueFloat) {
+    out.flt.value = bound;
+  } else {
+    out.intv.value = bound;
+  }
+}
+
+int flagsOf(const Control& control) {
+  return (control.isGhosted ? kGhostedFlag : 0) | (control.isErased ? kErasedFlag : 0) |
+         (control.scalesWithScreen ? kScalingFlag : 0);
+}
+
+int integerOf(const Control& control, int attribute) {
+  switch (attribute) {
+    case lw::kControlX: return control.x;
+    case lw::kControlY: return control.y;
+    case lw::kControlWidth: return control.width();
+    case lw::kControlHeight: return control.height();
+    case lw::kControlHotX: return control.hot().x;
+    case lw::kControlHotY: return control.hot().y;
+    case lw::kControlHotWidth: return control.hotWidth;
+    case lw::kControlHotHeight: return control.hotHeight;
+    case lw::kControlLabelWidth: return control.labelWidth();
+    case lw::kControlMouseX: return control.mouseX;
+    case lw::kControlMouseY: return control.mouseY;
+    case lw::kControlFlags: return flagsOf(control);
+    case lw::kControlMouseButton: return control.mouseButton;
+    case lw::kControlClickCount: return control.clickCount;
+    default: return 0;
+  }
+}
+
+void* pointerOf(const Control& control, int attribute) {
+  switch (attribute) {
+    case lw::kControlDrawCallback: return reinterpret_cast<void*>(control.drawCallback);
+    case lw::kControlEventCallback: return reinterpret_cast<void*>(control.event);
+    case lw::kControlUserData: return control.user;
+    case lw::kControlPanel: return control.panel->id;
+    case lw::kControlServices: return panelServices();
+    case lw::kControlSelectCallback: return reinterpret_cast<void*>(control.select);
+    case lw::kControlMenuFlagsCallback: return reinterpret_cast<void*>(control.menuFlags);
+    default: return nullptr;
+  }
+}
+
+void get(lw::LWControl* face, int attribute, lw::LWValue* value) {
+  const HostCall call("control get");
+  std::string why;
+  const Control* control = panels().resolve(face, why);
+  if (control == nullptr) {
+    call.fault(why);
+    return;
+  }
+  const AttributeRow* row = usable(call, *control, attribute, value, true);
+  if (row == nullptr || call.refused()) return;
+  switch (row->carrier) {
+    case Carrier::Integer: value->intv.value = integerOf(*control, attribute); break;
+    case Carrier::Range:
+      giveRange(attribute == lw::kControlRangeLeast ? control->rangeLeast : control->rangeGreatest, *value);
+      break;
+    case Carrier::String: giveText(control->label.read(), value->str); break;
+    case Carrier::Value: giveValue(*control, *value); break;
+    case Carrier::Pointer: value->ptr.ptr = pointerOf(*control, attribute); break;
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Writing
+
+void takeValue(Control& control, const lw::LWValue& value) {
+  switch (control.kind->value) {
+    case ValueForm::Integer:
+      control.integer =
+          control.kind->handling == Handling::Toggle ? static_cast<int>(value.intv.value != 0) : value.intv.value;
+      break;
+    case ValueForm::Float:
+      if (!std::isfinite(value.flt.value)) panels().note(control.describe() + " was set to a value that is no number");
+      control.real = value.flt.value;
+      break;
+    case ValueForm::String: control.text = value.str.buf; break;
+    case ValueForm::None: break;
+  }
+}
+
+void takeFlags(Control& control, int flags) {
+  control.isErased = (flags & kErasedFlag) != 0;
+  if (control.is(ControlKind::OpenGL)) control.scalesWithScreen = (flags & kScalingFlag) != 0;
+}
+
+void takeFocus(const HostCall& call, Control& control) {
+  if (control.kind->handling != Handling::Type && control.kind->handling != Handling::Slide) {
+    call.fault(control.describe() + " cannot take the input focus");
+  } else {
+    control.panel->focus = &control;
+  }
+}
+
+void takeInteger(const HostCall& call, Control& control, int attribute, int number) {
+  switch (attribute) {
+    case lw::kControlX: control.x = number; break;
+    case lw::kControlY: control.y = number; break;
+    case lw::kControlWidth: control.setWidth(number); break;
+    case lw::kControlHeight: control.setHeight(number); break;
+    case lw::kControlFlags: takeFlags(control, number); break;
+    case lw::kControlFocus: takeFocus(call, control); break;
+    default: break;
+  }
+}
+
+void takePointer(Control& control, int attribute, void* pointer) {
+  const auto take = [pointer]<class Callback>(Callback& callback) { callback = reinterpret_cast<Callback>(pointer); };
+  switch (attribute) {
+    case lw::kControlDrawCallback: take(control.drawCallback); break;
+    case lw::kControlEventCallback: take(control.event); break;
+    case lw::kControlSelectCallback: take(control.select); break;
+    case lw::kControlMenuFlagsCallback: take(control.menuFlags); break;
+    case lw::kControlUserData:
+      control.user = pointer;
+      control.userWasSet = true;
+      break;
+    default: break;
+  }
+}
+
+void takeRange(Control& control, int attribute, const lw::LWValue& value) {
+  const int bound = value.type == lw::kValueFloat ? static_cast<int>(value.flt.value) : value.intv.value;
+  (attribute == lw::kControlRangeLeast ? control.rangeLeast : control.rangeGreatest) = bound;
+}
+
+void set(lw::LWControl* face, int attribute, lw::LWValue* value) {
+  const HostCall call("control set");
+  std::string why;
+  Control* control = panels().resolve(face, why);
+  if (control == nullptr) {
+    call.fault(why);
+    return;
+  }
+  const AttributeRow* row = usable(call, *control, attribute, value, false);
+  if (row == nullptr || call.refused()) return;
+  switch (row->carrier) {
+    case Carrier::Integer: takeInteger(call, *control, attribute, value->intv.value); break;
+    case Carrier::Range: takeRange(*control, attribute, *value); break;
+    case Carrier::String: control->label = KeptText::copied(value->str.buf); break;
+    case Carrier::Value: takeValue(*control, *value); break;
+    case Carrier::Pointer: takePointer(*control, attribute, value->ptr.ptr); break;
+  }
+  panels().changed(*control);
+  if (row->carrier == Carrier::Value && panels().options.setsFireEvents) panels().fire(*control);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+
+void draw(lw::LWControl* face, int mode) {
+  const HostCall call("control draw");
+  std::string why;
+  Control* control = panels().resolve(face, why);
+  if (control == nullptr) {
+    call.fault(why);
+    return;
+  }
+  if (mode < lw::kDrawErase || mode > lw::kDrawRefresh) {
+    call.fault("got the unknown draw mode " + std::to_string(mode) + " for " + control->describe());
+    return;
+  }
+  if (call.refused() || (!control->panel->isOpen() && !panels().options.drawBeforeOpenHolds)) return;
+  if (mode != lw::kDrawRefresh) {
+    control->isErased = mode == lw::kDrawErase;
+    control->isGhosted = mode == lw::kDrawGhost;
+  }
+  control->wantsPaint = !control->isErased;
+  if (panels().listener != nullptr) panels().listener->drawn(*control, mode);
+}
+
+}  // namespace
+
+lw::LWControl newControlFace() { return {&draw, &get, &set, nullptr}; }
+
+}  // namespace standin

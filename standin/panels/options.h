@@ -1,0 +1,35 @@
+// How the stand-in's panel services behave where hosts may differ. The defaults are strict and well-behaved; tests of the
+// module's robustness switch single lines.
+#pragma once
+
+#include <functional>
+
+namespace standin {
+
+struct Panel;
+
+// The two ways in which mouse input over a panel reaches a module.
+enum class MouseDelivery {
+  Hooks,    // the panel's mouse hooks only
+  Control,  // the event callback of the control below the pointer, with the mouse attributes
+  Both,
+};
+
+struct PanelOptions {
+  MouseDelivery mouse = MouseDelivery::Both;
+  bool hooksNeedMouseFlag = true;       // panel mouse hooks are called only when opened with kOpenMouse
+  bool sizeNeedsResizable = true;       // an open panel takes a new size from the module only when opened resizable
+  bool resizeHookOnSet = false;         // a size set by the module on an open panel calls the resize hook too
+  bool setsFireEvents = false;          // odd host: setting a value fires the control's event
+  bool repeatedChoiceFires = true;      // choosing the item that is chosen already is an event
+  bool ghostedFires = true;             // ghosted controls can still be used
+  bool drawBeforeOpenHolds = true;      // hiding a control of a closed panel still holds when the panel opens
+  bool copiesTexts = false;             // labels, titles and lists are copied instead of read when they are needed
+  bool terminatesTexts = false;         // a text that fills the caller's buffer is cut to leave room for the final zero
+  bool limitsTypedValues = false;       // least and greatest value hold for typed percents, angles, distances and floats
+  bool wantsLookupFunction = true;      // the module must have written its lookup function before it creates a panel
+  int rightPadding = 0;                 // pixels of a control right of its hot area, so that width > label + hot width
+  std::function<int(Panel&)> blocking;  // plays the person in front of a blocking panel: 1 continue, 0 cancel
+};
+
+}  // namespace standin

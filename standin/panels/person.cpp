@@ -1,0 +1,328 @@
+#include "standin/panels/person.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <utility>
+
+#include "standin/core/witness.h"
+#include "standin/panels/metrics.h"
+#include "standin/panels/running.h"
+#include "standin/panels/services.h"
+#include "standin/panels/units.h"
+
+namespace standin {
+namespace {
+
+constexpr unsigned kMenuItemDisabled = 8;
+
+Done failed(std::string why) { return {false, std::move(why)}; }
+
+// Whether a person can reach the control at all.
+Done reachable(const Control* control) {
+  if (control == nullptr) return failed("there is no such control");
+  const std::string name = control->describe();
+  if (!control->isAlive) return failed(name + " was destroyed");
+  if (!control->panel->isOpen()) return failed(name + ": the panel is not open");
+  if (control->isErased) return failed(name + " is hidden");
+  if (!control->panel->area().meets(control->hot())) return failed(name + " lies outside the panel");
+  if (control->isGhosted && !panels().options.ghostedFires) return failed(name + " is ghosted");
+  return {};
+}
+
+Done reachableAs(const Control* control, Handling handling, const char* use) {
+  if (Done done = reachable(control); !done) return done;
+  if (control->kind->handling != handling) return failed(control->describe() + " cannot be " + use);
+  return {};
+}
+
+Done usablePanel(const Panel* panel) {
+  if (panel == nullptr) return failed("there is no such panel");
+  if (!panel->isAlive || !panel->isOpen()) return failed("panel \"" + printable(panel->titleAtCreation) + "\" is not open");
+  return {};
+}
+
+void fireChanged(Control& control) {
+  panels().changed(control);
+  panels().fire(control);
+}
+
+bool isItemDisabled(const Control& list, int index) {
+  if (list.menuFlags == nullptr) return false;
+  const Running running(*list.panel);
+  const auto flags = callModule("menu flags callback", [&] { return list.menuFlags(list.face, list.user, index); });
+  return (flags.value_or(0U) & kMenuItemDisabled) != 0;
+}
+
+Done chooseItem(Control& list, int index) {
+  if (isItemDisabled(list, index))
+    return failed("item " + std::to_string(index) + " of " + list.describe() + " is disabled");
+  const bool isSame = list.integer == index;
+  list.integer = index;
+  if (!isSame || panels().options.repeatedChoiceFires) fireChanged(list);
+  return {};
+}
+
+bool isLimitedWhenTyped(const Control& field) {
+  if (field.rangeLeast == 0 && field.rangeGreatest == 0) return false;
+  return field.is(ControlKind::MiniSlider) || panels().options.limitsTypedValues;
+}
+
+double limited(const Control& field, double value) {
+  return std::clamp(value, valueOfShown(field.kind->kind, field.rangeLeast),
+                    valueOfShown(field.kind->kind, field.rangeGreatest));
+}
+
+int toInteger(double value) {
+  constexpr double least = std::numeric_limits<int>::min();
+  constexpr double greatest = std::numeric_limits<int>::max();
+  return static_cast<int>(std::clamp(std::round(value), least, greatest));
+}
+
+// True when the value changed.
+bool storeNumber(Control& field, double value) {
+  if (field.kind->value == ValueForm::Integer) return std::exchange(field.integer, toInteger(value)) != toInteger(value);
+  return std::exchange(field.real, value) != value;
+}
+
+bool storeText(Control& field, std::string_view text) { return std::exchange(field.text, std::string(text)) != text; }
+
+Done reachableField(const Control* field) {
+  if (Done done = reachable(field); !done) return done;
+  const Handling handling = field->kind->handling;
+  if (handling == Handling::Type || handling == Handling::Slide) return {};
+  return failed(field->describe() + " takes no text");
+}
+
+Done storeTyped(Control& field, double value) {
+  if (!std::isfinite(value)) return failed(field.describe() + " takes no such number");
+  if (storeNumber(field, isLimitedWhenTyped(field) ? limited(field, value) : value)) fireChanged(field);
+  return {};
+}
+
+double presentNumber(const Control& field) { return field.kind->value == ValueForm::Integer ? field.integer : field.real; }
+
+int buttonBits(MouseButton button) {
+  switch (button) {
+    case MouseButton::Left: return lw::kMouseLeft;
+    case MouseButton::Middle: return lw::kMouseMiddle;
+    case MouseButton::Right: return lw::kMouseRight;
+  }
+  return 0;
+}
+
+Control* areaAt(const Panel& panel, int x, int y) {
+  for (const auto& control : panel.controls) {
+    if (control->kind->handling == Handling::Mouse && isVisible(*control) && control->hot().holds(x, y))
+      return control.get();
+  }
+  return nullptr;
+}
+
+bool reachesHooks(const Panel& panel) {
+  if (panels().options.mouse == MouseDelivery::Control) return false;
+  return !panels().options.hooksNeedMouseFlag || (panel.openFlags & lw::kOpenMouse) != 0;
+}
+
+bool reachesControls() { return panels().options.mouse != MouseDelivery::Hooks; }
+
+void moveMouse(Panel& panel, int x, int y) {
+  panel.mouseX = x;
+  panel.mouseY = y;
+  if (panel.mouseOwner != nullptr) {
+    panel.mouseOwner->mouseX = x;
+    panel.mouseOwner->mouseY = y;
+  }
+}
+
+// One mouse event in the ways that the options choose; the hook comes first.
+void deliver(Panel& panel, lw::PanelMouseHook hook, const char* name) {
+  if (reachesHooks(panel)) panels().callMouseHook(panel, hook, name, panel.qualifiers);
+  if (panel.mouseOwner != nullptr && reachesControls() && isVisible(*panel.mouseOwner)) panels().fire(*panel.mouseOwner);
+}
+
+int within(int size, int least, int greatest) {
+  if (greatest > 0) size = std::min(size, greatest);
+  return std::max(size, std::max(least, 1));
+}
+
+}  // namespace
+
+namespace person {
+
+Done press(Control* button) {
+  if (Done done = reachableAs(button, Handling::Press, "pressed"); !done) return done;
+  panels().fire(*button);
+  return {};
+}
+
+Done toggle(Control* check) {
+  if (Done done = reachableAs(check, Handling::Toggle, "toggled"); !done) return done;
+  check->integer = check->integer == 0 ? 1 : 0;
+  fireChanged(*check);
+  return {};
+}
+
+Done switchTo(Control* check, bool on) {
+  if (Done done = reachableAs(check, Handling::Toggle, "toggled"); !done) return done;
+  return (check->integer != 0) == on ? Done{} : toggle(check);
+}
+
+std::vector<std::string> menu(const Control* list) {
+  return reachableAs(list, Handling::Choose, "chosen from") ? list->items() : std::vector<std::string>{};
+}
+
+Done choose(Control* list, int index) {
+  if (Done done = reachableAs(list, Handling::Choose, "chosen from"); !done) return done;
+  const std::size_t count = list->items().size();
+  if (index < 0 || std::cmp_greater_equal(index, count)) {
+    return failed(list->describe() + " has no item " + std::to_string(index) + " but " + std::to_string(count) + " items");
+  }
+  return chooseItem(*list, index);
+}
+
+Done choose(Control* list, std::string_view item) {
+  if (Done done = reachableAs(list, Handling::Choose, "chosen from"); !done) return done;
+  const std::vector<std::string> items = list->items();
+  const auto found = std::find(items.begin(), items.end(), item);
+  if (found == items.end()) return failed(list->describe() + " has no item \"" + printable(item) + "\"");
+  return chooseItem(*list, static_cast<int>(found - items.begin()));
+}
+
+Done type(Control* field, std::string_view text) {
+  if (Done done = reachableField(field); !done) return done;
+  if (field->kind->value == ValueForm::String) {
+    if (storeText(*field, text)) fireChanged(*field);
+    return {};
+  }
+  const std::optional<double> value = parseTyped(field->kind->kind, text);
+  if (!value) return failed(field->describe() + " does not take \"" + printable(text) + "\"");
+  return storeTyped(*field, *value);
+}
+
+Done enter(Control* field, double shown) {
+  if (Done done = reachableField(field); !done) return done;
+  if (field->kind->value == ValueForm::String) return type(field, plainNumber(shown));
+  return storeTyped(*field, valueOfShown(field->kind->kind, shown));
+}
+
+Done drag(Control* slider, double shown, int steps) {
+  if (Done done = reachableAs(slider, Handling::Slide, "dragged"); !done) return done;
+  const double from = presentNumber(*slider);
+  const double to = valueOfShown(slider->kind->kind, shown);
+  for (int step = 1; step <= steps; ++step) {
+    const double value = step == steps ? to : from + (to - from) * step / steps;
+    const bool changed = storeNumber(*slider, isLimitedWhenTyped(*slider) ? limited(*slider, value) : value);
+    if (changed) fireChanged(*slider);
+    if (Done done = reachable(slider); !done) return failed("the drag was cut short: " + done.why);
+  }
+  return {};
+}
+
+Done mousePress(Panel* panel, int x, int y, MouseButton button, int qualifiers, int clicks) {
+  if (Done done = usablePanel(panel); !done) return done;
+  if (!panel->area().holds(x, y)) return failed("a press outside the panel does not reach it");
+  panel->mouseOwner = areaAt(*panel, x, y);
+  panel->qualifiers = qualifiers | buttonBits(button) | lw::kMouseDown;
+  moveMouse(*panel, x, y);
+  if (panel->mouseOwner != nullptr) {
+    panel->mouseOwner->mouseButton = static_cast<int>(button);
+    panel->mouseOwner->clickCount = clicks;
+  }
+  deliver(*panel, panel->mouseButtonHook, "panel mouse-button hook");
+  return {};
+}
+
+Done mouseMove(Panel* panel, int x, int y) {
+  if (Done done = usablePanel(panel); !done) return done;
+  moveMouse(*panel, x, y);
+  const bool isDown = (panel->qualifiers & lw::kMouseDown) != 0;
+  if (!isDown && (panel->openFlags & lw::kOpenMouseMotion) == 0) return {};  // passive motion has to be asked for
+  deliver(*panel, panel->mouseMoveHook, "panel mouse-move hook");
+  return {};
+}
+
+Done mouseRelease(Panel* panel, int x, int y) {
+  if (Done done = usablePanel(panel); !done) return done;
+  if ((panel->qualifiers & lw::kMouseDown) == 0) return failed("no mouse button is down");
+  panel->qualifiers &= ~lw::kMouseDown;
+  moveMouse(*panel, x, y);
+  deliver(*panel, panel->mouseButtonHook, "panel mouse-button hook");
+  panel->mouseOwner = nullptr;
+  return {};
+}
+
+Done click(Panel* panel, int x, int y, MouseButton button, int qualifiers, int clicks) {
+  if (Done done = mousePress(panel, x, y, button, qualifiers, clicks); !done) return done;
+  return panel->isOpen() ? mouseRelease(panel, x, y) : Done{};
+}
+
+Done wheel(Panel* panel, int x, int y, int notches) {
+  if (Done done = usablePanel(panel); !done) return done;
+  if (!panel->area().holds(x, y)) return failed("the wheel outside the panel does not reach it");
+  moveMouse(*panel, x, y);
+  if (reachesHooks(*panel)) panels().callMouseHook(*panel, panel->mouseWheelHook, "panel mouse-wheel hook", notches);
+  return {};
+}
+
+Done click(Control* area, int x, int y, MouseButton button, int qualifiers, int clicks) {
+  if (Done done = reachableAs(area, Handling::Mouse, "clicked into"); !done) return done;
+  return click(area->panel, area->hot().x + x, area->hot().y + y, button, qualifiers, clicks);
+}
+
+Done key(Panel* panel, unsigned short code) {
+  if (Done done = usablePanel(panel); !done) return done;
+  if (panel->keyHook == nullptr) return {};
+  const Running running(*panel);
+  callModule("panel key hook", [&] { return panel->keyHook(panel->id, panel->user, code); });
+  return {};
+}
+
+Done activate(Panel* panel) {
+  if (Done done = usablePanel(panel); !done) return done;
+  panels().callHook(*panel, panel->activateHook, "panel activate hook");
+  return {};
+}
+
+Done resize(Panel* panel, int width, int height) {
+  if (Done done = usablePanel(panel); !done) return done;
+  if (!panel->isResizable()) return failed("panel \"" + printable(panel->titleAtCreation) + "\" is not resizable");
+  resizePanel(*panel, within(width, panel->leastWidth, panel->greatestWidth),
+              within(height, panel->leastHeight, panel->greatestHeight), true);
+  return {};
+}
+
+Done close(Panel* panel) {
+  if (Done done = usablePanel(panel); !done) return done;
+  closePanel(*panel);
+  return {};
+}
+
+}  // namespace person
+
+namespace oddhost {
+
+Done choose(Control* list, int index) {
+  if (list == nullptr || !list->isAlive || list->kind->handling != Handling::Choose) return failed("there is no such list");
+  list->integer = index;
+  fireChanged(*list);
+  return {};
+}
+
+Done fire(Control* control) {
+  if (control == nullptr || !control->isAlive) return failed("there is no such control");
+  panels().fire(*control);
+  return {};
+}
+
+Done askName(Control* popup, int index) {
+  if (popup == nullptr || !popup->isAlive || !popup->is(ControlKind::CustomPopup)) return failed("there is no such popup");
+  const Running running(*popup->panel);
+  callModule("popup name function", [&] { return popup->description.popup.nameFn(popup->user, index); });
+  return {};
+}
+
+}  // namespace oddhost
+}  // namespace standin

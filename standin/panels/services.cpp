@@ -1,0 +1,228 @@
+#include "standin/panels/services.h"
+
+#include <string>
+
+#include "standin/core/gap_slots.h"
+#include "standin/core/globals.h"
+#include "standin/core/witness.h"
+#include "standin/panels/metrics.h"
+#include "standin/panels/service_functions.h"
+
+namespace standin {
+
+template <>
+inline constexpr const char* kTableName<lw::LWPanelFuncs> = "LWPanelFuncs";
+template <>
+inline constexpr const char* kTableName<lw::DrawFuncs> = "DrawFuncs";
+
+namespace {
+
+constexpr int kKnownOpenFlags = 1 | 2 | 4 | 8 | 16 | 32 | 64 | 128 | 256;
+
+lw::PanelId create(const char* title, void* owner) {
+  const HostCall call("panel create");
+  if (title == nullptr) {
+    call.fault("got a null title");
+    return nullptr;
+  }
+  if (panels().options.wantsLookupFunction && panelServices()->globalFun == nullptr) {
+    call.fault("was called before the module wrote its lookup function into the services table");
+  }
+  if (call.refused()) return nullptr;
+  return panels().create(title, owner)->id;
+}
+
+void destroy(lw::PanelId id) {
+  const HostCall call("panel destroy");
+  Panel* panel = resolved(call, id);
+  if (panel == nullptr) return;
+  if (panel->state != Panel::State::Closed) {
+    call.fault(named(*panel) + " is destroyed while it is open");
+  } else if (panel->runningCallbacks > 0) {
+    call.fault(named(*panel) + " is destroyed from within one of its own callbacks");
+  } else if (!call.refused()) {
+    panels().destroy(*panel);
+  }
+}
+
+// Some kinds of control need their user data before the panel opens, null included; which ones is not known.
+void checkUserData(const HostCall& call, const Panel& panel) {
+  for (const auto& control : panel.controls) {
+    if (!control->isAlive || control->userWasSet) continue;
+    const bool hasCallback =
+        control->event != nullptr || control->drawCallback != nullptr || control->is(ControlKind::CustomPopup);
+    if (hasCallback) {
+      call.fault("opens with a control whose user data was never set: " + control->describe());
+      return;
+    }
+  }
+}
+
+int open(lw::PanelId id, int flags) {
+  const HostCall call("panel open");
+  Panel* panel = resolved(call, id);
+  if (panel == nullptr) return 0;
+  if ((flags & ~kKnownOpenFlags) != 0) call.fault("got unknown flags " + std::to_string(flags) + " for " + named(*panel));
+  if (panel->state == Panel::State::Closing) {
+    call.fault(named(*panel) + " is opened from within its close hook");
+    return 0;
+  }
+  if (call.refused()) return 0;
+  if (!panel->isOpen()) checkUserData(call, *panel);
+  return openPanel(*panel, flags);
+}
+
+int handle(lw::PanelId id, int /*how*/) {
+  const HostCall call("panel handle");
+  const Panel* panel = resolved(call, id);
+  return panel != nullptr && panel->isOpen() && !call.refused() ? 0 : -1;
+}
+
+void draw(lw::PanelId id, int mode) {
+  const HostCall call("panel draw");
+  Panel* panel = resolved(call, id);
+  if (panel == nullptr) return;
+  if (mode < lw::kDrawErase || mode > lw::kDrawRefresh) {
+    call.fault("got the unknown draw mode " + std::to_string(mode));
+    return;
+  }
+  if (call.refused()) return;
+  for (const auto& control : panel->controls) control->wantsPaint = control->isAlive;
+  if (panels().listener != nullptr) panels().listener->drawn(*panel, mode);
+}
+
+void close(lw::PanelId id) {
+  const HostCall call("panel close");
+  Panel* panel = resolved(call, id);
+  if (panel == nullptr || call.refused()) return;
+  if (!panel->isOpen()) panels().note(named(*panel) + " was closed while it was not open");
+  closePanel(*panel);
+}
+
+void setParent(lw::PanelId id, lw::PanelId parent) {
+  const HostCall call("panel setParent");
+  Panel* panel = resolved(call, id);
+  if (panel == nullptr || (parent != nullptr && resolved(call, parent) == nullptr)) return;
+  if (panel->isOpen()) {
+    call.fault(named(*panel) + " got a parent while it is open");
+  } else if (!call.refused()) {
+    panel->parent = parent;
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Drawing
+
+int textWidthFunction(lw::PanelId id, const char* text) {
+  const HostCall call("draw textWidth");
+  if (resolved(call, id) == nullptr) return 0;
+  if (text == nullptr) {
+    call.fault("got a null text");
+    return 0;
+  }
+  return call.refused() ? 0 : textWidth(text);
+}
+
+void drawText(lw::PanelId id, const char* text, int /*colour*/, int /*x*/, int /*y*/) {
+  const HostCall call("draw drawText");
+  if (resolved(call, id) != nullptr && text == nullptr) call.fault("got a null text");
+}
+
+const int* dispMetrics() {
+  const HostCall call("draw dispMetrics");
+  //                                  screen      pixel   colours  text
+  static constexpr int metrics[8] = {1920, 1080, 1, 1, 1 << 24, 24, kTextHeight, kTextAscent};
+  return metrics;
+}
+
+lw::DrawFuncs* drawFuncs() {
+  static lw::DrawFuncs table{};
+  table = {};
+  table.textWidth = &textWidthFunction;
+  table.drawText = &drawText;
+  table.dispMetrics = &dispMetrics;
+  STANDIN_FILL_GAP(table, 0);
+  return &table;
+}
+
+lw::LWPanelFuncs& servicesTable() {
+  static lw::LWPanelFuncs table{};
+  return table;
+}
+
+void fillTable(lw::LWPanelFuncs& table) {
+  table = {};
+  table.create = &create;
+  table.destroy = &destroy;
+  table.open = &open;
+  table.handle = &handle;
+  table.draw = &draw;
+  table.close = &close;
+  table.get = &getPanelAttribute;
+  table.set = &setPanelAttribute;
+  table.addControl = &addControl;
+  table.nextControl = &nextControl;
+  table.drawFuncs = drawFuncs();
+  table.destroyControl = &destroyControl;
+  table.setParent = &setParent;
+  STANDIN_FILL_GAP(table, 120);
+}
+
+}  // namespace
+
+Panel* resolved(const HostCall& call, lw::PanelId id) {
+  std::string why;
+  Panel* panel = panels().resolve(id, why);
+  if (panel == nullptr) call.fault(why);
+  return panel;
+}
+
+std::string named(const Panel& panel) { return "panel \"" + printable(panel.titleAtCreation) + "\""; }
+
+lw::LWPanelFuncs* panelServices() { return &servicesTable(); }
+
+void offerPanelServices() {
+  panels().reset();
+  fillTable(servicesTable());
+  globals().offer("LWPanelServices 3", panelServices());
+}
+
+int openPanel(Panel& panel, int flags) {
+  const bool isBlocking = (flags & lw::kOpenBlocking) != 0;
+  if (panel.isOpen()) {
+    panel.takesFront = true;
+    if (panels().listener != nullptr) panels().listener->cameToFront(panel);
+    return 1;
+  }
+  panel.openFlags = flags;
+  panel.state = Panel::State::Open;
+  panel.wasOpened = true;
+  for (const auto& control : panel.controls) control->wantsPaint = control->isAlive;
+  if (panels().listener != nullptr) panels().listener->opened(panel);
+  panels().callHook(panel, panel.openHook, "panel open hook");
+  if (!isBlocking) return 1;
+  const int answer = panels().options.blocking ? panels().options.blocking(panel) : 0;
+  closePanel(panel);
+  return answer;
+}
+
+void closePanel(Panel& panel) {
+  if (!panel.isOpen()) return;
+  panel.state = Panel::State::Closing;
+  panel.mouseOwner = nullptr;
+  panel.focus = nullptr;
+  panels().callHook(panel, panel.closeHook, "panel close hook");
+  panel.state = Panel::State::Closed;
+  if (panels().listener != nullptr) panels().listener->closed(panel);
+}
+
+void resizePanel(Panel& panel, int width, int height, bool callHook) {
+  if (panel.width == width && panel.height == height) return;
+  panel.width = width;
+  panel.height = height;
+  for (const auto& control : panel.controls) control->wantsPaint = control->isAlive;
+  if (panels().listener != nullptr) panels().listener->resized(panel);
+  if (callHook) panels().callResizeHook(panel);
+}
+
+}  // namespace standin
