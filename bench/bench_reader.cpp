@@ -1,0 +1,106 @@
+// The module's object reader: beside another reader of the same file, and beside a plain copy of the file's bytes into fresh
+// memory, which is about the least that anything can cost that ends in memory of its own.
+#include <assimp/scene.h>
+#include <benchmark/benchmark.h>
+
+#include <assimp/Importer.hpp>
+#include <cstddef>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "bench/object_files.h"
+#include "bench/timing.h"
+#include "layout/object_reader.h"
+
+namespace {
+
+using lwp::st::ObjectFileData;
+using lwp::st::ObjectLayer;
+using namespace varnel::bench;
+
+constexpr std::size_t kMeshBytes = 100'000'000;
+constexpr std::uint32_t kSkelegons = 100'000;
+constexpr unsigned kSettings = 20;
+
+ObjectFileData readFile(const std::string& path) {
+  ObjectFileData data;
+  if (!lwp::st::ReadObjectFile(data, path)) throw std::runtime_error("not read: " + path);
+  return data;
+}
+
+ObjectFileData parse(std::span<const std::byte> file) {
+  ObjectFileData data;
+  if (!lwp::st::ParseObjectFile(data, file, "bench.lwo")) throw std::runtime_error("not parsed");
+  return data;
+}
+
+std::unique_ptr<std::byte[]> copy(std::span<const std::byte> file) {
+  auto memory = std::make_unique_for_overwrite<std::byte[]>(file.size());
+  // The compiler knows what memcpy and the taking of memory mean, and leaves both out where it can.
+  std::byte* to = memory.get();
+  benchmark::DoNotOptimize(to);
+  std::memcpy(to, file.data(), file.size());
+  benchmark::ClobberMemory();
+  return memory;
+}
+
+std::unique_ptr<Assimp::Importer> readWithAssimp(const std::string& path) {
+  auto importer = std::make_unique<Assimp::Importer>();
+  if (importer->ReadFile(path, 0) == nullptr) throw std::runtime_error(importer->GetErrorString());
+  return importer;
+}
+
+// Both readers have to have read the same thing before their times say anything.
+void requireSameFaces(const std::string& path) {
+  const ObjectFileData data = readFile(path);
+  const auto importer = readWithAssimp(path);
+  std::size_t faces = 0;
+  for (unsigned i = 0; i < importer->GetScene()->mNumMeshes; ++i) faces += importer->GetScene()->mMeshes[i]->mNumFaces;
+  if (faces == 0 || faces != data.layer(0).faceCount()) throw std::runtime_error("the two readers differ");
+}
+
+void requireAllTags(const ObjectFileData& data) {
+  const ObjectLayer layer = data.layer(0);
+  if (layer.skelegonCount() != kSkelegons) throw std::runtime_error("not all skelegons were read");
+  for (const lwp::st::SkelegonRecord skelegon : layer.skelegons()) {
+    if (skelegon.tags.size() != kSettings) throw std::runtime_error("not all settings were read");
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  takeFreshMemoryEachTime();
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+
+  const std::vector<std::byte> mesh = makeMesh(kMeshBytes);
+  const std::vector<std::byte> rig = makeRig(kSkelegons, kSettings);
+  const BenchFolder folder;
+  const std::string meshPath = folder.write("mesh.lwo", mesh);
+  const std::string rigPath = folder.write("rig.lwo", rig);
+  requireSameFaces(meshPath);
+  requireAllTags(readFile(rigPath));
+  std::printf("mesh: %.1f MB of points and faces; rig: %.1f MB, %u skelegons with %u settings each\n",
+              static_cast<double>(mesh.size()) / 1e6, static_cast<double>(rig.size()) / 1e6, kSkelegons, kSettings);
+
+  add("mesh/copy", [&] { return copy(mesh); });
+  add("mesh/parse", [&] { return parse(mesh); });
+  add("mesh/read", [&] { return readFile(meshPath); });
+  add("mesh/assimp", [&] { return readWithAssimp(meshPath); })->Iterations(1)->Repetitions(3);
+  add("rig/copy", [&] { return copy(rig); });
+  add("rig/parse", [&] { return parse(rig); });
+  add("rig/read", [&] { return readFile(rigPath); });
+
+  KeepingReporter times;
+  benchmark::RunSpecifiedBenchmarks(&times);
+  printRatios(times, {{"mesh read from disk, beside assimp", "mesh/read", "mesh/assimp", 12},
+                      {"mesh parsed, beside a copy of its bytes", "mesh/parse", "mesh/copy", 0.7},
+                      {"rig parsed, beside a copy of its bytes", "rig/parse", "rig/copy", 0.3}});
+  return 0;
+}

@@ -1,0 +1,340 @@
+// How strictly the tables of the stand-in Layout take their callers, and what a refused call gives.
+#include <cmath>
+#include <functional>
+#include <limits>
+
+#include "layout_fixture.h"
+
+namespace standin {
+namespace {
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Globals
+
+TEST(LayoutGlobals, OfEveryNameAreThere) {
+  LayoutSession session;
+  for (const char* name : {"LW Bone Info 7",        "LW Fog Info",           "LW Camera Info 10", "LW Interface Info 8",
+                           "LW Item Info 9",        "LW Object Info 14",     "LW Scene Info 12",  "LW Time Info",
+                           "LW Command Interface",  "Animation Envelopes 4", "Channel Info 3",    "Color Picker",
+                           "ContextMenuServices 2", "Directory Info 2",      "File Request",      "File Request 3",
+                           "Image Utility 6",       "LW Image List 9",       "Info Messages 4",   "Instance Update",
+                           "Locale Info",           "LWPanelServices 3",     "RasterServices 4",  "Scene Objects 9",
+                           "LWShelfFuncs 2",        "Surface Functions 6",   "LWXPanel 3",        "LSUniversalRequester",
+                           "LW Communication Ring", "NodeInputFuncs 5",      "NodeOutputFuncs 4", "NodeFuncs 3",
+                           "LW Light Info 6",       "Product Info"}) {
+    EXPECT_NE(Globals::lookup()(name, lw::kUseTransient), nullptr) << name;
+  }
+}
+
+TEST(LayoutGlobals, CanBeWithheld) {
+  LayoutSession session;
+  globals().withhold("LW Item Info 9");
+  EXPECT_EQ(session.items(), nullptr);
+}
+
+TEST(LayoutGlobals, CarryTheNumbersOfProductAndLocale) {
+  LayoutSession session;
+  session.host.setLocale(kLocaleJapanese);
+  EXPECT_EQ(reinterpret_cast<std::uintptr_t>(Globals::lookup()("Locale Info", 0)), 0x411U);
+  EXPECT_EQ(reinterpret_cast<std::uintptr_t>(Globals::lookup()("Product Info", 0)), 0x08F00641U);
+}
+
+TEST(LayoutGlobals, AreFreshForANewSession) {
+  {
+    LayoutSession old;
+    old.scene().addNull("Old");
+    globals().withhold("LW Item Info 9");
+  }
+  LayoutSession session;
+  ASSERT_NE(session.items(), nullptr);
+  EXPECT_EQ(session.items()->first(lw::kItemObject, nullptr), nullptr);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Walking
+
+TEST(ItemWalk, GoesThroughAKindInOrder) {
+  LayoutSession session;
+  Item& a = session.scene().addNull("A");
+  Item& light = session.scene().addLight("Light");
+  Item& b = session.scene().addNull("B");
+  EXPECT_EQ(session.items()->first(lw::kItemObject, nullptr), session.id(a));
+  EXPECT_EQ(session.items()->next(session.id(a)), session.id(b));
+  EXPECT_EQ(session.items()->next(session.id(b)), nullptr);
+  EXPECT_EQ(session.items()->first(lw::kItemLight, nullptr), session.id(light));
+  EXPECT_EQ(session.items()->first(lw::kItemCamera, nullptr), nullptr);
+}
+
+TEST(ItemWalk, OfBonesWithoutAnObjectIsEmpty) {
+  LayoutSession session;
+  session.selectedBone();
+  EXPECT_EQ(session.items()->first(lw::kItemBone, nullptr), nullptr);
+  EXPECT_TRUE(noFaults());
+}
+
+TEST(TopBone, HasItsObjectAsParentOrNone) {
+  LayoutOptions options;
+  options.topBoneHasParent = false;
+  {
+    LayoutSession session;
+    EXPECT_EQ(session.items()->parent(session.id(session.selectedBone())), session.id(*session.object()));
+  }
+  LayoutSession session(options);
+  EXPECT_EQ(session.items()->parent(session.id(session.selectedBone())), nullptr);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Parameters
+
+TEST(ItemParam, GivesWorldAxesWithTheirLengthsAndTheInverse) {
+  LayoutSession session;
+  Item& null = session.scene().addNull("A");
+  null.motion[kAxisSX].assign(0, 4);
+  null.motion[kAxisX].assign(0, 7);
+  double right[3] = {};
+  double inverseRight[3] = {};
+  double position[3] = {};
+  session.items()->param(session.id(null), lw::kParamRight, 0, right);
+  session.items()->param(session.id(null), 9, 0, inverseRight);
+  session.items()->param(session.id(null), lw::kParamWorldPosition, 0, position);
+  EXPECT_EQ(right[0], 4);
+  EXPECT_EQ(inverseRight[0], 0.25);
+  EXPECT_EQ(position[0], 7);
+}
+
+TEST(ItemParam, ThatTheHostDoesNotKnowIsAFault) {
+  LayoutSession session;
+  double out[16] = {};
+  session.items()->param(session.id(session.selectedBone()), 13, 0, out);
+  EXPECT_TRUE(oneFaultSaying("parameter 13"));
+}
+
+TEST(ItemLimits, OfAnotherParameterAreAFault) {
+  LayoutSession session;
+  double low[3];
+  double high[3];
+  session.items()->limits(session.id(session.selectedBone()), lw::kParamPivot, low, high);
+  EXPECT_TRUE(oneFaultSaying("not position, rotation or scale"));
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Misuse
+
+TEST(Misuse, OfNoItemIsAFault) {
+  LayoutSession session;
+  EXPECT_EQ(session.items()->name(nullptr), nullptr);
+  EXPECT_TRUE(oneFaultSaying("no item"));
+}
+
+TEST(Misuse, OfABareNumberIsAFault) {
+  LayoutSession session;
+  const auto half =
+      reinterpret_cast<lw::ItemId>(std::uintptr_t{session.selectedBone().number});  // NOLINT(performance-no-int-to-ptr)
+  session.items()->name(half);
+  EXPECT_TRUE(oneFaultSaying("something that is no item"));
+}
+
+TEST(Misuse, OfARemovedItemIsAFault) {
+  LayoutSession session;
+  Item& null = session.scene().addNull("Gone");
+  session.scene().remove(null);
+  EXPECT_EQ(session.items()->type(session.id(null)), 0);
+  EXPECT_TRUE(oneFaultSaying("an item that was removed"));
+}
+
+TEST(Misuse, OfAnItemOfTheWrongKindIsAFault) {
+  LayoutSession session;
+  session.bones()->flags(session.id(*session.object()));
+  EXPECT_TRUE(oneFaultSaying("an object instead of a bone"));
+}
+
+TEST(Misuse, OfANullOutputIsAFault) {
+  LayoutSession session;
+  session.items()->param(session.id(session.selectedBone()), lw::kParamPosition, 0, nullptr);
+  EXPECT_TRUE(oneFaultSaying("null"));
+}
+
+TEST(Misuse, OfAnUnusedSlotIsAFaultThatNamesIt) {
+  LayoutSession session;
+  reinterpret_cast<void* (*)()>(session.items()->gap_88[1])();
+  EXPECT_TRUE(oneFaultSaying("offset 96"));
+  EXPECT_EQ(witness().faults().front().function, "LWItemInfo");
+}
+
+TEST(Misuse, OfServerZeroIsAFault) {
+  LayoutSession session;
+  session.items()->server(session.id(*session.object()), "CustomObjHandler", 0);
+  EXPECT_TRUE(oneFaultSaying("count from 1"));
+}
+
+TEST(Misuse, OfANullCommandIsAFault) {
+  LayoutSession session;
+  reinterpret_cast<lw::CommandFunc>(Globals::lookup()("LW Command Interface", 0))(nullptr);
+  EXPECT_TRUE(oneFaultSaying("null"));
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Things that last only until the next call
+
+TEST(ReturnedText, IsSpoiltByTheNextOne) {
+  LayoutSession session;
+  Item& a = session.scene().addNull("Apple");
+  Item& b = session.scene().addNull("Pear");
+  const char* first = session.items()->name(session.id(a));
+  EXPECT_STREQ(first, "Apple");
+  session.items()->name(session.id(b));
+  EXPECT_STREQ(first, "XXXXX");
+}
+
+TEST(InterfaceInfo, ThatWasAskedForBeforeDoesNotFollow) {
+  LayoutSession session;
+  const lw::LWInterfaceInfo* before = session.interfaceInfo();
+  session.send("AddNull A");
+  EXPECT_EQ(before->selItems[0], nullptr);
+  EXPECT_NE(session.interfaceInfo()->selItems[0], nullptr);
+}
+
+TEST(InterfaceInfo, IsSpoiltByTheNextOne) {
+  LayoutSession session;
+  Item& bone = session.selectedBone();
+  const lw::LWInterfaceInfo* before = session.interfaceInfo();
+  session.interfaceInfo();
+  EXPECT_NE(before->selItems[0], session.id(bone));
+  EXPECT_TRUE(std::isnan(before->curTime));
+  before->itemVis(session.id(bone));
+  EXPECT_TRUE(oneFaultSaying("after a newer one"));
+}
+
+TEST(InterfaceInfo, MayHaveNoListWithNothingSelected) {
+  LayoutOptions options;
+  options.selectedItemsNullWhenEmpty = true;
+  LayoutSession session(options);
+  EXPECT_EQ(session.interfaceInfo()->selItems, nullptr);
+}
+
+TEST(TimeInfo, IsOfTheMomentItWasAskedFor) {
+  LayoutSession session;
+  session.host.setTime(0.5);
+  const auto* before = session.table<lw::LWTimeInfo>("LW Time Info");
+  session.host.setTime(2);
+  EXPECT_EQ(before->time, 0.5);
+  const auto* now = session.table<lw::LWTimeInfo>("LW Time Info");
+  EXPECT_EQ(now->time, 2);
+  EXPECT_EQ(now->frame, 60);
+  EXPECT_TRUE(std::isnan(before->time));
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Object files and messages
+
+TEST(ObjectInfo, GivesFileAndLayer) {
+  LayoutSession session;
+  ObjectFile file;
+  file.layers.resize(2);
+  file.layers[1].number = 3;
+  const auto items = session.scene().addObject(file, "rigs/cat.lwo");
+  EXPECT_STREQ(session.objects()->filename(session.id(*items[1])), "rigs/cat.lwo");
+  EXPECT_EQ(session.objects()->layerLoaded(session.id(*items[1])), 3);
+}
+
+TEST(ObjectInfo, OfANullHasAnEmptyFileNameWhereTheHostGivesOne) {
+  LayoutOptions options;
+  options.nullFileNameIsEmpty = true;
+  LayoutSession session(options);
+  EXPECT_STREQ(session.objects()->filename(session.id(session.scene().addNull("A"))), "");
+}
+
+TEST(SceneObjects, ListFilesAndLayers) {
+  LayoutSession session;
+  ObjectFile file;
+  file.layers.resize(2);
+  file.layers[1].number = 3;
+  file.layers[1].name = "Rig";
+  session.scene().addObject(file, "cat.lwo");
+  const auto* objects = session.table<lw::LWObjectFuncs>("Scene Objects 9");
+  EXPECT_EQ(objects->numObjects(), 1);
+  EXPECT_STREQ(objects->filename(0), "cat.lwo");
+  EXPECT_EQ(objects->maxLayers(0), 4);
+  EXPECT_EQ(objects->layerExists(0, 1), 0);
+  EXPECT_STREQ(objects->layerName(0, 3), "Rig");
+  EXPECT_EQ(objects->layerName(0, 0), nullptr);
+}
+
+TEST(Messages, AreAnsweredFromTheQueueElseCancelled) {
+  LayoutSession session;
+  session.host.state().answers = {2};
+  EXPECT_EQ(session.messages()->yesNoCan("Title", "First", nullptr), 2);
+  EXPECT_EQ(session.messages()->yesNo("Title", "First", "Second"), 0);
+  const std::vector<std::string> shown{"Title / First", "Title / First / Second"};
+  EXPECT_EQ(session.host.transcript().texts(EventKind::message), shown);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Refused calls
+
+struct RefusedRow {
+  const char* function;
+  std::function<bool(LayoutSession&, lw::ItemId bone)> answersAsFailed;
+};
+
+class RefusedCall : public ::testing::TestWithParam<RefusedRow> {};
+
+INSTANTIATE_TEST_SUITE_P(Functions, RefusedCall,
+                         ::testing::Values(RefusedRow{"LWItemInfo::name",
+                                                      [](auto& s, auto bone) {
+                                                        auto* t = s.items();
+                                                        witness().refuseCall(1);
+                                                        return t->name(bone) == nullptr;
+                                                      }},
+                                           RefusedRow{"LWItemInfo::parent",
+                                                      [](auto& s, auto bone) {
+                                                        auto* t = s.items();
+                                                        witness().refuseCall(1);
+                                                        return t->parent(bone) == nullptr;
+                                                      }},
+                                           RefusedRow{"LWItemInfo::chanGroup",
+                                                      [](auto& s, auto bone) {
+                                                        auto* t = s.items();
+                                                        witness().refuseCall(1);
+                                                        return t->chanGroup(bone) == nullptr;
+                                                      }},
+                                           RefusedRow{"LWItemInfo::flags",
+                                                      [](auto& s, auto bone) {
+                                                        auto* t = s.items();
+                                                        witness().refuseCall(1);
+                                                        return t->flags(bone) == 0;
+                                                      }},
+                                           RefusedRow{"LWBoneInfo::flags",
+                                                      [](auto& s, auto bone) {
+                                                        auto* t = s.bones();
+                                                        witness().refuseCall(1);
+                                                        return t->flags(bone) == 0;
+                                                      }},
+                                           RefusedRow{"global lookup",
+                                                      [](auto& s, auto) {
+                                                        witness().refuseCall(1);
+                                                        return s.items() == nullptr;
+                                                      }},
+                                           RefusedRow{"LW Command Interface",
+                                                      [](auto&, auto) {
+                                                        const auto command = reinterpret_cast<lw::CommandFunc>(
+                                                            Globals::lookup()("LW Command Interface", 0));
+                                                        witness().refuseCall(1);
+                                                        return command("RefreshNow") == 0;
+                                                      }}),
+                         [](const auto& info) {
+                           std::string name = info.param.function;
+                           std::erase_if(name, [](char c) { return c == ':' || c == ' '; });
+                           return name;
+                         });
+
+TEST_P(RefusedCall, AnswersAsAFailedOne) {
+  LayoutSession session;
+  const lw::ItemId bone = session.id(session.selectedBone());
+  EXPECT_TRUE(GetParam().answersAsFailed(session, bone));
+  EXPECT_EQ(witness().refusedFunction(), GetParam().function);
+  EXPECT_TRUE(noFaults());
+}
+
+}  // namespace
+}  // namespace standin

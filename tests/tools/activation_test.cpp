@@ -1,0 +1,275 @@
+// What the host gets when it activates a server: versions, releases, missing services, languages.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <span>
+#include <tuple>
+
+#include "standin/core/globals.h"
+#include "standin/panels/services.h"
+#include "tests/tools/conversion_fixture.h"
+
+namespace standin {
+namespace {
+
+constexpr const char* kModelerServers[] = {"Orlo:SkelegonSelector", "Orlo:SkelegonRenamer", "Orlo:SkelegonProperty"};
+
+constexpr const char* kBothRequired[] = {
+    "Animation Envelopes 4", "Channel Info 3",      "Color Picker",      "ContextMenuServices 2", "Directory Info 2",
+    "File Request",          "File Request 3",      "Image Utility 6",   "LW Image List 9",       "Info Messages 4",
+    "Instance Update",       "Locale Info",         "LWPanelServices 3", "RasterServices 4",      "Scene Objects 9",
+    "LWShelfFuncs 2",        "Surface Functions 6", "LWXPanel 3",        "LSUniversalRequester",  "LW Communication Ring",
+    "NodeInputFuncs 5",      "NodeOutputFuncs 4",   "NodeFuncs 3",       "Instance Update",       "LW Light Info 6",
+};
+constexpr const char* kLayoutRequired[] = {
+    "LW Bone Info 7",    "LW Fog Info",      "LW Camera Info 10", "LW Interface Info 8",  "LW Item Info 9",
+    "LW Object Info 14", "LW Scene Info 12", "LW Time Info",      "LW Command Interface",
+};
+constexpr const char* kModelerRequired[] = {"LWM: Dynamic Monitor 2", "LWM: State Query 5"};
+
+class LayoutActivation : public ConversionTest {};
+
+TEST_F(LayoutActivation, RefusesAWrongInterfaceVersion) {
+  for (const int version : {0, 4, 6, 8}) EXPECT_EQ(host.activate(module, kOptimize, version), 1) << version;
+  EXPECT_TRUE(globals().asked().empty());
+}
+
+TEST_F(LayoutActivation, RefusesAnotherHostReleaseBeforeAskingForAnythingElse) {
+  for (const std::uint32_t product : {0x08E00641u, 0x00000641u, 0x00000000u}) {
+    globals().clearAsked();
+    host.setProductInfo(product);
+    EXPECT_EQ(host.activate(module, kOptimize), 1);
+    EXPECT_EQ(globals().asked(), std::vector<std::string>{"Product Info"});
+  }
+}
+
+TEST_F(LayoutActivation, LooksAtTheMajorReleaseOnly) {
+  for (const std::uint32_t product : {0x00F00000u, 0xFFFFFFFFu, 0x08F00642u}) {
+    host.setProductInfo(product);
+    EXPECT_EQ(host.activate(module, kOptimize), 0);
+  }
+}
+
+TEST_F(LayoutActivation, AsksForItsServicesInTheirOrderAndForTheLocaleAgain) {
+  ASSERT_EQ(host.activate(module, kOptimize), 0);
+  std::vector<std::string> wanted = {"Product Info"};
+  wanted.insert(wanted.end(), std::begin(kLayoutRequired), std::end(kLayoutRequired));
+  wanted.insert(wanted.end(), std::begin(kBothRequired), std::end(kBothRequired));
+  wanted.emplace_back("Locale Info");
+  EXPECT_EQ(globals().asked(), wanted);
+}
+
+TEST_F(LayoutActivation, GivesTwoWithoutAnyOneOfItsServices) {
+  for (const auto& group : {std::span<const char* const>(kLayoutRequired), std::span<const char* const>(kBothRequired)}) {
+    for (const char* const name : group) {
+      globals().withhold(name);
+      EXPECT_EQ(host.activate(module, kOptimize), 2) << name;
+      globals().giveBack(name);
+    }
+  }
+  EXPECT_TRUE(panels().all().empty());
+}
+
+TEST_F(LayoutActivation, CountsALocaleOfZeroAsMissing) {
+  host.setLocale(0);
+  EXPECT_EQ(host.activate(module, kOptimize), 2);
+}
+
+TEST_F(LayoutActivation, TellsThePanelServicesHowToLookUp) {
+  ASSERT_EQ(host.activate(module, kOptimize), 0);
+  EXPECT_EQ(panelServices()->globalFun, Globals::lookup());
+}
+
+TEST_F(LayoutActivation, ReportsARunThatMadeNoPanelAndIsDoneAllTheSame) {
+  // The lookups come first; one call further on the panel is created.
+  ASSERT_EQ(host.activate(module, kOptimize), 0);
+  const std::uint64_t lookups = globals().asked().size();
+  for (Panel* const panel : panels().all()) std::ignore = person::close(panel);
+  panels().moduleUnloaded();
+  module.unload();
+  ASSERT_EQ(module.load(modulePath()), "");
+  witness().refuseCall(lookups + 1);
+  EXPECT_EQ(host.activate(module, kOptimize), 0);
+  EXPECT_EQ(witness().refusedFunction(), "panel create");
+  EXPECT_TRUE(statusSays("*** ERROR:  ***")) << host.transcript().text();
+}
+
+// Modeler's services as far as an activation asks for them. Nothing behind them is called: the runs of these tests fail before.
+class ModelerActivation : public testing::Test {
+ protected:
+  void SetUp() override {
+    witness().reset();
+    globals().reset();
+    for (const char* const name : kBothRequired) globals().offerPresence({name});
+    for (const char* const name : kModelerRequired) globals().offerPresence({name});
+    globals().offerNumber("Product Info", kProductInfo);
+    globals().offerNumber("Locale Info", kLocaleEnglish);
+    command.data = &command;
+    command.argument = "";
+    command.evaluate = [](void*, const char*) { return 0; };
+    command.editBegin2 = [](int, int, int, int) -> lw::MeshEditOp* { return nullptr; };
+    command.undoGroupBegin = command.undoGroupEnd = [] {};
+    ASSERT_EQ(module.load(modulePath()), "");
+  }
+  void TearDown() override {
+    module.unload();
+    EXPECT_EQ(witness().report(), "");
+  }
+
+  std::size_t timesAsked(const std::string& name) const {
+    const auto& asked = globals().asked();
+    return static_cast<std::size_t>(std::count(asked.begin(), asked.end(), name));
+  }
+
+  lw::LWModCommand command{};
+  ModuleFile module;
+};
+
+TEST_F(ModelerActivation, RefusesAWrongInterfaceVersion) {
+  for (const char* const server : kModelerServers) {
+    for (const int version : {0, 3, 5, 7}) EXPECT_EQ(module.activate(server, version, &command), 1) << server << version;
+  }
+}
+
+TEST_F(ModelerActivation, RefusesAnotherHostReleaseBeforeAskingForAnythingElse) {
+  globals().offerNumber("Product Info", 0x08E00641);
+  for (const char* const server : kModelerServers) {
+    globals().clearAsked();
+    EXPECT_EQ(module.activate(server, 4, &command), 1) << server;
+    EXPECT_EQ(globals().asked(), std::vector<std::string>{"Product Info"});
+  }
+}
+
+TEST_F(ModelerActivation, GivesTwoWithoutAnyOneOfItsServices) {
+  for (const char* const server : kModelerServers) {
+    for (const auto& group : {std::span<const char* const>(kModelerRequired), std::span<const char* const>(kBothRequired)}) {
+      for (const char* const name : group) {
+        globals().withhold(name);
+        EXPECT_EQ(module.activate(server, 4, &command), 2) << server << " without " << name;
+        globals().giveBack(name);
+      }
+    }
+  }
+}
+
+TEST_F(ModelerActivation, GivesTwoWithoutAnyOneOfTheCommandsMembers) {
+  for (const char* const server : kModelerServers) {
+    lw::LWModCommand without = command;
+    without.data = nullptr;
+    EXPECT_EQ(module.activate(server, 4, &without), 2);
+    without = command;
+    without.evaluate = nullptr;
+    EXPECT_EQ(module.activate(server, 4, &without), 2);
+    without = command;
+    without.editBegin2 = nullptr;
+    EXPECT_EQ(module.activate(server, 4, &without), 2);
+    EXPECT_EQ(module.activate(server, 4, nullptr), 2);
+  }
+}
+
+TEST_F(ModelerActivation, LetsTheSelectorAskForTheLargerTableAlsoWhenSomethingIsMissing) {
+  globals().withhold("LSUniversalRequester");
+  EXPECT_EQ(module.activate("Orlo:SkelegonSelector", 4, &command), 2);
+  EXPECT_EQ(timesAsked("Texture Editor 3"), 1u);
+}
+
+TEST_F(ModelerActivation, LetsTheRenamerGiveUpBeforeTheLargerTable) {
+  globals().withhold("LSUniversalRequester");
+  EXPECT_EQ(module.activate("Orlo:SkelegonRenamer", 4, &command), 2);
+  EXPECT_EQ(timesAsked("Texture Editor 3"), 0u);
+}
+
+TEST_F(ModelerActivation, LeavesTheLargerTableOutOfThePropertyTool) {
+  globals().withhold("LW Light Info 6");  // the last one: everything before it is asked for
+  EXPECT_EQ(module.activate("Orlo:SkelegonProperty", 4, &command), 2);
+  EXPECT_EQ(timesAsked("Texture Functions 6"), 0u);
+}
+
+TEST_F(ModelerActivation, FillsTheLargerTableOnce) {
+  globals().withhold("LW Light Info 6");
+  module.activate("Orlo:SkelegonSelector", 4, &command);
+  module.activate("Orlo:SkelegonSelector", 4, &command);
+  EXPECT_EQ(timesAsked("Texture Editor 3"), 1u);
+}
+
+TEST_F(ModelerActivation, AsksForTheLargerTableInItsOrder) {
+  globals().withhold("LWM: Dynamic Monitor 2");
+  module.activate("Orlo:SkelegonSelector", 4, &command);
+  const std::vector<std::string> wanted = {"Product Info",
+                                           "LWM: Dynamic Monitor 2",
+                                           "LWM: State Query 5",
+                                           "LWM: Dynamic Monitor 2",
+                                           "Surface Functions 6",
+                                           "Texture Functions 6",
+                                           "LWVParmFuncs 4",
+                                           "Animation Envelopes 4",
+                                           "LW Item Info 9",
+                                           "LW Object Info 14",
+                                           "Scene Objects 9",
+                                           "LW Scene Info 12",
+                                           "NodeInputFuncs 5",
+                                           "NodeOutputFuncs 4",
+                                           "NodeFuncs 3",
+                                           "NodeEditorFuncs 7",
+                                           "Instance Update",
+                                           "LW Light Info 6",
+                                           "File Type Pattern",
+                                           "Directory Info 2",
+                                           "LWXPanel 3",
+                                           "LWPanelServices 3",
+                                           "Image Utility 6",
+                                           "LW Image List 9",
+                                           "LW Communication Ring",
+                                           "File Request 3",
+                                           "LW Interface Info 8",
+                                           "LW Camera Info 10",
+                                           "LW Viewport Info 9",
+                                           "Channel Info 3",
+                                           "LW Time Info",
+                                           "Info Messages 4",
+                                           "RasterServices 4",
+                                           "ContextMenuServices 2",
+                                           "LWColorSpace",
+                                           "AOV Functions",
+                                           "LW Backdrop Info 3",
+                                           "LW Bone Info 7",
+                                           "Buffer List Global 2",
+                                           "BSDF Functions 2",
+                                           "LW Camera Evaluation Funcs 4",
+                                           "LW Compositing Info",
+                                           "Dopetrack Proxy 2",
+                                           "Fiber Info 2",
+                                           "LW Fog Info",
+                                           "ItemInstancerFuncs 2",
+                                           "ItemInstanceInfo",
+                                           "LWM: Dynamic Monitor",
+                                           "LW List Info",
+                                           "Particle Services 3",
+                                           "LW Timer",
+                                           "LW Base Funcs 2",
+                                           "Color Picker",
+                                           "File IO 5",
+                                           "Mesh Functions 2",
+                                           "LWShelfFuncs 2",
+                                           "SurfaceEditor Functions 2",
+                                           "Texture Editor 3"};
+  EXPECT_EQ(globals().asked(), wanted);
+}
+
+TEST(ServerTable, ListsFourServersWithoutFurtherTexts) {
+  ModuleFile module;
+  ASSERT_EQ(module.load(modulePath()), "");
+  const char* const wanted[][2] = {{"CommandSequence", "Orlo:SkelegonSelector"},
+                                   {"CommandSequence", "Orlo:SkelegonRenamer"},
+                                   {"CommandSequence", "Orlo:SkelegonProperty"},
+                                   {"LayoutGeneric", "Orlo:SkelegonOptimize"}};
+  ASSERT_EQ(module.servers().size(), 4u);
+  for (std::size_t i = 0; i < 4; ++i) {
+    EXPECT_STREQ(module.servers()[i].className, wanted[i][0]);
+    EXPECT_STREQ(module.servers()[i].name, wanted[i][1]);
+    EXPECT_EQ(module.servers()[i].tagInfo, nullptr);
+  }
+}
+
+}  // namespace
+}  // namespace standin

@@ -1,0 +1,145 @@
+// The reading position and the primitives of a file stream.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <filesystem>
+
+#include "layout/CFileStream.h"
+#include "tests/unit/object_reader_fixture.h"
+
+namespace lwp::st {
+namespace {
+
+using varnel::test::Bytes;
+using varnel::test::TemporaryFile;
+
+TEST(FileStream, ReadsNumbersHighestByteFirst) {
+  const Bytes bytes = Bytes().u1(0x12).u1(0x34).u1(0x89).u1(0xAB).u1(0xCD).u1(0xEF);
+  CFileStream stream(bytes.span());
+  std::uint16_t two = 0;
+  std::uint32_t four = 0;
+  EXPECT_TRUE(stream.readU2(two) && stream.readU4(four));
+  EXPECT_EQ(two, 0x1234);
+  EXPECT_EQ(four, 0x89ABCDEFU);
+  EXPECT_TRUE(stream.atEnd());
+}
+
+TEST(FileStream, ReadsFloats) {
+  const Bytes bytes = Bytes().u4(0xC0490FDB).u4(0x3F800000).u4(0).u4(0x7F800000);
+  CFileStream stream(bytes.span());
+  float pi = 0;
+  Vec12 vector{};
+  EXPECT_TRUE(stream.readF4(pi) && stream.readVEC12(vector));
+  EXPECT_FLOAT_EQ(pi, -3.14159274F);
+  EXPECT_EQ(vector.x, 1.0F);
+  EXPECT_EQ(vector.y, 0.0F);
+  EXPECT_TRUE(std::isinf(vector.z));
+}
+
+TEST(FileStream, PassesOneMoreZeroBehindATextOfOddLengthWithItsZero) {
+  const Bytes bytes = Bytes().text("ab").u2(0).text("abc").u1(0).u2(0).text("x").u1(0);
+  CFileStream stream(bytes.span());
+  std::string_view text;
+  std::vector<std::string> texts;
+  while (stream.readS0(text)) texts.emplace_back(text);
+  EXPECT_EQ(texts, (std::vector<std::string>{"ab", "abc", "", "x"}));
+  EXPECT_TRUE(stream.atEnd());
+}
+
+TEST(FileStream, ReadsIndicesOfTwoAndFourBytes) {
+  const Bytes bytes = Bytes().u2(0).u2(0xFEFF).u4(0xFF00FF00).u4(0xFFFFFFFF).u4(0xFF000001);
+  CFileStream stream(bytes.span());
+  std::uint32_t index = 0;
+  std::vector<std::uint32_t> indices;
+  while (stream.readVX(index)) indices.push_back(index);
+  EXPECT_EQ(indices, (std::vector<std::uint32_t>{0, 0xFEFF, 0xFF00, 0xFFFFFF, 1}));
+  EXPECT_TRUE(stream.atEnd());
+}
+
+// One way to read, and how many bytes it is given: always too few.
+struct ShortRead {
+  const char* name;
+  std::vector<std::byte> bytes;
+  bool (*read)(CFileStream&);
+};
+
+template <class Value, bool (CFileStream::*Read)(Value&)>
+bool readOne(CFileStream& stream) {
+  Value value{};
+  return (stream.*Read)(value);
+}
+
+class FileStreamPastTheEnd : public testing::TestWithParam<ShortRead> {};
+
+TEST_P(FileStreamPastTheEnd, FailsWithoutMoving) {
+  std::vector<std::byte> bytes{std::byte{1}, std::byte{2}};
+  bytes.insert(bytes.end(), GetParam().bytes.begin(), GetParam().bytes.end());
+  CFileStream stream(bytes);
+  std::uint16_t before = 0;
+  ASSERT_TRUE(stream.readU2(before));
+  EXPECT_FALSE(GetParam().read(stream));
+  EXPECT_EQ(stream.position(), 2U);
+  EXPECT_EQ(stream.left(), GetParam().bytes.size());
+}
+
+std::vector<std::byte> zeros(std::size_t count) { return std::vector<std::byte>(count); }
+
+bool readWindowOfThree(CFileStream& stream) {
+  CFileStream window;
+  return stream.readWindow(3, window);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , FileStreamPastTheEnd,
+    testing::Values(ShortRead{"NothingForU2", zeros(0), readOne<std::uint16_t, &CFileStream::readU2>},
+                    ShortRead{"OneByteForU2", zeros(1), readOne<std::uint16_t, &CFileStream::readU2>},
+                    ShortRead{"ThreeBytesForU4", zeros(3), readOne<std::uint32_t, &CFileStream::readU4>},
+                    ShortRead{"ThreeBytesForF4", zeros(3), readOne<float, &CFileStream::readF4>},
+                    ShortRead{"ElevenBytesForVec12", zeros(11), readOne<Vec12, &CFileStream::readVEC12>},
+                    ShortRead{"NothingForS0", zeros(0), readOne<std::string_view, &CFileStream::readS0>},
+                    ShortRead{"NoZeroForS0", Bytes().text("abc").bytes(), readOne<std::string_view, &CFileStream::readS0>},
+                    ShortRead{"NoPaddingForS0", zeros(1), readOne<std::string_view, &CFileStream::readS0>},
+                    ShortRead{"NothingForVX", zeros(0), readOne<std::uint32_t, &CFileStream::readVX>},
+                    ShortRead{"OneByteForVX", zeros(1), readOne<std::uint32_t, &CFileStream::readVX>},
+                    ShortRead{"ThreeBytesForLongVX", Bytes().u1(0xFF).u2(0).bytes(),
+                              readOne<std::uint32_t, &CFileStream::readVX>},
+                    ShortRead{"TwoBytesForAWindowOfThree", zeros(2), readWindowOfThree}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(FileStream, AWindowEndsWhereItWasToldTo) {
+  const Bytes bytes = Bytes().u2(1).u2(2).u2(3);
+  CFileStream stream(bytes.span());
+  CFileStream window;
+  ASSERT_TRUE(stream.readWindow(4, window));
+  std::uint32_t four = 0;
+  std::uint16_t two = 0;
+  EXPECT_TRUE(window.readU4(four));
+  EXPECT_FALSE(window.readU2(two));
+  EXPECT_TRUE(stream.readU2(two));
+  EXPECT_EQ(two, 3);
+}
+
+TEST(FileStream, LoadsAWholeFile) {
+  const Bytes bytes = Bytes().text("a\r\n\x1A\xFF").u1(0).text("b");
+  const TemporaryFile file(bytes.span());
+  CFileStream stream;
+  ASSERT_TRUE(stream.load(file.path()));
+  EXPECT_EQ(std::vector(stream.rest().begin(), stream.rest().end()), bytes.bytes());
+}
+
+TEST(FileStream, LoadsNothingWhereThereIsNoFile) {
+  const TemporaryFile file(Bytes().text("before").span());
+  CFileStream stream;
+  ASSERT_TRUE(stream.load(file.path()));
+  EXPECT_FALSE(stream.load(file.path() + ".missing"));
+  EXPECT_EQ(stream.left(), 0U);
+}
+
+TEST(FileStream, LoadsNoFolder) {
+  CFileStream stream;
+  EXPECT_FALSE(stream.load(std::filesystem::temp_directory_path().string()));
+  EXPECT_TRUE(stream.atEnd());
+}
+
+}  // namespace
+}  // namespace lwp::st
