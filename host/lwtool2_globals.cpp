@@ -205,6 +205,8 @@ bool AcquireHostGlobals(Program program, GlobalFunc global, const void* local) {
   return program == Program::Layout || copyCommandData(local);
 }
 
+void resetHostState() { state() = HostState(); }
+
 ModelerFunctions& modelerFunctions() { return state().modelerFunctions; }
 
 void AcquireModelerFunctions(ModelerFunctions& table, GlobalFunc global, const void* local) {

@@ -60,6 +60,9 @@ inline constexpr std::size_t kServiceCount = static_cast<std::size_t>(Service::L
 // LWModCommand; ignored in Layout). False at the first thing missing: slots before it are new, it and later ones unchanged.
 bool AcquireHostGlobals(Program program, GlobalFunc global, const void* local);
 
+// Forgets everything that was acquired, as if the module were new. For tests, which begin many sessions in one process.
+void resetHostState();
+
 // A second, larger record of Modeler services. Filled once and kept: its command data are those of the first activation,
 // so mesh edits and commands that must be current go through the slots above.
 struct ModelerFunctions {

@@ -214,6 +214,7 @@ Arrival arrivalOf(const Scene& scene, const Item& bone, const StoredBySlot& stor
   if (const std::optional<Arrival> onHelper = arrivalOnHelper(look, slot)) return *onHelper;
   if (look.text(slot).empty()) return Arrival::NotSent;
   const Item* const wanted = scene.find(look.text(slot));
+  if (wanted == nullptr && slot == 51) return Arrival::NotSent;  // a parent is never made
   return is(wanted != nullptr && linked(bone, slot) == wanted);
 }
 
