@@ -61,4 +61,5 @@ start_wine() {
   fi
 }
 
-wine_run() { LC_ALL=ja_JP.UTF-8 xvfb-run -a wine "$@"; }
+# One program, with a limit: a program that hangs there would hold everything up.
+wine_run() { LC_ALL=ja_JP.UTF-8 timeout --kill-after=10 "${WINE_SECONDS:-300}" xvfb-run -a wine "$@" 2> >(grep -v '^X connection to' >&2); }

@@ -98,8 +98,8 @@ TEST(Identifier, IsUniqueInItsLowerHalfAndKnownInFullOnly) {
   Item& b = scene.addNull("B");
   EXPECT_NE(a.number, b.number);
   EXPECT_EQ(scene.byId(scene.idOf(&a)), &a);
-  EXPECT_EQ(scene.byId(reinterpret_cast<lw::ItemId>(std::uintptr_t{a.number})),
-            nullptr);  // NOLINT(performance-no-int-to-ptr)
+  const auto half = reinterpret_cast<lw::ItemId>(std::uintptr_t{a.number});  // NOLINT(performance-no-int-to-ptr)
+  EXPECT_EQ(scene.byId(half), nullptr);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------

@@ -112,6 +112,9 @@ TEST(ObjectFormat, AChunkOfOddSizeIsFollowedByAPadByte) {
   std::vector<Chunk> chunks = smallRig();
   chunks.insert(chunks.begin(), Chunk{id("XODD"), "abc", 'p'});
   const std::string bytes = file(chunks);
+  EXPECT_EQ(bytes.substr(12, 16), std::string("XODD\0\0\0\x03"
+                                              "abcpTAGS",
+                                              16));
   const auto object = parseObject(bytes);
   ASSERT_TRUE(object) << object.why();
   EXPECT_EQ(object->layers.size(), 1U);

@@ -1,0 +1,357 @@
+// The functions of an open mesh edit.
+#include <algorithm>
+#include <utility>
+
+#include "standin/core/gap_slots.h"
+#include "standin/modeler/mesh_edit.h"
+#include "standin/modeler/session.h"
+
+namespace standin {
+
+template <>
+inline constexpr const char* kTableName<lw::MeshEditOp> = "MeshEditOp";
+
+namespace {
+
+constexpr int kKnownAfterFlags = 0xF;
+
+// Stands at the head of every function of an edit.
+class EditCall : public ModelerCall {
+ public:
+  EditCall(const char* function, lw::EditId state) : ModelerCall(function), edits_(find(state)) {}
+
+  // Null, with a fault, when the state is not that of the open edit. A refused call still knows its edit.
+  MeshEdits* edits() const { return edits_; }
+
+  // The polygon, flagged as deleted or not; null, with a fault, for anything that is not a polygon of the edited object.
+  MeshPolygon* polygon(lw::PolygonId id) const {
+    const Handles::Element* element = modelerSession()->handles.find(id);
+    if (!belongs(element, id == nullptr, "polygon")) return nullptr;
+    const MeshPolygon& found = edits_->object()->polygon(id);
+    if (found.gone) {
+      fault("was given a polygon that was deleted");
+      return nullptr;
+    }
+    return const_cast<MeshPolygon*>(&found);
+  }
+
+  // As polygon(), but a polygon that is flagged as deleted is a fault too: it is for functions that change something.
+  MeshPolygon* changeablePolygon(lw::PolygonId id) const {
+    MeshPolygon* found = polygon(id);
+    if (found != nullptr && found->deleted) {
+      fault("was given a polygon that is flagged as deleted");
+      return nullptr;
+    }
+    return found;
+  }
+
+  const MeshPoint* point(lw::PointId id) const {
+    const Handles::Element* element = modelerSession()->handles.find(id);
+    if (!belongs(element, id == nullptr, "point")) return nullptr;
+    return &edits_->object()->points()[element->place];
+  }
+
+ private:
+  MeshEdits* find(lw::EditId state) const {
+    ModelerSession* session = modelerSession();
+    if (session == nullptr) return nullptr;
+    if (session->edits.isCurrent(state)) return &session->edits;
+    fault(session->edits.wasCurrent(state) ? "was used on an edit that is done" : "was given something that is no edit");
+    return nullptr;
+  }
+
+  bool belongs(const Handles::Element* element, bool isNull, const char* kind) const {
+    if (isNull) {
+      fault(std::string("was given no ") + kind);
+    } else if (element == nullptr) {
+      fault(std::string("was given something that is no ") + kind);
+    } else if (element->object == nullptr) {
+      fault(std::string("was given a ") + kind + " of an object that is closed");
+    } else if (element->object != edits_->object()) {
+      fault(std::string("was given a ") + kind + " of another object");
+    } else {
+      return true;
+    }
+    return false;
+  }
+
+  MeshEdits* edits_;
+};
+
+int flagsOf(const MeshEdits& edits, const MeshPolygon& polygon) {
+  return (edits.countsAsSelected(polygon) ? lw::kElementSelected : 0) | (polygon.deleted ? lw::kElementDeleted : 0);
+}
+
+void fillRecord(lw::EDPolygonInfo& record, LentPoints& points, LentText& surface, const MeshEdits& edits,
+                const MeshPolygon& polygon) {
+  points.expire();
+  surface.expire();
+  scribble(record);
+  record = {};
+  record.pol = polygon.id;
+  record.layer = polygon.layer;
+  record.flags = flagsOf(edits, polygon);
+  record.numPnts = static_cast<int>(polygon.points.size());
+  record.points = points.lend(polygon.points);
+  const std::string* name = polygon.content.tag(kTagSurface);
+  record.surface = surface.lend(name == nullptr ? "Default" : std::string_view(*name));
+  record.type = polygon.type;
+  record.typeFlags = polygon.content.flags;
+}
+
+// --- ending --------------------------------------------------------------------------------------------------------------
+
+void done(lw::EditId state, int error, int after) {
+  const EditCall call("MeshEditOp::done", state);
+  MeshEdits* edits = call.edits();
+  if (edits == nullptr) return;
+  if (edits->scans > 0) call.fault("ended the edit within a scan");
+  if ((after & ~kKnownAfterFlags) != 0) call.fault("was given unknown selection flags");
+  // The one way in which this call can fail: nothing of the edit is kept.
+  edits->end(call.refused() ? static_cast<int>(lw::kEditNoMemory) : error, after);
+}
+
+// --- scans ---------------------------------------------------------------------------------------------------------------
+
+// Empty when the call cannot scan; the answer is in `result` then.
+std::vector<const MeshPolygon*> scanned(const EditCall& call, bool hasCallback, int layers, int& result) {
+  result = lw::kEditBadArguments;
+  if (call.edits() == nullptr) return {};
+  if (!hasCallback) {
+    call.fault("was given no callback");
+    return {};
+  }
+  result = lw::kEditNoMemory;
+  if (call.refused()) return {};
+  result = lw::kEditNoError;
+  const ModelerObject* object = call.edits()->object();
+  if (object == nullptr) return {};
+  const auto chosen = object->chosen(layers);
+  if (chosen) return object->scan(*chosen);
+  call.fault("was asked for the unknown layer choice " + std::to_string(layers));
+  result = lw::kEditBadLayer;
+  return {};
+}
+
+// Calls back for each polygon until a call answers with something else than 0. That answer is the scan's.
+template <class Deliver>
+int deliver(MeshEdits& edits, const std::vector<const MeshPolygon*>& polygons, int result, Deliver&& one) {
+  if (result != lw::kEditNoError) return result;
+  ++edits.scans;
+  for (const MeshPolygon* polygon : polygons) {
+    const std::optional<int> answer = callModule("polygon scan callback", [&] { return one(*polygon); });
+    result = answer.value_or(lw::kEditUserAbort);
+    if (result != 0 || !edits.isOpen()) break;
+  }
+  --edits.scans;
+  return result;
+}
+
+int fastPolyScan(lw::EditId state, lw::FastPolygonScan callback, void* user, int layers, int selectedOnly) {
+  const EditCall call("MeshEditOp::fastPolyScan", state);
+  int result = 0;
+  std::vector<const MeshPolygon*> polygons = scanned(call, callback != nullptr, layers, result);
+  if (call.edits() == nullptr) return result;
+  if (selectedOnly != 0) {
+    std::erase_if(polygons, [&](const MeshPolygon* polygon) { return !call.edits()->countsAsSelected(*polygon); });
+  }
+  return deliver(*call.edits(), polygons, result, [&](const MeshPolygon& polygon) { return callback(user, polygon.id); });
+}
+
+int polyScan(lw::EditId state, lw::SlowPolygonScan callback, void* user, int layers) {
+  const EditCall call("MeshEditOp::polyScan", state);
+  int result = 0;
+  const std::vector<const MeshPolygon*> polygons = scanned(call, callback != nullptr, layers, result);
+  if (call.edits() == nullptr) return result;
+  MeshEdits& edits = *call.edits();
+  result = deliver(edits, polygons, result, [&](const MeshPolygon& polygon) {
+    fillRecord(edits.scanRecord, edits.scanPoints, edits.scanSurface, edits, polygon);
+    return callback(user, &edits.scanRecord);
+  });
+  edits.scanPoints.expire();
+  scribble(edits.scanRecord);
+  return result;
+}
+
+// --- queries -------------------------------------------------------------------------------------------------------------
+
+lw::EDPolygonInfo* polyInfo(lw::EditId state, lw::PolygonId id) {
+  const EditCall call("MeshEditOp::polyInfo", state);
+  if (call.edits() == nullptr) return nullptr;
+  const MeshPolygon* polygon = call.polygon(id);
+  if (polygon == nullptr || call.refused()) return nullptr;
+  MeshEdits& edits = *call.edits();
+  fillRecord(edits.polygonRecord, edits.recordPoints, edits.recordSurface, edits, *polygon);
+  return &edits.polygonRecord;
+}
+
+lw::EDPointInfo* pointInfo(lw::EditId state, lw::PointId id) {
+  const EditCall call("MeshEditOp::pointInfo", state);
+  if (call.edits() == nullptr) return nullptr;
+  const MeshPoint* point = call.point(id);
+  if (point == nullptr || call.refused()) return nullptr;
+  lw::EDPointInfo& record = call.edits()->pointRecord;
+  scribble(record);
+  record = {};
+  record.pnt = point->id;
+  record.layer = point->layer;
+  record.flags = call.edits()->selectionMode() == lw::kEditAll ? lw::kElementSelected : 0;
+  std::copy(point->position.begin(), point->position.end(), record.position);
+  return &record;
+}
+
+void pointPos(lw::EditId state, lw::PointId id, double out[3]) {
+  const EditCall call("MeshEditOp::pointPos", state);
+  if (out == nullptr) {
+    call.fault("was given no room for the position");
+    return;
+  }
+  std::fill(out, out + 3, 0.0);
+  if (call.edits() == nullptr) return;
+  const MeshPoint* point = call.point(id);
+  if (point != nullptr && !call.refused()) std::copy(point->position.begin(), point->position.end(), out);
+}
+
+std::uint32_t polyType(lw::EditId state, lw::PolygonId id) {
+  const EditCall call("MeshEditOp::polyType", state);
+  if (call.edits() == nullptr) return 0;
+  const MeshPolygon* polygon = call.polygon(id);
+  return polygon == nullptr || call.refused() ? 0 : polygon->type;
+}
+
+int polyPoints(lw::EditId state, lw::PolygonId id, const lw::PointId** out) {
+  const EditCall call("MeshEditOp::polyPoints", state);
+  if (out == nullptr) {
+    call.fault("was given no room for the points");
+    return 0;
+  }
+  *out = nullptr;
+  if (call.edits() == nullptr) return 0;
+  const MeshPolygon* polygon = call.polygon(id);
+  if (polygon == nullptr || call.refused()) return 0;
+  call.edits()->lentPoints.expire();
+  *out = call.edits()->lentPoints.lend(polygon->points);
+  return static_cast<int>(polygon->points.size());
+}
+
+int polyFlags(lw::EditId state, lw::PolygonId id) {
+  const EditCall call("MeshEditOp::polyFlags", state);
+  if (call.edits() == nullptr) return 0;
+  const MeshPolygon* polygon = call.polygon(id);
+  return polygon == nullptr || call.refused() ? 0 : flagsOf(*call.edits(), *polygon);
+}
+
+int polyLayer(lw::EditId state, lw::PolygonId id) {
+  const EditCall call("MeshEditOp::polyLayer", state);
+  if (call.edits() == nullptr) return 0;
+  const MeshPolygon* polygon = call.polygon(id);
+  return polygon == nullptr || call.refused() ? 0 : polygon->layer;
+}
+
+// The newest text that the open edit has set, when edits show their own changes.
+const TagChange* ownChange(const MeshEdits& edits, const MeshPolygon& polygon, std::uint32_t type) {
+  if (!modelerSession()->options.editsShowOwnChanges) return nullptr;
+  const TagChange* newest = nullptr;
+  for (const MeshChange& change : edits.buffered()) {
+    const auto* tag = std::get_if<TagChange>(&change);
+    if (tag != nullptr && tag->polygon == &polygon && tag->type == type) newest = tag;
+  }
+  return newest;
+}
+
+const char* polyTag(lw::EditId state, lw::PolygonId id, std::uint32_t type) {
+  const EditCall call("MeshEditOp::polyTag", state);
+  if (call.edits() == nullptr) return nullptr;
+  const MeshPolygon* polygon = call.polygon(id);
+  if (polygon == nullptr || call.refused()) return nullptr;
+  LentText& text = modelerSession()->text;
+  if (const TagChange* own = ownChange(*call.edits(), *polygon, type)) return own->after ? text.lend(*own->after) : nullptr;
+  const std::string* stored = polygon->content.tag(type);
+  return stored == nullptr ? nullptr : text.lend(*stored);
+}
+
+int vMapExists(lw::EditId state, const char* name, std::uint32_t type) {
+  const EditCall call("MeshEditOp::vMapExists", state);
+  if (call.edits() == nullptr) return 0;
+  if (name == nullptr) {
+    call.fault("was given no name");
+    return 0;
+  }
+  if (call.refused()) return 0;
+  const auto& maps = modelerSession()->maps;
+  return std::find(maps.begin(), maps.end(), std::pair(type, std::string(name))) == maps.end() ? 0 : 1;
+}
+
+// --- changes -------------------------------------------------------------------------------------------------------------
+
+int polTag(lw::EditId state, lw::PolygonId id, std::uint32_t type, const char* text) {
+  // Copied before anything else: it may be a text that the host itself lent.
+  std::optional<std::string> given = text == nullptr ? std::nullopt : std::optional<std::string>(text);
+  const EditCall call("MeshEditOp::polTag", state);
+  if (call.edits() == nullptr) return lw::kEditBadArguments;
+  if (call.edits()->maySelect()) {
+    call.fault("was used in an edit that may only query and select");
+    return lw::kEditBadArguments;
+  }
+  MeshPolygon* polygon = call.changeablePolygon(id);
+  if (polygon == nullptr) return lw::kEditBadArguments;
+  if (!given && type == kTagSurface) {
+    call.fault("was asked to remove a surface, which every polygon has");
+    return lw::kEditBadSurface;
+  }
+  if (call.refused()) return lw::kEditNoMemory;
+  if (given && given->empty() && modelerSession()->options.emptyTagRemoves) given.reset();
+  call.edits()->buffer(TagChange{polygon, type, std::nullopt, std::move(given)});
+  return lw::kEditNoError;
+}
+
+int polSelect(lw::EditId state, lw::PolygonId id, int on) {
+  const EditCall call("MeshEditOp::polSelect", state);
+  if (call.edits() == nullptr) return lw::kEditBadArguments;
+  if (!call.edits()->maySelect()) {
+    call.fault("was used in an edit that was not begun for selecting");
+    return lw::kEditBadArguments;
+  }
+  MeshPolygon* polygon = call.changeablePolygon(id);
+  if (polygon == nullptr) return lw::kEditBadArguments;
+  if (call.refused()) return lw::kEditNoMemory;
+  // Nothing outside the foreground can be selected; the call is no mistake, but does nothing.
+  if (call.edits()->object()->layer(polygon->layer)->foreground) {
+    call.edits()->buffer(SelectionChange{polygon, false, on != 0});
+  }
+  return lw::kEditNoError;
+}
+
+}  // namespace
+
+lw::MeshEditOp meshEditFunctions() {
+  lw::MeshEditOp op{};
+  op.done = &done;
+  STANDIN_FILL_GAP(op, 24);
+  op.polyScan = &polyScan;
+  op.pointInfo = &pointInfo;
+  op.polyInfo = &polyInfo;
+  STANDIN_FILL_GAP(op, 72);
+  op.polTag = &polTag;
+  STANDIN_FILL_GAP(op, 184);
+  op.polyTag = &polyTag;
+  STANDIN_FILL_GAP(op, 240);
+  op.polSelect = &polSelect;
+  STANDIN_FILL_GAP(op, 256);
+  op.pointPos = &pointPos;
+  STANDIN_FILL_GAP(op, 360);
+  op.polyType = &polyType;
+  op.polyPoints = &polyPoints;
+  STANDIN_FILL_GAP(op, 384);
+  op.polyFlags = &polyFlags;
+  STANDIN_FILL_GAP(op, 408);
+  op.fastPolyScan = &fastPolyScan;
+  STANDIN_FILL_GAP(op, 456);
+  op.polyLayer = &polyLayer;
+  STANDIN_FILL_GAP(op, 480);
+  op.vMapExists = &vMapExists;
+  STANDIN_FILL_GAP(op, 560);
+  return op;
+}
+
+}  // namespace standin

@@ -1,0 +1,29 @@
+// "Info Messages 4": what the module tells and asks the user, and the answers that a test laid ready.
+#pragma once
+
+#include <deque>
+#include <string>
+#include <vector>
+
+namespace standin {
+
+enum class MessageKind { info, error, warning, okCancel, yesNo, yesNoCancel, yesNoAll };
+
+// What the user presses. `yes` is also the OK of a question that has one.
+enum class Answer { cancel, no, yes, yesToAll };
+
+struct Message {
+  MessageKind kind = MessageKind::info;
+  std::string title;  // of questions
+  std::string first;
+  std::string second;
+  Answer answer = Answer::no;  // to questions
+};
+
+struct MessageDesk {
+  std::vector<Message> shown;
+  // For the questions to come. A question without an answer laid ready is a fault and is answered with no.
+  std::deque<Answer> answers;
+};
+
+}  // namespace standin

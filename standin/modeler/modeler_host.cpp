@@ -1,0 +1,258 @@
+#include "standin/modeler/modeler_host.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "standin/panels/services.h"
+
+namespace standin {
+namespace {
+
+ModelerSession* theSession = nullptr;
+std::uint32_t sessionCount = 0;
+
+// Services that are there in Modeler, needed or asked for by modules, but called by none.
+const std::vector<std::string>& presentOnly() {
+  static const std::vector<std::string> names = {"LWM: Dynamic Monitor 2",
+                                                 "Animation Envelopes 4",
+                                                 "Channel Info 3",
+                                                 "Color Picker",
+                                                 "ContextMenuServices 2",
+                                                 "Directory Info 2",
+                                                 "File Request",
+                                                 "File Request 3",
+                                                 "Image Utility 6",
+                                                 "LW Image List 9",
+                                                 "Instance Update",
+                                                 "RasterServices 4",
+                                                 "LWShelfFuncs 2",
+                                                 "Surface Functions 6",
+                                                 "LWXPanel 3",
+                                                 "LSUniversalRequester",
+                                                 "LW Communication Ring",
+                                                 "NodeInputFuncs 5",
+                                                 "NodeOutputFuncs 4",
+                                                 "NodeFuncs 3",
+                                                 "LW Light Info 6",
+                                                 "Texture Functions 6",
+                                                 "LWVParmFuncs 4",
+                                                 "NodeEditorFuncs 7",
+                                                 "File Type Pattern",
+                                                 "LWColorSpace",
+                                                 "LWM: Dynamic Monitor",
+                                                 "File IO 5",
+                                                 "Mesh Functions 2",
+                                                 "SurfaceEditor Functions 2",
+                                                 "Texture Editor 3"};
+  return names;
+}
+
+bool hasMap(const ModelerObject& object, const std::pair<std::uint32_t, std::string>& map) {
+  return std::any_of(object.layers().begin(), object.layers().end(), [&](const MeshLayer& layer) {
+    const std::vector<VertexMap>& maps = object.maps(layer);
+    return std::any_of(maps.begin(), maps.end(),
+                       [&](const VertexMap& m) { return m.type == map.first && m.name == map.second; });
+  });
+}
+
+}  // namespace
+
+ModelerSession* modelerSession() { return theSession; }
+void setModelerSession(ModelerSession* session) { theSession = session; }
+
+void ModelerSession::listMaps(const ModelerObject& object) {
+  for (const MeshLayer& layer : object.layers()) {
+    for (const VertexMap& map : object.maps(layer)) {
+      const std::pair entry(map.type, map.name);
+      if (std::find(maps.begin(), maps.end(), entry) == maps.end()) maps.push_back(entry);
+    }
+  }
+}
+
+ModelerCall::ModelerCall(const char* function) : HostCall(function), session_(modelerSession()) {
+  if (session_ == nullptr) {
+    fault("was called while no Modeler runs");
+  } else {
+    session_->text.expire();
+  }
+}
+
+ModelerHost::ModelerHost(const ModelerOptions& options) : session_(++sessionCount) {
+  const bool another = modelerSession() != nullptr;
+  session_.options = options;
+  setModelerSession(&session_);
+  witness().reset();
+  if (another) witness().fault("stand-in", "a second Modeler was started while one runs");
+  globals().reset();
+  offerGlobals();
+  offerPanelServices();
+  witness().afterModule([this](const char* function) {
+    if (!session_.edits.isOpen() || session_.edits.scans > 0) return;
+    witness().fault(function, "returned with a mesh edit still open");
+    session_.edits.end(lw::kEditUserAbort, 0);
+  });
+}
+
+ModelerHost::~ModelerHost() {
+  if (modelerSession() != &session_) return;
+  witness().afterModule(nullptr);
+  globals().reset();
+  setModelerSession(nullptr);
+}
+
+void ModelerHost::offerGlobals() {
+  const auto number = [](std::uint32_t value) {
+    return reinterpret_cast<void*>(static_cast<std::uintptr_t>(value));  // NOLINT(performance-no-int-to-ptr)
+  };
+  globals().offer("Product Info", [this, number] { return number(session_.options.productInfo); });
+  globals().offer("Locale Info", [this, number] { return number(session_.options.localeInfo); });
+  globals().offer("LWM: State Query 5", stateQuery());
+  globals().offer("Scene Objects 9", sceneObjects());
+  globals().offer("Info Messages 4", messageServices());
+  globals().offerPresence(presentOnly());
+}
+
+// --- the module ----------------------------------------------------------------------------------------------------------
+
+std::optional<int> ModelerHost::activate(ModuleFile& module, std::string_view server, const std::string& argument,
+                                         int version) {
+  const ActivationRecord record(argument);
+  return module.activate(server, version, record.get());
+}
+
+std::optional<int> ModelerHost::activate(lw::ActivateFunc function, const std::string& argument, int version) {
+  const ActivationRecord record(argument);
+  return callModule("activation", [&] { return function(version, Globals::lookup(), record.get(), nullptr); });
+}
+
+// --- files and objects ---------------------------------------------------------------------------------------------------
+
+Outcome<ModelerObject*> ModelerHost::open(const std::string& path) {
+  Outcome<ObjectFile> file = readObject(path);
+  if (!file) return Failure{file.why()};
+  return &add(std::move(*file), path);
+}
+
+ModelerObject& ModelerHost::add(ObjectFile file, const std::string& fileName) {
+  const std::string reference = "Unnamed " + std::to_string(++session_.objectsMade);
+  session_.objects.push_back(std::make_unique<ModelerObject>(std::move(file), fileName, reference, session_.handles));
+  session_.currentObject = session_.objects.back().get();
+  session_.listMaps(*session_.currentObject);
+  return *session_.currentObject;
+}
+
+void ModelerHost::close(const ModelerObject& object) {
+  session_.handles.objectClosed(object);
+  if (session_.currentObject == &object) session_.currentObject = nullptr;
+  std::erase_if(session_.objects, [&](const auto& candidate) { return candidate.get() == &object; });
+  if (session_.currentObject == nullptr && !session_.objects.empty()) session_.currentObject = session_.objects.back().get();
+}
+
+void ModelerHost::closeAll() {
+  while (!session_.objects.empty()) close(*session_.objects.back());
+}
+
+std::optional<Failure> ModelerHost::save() {
+  if (current() == nullptr) return Failure{"there is no object to save"};
+  return saveAs(current()->name());
+}
+
+std::optional<Failure> ModelerHost::saveAs(const std::string& path) {
+  if (current() == nullptr) return Failure{"there is no object to save"};
+  return current()->save(path);
+}
+
+// --- what a person does --------------------------------------------------------------------------------------------------
+
+void ModelerHost::select(const std::vector<std::string>& skelegonNames) {
+  if (current() == nullptr) return;
+  std::vector<const MeshPolygon*> chosen;
+  for (const MeshPolygon* polygon : current()->skelegons()) {
+    const bool wanted =
+        std::find(skelegonNames.begin(), skelegonNames.end(), polygon->tag(lw::kTagBone)) != skelegonNames.end();
+    if (wanted && current()->layer(polygon->layer)->foreground) chosen.push_back(polygon);
+  }
+  current()->select(chosen);
+}
+
+void ModelerHost::selectPolygons(const std::vector<const MeshPolygon*>& polygons) {
+  if (current() != nullptr) current()->select(polygons);
+}
+
+void ModelerHost::deselectAll() { selectPolygons({}); }
+
+void ModelerHost::showLayers(const std::vector<int>& foreground, const std::vector<int>& background) {
+  if (current() != nullptr) current()->showLayers(foreground, background, options().layerSwitchDeselects);
+}
+
+void ModelerHost::deleteSkelegons(const std::vector<std::string>& names) {
+  if (current() == nullptr) return;
+  std::vector<const MeshPolygon*> chosen;
+  for (const MeshPolygon* polygon : current()->skelegons()) {
+    if (std::find(names.begin(), names.end(), polygon->tag(lw::kTagBone)) != names.end()) chosen.push_back(polygon);
+  }
+  deletePolygons(chosen);
+}
+
+void ModelerHost::deletePolygons(const std::vector<const MeshPolygon*>& polygons) {
+  if (current() != nullptr) current()->remove(polygons);
+}
+
+void ModelerHost::removeWeightMap(const std::string& name) {
+  if (current() == nullptr) return;
+  current()->removeMap(lw::kMapWeight, name);
+  const std::pair entry(lw::kMapWeight, name);
+  const bool used = std::any_of(session_.objects.begin(), session_.objects.end(),
+                                [&](const auto& object) { return hasMap(*object, entry); });
+  if (!used) std::erase(session_.maps, entry);
+}
+
+bool ModelerHost::undo() {
+  const bool done = current() != nullptr && current()->undo();
+  mapsChanged();
+  return done;
+}
+
+bool ModelerHost::redo() {
+  const bool done = current() != nullptr && current()->redo();
+  mapsChanged();
+  return done;
+}
+
+void ModelerHost::mapsChanged() {
+  if (current() != nullptr) session_.listMaps(*current());
+}
+
+// --- what happened -------------------------------------------------------------------------------------------------------
+
+std::vector<std::string> ModelerHost::selectedNames() const {
+  std::vector<std::string> names;
+  if (current() == nullptr) return names;
+  for (const MeshPolygon* polygon : current()->skelegons()) {
+    if (polygon->selected) names.push_back(polygon->tag(lw::kTagBone));
+  }
+  return names;
+}
+
+std::vector<CommandRecord> ModelerHost::rejectedCommands() const {
+  std::vector<CommandRecord> rejected;
+  for (const CommandRecord& command : session_.commands) {
+    if (command.result != 0) rejected.push_back(command);
+  }
+  return rejected;
+}
+
+std::vector<std::string> ModelerHost::weightMaps() const {
+  std::vector<std::string> names;
+  for (const auto& [type, name] : session_.maps) {
+    if (type == lw::kMapWeight) names.push_back(name);
+  }
+  return names;
+}
+
+void ModelerHost::forgetRecords() {
+  session_.messages.shown.clear();
+  session_.commands.clear();
+}
+
+}  // namespace standin

@@ -1,0 +1,118 @@
+// Objects opened, changed by a person or through edits, saved and opened again.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "standin/objectfile/file_bytes.h"
+#include "standin/objectfile/sample_rigs.h"
+#include "tests/standin/modeler_fixture.h"
+
+namespace standin {
+namespace {
+
+class ModelerFiles : public testing::Test {
+ protected:
+  ModelerFiles() { std::filesystem::create_directories(folder_); }
+  ~ModelerFiles() override {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder_, ignored);
+  }
+  ModelerFiles(const ModelerFiles&) = delete;
+  ModelerFiles& operator=(const ModelerFiles&) = delete;
+
+  std::string path(const std::string& name) const {
+    const std::u8string text = (folder_ / pathFromUtf8(name)).u8string();
+    return {text.begin(), text.end()};
+  }
+
+  ModelerObject& opened(const std::string& file) {
+    const auto object = host.open(file);
+    EXPECT_TRUE(object) << object.why();
+    return **object;
+  }
+
+  ModelerHost host;
+
+ private:
+  std::filesystem::path folder_ = std::filesystem::temp_directory_path() /
+                                  (std::string("varnel-") + testing::UnitTest::GetInstance()->current_test_info()->name());
+};
+
+TEST_F(ModelerFiles, AnObjectSavedUnchangedIsTheSameByteForByte) {
+  writeDemoRig(path("rig.lwo"));
+  const std::string before = *readFileBytes(path("rig.lwo"));
+  opened(path("rig.lwo"));
+  EXPECT_FALSE(host.saveAs(path("copy.lwo")));
+  EXPECT_TRUE(*readFileBytes(path("copy.lwo")) == before);
+}
+
+TEST_F(ModelerFiles, ATagThatAnEditSetIsInTheSavedFile) {
+  writeJapaneseRig(path("リグ.lwo"));
+  ModelerObject& object = opened(path("リグ.lwo"));
+  ActivationRecord record("");
+  lw::MeshEditOp* op = record.get()->editBegin2(0, 0, 0, lw::kEditAll);
+  op->polTag(op->state, object.skelegon("背骨")->id, settingTag(13), "2");
+  op->done(op->state, 0, 0);
+  EXPECT_FALSE(host.save());
+  ModelerObject& again = opened(path("リグ.lwo"));
+  EXPECT_EQ(again.skelegon("背骨")->tag(settingTag(13)), "2");
+}
+
+TEST_F(ModelerFiles, DeletedSkelegonsAndRemovedMapsAreNotSaved) {
+  writeDemoRig(path("rig.lwo"));
+  opened(path("rig.lwo"));
+  host.deleteSkelegons({"Jaw"});
+  host.removeWeightMap("Head");
+  EXPECT_FALSE(host.save());
+  ModelerObject& again = opened(path("rig.lwo"));
+  EXPECT_EQ(again.skelegon("Jaw"), nullptr);
+  EXPECT_EQ(again.skelegons().size(), 23U);
+  EXPECT_EQ(again.maps(*again.layer(0)).size(), 1U);
+}
+
+TEST_F(ModelerFiles, WhatWasTakenBackIsSavedAsItWas) {
+  writeDemoRig(path("rig.lwo"));
+  const std::string before = *readFileBytes(path("rig.lwo"));
+  opened(path("rig.lwo"));
+  host.deleteSkelegons({"Jaw", "Head"});
+  host.removeWeightMap("Head");
+  while (host.undo()) {
+  }
+  EXPECT_FALSE(host.save());
+  EXPECT_TRUE(*readFileBytes(path("rig.lwo")) == before);
+}
+
+TEST_F(ModelerFiles, AnObjectDrawnInModelerCanBeSaved) {
+  ModelerObject& object = host.add({});
+  const int layer = object.addLayer("New");
+  const lw::PointId head = object.addPoint(layer, {0, 0, 0});
+  const lw::PointId tail = object.addPoint(layer, {0, 1, 0});
+  object.addSkelegon(layer, head, tail, "Drawn");
+  EXPECT_FALSE(host.saveAs(path("new.lwo")));
+  EXPECT_EQ(object.name(), path("new.lwo"));
+  EXPECT_NE(opened(path("new.lwo")).skelegon("Drawn"), nullptr);
+}
+
+TEST_F(ModelerFiles, AFileThatIsNoneIsNotOpened) {
+  writeFileBytes(path("bad.lwo"), "FORM");
+  const auto object = host.open(path("bad.lwo"));
+  ASSERT_FALSE(object);
+  EXPECT_NE(object.why().find("shorter than"), std::string::npos);
+  EXPECT_EQ(host.current(), nullptr);
+}
+
+TEST_F(ModelerFiles, SwitchingLayersDeselectsWhatLeavesTheForeground) {
+  ModelerObject& object = host.add(twoLayerRig());
+  host.select({"Hips"});
+  host.showLayers({1}, {0});
+  EXPECT_EQ(host.selectedNames(), Names{});
+  host.options().layerSwitchDeselects = false;
+  host.select({"Tail_01", "Hips"});
+  EXPECT_EQ(host.selectedNames(), Names{"Tail_01"}) << "only the foreground can be selected";
+  host.showLayers({0});
+  EXPECT_EQ(host.selectedNames(), Names{"Tail_01"});
+  EXPECT_EQ(object.primaryLayer(), 0);
+}
+
+}  // namespace
+}  // namespace standin

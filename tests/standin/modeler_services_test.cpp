@@ -1,0 +1,264 @@
+// Commands, queries, messages, globals and refusals of the stand-in Modeler.
+#include <gtest/gtest.h>
+
+#include "standin/modeler/mesh_text.h"
+#include "tests/standin/modeler_fixture.h"
+
+namespace standin {
+namespace {
+
+using Edit = lw::MeshEditOp&;
+
+class ModelerServices : public ModelerTest {
+ protected:
+  void TearDown() override { EXPECT_EQ(witness().report(), ""); }
+};
+
+// --- activation ----------------------------------------------------------------------------------------------------------
+
+TEST_F(ModelerServices, WhatAModuleCopiedOutOfTheActivationStaysGood) {
+  static lw::EditBeginFunc editBegin;
+  static lw::EvaluateFunc evaluateCommand;
+  static void* data;
+  const auto copy = [](int version, lw::GlobalFunc global, void* local, void*) {
+    const auto* record = static_cast<lw::LWModCommand*>(local);
+    editBegin = record->editBegin2;
+    evaluateCommand = record->evaluate;
+    data = record->data;
+    EXPECT_EQ(version, 4);
+    EXPECT_STREQ(record->argument, "given");
+    EXPECT_NE(global("LWM: State Query 5", lw::kUseTransient), nullptr);
+    return 0;
+  };
+  EXPECT_EQ(host->activate(copy, "given"), 0);
+  lw::MeshEditOp* op = editBegin(0, 0, 0, lw::kEditAll);
+  ASSERT_NE(op, nullptr);
+  op->done(op->state, 0, 0);
+  EXPECT_EQ(evaluateCommand(data, "sel_polygon clear"), 0);
+}
+
+TEST_F(ModelerServices, NumbersOfTheHostCanBeSetAtAnyTime) {
+  const auto number = [](const char* name) {
+    return static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(Globals::lookup()(name, lw::kUseTransient)));
+  };
+  EXPECT_EQ(number("Product Info"), 0x08F00641U);
+  EXPECT_EQ(number("Locale Info"), 0x409U);
+  host->options().localeInfo = 0x411;
+  EXPECT_EQ(number("Locale Info"), 0x411U);
+}
+
+TEST_F(ModelerServices, EveryServiceThatModelerModeNeedsIsThere) {
+  for (const char* name : {"LWM: Dynamic Monitor 2",
+                           "LWM: State Query 5",
+                           "Animation Envelopes 4",
+                           "Channel Info 3",
+                           "Color Picker",
+                           "ContextMenuServices 2",
+                           "Directory Info 2",
+                           "File Request",
+                           "File Request 3",
+                           "Image Utility 6",
+                           "LW Image List 9",
+                           "Info Messages 4",
+                           "Instance Update",
+                           "Locale Info",
+                           "LWPanelServices 3",
+                           "RasterServices 4",
+                           "Scene Objects 9",
+                           "LWShelfFuncs 2",
+                           "Surface Functions 6",
+                           "LWXPanel 3",
+                           "LSUniversalRequester",
+                           "LW Communication Ring",
+                           "NodeInputFuncs 5",
+                           "NodeOutputFuncs 4",
+                           "NodeFuncs 3",
+                           "LW Light Info 6",
+                           "Product Info"}) {
+    EXPECT_NE(Globals::lookup()(name, lw::kUseTransient), nullptr) << name;
+  }
+  EXPECT_EQ(Globals::lookup()("LW Command Interface", lw::kUseTransient), nullptr) << "that is Layout's";
+}
+
+TEST_F(ModelerServices, ANewHostBeginsANewSession) {
+  witness().fault("x", "y");
+  globals().withhold("Scene Objects 9");
+  host.reset();
+  host = std::make_unique<ModelerHost>();
+  EXPECT_EQ(witness().report(), "");
+  EXPECT_NE(Globals::lookup()("Scene Objects 9", lw::kUseTransient), nullptr);
+  EXPECT_EQ(host->current(), nullptr);
+}
+
+// --- commands ------------------------------------------------------------------------------------------------------------
+
+TEST_F(ModelerServices, CommandsAreNotCaseSensitive) {
+  edit(lw::kEditAll, [&](Edit op) { op.polTag(op.state, id("Hips"), settingTag(13), "5"); });
+  EXPECT_EQ(evaluate("UNDO"), 0);
+  EXPECT_EQ(object->skelegon("Hips")->tag(settingTag(13)), "2");
+}
+
+TEST_F(ModelerServices, AnUnknownCommandFailsAndIsListed) {
+  EXPECT_EQ(evaluate("Foo 1"), 2904);
+  ASSERT_EQ(host->rejectedCommands().size(), 1U);
+  EXPECT_EQ(host->rejectedCommands()[0].text, "Foo 1");
+}
+
+TEST_F(ModelerServices, ArgumentsAreChecked) {
+  EXPECT_EQ(evaluate("undo now"), 2901);
+  EXPECT_EQ(evaluate("setlayer"), 2901);
+  EXPECT_EQ(evaluate("setlayer two"), 2902);
+  EXPECT_EQ(evaluate("setlayer 3"), 2903);
+  EXPECT_EQ(evaluate("setlayer \"2\""), 0);
+  EXPECT_TRUE(object->layer(1)->foreground);
+  EXPECT_FALSE(object->layer(0)->foreground);
+}
+
+TEST_F(ModelerServices, LayersGoToTheBackgroundByCommandToo) {
+  EXPECT_EQ(evaluate("setblayer 2"), 0);
+  EXPECT_TRUE(object->layer(1)->background);
+  EXPECT_TRUE(object->layer(0)->foreground);
+}
+
+// --- queries -------------------------------------------------------------------------------------------------------------
+
+TEST_F(ModelerServices, TheCurrentObjectIsNamedByItsFile) {
+  EXPECT_STREQ(stateQuery()->object(), "rig.lwo");
+  host->closeAll();
+  EXPECT_EQ(stateQuery()->object(), nullptr);
+  ModelerObject& unsaved = host->add(twoLayerRig());
+  EXPECT_EQ(stateQuery()->object(), unsaved.referenceName());
+}
+
+TEST_F(ModelerServices, LayersAreListedFromOneHighestFirst) {
+  EXPECT_EQ(stateQuery()->numLayers(), 2);
+  EXPECT_STREQ(stateQuery()->layerList(lw::kLayersAll, nullptr), "2 1");
+  EXPECT_STREQ(stateQuery()->layerList(lw::kLayersForeground, "rig.lwo"), "1");
+  EXPECT_EQ(stateQuery()->layerList(lw::kLayersAll, "none.lwo"), nullptr);
+}
+
+TEST_F(ModelerServices, SceneObjectsCountLayersFromZero) {
+  EXPECT_EQ(sceneObjects()->numObjects(), 1);
+  EXPECT_STREQ(sceneObjects()->filename(0), "rig.lwo");
+  EXPECT_EQ(sceneObjects()->maxLayers(0), 2);
+  EXPECT_STREQ(sceneObjects()->layerName(0, 0), "Body");
+  EXPECT_STREQ(sceneObjects()->layerName(0, 1), "Tail");
+  EXPECT_EQ(sceneObjects()->layerExists(0, 2), 0);
+}
+
+TEST_F(ModelerServices, GapsBetweenLayerNumbersDoNotExist) {
+  RigBuilder rig;
+  rig.layer(2, "");
+  host->add(rig.take(), "gap.lwo");
+  EXPECT_EQ(sceneObjects()->maxLayers(1), 3);
+  EXPECT_EQ(sceneObjects()->layerExists(1, 0), 0);
+  EXPECT_EQ(sceneObjects()->layerExists(1, 2), 1);
+  EXPECT_EQ(sceneObjects()->layerName(1, 2), nullptr);
+  host->options().unnamedLayerIsEmpty = true;
+  EXPECT_STREQ(sceneObjects()->layerName(1, 2), "");
+}
+
+TEST_F(ModelerServices, VertexMapsBelongToTheProgramAndStayListed) {
+  host->add(twoLayerRig());
+  EXPECT_EQ(sceneObjects()->numVMaps(lw::kMapWeight), 1) << "maps of one name are shared";
+  host->closeAll();
+  EXPECT_EQ(sceneObjects()->numVMaps(lw::kMapWeight), 1);
+  EXPECT_STREQ(sceneObjects()->vmapName(lw::kMapWeight, 0), "Head");
+}
+
+TEST_F(ModelerServices, ARemovedWeightMapIsGoneUntilItIsTakenBack) {
+  host->removeWeightMap("Head");
+  EXPECT_EQ(sceneObjects()->numVMaps(lw::kMapWeight), 0);
+  host->undo();
+  EXPECT_EQ(sceneObjects()->numVMaps(0), 1);
+}
+
+TEST_F(ModelerServices, AMapWithoutANameHasNone) {
+  RigBuilder rig;
+  rig.point({0, 0, 0});
+  rig.weightMap("", {});
+  host->add(rig.take());
+  EXPECT_EQ(sceneObjects()->vmapName(lw::kMapWeight, 1), nullptr);
+  host->options().unnamedMapIsEmpty = true;
+  EXPECT_STREQ(sceneObjects()->vmapName(lw::kMapWeight, 1), "");
+}
+
+// --- messages ------------------------------------------------------------------------------------------------------------
+
+TEST_F(ModelerServices, MessagesAreKept) {
+  messageServices()->error("Need select the skelegon!", "");
+  ASSERT_EQ(host->messages().size(), 1U);
+  EXPECT_EQ(host->messages()[0].kind, MessageKind::error);
+  EXPECT_EQ(host->messages()[0].first, "Need select the skelegon!");
+}
+
+TEST_F(ModelerServices, AnswersAreGivenInTheNumbersOfTheQuestion) {
+  for (const Answer a : {Answer::yes, Answer::no, Answer::cancel, Answer::yes, Answer::yesToAll, Answer::yes})
+    host->answer(a);
+  EXPECT_EQ(messageServices()->yesNo("t", "a", nullptr), 1);
+  EXPECT_EQ(messageServices()->yesNo("t", "a", nullptr), 0);
+  EXPECT_EQ(messageServices()->okCancel("t", "a", nullptr), 0);
+  EXPECT_EQ(messageServices()->yesNoCan("t", "a", nullptr), 2);
+  EXPECT_EQ(messageServices()->yesNoAll("t", "a", nullptr), 3);
+  EXPECT_EQ(messageServices()->yesNoAll("t", "a", nullptr), 2);
+  EXPECT_EQ(host->messages()[1].answer, Answer::no);
+}
+
+// --- refusals ------------------------------------------------------------------------------------------------------------
+
+TEST_F(ModelerServices, ARefusedCallFailsInItsOwnWay) {
+  const auto refuse = [] { witness().refuseCall(1); };
+  const auto never = [](void*, lw::PolygonId) { return 99; };
+  refuse();
+  EXPECT_EQ(begin(lw::kEditAll), nullptr);
+  edit(lw::kEditAll, [&](Edit op) {
+    refuse();
+    EXPECT_EQ(op.fastPolyScan(op.state, never, nullptr, lw::kLayersAll, 0), lw::kEditNoMemory);
+    refuse();
+    EXPECT_EQ(op.polyInfo(op.state, id("Hips")), nullptr);
+    refuse();
+    EXPECT_EQ(op.polyTag(op.state, id("Hips"), lw::kTagBone), nullptr);
+    refuse();
+    EXPECT_EQ(op.polTag(op.state, id("Hips"), lw::kTagPart, "x"), lw::kEditNoMemory);
+  });
+  edit(lw::kEditSelecting | lw::kEditDirect, [&](Edit op) {
+    refuse();
+    EXPECT_EQ(op.polSelect(op.state, id("Hips"), 1), lw::kEditNoMemory);
+  });
+  refuse();
+  EXPECT_NE(evaluate("undo"), 0);
+  refuse();
+  EXPECT_EQ(stateQuery()->object(), nullptr);
+  refuse();
+  EXPECT_EQ(sceneObjects()->numVMaps(lw::kMapWeight), 0);
+  refuse();
+  EXPECT_EQ(messageServices()->yesNo("t", "a", nullptr), 0);
+  EXPECT_TRUE(witness().refusalHappened());
+  EXPECT_EQ(object->undoSteps(), 0U);
+}
+
+TEST_F(ModelerServices, ARefusedEndOfAnEditDropsItsChanges) {
+  lw::MeshEditOp* op = begin(lw::kEditAll);
+  op->polTag(op->state, id("Hips"), settingTag(13), "5");
+  witness().refuseCall(1);
+  op->done(op->state, 0, 0);
+  EXPECT_EQ(object->skelegon("Hips")->tag(settingTag(13)), "2");
+  EXPECT_NE(begin(lw::kEditAll), nullptr);
+}
+
+// --- text ----------------------------------------------------------------------------------------------------------------
+
+TEST_F(ModelerServices, SkelegonsAreShownAsTrees) {
+  host->select({"Chest"});
+  EXPECT_EQ(skelegonsAsText(*object),
+            "layer 1 \"Body\", foreground\n"
+            "  \"Hips\"  sg1+13=\"2\"\n"
+            "    \"Chest\" *\n"
+            "      \"Head\"\n"
+            "layer 2 \"Tail\"\n"
+            "  \"Tail_01\"\n"
+            "    \"Tail_02\"\n");
+}
+
+}  // namespace
+}  // namespace standin
