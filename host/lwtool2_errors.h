@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <string>
 #include <utility>
 
@@ -50,8 +51,8 @@ void ReportError(const char* file, int line, const char* format, ...) VARNEL_PRI
 // Reports a failure of the host and throws CBaseEx with the same message.
 [[noreturn]] void throwReported(const std::string& message);
 
-// Everything that the host calls runs through this: whatever is thrown stays inside, and the host gets `onFailure`.
-// This is the module's only catch of everything.
+// Everything that the host calls runs through this or the next: whatever is thrown stays inside, and the host gets
+// `onFailure`. These two are the module's only catches of everything.
 template <class Action, class Result>
 Result guarded(Action&& action, Result onFailure) noexcept {
   try {
@@ -69,6 +70,18 @@ void guarded(Action&& action) noexcept {
         return true;
       },
       false);
+}
+
+// For a callback that is running because the module called the host: what is thrown is kept in `failure`, for the module to
+// raise again once that call has returned.
+template <class Action, class Result>
+Result guarded(Action&& action, Result onFailure, std::exception_ptr& failure) noexcept {
+  try {
+    return std::forward<Action>(action)();
+  } catch (...) {
+    failure = std::current_exception();
+    return onFailure;
+  }
 }
 
 }  // namespace lw

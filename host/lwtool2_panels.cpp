@@ -1,5 +1,6 @@
 #include "host/lwtool2_panels.h"
 
+#include <array>
 #include <utility>
 
 #include "host/lwtool2_errors.h"
@@ -23,9 +24,37 @@ LWPanControlDesc areaDescription(int width, int height) {
   return area;
 }
 
+// The host only reads the list, though its interface does not say so. For popups `vertical` carries the width.
+LWPanControlDesc choiceDescription(texts::Choices choices, int vertical) {
+  LWPanControlDesc choice = description(kValueChoice);
+  choice.choice.items = const_cast<const char**>(choices);
+  choice.choice.vertical = vertical;
+  return choice;
+}
+
+LWPanControlDesc rangeDescription(int width, int least, int greatest) {
+  LWPanControlDesc range = description(kValueRange);
+  range.range.width = width;
+  range.range.min = least;
+  range.range.max = greatest;
+  return range;
+}
+
 LWValue integerValue(int value) {
   LWValue result;
   result.intv = {kValueInteger, value, 0};
+  return result;
+}
+
+LWValue realValue(double value) {
+  LWValue result;
+  result.flt = {kValueFloat, value, 0};
+  return result;
+}
+
+LWValue stringValue(char* buffer, int size) {
+  LWValue result;
+  result.str = {kValueString, buffer, size};
   return result;
 }
 
@@ -34,6 +63,31 @@ LWValue integerValue(int value) {
 int CControl::integer() const { return measure(kControlValue); }
 
 void CControl::setInteger(int value) const { setNumber(kControlValue, value); }
+
+double CControl::real() const {
+  LWValue value = realValue(0);
+  control_->get(control_, kControlValue, &value);
+  return value.flt.value;
+}
+
+void CControl::setReal(double number) const {
+  LWValue value = realValue(number);
+  control_->set(control_, kControlValue, &value);
+}
+
+std::string CControl::text() const {
+  // One byte more than the host is told of: a text that fills the buffer may come without its final zero.
+  std::array<char, kLongestText + 1> buffer{};
+  LWValue value = stringValue(buffer.data(), kLongestText);
+  control_->get(control_, kControlValue, &value);
+  return buffer.data();
+}
+
+void CControl::setText(const std::string& text) const {
+  std::string copy = text;  // the host reads it only, through a pointer to char
+  LWValue value = stringValue(copy.data(), static_cast<int>(copy.size()) + 1);
+  control_->set(control_, kControlValue, &value);
+}
 
 int CControl::measure(ControlAttribute attribute) const {
   LWValue value = integerValue(0);
@@ -45,6 +99,14 @@ void CControl::moveTo(int x, int y) const {
   setNumber(kControlX, x);
   setNumber(kControlY, y);
 }
+
+void CControl::setHotWidth(int width) const {
+  const int present = measure(kControlHotWidth);
+  // The width that can be set is that of the whole, with label and padding.
+  if (present != width) setNumber(kControlWidth, measure(kControlWidth) + width - present);
+}
+
+void CControl::show(bool visible) const { control_->draw(control_, visible ? kDrawRender : kDrawErase); }
 
 void CControl::setUser(void* user) const { setPointer(kControlUserData, user); }
 
@@ -79,15 +141,64 @@ CControl CPanel::add(const char* kind, LWPanControlDesc description, const char*
 
 CControl CPanel::addBool(const char* label) const { return add("BoolControl", description(kValueBoolean), label); }
 
+CControl CPanel::addBoolButton(const char* label, int width) const {
+  return add("BoolButtonControl", areaDescription(width, 0), label);
+}
+
 CControl CPanel::addBorder(int width, int height) const { return add("BorderControl", areaDescription(width, height), ""); }
 
 CControl CPanel::addButton(const char* label, int width) const {
   return add("ButtonControl", areaDescription(width, 0), label);
 }
 
+CControl CPanel::addCustomPopup(const char* label, int width, PopupFunctions functions) const {
+  LWPanControlDesc popup = description(kValuePopup);
+  popup.popup.width = width;
+  popup.popup.countFn = functions.count;
+  popup.popup.nameFn = functions.name;
+  return add("CustomPopupControl", popup, label);
+}
+
+CControl CPanel::addEdit(const char* label, int characters) const {
+  LWPanControlDesc edit = description(kValueString);
+  edit.str.width = characters;
+  return add("EditControl", edit, label);
+}
+
+CControl CPanel::addPopup(const char* label, int width, texts::Choices choices) const {
+  return add("PopupControl", choiceDescription(choices, width), label);
+}
+
+CControl CPanel::addTabs(const char* label, texts::Choices choices) const {
+  return add("TabChoiceControl", choiceDescription(choices, 0), label);
+}
+
+CControl CPanel::addMiniSlider(const char* label, int fieldWidth, int least, int greatest) const {
+  return add("MiniSliderControl", rangeDescription(fieldWidth, least, greatest), label);
+}
+
+// The ranges below are those that the host's own helpers fill in. They are the slider's, not limits of what can be typed.
+CControl CPanel::addAngle(const char* label) const { return add("AngleControl", rangeDescription(0, 0, 360), label); }
+CControl CPanel::addDistance(const char* label) const {
+  return add("MiniDistanceControl", rangeDescription(0, 0, 100), label);
+}
+CControl CPanel::addFloat(const char* label) const { return add("MiniFloatControl", rangeDescription(0, 0, 100), label); }
+CControl CPanel::addPercent(const char* label) const { return add("PercentControl", rangeDescription(0, 0, 100), label); }
+
 void CPanel::setSize(int width, int height) const {
   panels().set(panel_, kPanelWidth, &width);
   panels().set(panel_, kPanelHeight, &height);
 }
+
+void CPanel::bringToFront() const {
+  int yes = 1;
+  panels().set(panel_, kPanelToFront, &yes);
+}
+
+void CPanel::setUser(void* user) const { panels().set(panel_, kPanelUserData, user); }
+
+void CPanel::onClose(PanelHook hook) const { panels().set(panel_, kPanelCloseHook, reinterpret_cast<void*>(hook)); }
+
+int CPanel::open(int flags) const { return panels().open(panel_, flags); }
 
 }  // namespace lw

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "host/lightwave.h"
+#include "host/texts/texts.h"
 
 namespace lw {
 
@@ -16,13 +17,24 @@ class CControl {
   bool exists() const { return control_ != nullptr; }
   bool is(const LWControl* control) const { return control_ == control; }
 
-  // The value of a control that holds an integer (flags, choices, counts).
+  // The value, in the form that the control's kind has. Flags, choices (index from 0) and counts are integers; percents (as
+  // shown), distances (metres), angles (radians) and plain numbers are reals; edit fields hold texts.
   int integer() const;
   void setInteger(int value) const;
+  double real() const;
+  void setReal(double value) const;
+  std::string text() const;  // at most kLongestText bytes
+  void setText(const std::string& text) const;
+
+  // What fits into the buffer that the host copies a text to.
+  static constexpr int kLongestText = 4095;
 
   // A number that the host knows of the control, in pixels: place, size, label width.
   int measure(ControlAttribute attribute) const;
   void moveTo(int x, int y) const;
+  // Makes the part without the label this wide.
+  void setHotWidth(int width) const;
+  void show(bool visible) const;
 
   // Both before the panel opens. The user pointer reaches every callback of the control.
   void setUser(void* user) const;
@@ -35,21 +47,44 @@ class CControl {
   LWControl* control_ = nullptr;
 };
 
+// What a popup lists, asked for each time its menu opens. The host may ask for any index and may keep the names.
+struct PopupFunctions {
+  int (*count)(void* user);
+  const char* (*name)(void* user, int index);
+};
+
 // A host panel and its controls. Owns the panel until release().
 // Functions that make something throw CBaseEx when the host does not.
 class CPanel {
  public:
-  // Title and, where given, labels must live as long as the panel: the host may keep the pointers.
+  // Title, labels and choices must live as long as the panel: the host may keep the pointers.
   explicit CPanel(const char* title);
   ~CPanel();
   CPanel(CPanel&& other) noexcept : panel_(other.release()) {}
   CPanel& operator=(CPanel&&) = delete;
 
+  // Before the panel opens. Widths are in pixels and without the label; 0 leaves them to the host.
   CControl addBool(const char* label) const;
+  CControl addBoolButton(const char* label, int width) const;
   CControl addBorder(int width, int height) const;
   CControl addButton(const char* label, int width) const;
+  CControl addCustomPopup(const char* label, int width, PopupFunctions functions) const;
+  CControl addEdit(const char* label, int characters) const;
+  CControl addPopup(const char* label, int width, texts::Choices choices) const;
+  CControl addTabs(const char* label, texts::Choices choices) const;
+  CControl addMiniSlider(const char* label, int fieldWidth, int least, int greatest) const;
+  CControl addAngle(const char* label) const;
+  CControl addDistance(const char* label) const;
+  CControl addFloat(const char* label) const;
+  CControl addPercent(const char* label) const;
 
   void setSize(int width, int height) const;
+  void bringToFront() const;
+  // The user pointer reaches the panel's hooks. The close hook runs whenever the panel closes, by whose wish ever.
+  void setUser(void* user) const;
+  void onClose(PanelHook hook) const;
+  // Shows the panel and returns at once, unless the flags say otherwise. What the host gives; it gives non-zero for success.
+  int open(int flags) const;
 
   PanelId release();
 

@@ -3,15 +3,19 @@
 #include <algorithm>
 
 #include "standin/program/convert.h"
+#include "standin/program/trip.h"
 #include "standin/program/utf8_arguments.h"
 
 int main(int argc, char** argv) {
   standin::useUtf8Streams();
   CLI::App app{"Plays the host for the Varnel module, on machines without the host.", "varnel"};
   app.require_subcommand(1);
+  app.allow_windows_style_options(false);  // a path may begin with a slash
   app.set_version_flag("--version", std::to_string(VARNEL_VERSION_MAJOR) + "." + std::to_string(VARNEL_VERSION_MINOR));
   int result = 0;
   standin::addConvertCommand(app, result);
+  standin::addTripCommand(app, result);
+  standin::addPanelsCommand(app, result);
   std::vector<std::string> arguments = standin::utf8Arguments(argc, argv);
   std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the back
   try {

@@ -1,0 +1,230 @@
+#include "host/lwtool2_mesh.h"
+
+#include <algorithm>
+#include <array>
+#include <cassert>
+#include <unordered_set>
+
+#include "host/lwtool2_errors.h"
+#include "host/lwtool2_eval.h"
+#include "host/lwtool2_globals.h"
+#include "host/polygon_scan.h"
+
+namespace lw {
+namespace {
+
+constexpr std::size_t kExpectedPolygons = 1024;
+constexpr int kKeepSelection = 0;  // the last argument of done
+
+MeshEditOp* begunEdit(int mode) {
+  MeshEditOp* const edit = modelerCommand().editBegin(0, 0, 0, mode);
+  if (edit == nullptr) throwReported(FormatString("lw::mod::edit::begin( 0, 0, 0, %d ) !", mode));
+  return edit;
+}
+
+// Tags that the host knows itself: they stay when their text is empty.
+bool isHostTag(std::uint32_t type) {
+  constexpr std::array kHostTags = {kTagBone, kTagPart, kTagBoneWeight, kTagColour};
+  return std::find(kHostTags.begin(), kHostTags.end(), type) != kHostTags.end();
+}
+
+// Which polygons of a list are there. Lists name a polygon many times in a row, once for each of its tags: one record serves
+// all.
+class CPresence {
+ public:
+  explicit CPresence(CMeshEdit& edit) : edit_(edit) {}
+  bool isThere(PolygonId polygon) {
+    if (polygon != last_) {
+      last_ = polygon;
+      isThere_ = kNotDeleted.fits(edit_.info(polygon).flags);
+    }
+    return isThere_;
+  }
+
+ private:
+  CMeshEdit& edit_;
+  PolygonId last_ = nullptr;
+  bool isThere_ = false;
+};
+
+PolygonIds collect(int mode, int layers, FlagRule rule) {
+  CMeshEdit edit(mode);
+  PolygonIds polygons = edit.scan(layers);
+  std::erase_if(polygons,
+                [&](PolygonId polygon) { return !edit.isSkelegon(polygon) || !rule.fits(edit.info(polygon).flags); });
+  edit.done();
+  return polygons;
+}
+
+}  // namespace
+
+PolygonScan::PolygonScan(const MeshEditOp& edit, int layers) {
+  const FastPolygonScan keep = [](void* user, PolygonId polygon) {
+    auto& scan = *static_cast<PolygonScan*>(user);
+    const auto append = [&] {
+      scan.found.push_back(polygon);
+      return static_cast<int>(kEditNoError);
+    };
+    return guarded(append, static_cast<int>(kEditNoMemory), scan.failure);
+  };
+  const auto run = [&] {
+    found.reserve(kExpectedPolygons);
+    return edit.fastPolyScan(edit.state, keep, this, layers, 0);
+  };
+  error = guarded(run, static_cast<int>(kEditNoMemory), failure);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// An open edit
+
+CMeshEdit::CMeshEdit(int mode) : edit_(begunEdit(mode)) {}
+
+CMeshEdit::~CMeshEdit() {
+  // Only an exception that is none of the host layer's comes here with the edit open.
+  if (isOpen()) end(kEditUserAbort);
+}
+
+void CMeshEdit::end(int error) {
+  MeshEditOp* const edit = std::exchange(edit_, nullptr);
+  edit->done(edit->state, error, kKeepSelection);
+}
+
+void CMeshEdit::fail(int error, const char* message) {
+  end(error);
+  throwReported(message);
+}
+
+PolygonIds CMeshEdit::scan(int layers) {
+  PolygonScan scan(host(), layers);
+  if (scan.failure) {
+    end(scan.error);
+    std::rethrow_exception(scan.failure);
+  }
+  if (scan.error != kEditNoError) fail(scan.error, "fastPolyScan() !");
+  return std::move(scan.found);
+}
+
+bool CMeshEdit::isSkelegon(PolygonId polygon) const { return edit_->polyType(edit_->state, polygon) == kTypeBone; }
+
+const EDPolygonInfo& CMeshEdit::info(PolygonId polygon) {
+  const EDPolygonInfo* const record = edit_->polyInfo(edit_->state, polygon);
+  if (record == nullptr) fail(kEditBadArguments, "polyInfo() !");
+  return *record;
+}
+
+std::optional<std::string> CMeshEdit::tag(PolygonId polygon, std::uint32_t type) const {
+  return polygonTag(host(), polygon, type);
+}
+
+void CMeshEdit::setTag(PolygonId polygon, std::uint32_t type, const std::string& text) {
+  const int error = setPolygonTag(host(), polygon, type, text);
+  if (error != kEditNoError) fail(error, "polTag() !");
+}
+
+void CMeshEdit::select(PolygonId polygon, bool on) {
+  const int error = edit_->polSelect(edit_->state, polygon, on ? 1 : 0);
+  if (error != kEditNoError) fail(error, "polSelect() !");
+}
+
+std::optional<std::string> polygonTag(const MeshEditOp& edit, PolygonId polygon, std::uint32_t type) {
+  const char* const text = edit.polyTag(edit.state, polygon, type);
+  return text == nullptr ? std::nullopt : std::optional<std::string>(text);
+}
+
+int setPolygonTag(const MeshEditOp& edit, PolygonId polygon, std::uint32_t type, const std::string& text) {
+  const bool removed = text.empty() && !isHostTag(type);
+  return edit.polTag(edit.state, polygon, type, removed ? nullptr : text.c_str());
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Skelegons
+
+PolygonIds CollectSkelegons() { return collect(kEditForTags, kLayersAll, kNotDeleted); }
+
+PolygonIds CollectSelectedSkelegons() { return collect(kEditSeesSelection, kLayersForeground, kSelectedNotDeleted); }
+
+void SelectSkelegons(const PolygonIds& polygons) {
+  CMeshEdit edit(kEditForSelecting);
+  // What a panel remembers may be gone by now; the host must not be asked about such polygons.
+  std::unordered_set<PolygonId> selectable;
+  for (const PolygonId polygon : edit.scan(kLayersForeground)) {
+    if (!edit.isSkelegon(polygon)) continue;
+    const int flags = edit.info(polygon).flags;
+    if (kNotDeleted.fits(flags)) selectable.insert(polygon);
+    if (kSelectedNotDeleted.fits(flags)) edit.select(polygon, false);
+  }
+  for (const PolygonId polygon : polygons) {
+    if (selectable.count(polygon) != 0) edit.select(polygon, true);
+  }
+  edit.done();
+}
+
+TagTexts SkelegonNames(const PolygonIds& polygons) {
+  CMeshEdit edit(kEditForTags);
+  TagTexts names(polygons.size());
+  for (std::size_t i = 0; i < polygons.size(); ++i) {
+    if (!edit.isSkelegon(polygons[i])) continue;
+    edit.info(polygons[i]);  // the host must know the polygon; a deleted one is named too, deliberately
+    names[i] = edit.tag(polygons[i], kTagBone).value_or("Bone");
+  }
+  edit.done();
+  return names;
+}
+
+TagTexts ReadPolygonTags(const PolygonIds& polygons, const TagTypes& types) {
+  assert(types.size() == polygons.size());
+  CMeshEdit edit(kEditForTags);
+  CPresence presence(edit);
+  TagTexts texts(polygons.size());
+  for (std::size_t i = 0; i < polygons.size(); ++i) {
+    if (presence.isThere(polygons[i])) texts[i] = edit.tag(polygons[i], types[i]).value_or(std::string());
+  }
+  edit.done();
+  return texts;
+}
+
+void WritePolygonTags(CMeshEdit& edit, const PolygonIds& polygons, const TagTypes& types, const TagTexts& texts) {
+  assert(types.size() == polygons.size() && texts.size() == polygons.size());
+  CPresence presence(edit);
+  for (std::size_t i = 0; i < polygons.size(); ++i) {
+    if (presence.isThere(polygons[i])) edit.setTag(polygons[i], types[i], texts[i]);
+  }
+}
+
+namespace {
+
+// Copies what the record holds and then asks for the tags: the record is good only until the next call.
+SkelegonInfo skelegonInfo(const MeshEditOp& edit, const EDPolygonInfo& record, std::span<const std::uint32_t> tagTypes) {
+  SkelegonInfo info;
+  info.polygon = record.pol;
+  info.layer = record.layer;
+  info.isSelected = kSelectedNotDeleted.fits(record.flags);
+  if (record.numPnts >= 2) {
+    info.head = record.points[0];
+    info.tail = record.points[1];
+  }
+  info.name = polygonTag(edit, info.polygon, kTagBone).value_or(std::string());
+  info.tags.reserve(tagTypes.size());
+  for (const std::uint32_t type : tagTypes) info.tags.push_back(polygonTag(edit, info.polygon, type));
+  return info;
+}
+
+}  // namespace
+
+std::vector<SkelegonInfo> ScanSkelegons(int layers, ReportSource source, std::span<const std::uint32_t> tagTypes) {
+  CMeshEdit edit(kEditSeesSelection);
+  std::vector<SkelegonInfo> skelegons;
+  bool isComplete = true;
+  for (const PolygonId polygon : edit.scan(layers)) {
+    if (!edit.isSkelegon(polygon)) continue;
+    const EDPolygonInfo* const record = edit.host().polyInfo(edit.host().state, polygon);
+    isComplete = record != nullptr;
+    if (!isComplete) break;
+    if (kNotDeleted.fits(record->flags)) skelegons.push_back(skelegonInfo(edit.host(), *record, tagTypes));
+  }
+  edit.done();
+  if (!isComplete) ReportError(source.file, source.line, "polyInfo() returned NULL !");
+  return skelegons;
+}
+
+}  // namespace lw

@@ -1,0 +1,82 @@
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "standin/layout/layout_host.h"
+#include "standin/modeler/modeler_host.h"
+#include "standin/objectfile/sample_rigs.h"
+#include "standin/panels/geometry.h"
+#include "standin/panels/text.h"
+#include "standin/program/property_panel.h"
+#include "standin/program/support.h"
+#include "standin/program/trip.h"
+
+namespace standin {
+namespace {
+
+struct PanelsOptions {
+  std::string module;
+  std::vector<std::string> languages = {"en", "ja"};
+};
+
+// The panel as text, and what a layout must not have: overlaps, cut labels, controls outside.
+void show(const std::string& heading, const Panel& panel) {
+  std::cout << "== " << heading << "\n";
+  indent(panelText(panel));
+  if (const std::string complaints = layoutComplaints(panel); !complaints.empty()) throw Trouble{complaints};
+}
+
+void showPropertyPanel(const PanelsOptions& options, const std::string& language) {
+  ModelerHost host;
+  host.options().localeInfo = localeOf(language);
+  host.add(makeDemoRig(), "lizard.lwo");
+  host.showLayers({0, 1});
+  host.select({"Tail_01"});
+  ModuleFile module;
+  loadModule(module, options.module);
+  Panel& panel = openPropertyPanel(host, module);
+  for (int page = 0; page < kPropertyPages; ++page) {
+    showPage(panel, page);
+    const std::string heading = "property panel, " + language + ", page " + std::to_string(page + 1);
+    if (page != kControllersPage) {
+      show(heading, panel);
+      continue;
+    }
+    for (int group = 0; group < kMotionGroups; ++group) {
+      showGroup(panel, group);
+      show(heading + ", group " + std::to_string(group + 1), panel);
+    }
+  }
+  endSession(module);
+}
+
+void showConversionPanel(const PanelsOptions& options, const std::string& language) {
+  LayoutHost host;
+  host.setLocale(localeOf(language));
+  ModuleFile module;
+  loadModule(module, options.module);
+  if (host.activate(module, "Orlo:SkelegonOptimize") != 0) throw Trouble{"the conversion tool could not be activated"};
+  show("conversion panel, " + language, *must(panels().find("Orlo:SkelegonOptimize"), "the panel"));
+  endSession(module);
+}
+
+int run(const PanelsOptions& options) {
+  return reporting([&] {
+    for (const std::string& language : options.languages) {
+      showPropertyPanel(options, language);
+      showConversionPanel(options, language);
+    }
+  });
+}
+
+}  // namespace
+
+void addPanelsCommand(CLI::App& app, int& result) {
+  CLI::App* const command = app.add_subcommand("panels", "Show every page of the tools' panels as text");
+  const auto options = std::make_shared<PanelsOptions>();
+  command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
+  command->add_option("--lang", options->languages, "Languages to show")->check(CLI::IsMember({"en", "ja"}));
+  command->footer("Example:\n  varnel panels --lang ja");
+  command->callback([options, &result] { result = run(*options); });
+}
+
+}  // namespace standin

@@ -1,0 +1,22 @@
+#include "standin/program/property_panel.h"
+
+#include "standin/program/support.h"
+
+namespace standin {
+
+Panel& openPropertyPanel(ModelerHost& host, ModuleFile& module) {
+  if (host.activate(module, kPropertyTool) != 0) throw Trouble{"the property tool could not be activated"};
+  return *must(panels().find(kPropertyTool), "the property panel");
+}
+
+void showPage(Panel& panel, int page) { must(person::choose(panel.find(ControlKind::TabChoice, 0), page)); }
+
+void showGroup(Panel& panel, int group) { must(person::choose(panel.find(ControlKind::TabChoice, 1), group)); }
+
+Control* falloffControl(Panel& panel) {
+  showPage(panel, 0);
+  // The page holds three lists from the top: the skelegon's popup is hidden while one is selected.
+  return panel.find(ControlKind::Popup, 0);
+}
+
+}  // namespace standin
