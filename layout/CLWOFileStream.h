@@ -17,19 +17,19 @@ constexpr std::uint32_t chunkId(const char (&text)[5]) {
   return id;
 }
 
-// Takes the chunks that the reader cares for. Each member gets the whole body of one chunk (of polygons and their tags:
-// what follows the type) and answers whether it was sound; when not, the walk ends there.
-// Points, faces, skelegons and tags belong to the layer that came last; there is one.
+// Takes the chunks of an object that are of use; what a member is not overridden for is passed over. Each gets the whole body
+// of one chunk (of polygons and their tags: what follows the type) and answers whether it is sound; the walk ends when not.
+// Points, polygons and tags belong to the layer that came last; there is one.
 class ObjectChunks {
  public:
   virtual ~ObjectChunks() = default;
-  virtual bool takeTagTexts(CFileStream body) = 0;
-  virtual bool takeLayer(CFileStream body) = 0;
-  virtual bool takePoints(CFileStream body) = 0;
-  virtual bool takeFaces(CFileStream body) = 0;
-  virtual bool takeSkelegons(CFileStream body) = 0;
+  virtual bool takeTagTexts(CFileStream /*body*/) { return true; }
+  virtual bool takeLayer(CFileStream /*body*/) { return true; }
+  virtual bool takePoints(CFileStream /*body*/) { return true; }
+  virtual bool takeFaces(CFileStream /*body*/) { return true; }
+  virtual bool takeSkelegons(CFileStream /*body*/) { return true; }
   // Tags of the skelegons that the layer has so far.
-  virtual bool takeSkelegonTags(std::uint32_t type, CFileStream body) = 0;
+  virtual bool takeSkelegonTags(std::uint32_t /*type*/, CFileStream /*body*/) { return true; }
 };
 
 class CLWOFileStream : public CFileStream {

@@ -1,9 +1,9 @@
 #include "layout/object_passes.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "layout/polygon_list.h"
 
@@ -30,56 +30,13 @@ std::string nameOf(const LayerChunk& layer) {
   return layer.name.empty() ? "Layer" + std::to_string(layer.number + 1) : std::string(layer.name);
 }
 
-// --- sinks of polygon lists ---
-
-struct PolygonCounter {
-  std::size_t polygons = 0;
-  std::size_t indices = 0;
-
-  void startPolygon(std::uint32_t corners) {
-    ++polygons;
-    indices += corners;
-  }
-  void addIndex(std::uint32_t /*point*/) {}
-};
-
-struct SkelegonCounter {
-  SkelegonStore& skelegons;
-  std::uint32_t next;
-
-  void startPolygon(std::uint32_t corners) { skelegons.countSkelegon(next++, corners); }
-  void addIndex(std::uint32_t /*point*/) {}
-};
-
-// 'start' and 'index' are where the next start and index go, 'indices' is the number of that index.
-struct FaceFiller {
-  std::uint32_t* start;
-  std::uint32_t* index;
-  std::uint32_t indices;
-  std::int32_t highestPoint;
-
-  void startPolygon(std::uint32_t corners) {
-    *start++ = indices;
-    indices += corners;
-  }
-  void addIndex(std::uint32_t point) {
-    *index++ = point;
-    highestPoint = std::max(highestPoint, static_cast<std::int32_t>(point));
-  }
-};
-
-struct SkelegonFiller {
-  SkelegonStore& skelegons;
-  std::uint32_t next;
-  std::int32_t highestPoint;
-  std::uint32_t* point = nullptr;
-
-  void startPolygon(std::uint32_t corners) { point = skelegons.placeSkelegon(next++, corners); }
-  void addIndex(std::uint32_t number) {
-    *point++ = number;
-    highestPoint = std::max(highestPoint, static_cast<std::int32_t>(number));
-  }
-};
+// Gives the polygons of a chunk to a sink.
+template <class Sink>
+bool passOn(const CFileStream& body, Sink& sink) {
+  const std::optional<Sink> after = readPolygonList(body.rest(), sink);
+  if (after) sink = *after;
+  return after.has_value();
+}
 
 }  // namespace
 
@@ -107,49 +64,28 @@ bool CountingPass::takePoints(CFileStream body) {
   return body.left() % kBytesOfVec12 == 0;
 }
 
-bool CountingPass::takeFaces(CFileStream body) {
-  PolygonCounter counter;
-  if (!readPolygonList(body.rest(), counter)) return false;
-  m_counts.faces += counter.polygons;
-  m_counts.faceIndices += counter.indices;
-  return true;
-}
+bool CountingPass::takeFaces(CFileStream body) { return passOn(body, m_counts.faces); }
 
-bool CountingPass::takeSkelegons(CFileStream body) {
-  PolygonCounter counter;
-  if (!readPolygonList(body.rest(), counter)) return false;
-  m_counts.skelegons += counter.polygons;
-  return true;
-}
-
-bool CountingPass::takeSkelegonTags(std::uint32_t /*type*/, CFileStream /*body*/) { return true; }
+bool CountingPass::takeSkelegons(CFileStream body) { return passOn(body, m_counts.skelegons); }
 
 // --- counting the tags of each skelegon ---
 
-bool TagCountingPass::takeTagTexts(CFileStream /*body*/) { return true; }
+TagCountingPass::TagCountingPass(SkelegonStore& store) : m_store(&store), m_skelegons(store) {}
 
 bool TagCountingPass::takeLayer(CFileStream /*body*/) {
-  m_firstOfLayer = m_count;
+  m_firstOfLayer = m_skelegons.skelegons;
   return true;
 }
 
-bool TagCountingPass::takePoints(CFileStream /*body*/) { return true; }
-
-bool TagCountingPass::takeFaces(CFileStream /*body*/) { return true; }
-
-bool TagCountingPass::takeSkelegons(CFileStream body) {
-  SkelegonCounter counter{*m_skelegons, m_count};
-  const bool isSound = readPolygonList(body.rest(), counter);
-  m_count = counter.next;
-  return isSound;
-}
+bool TagCountingPass::takeSkelegons(CFileStream body) { return passOn(body, m_skelegons); }
 
 bool TagCountingPass::takeSkelegonTags(std::uint32_t /*type*/, CFileStream body) {
   TagPairs pairs(body.rest());
   std::uint32_t last = 0;
   bool ascends = true;
-  pairs.readBelow(m_count - m_firstOfLayer, [&](std::uint32_t skelegon, std::uint16_t /*text*/) {
-    m_skelegons->countTag(m_firstOfLayer + skelegon);
+  const TagCounter counter(*m_store, m_firstOfLayer);
+  pairs.readBelow(m_skelegons.skelegons - m_firstOfLayer, [&, counter](std::uint32_t skelegon, std::uint16_t /*text*/) {
+    counter.count(skelegon);
     ascends &= skelegon >= last;
     last = skelegon;
   });
@@ -160,13 +96,18 @@ bool TagCountingPass::takeSkelegonTags(std::uint32_t /*type*/, CFileStream body)
 // --- filling ---
 
 FillingPass::FillingPass(ObjectStore& store, const ObjectCounts& counts, bool tagListsAscend)
-    : m_store(&store), m_tags(store.skelegons, tagListsAscend) {
+    : m_store(&store),
+      m_tags(store.skelegons, tagListsAscend),
+      m_faces(roomFor(store, counts)),
+      m_skelegons(store.skelegons) {}
+
+FaceStore& FillingPass::roomFor(ObjectStore& store, const ObjectCounts& counts) {
   store.tags = TagTexts(counts.tagTexts, counts.tagTextBytes);
   store.layerNames.reserve(counts.layerNameBytes);
   store.layers.reserve(counts.layers + 1);
   store.points = Block<Vec12>(counts.points);
-  store.faces.starts = Block<std::uint32_t>(counts.faces + 1);
-  store.faces.indices = Block<std::uint32_t>(counts.faceIndices);
+  store.faces = FaceStore(counts.faces);
+  return store.faces;
 }
 
 bool FillingPass::takeTagTexts(CFileStream body) {
@@ -199,21 +140,14 @@ bool FillingPass::takePoints(CFileStream body) {
 }
 
 bool FillingPass::takeFaces(CFileStream body) {
-  FaceStore& faces = m_store->faces;
-  FaceFiller filler{faces.starts.data() + m_next.firstFace, faces.indices.data() + m_faceIndices, m_faceIndices,
-                    m_highestPoint};
-  const bool isSound = readPolygonList(body.rest(), filler);
-  m_next.firstFace = static_cast<std::uint32_t>(filler.start - faces.starts.data());
-  m_faceIndices = filler.indices;
-  m_highestPoint = filler.highestPoint;
+  const bool isSound = passOn(body, m_faces);
+  m_next.firstFace = m_faces.faces();
   return isSound;
 }
 
 bool FillingPass::takeSkelegons(CFileStream body) {
-  SkelegonFiller filler{m_store->skelegons, m_next.firstSkelegon, m_highestPoint};
-  const bool isSound = readPolygonList(body.rest(), filler);
-  m_next.firstSkelegon = filler.next;
-  m_highestPoint = filler.highestPoint;
+  const bool isSound = passOn(body, m_skelegons);
+  m_next.firstSkelegon = m_skelegons.skelegons();
   return isSound;
 }
 
@@ -226,14 +160,15 @@ bool FillingPass::takeSkelegonTags(std::uint32_t type, CFileStream body) {
 bool FillingPass::endLayer() {
   m_tags.finish();
   if (m_store->layers.empty()) return true;
-  const std::uint32_t points = m_next.firstPoint - m_store->layers.back().firstPoint;
-  return std::exchange(m_highestPoint, kNoPoint) < static_cast<std::int64_t>(points);
+  const std::int64_t points = m_next.firstPoint - m_store->layers.back().firstPoint;
+  const std::int32_t highest = std::max(m_faces.highestPoint, m_skelegons.highestPoint);
+  m_faces.highestPoint = m_skelegons.highestPoint = kNoPoint;
+  return highest < points;
 }
 
 bool FillingPass::finish() {
   if (!endLayer()) return false;
   m_store->layers.push_back(m_next);
-  m_store->faces.starts[m_next.firstFace] = m_faceIndices;
   return true;
 }
 

@@ -18,9 +18,8 @@ struct ObjectCounts {
   std::size_t layers = 0;
   std::size_t layerNameBytes = 0;
   std::size_t points = 0;
-  std::size_t faces = 0;
-  std::size_t faceIndices = 0;
-  std::size_t skelegons = 0;
+  PolygonCounter faces;
+  PolygonCounter skelegons;
 };
 
 // Takes no memory. Refuses all that is not sound in itself; only the tags of skelegons it leaves to the next pass.
@@ -33,7 +32,6 @@ class CountingPass : public ObjectChunks {
   bool takePoints(CFileStream body) override;
   bool takeFaces(CFileStream body) override;
   bool takeSkelegons(CFileStream body) override;
-  bool takeSkelegonTags(std::uint32_t type, CFileStream body) override;
 
  private:
   ObjectCounts m_counts;
@@ -42,21 +40,18 @@ class CountingPass : public ObjectChunks {
 // Counts the points and tags of each skelegon. Refuses a tag whose skelegon the layer does not have, or not yet.
 class TagCountingPass : public ObjectChunks {
  public:
-  explicit TagCountingPass(SkelegonStore& skelegons) : m_skelegons(&skelegons) {}
+  explicit TagCountingPass(SkelegonStore& store);
 
   // Whether no tag list names a lower skelegon after a higher one.
   bool listsAscend() const { return m_listsAscend; }
 
-  bool takeTagTexts(CFileStream body) override;
   bool takeLayer(CFileStream body) override;
-  bool takePoints(CFileStream body) override;
-  bool takeFaces(CFileStream body) override;
   bool takeSkelegons(CFileStream body) override;
   bool takeSkelegonTags(std::uint32_t type, CFileStream body) override;
 
  private:
-  SkelegonStore* m_skelegons;
-  std::uint32_t m_count = 0;
+  SkelegonStore* m_store;
+  SkelegonCounter m_skelegons;
   std::uint32_t m_firstOfLayer = 0;
   bool m_listsAscend = true;
 };
@@ -78,17 +73,15 @@ class FillingPass : public ObjectChunks {
   bool finish();
 
  private:
-  // Below every point number; those have 24 bits.
-  static constexpr std::int32_t kNoPoint = -1;
-
+  static FaceStore& roomFor(ObjectStore& store, const ObjectCounts& counts);
   bool endLayer();
 
   ObjectStore* m_store;
   TagPlacing m_tags;
+  FaceFiller m_faces;
+  SkelegonFiller m_skelegons;
   // Where the next thing of each kind goes; the start of the next layer.
   LayerRecord m_next{};
-  std::uint32_t m_faceIndices = 0;
-  std::int32_t m_highestPoint = kNoPoint;
 };
 
 }  // namespace lwp::st

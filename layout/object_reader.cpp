@@ -17,7 +17,7 @@ bool readObject(ObjectStore& store, std::span<const std::byte> chunks) {
   CountingPass counting;
   if (!CLWOFileStream(chunks).readChunks(counting)) return false;
 
-  store.skelegons = SkelegonStore(counting.counts().skelegons);
+  store.skelegons = SkelegonStore(counting.counts().skelegons.polygons);
   TagCountingPass tagCounting(store.skelegons);
   if (!CLWOFileStream(chunks).readChunks(tagCounting)) return false;
   store.skelegons.layOut();
@@ -35,7 +35,7 @@ bool readForm(ObjectFileData& data, CLWOFileStream& file, std::string path) {
 
 // A file that does not fit into memory is one that cannot be read.
 template <class Read>
-bool falseWithoutMemory(Read read) {
+bool falseWhenOutOfMemory(Read read) {
   try {
     return read();
   } catch (const std::bad_alloc&) {
@@ -47,7 +47,7 @@ bool falseWithoutMemory(Read read) {
 
 bool ReadObjectFile(ObjectFileData& data, std::string narrowPath) {
   data.clear();
-  return falseWithoutMemory([&] {
+  return falseWhenOutOfMemory([&] {
     CLWOFileStream file;
     return file.load(narrowPath) && readForm(data, file, std::move(narrowPath));
   });
@@ -55,7 +55,7 @@ bool ReadObjectFile(ObjectFileData& data, std::string narrowPath) {
 
 bool ParseObjectFile(ObjectFileData& data, std::span<const std::byte> file, std::string path) {
   data.clear();
-  return falseWithoutMemory([&] {
+  return falseWhenOutOfMemory([&] {
     CLWOFileStream stream(file);
     return readForm(data, stream, std::move(path));
   });

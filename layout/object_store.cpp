@@ -1,7 +1,6 @@
 #include "layout/object_store.h"
 
 #include <cstring>
-#include <numeric>
 
 namespace lwp::st {
 
@@ -29,35 +28,6 @@ std::string_view TagTexts::operator[](std::size_t at) const {
   const char* text = m_texts.data() + m_groupStarts[at / kGroup];
   for (std::size_t before = at % kGroup; before > 0; --before) text += storedLength(std::strlen(text));
   return text;
-}
-
-SkelegonStore::SkelegonStore(std::size_t skelegons) : m_ends(skelegons + 2) { m_ends[0] = m_ends[1] = 0; }
-
-void SkelegonStore::layOut() {
-  std::uint32_t* ends = m_ends.data();
-  std::partial_sum(ends, ends + m_ends.size(), ends);
-  m_words = Block<std::byte>(std::size_t{m_ends[m_ends.size() - 1]} * kBytesOfWord);
-}
-
-std::uint32_t* SkelegonStore::placeSkelegon(std::size_t skelegon, std::uint32_t points) {
-  // The entry behind is still as it was laid out, for skelegons come in ascending order.
-  const std::uint32_t begin = m_ends[skelegon + 1];
-  const std::uint32_t end = m_ends[skelegon + 2];
-  m_ends[skelegon + 1] = begin + points;
-  if (end - begin > points) {
-    m_ends[skelegon + 1] |= kHasTags;
-    tagAt(end - kWordsOfTag)->pointsOfSkelegon = static_cast<std::uint16_t>(points);
-  }
-  return reinterpret_cast<std::uint32_t*>(m_words.data() + std::size_t{begin} * kBytesOfWord);
-}
-
-SkelegonRecord SkelegonStore::operator[](std::size_t at) const {
-  const std::uint32_t begin = m_ends[at] & ~kHasTags;
-  const std::uint32_t end = m_ends[at + 1] & ~kHasTags;
-  const bool hasTags = (m_ends[at + 1] & kHasTags) != 0;
-  const std::uint32_t points = hasTags ? tagAt(end - kWordsOfTag)->pointsOfSkelegon : end - begin;
-  const auto* first = reinterpret_cast<const std::uint32_t*>(m_words.data() + std::size_t{begin} * kBytesOfWord);
-  return {{first, points}, {tagAt(begin + points), (end - begin - points) / kWordsOfTag}};
 }
 
 }  // namespace lwp::st

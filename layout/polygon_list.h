@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 
 #include "layout/big_endian.h"
@@ -21,11 +22,11 @@ struct PolygonShape {
 
   // 'at' has kBytes bytes.
   static bool isAt(const std::byte* at) {
-    bool is = (loadU2(at) & kCornerCountMask) == Corners;
+    if ((loadU2(at) & kCornerCountMask) != Corners) return false;
     for (std::size_t corner = 0; corner < Corners; ++corner) {
-      is &= (*indexAt(at, corner) == kLongIndexMark) == (IndexBytes == kBytesOfLongIndex);
+      if ((*indexAt(at, corner) == kLongIndexMark) != (IndexBytes == kBytesOfLongIndex)) return false;
     }
-    return is;
+    return true;
   }
   static std::uint32_t index(const std::byte* at, std::size_t corner) {
     const std::byte* from = indexAt(at, corner);
@@ -76,18 +77,19 @@ const std::byte* readPolygon(const std::byte* at, const std::byte* end, Sink& si
 }
 
 // Gives the polygons of a list to 'sink': for each startPolygon(number of corners), then addIndex(number of a point) as many
-// times. False when a polygon runs past the end of the list; the sink then got what comes before.
+// times. Returns the sink as it is then, or none when a polygon runs past the end of the list.
+// The sink is a copy on purpose: a compiler keeps its members in registers only while nothing else can refer to it.
 template <class Sink>
-bool readPolygonList(std::span<const std::byte> list, Sink& sink) {
+std::optional<Sink> readPolygonList(std::span<const std::byte> list, Sink sink) {
   const std::byte* at = list.data();
   const std::byte* end = at + list.size();
   while (at != end) {
     const std::byte* after = readUsualPolygons(at, end, sink);
     if (after == at) after = readPolygon(at, end, sink);
-    if (after == nullptr) return false;
+    if (after == nullptr) return std::nullopt;
     at = after;
   }
-  return true;
+  return sink;
 }
 
 }  // namespace lwp::st

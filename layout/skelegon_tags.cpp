@@ -26,13 +26,13 @@ void TagPlacing::finish() {
 bool TagPlacing::isWorthInterleaving() const {
   std::size_t bytes = 0;
   for (std::size_t i = 0; i < m_listCount; ++i) bytes += m_lists[i].pairs.left();
-  return m_listsAscend && bytes / m_listCount >= m_count;
+  return m_listsAscend && bytes >= m_listCount * m_count;
 }
 
 void TagPlacing::place(List& list, std::uint32_t limit) {
-  list.pairs.readBelow(limit, [this, type = list.type](std::uint32_t skelegon, std::uint16_t text) {
-    m_skelegons->placeTag(m_first + skelegon, type, text);
-  });
+  const TagFiller filler(*m_skelegons, m_first);
+  list.pairs.readBelow(
+      limit, [filler, type = list.type](std::uint32_t skelegon, std::uint16_t text) { filler.add(skelegon, type, text); });
 }
 
 }  // namespace lwp::st

@@ -8,7 +8,7 @@
 #include <span>
 
 #include "layout/big_endian.h"
-#include "layout/object_store.h"
+#include "layout/skelegon_store.h"
 
 namespace lwp::st {
 
@@ -74,13 +74,23 @@ class TagPlacing {
 template <class Take>
 void TagPairs::readBelow(std::uint32_t limit, Take take) {
   const std::byte* at = m_at;
-  while (static_cast<std::size_t>(m_end - at) >= kBytesOfShortPair) {
-    const bool isLong = *at == kLongIndexMark;
-    if (isLong && static_cast<std::size_t>(m_end - at) < kBytesOfLongPair) break;
-    const std::uint32_t skelegon = isLong ? loadLongIndex(at) : loadU2(at);
-    if (skelegon >= limit) break;
-    take(skelegon, loadU2(at + (isLong ? kBytesOfLongIndex : kBytesOfShortIndex)));
-    at += isLong ? kBytesOfLongPair : kBytesOfShortPair;
+  const std::byte* const end = m_end;
+  const std::byte* before = nullptr;
+  // Pairs of one width mostly follow each other, so each width has a loop of its own.
+  while (at != before) {
+    before = at;
+    while (static_cast<std::size_t>(end - at) >= kBytesOfShortPair && *at != kLongIndexMark) {
+      const std::uint32_t skelegon = loadU2(at);
+      if (skelegon >= limit) break;
+      take(skelegon, loadU2(at + kBytesOfShortIndex));
+      at += kBytesOfShortPair;
+    }
+    while (static_cast<std::size_t>(end - at) >= kBytesOfLongPair && *at == kLongIndexMark) {
+      const std::uint32_t skelegon = loadLongIndex(at);
+      if (skelegon >= limit) break;
+      take(skelegon, loadU2(at + kBytesOfLongIndex));
+      at += kBytesOfLongPair;
+    }
   }
   m_at = at;
 }

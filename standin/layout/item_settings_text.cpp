@@ -50,8 +50,8 @@ class Lister {
     text(name, numberText(a) + unit + ", " + numberText(b) + unit);
   }
   template <std::size_t Size>
-  void named(std::string name, const std::array<const char*, Size>& names, int index) {
-    text(std::move(name), choice(names, index));
+  void named(const std::string& name, const std::array<const char*, Size>& names, int index) {
+    text(name, choice(names, index));
   }
 
   std::vector<Setting> take() { return std::move(settings_); }

@@ -57,6 +57,8 @@ INSTANTIATE_TEST_SUITE_P(
     Polygons, DamagedObject,
     testing::Values(
         Damage{"OneByteTooManyInPoints", ObjectBytes().layer(0, "a").chunk("PNTS", Bytes().vec12(0, 0, 0).u1(0))},
+        Damage{"OneFloatTooManyInPoints", ObjectBytes().layer(0, "a").chunk("PNTS", Bytes().vec12(0, 0, 0).f4(0))},
+        Damage{"OneFloatTooFewInPoints", ObjectBytes().layer(0, "a").chunk("PNTS", Bytes().f4(0).f4(0))},
         Damage{"OneByteTooFewInPoints", ObjectBytes().layer(0, "a").chunk("PNTS", Bytes().u4(0).u4(0).u2(0).u1(0))},
         Damage{"PolygonsWithoutAType", layerWithPoints(1).chunk("POLS", Bytes())},
         Damage{"PolygonsWithHalfAType", layerWithPoints(1).chunk("POLS", Bytes().text("FAC"))},

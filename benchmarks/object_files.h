@@ -18,25 +18,30 @@ namespace varnel::bench {
 using test::Bytes;
 using test::ObjectBytes;
 
-// A grid of squares, one for each point but for two borders, of about that many bytes. Most point numbers take four bytes.
+// A grid of triangles, two for each point but for two borders, as scanned and sculpted objects have them: points and faces of
+// about that many bytes. Most point numbers take four bytes.
 inline std::vector<std::byte> makeMesh(std::size_t wantedBytes) {
   constexpr std::uint32_t kWidth = 1000;
-  constexpr std::size_t kBytesOfPointAndFace = 12 + 2 + 4 * 4;
-  const auto rows = static_cast<std::uint32_t>(wantedBytes / kBytesOfPointAndFace / kWidth);
+  constexpr std::size_t kBytesOfPoint = 12;
+  constexpr std::size_t kBytesOfTriangle = 2 + 3 * 4;
+  const auto rows = static_cast<std::uint32_t>(wantedBytes / (kBytesOfPoint + 2 * kBytesOfTriangle) / kWidth);
 
   Bytes points;
-  points.reserve(std::size_t{12} * rows * kWidth);
-  for (std::uint32_t i = 0; i < rows * kWidth; ++i) {
-    points.vec12(static_cast<float>(i % kWidth) * 0.01F, static_cast<float>(i % 7) * 0.5F,
-                 static_cast<float>(i / kWidth) * 0.01F);
+  points.reserve(kBytesOfPoint * rows * kWidth);
+  for (std::uint32_t row = 0; row < rows; ++row) {
+    for (std::uint32_t column = 0; column < kWidth; ++column) {
+      points.vec12(static_cast<float>(column) * 0.01F, static_cast<float>(column % 7) * 0.5F,
+                   static_cast<float>(row) * 0.01F);
+    }
   }
   Bytes faces;
-  faces.reserve(std::size_t{18} * rows * kWidth);
+  faces.reserve(2 * kBytesOfTriangle * rows * kWidth);
   faces.id("FACE");
   for (std::uint32_t row = 0; row + 1 < rows; ++row) {
     for (std::uint32_t column = 0; column + 1 < kWidth; ++column) {
       const std::uint32_t at = row * kWidth + column;
-      faces.u2(4).vx(at).vx(at + 1).vx(at + kWidth + 1).vx(at + kWidth);
+      faces.u2(3).vx(at).vx(at + 1).vx(at + kWidth + 1);
+      faces.u2(3).vx(at).vx(at + kWidth + 1).vx(at + kWidth);
     }
   }
   return ObjectBytes().tags({"Default"}).layer(0, "Grid").chunk("PNTS", points).chunk("POLS", faces).file();

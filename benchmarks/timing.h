@@ -18,13 +18,11 @@
 
 namespace varnel::bench {
 
-// To be called first. Without it the C library keeps large pieces that were given back, and hands them out again: a second
-// read of the same object would be quicker than the first, which is the only one there is in the host.
-inline void takeFreshMemoryEachTime() {
+// The C library keeps memory that was given back and hands it out again: a second read of the same object would be quicker
+// than the first, which is the only one there is in the host. This lets the system have all that is not in use.
+inline void forgetUsedMemory() {
 #if defined(__GLIBC__)
-  constexpr int kLargePiece = 128 * 1024;
-  mallopt(M_MMAP_THRESHOLD, kLargePiece);
-  mallopt(M_TRIM_THRESHOLD, kLargePiece);
+  malloc_trim(0);
 #endif
 }
 
@@ -34,6 +32,7 @@ void measure(benchmark::State& state, Action action) {
   using Clock = std::chrono::steady_clock;
   for (auto iteration : state) {
     static_cast<void>(iteration);
+    forgetUsedMemory();
     const Clock::time_point start = Clock::now();
     auto result = action();
     const Clock::time_point end = Clock::now();

@@ -1,0 +1,173 @@
+// A stand-in Modeler with the built module in it, and what a user of the property panel does.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "modeler/property_controls.h"
+#include "modeler/property_sections.h"
+#include "skelegon/slots.h"
+#include "standin/core/program_folder.h"
+#include "standin/core/witness.h"
+#include "standin/modeler/modeler_host.h"
+#include "standin/objectfile/rig_builder.h"
+#include "standin/panels/geometry.h"
+#include "standin/panels/person.h"
+
+namespace varnel::test {
+
+namespace person = standin::person;
+
+using skg::Slot;
+using Names = std::vector<std::string>;
+using Text = std::optional<std::string>;  // of a tag; none where there is no such tag
+
+inline constexpr const char* kPropertyTool = "Orlo:SkelegonProperty";
+inline constexpr std::uint32_t kEnglish = 0x409;
+inline constexpr std::uint32_t kJapanese = 0x411;
+
+enum Page { kGroupPage, kBonePage, kIKPage, kControllersPage };
+enum Group { kPositionGroup, kRotationGroup, kScaleGroup };
+
+// Layer 0 "Body": a face, Hips, Chest, Head, weight maps "Head" and "Spine". Layer 1 "Tail": Tail_01 and Tail_02.
+inline standin::ObjectFile panelRig() {
+  standin::RigBuilder rig;
+  rig.layer(0, "Body");
+  rig.face({rig.point({0, 0, 0}), rig.point({1, 0, 0}), rig.point({0, 1, 0})}, "Skin");
+  rig.weightMap("Head", {{0, 1.0F}});
+  rig.weightMap("Spine", {{1, 1.0F}});
+  rig.chain({"Hips", "Chest", "Head"}, {{0, 0, 0}, {0, 1, 0}, {0, 2, 0}, {0, 3, 0}});
+  rig.layer(1, "Tail");
+  rig.chain({"Tail_01", "Tail_02"}, {{0, 0, 5}, {0, 0, 6}, {0, 0, 7}});
+  return rig.take();
+}
+
+// Modeler with that object, both layers in the foreground, and the module loaded.
+class PropertySession {
+ public:
+  using Panel = standin::Panel;
+  using Control = standin::Control;
+
+  PropertySession() : object(&host.add(panelRig(), "rig.lwo")) {
+    host.showLayers({0, 1});
+    EXPECT_NE(standin::modulePath(), "") << "the module is not beside the tests";
+    EXPECT_EQ(module.load(standin::modulePath()), "");
+  }
+
+  // Whatever a test looks at, the module must have kept to the host's rules.
+  ~PropertySession() {
+    standin::panels().moduleUnloaded();
+    module.unload();
+    EXPECT_EQ(standin::witness().report(), "");
+    for (const standin::EditRecord& edit : host.edits()) EXPECT_TRUE(edit.done) << "mode " << edit.mode;
+  }
+  PropertySession(const PropertySession&) = delete;
+  PropertySession& operator=(const PropertySession&) = delete;
+
+  // Runs the tool. The panel is then that of this run.
+  void openTool() {
+    EXPECT_EQ(host.activate(module, kPropertyTool), 0);
+    panel = standin::panels().find(kPropertyTool);
+    ASSERT_NE(panel, nullptr);
+    EXPECT_TRUE(panel->isOpen());
+  }
+  void openWith(const Names& selected) {
+    host.select(selected);
+    openTool();
+  }
+
+  // Controls by number, and by the setting that they show.
+  Control* control(std::size_t number) const { return panel->at(static_cast<int>(number)); }
+  Control* control(Slot slot) const { return control(mst::controlOf(slot).value()); }
+  // What stands n controls behind a setting's: its fill button, its chooser.
+  Control* behind(Slot slot, std::size_t n = 1) const { return control(mst::controlOf(slot).value() + n); }
+
+  void showPage(Page page) { EXPECT_TRUE(person::choose(control(mst::control::kPages), page)); }
+  void showGroup(Group group) {
+    showPage(kControllersPage);
+    EXPECT_TRUE(person::choose(control(mst::control::kGroups), group));
+  }
+  // Brings a control into sight.
+  void show(std::size_t number) {
+    if (number < 9) return;
+    if (number < 13) return showPage(kGroupPage);
+    if (number < 47) return showPage(kBonePage);
+    if (number < 85) return showPage(kIKPage);
+    if (number < 91) return showPage(kControllersPage);
+    showGroup(number < 125 ? kPositionGroup : number < 159 ? kRotationGroup : kScaleGroup);
+  }
+  void show(Slot slot) { show(mst::controlOf(slot).value()); }
+
+  void type(Slot slot, std::string_view text) {
+    show(slot);
+    EXPECT_TRUE(person::type(control(slot), text));
+  }
+  // A number as the field shows it: percent, degrees, metres.
+  void enter(Slot slot, double shown) {
+    show(slot);
+    EXPECT_TRUE(person::enter(control(slot), shown));
+  }
+  void choose(Slot slot, int index) {
+    show(slot);
+    EXPECT_TRUE(person::choose(control(slot), index));
+  }
+  void toggle(Slot slot) {
+    show(slot);
+    EXPECT_TRUE(person::toggle(control(slot)));
+  }
+  void press(std::size_t number) {
+    show(number);
+    EXPECT_TRUE(person::press(control(number)));
+  }
+  void pressBehind(Slot slot, std::size_t n = 1) { press(mst::controlOf(slot).value() + n); }
+  void chooseBehind(Slot slot, std::string_view item) {
+    show(slot);
+    EXPECT_TRUE(person::choose(behind(slot), item));
+  }
+  void sync() { press(mst::control::kSync); }
+
+  bool isVisible(std::size_t number) const { return standin::isVisible(*control(number)); }
+  std::string shown(Slot slot) const { return control(slot)->shown(); }
+
+  Text stored(std::string_view name, std::uint32_t type) const {
+    const standin::MeshPolygon* const polygon = object->skelegon(name);
+    if (polygon == nullptr) return "no such skelegon";
+    const std::string* const text = polygon->content.tag(type);
+    return text == nullptr ? std::nullopt : Text(*text);
+  }
+  Text stored(std::string_view name, Slot slot) const { return stored(name, skg::SlotTagId(slot)); }
+  void store(std::string_view name, std::uint32_t type, const Text& text) {
+    object->setTag(*object->skelegon(name), type, text);
+  }
+  void store(std::string_view name, Slot slot, const Text& text) { store(name, skg::SlotTagId(slot), text); }
+
+  // Everything that is stored on the object's skelegons, to compare it.
+  std::string everythingStored() const {
+    std::string all;
+    for (const standin::MeshPolygon* polygon : object->skelegons()) {
+      all += "skelegon\n";
+      for (const auto& tag : polygon->content.tags) all += std::to_string(tag.type) + "=" + tag.text + "\n";
+    }
+    return all;
+  }
+
+  // Edits of the session that changed something.
+  std::size_t changingEdits() const {
+    std::size_t count = 0;
+    for (const standin::EditRecord& edit : host.edits()) count += edit.changes > 0 ? 1 : 0;
+    return count;
+  }
+
+  standin::ModelerHost host;
+  standin::ModelerObject* object;
+  standin::ModuleFile module;
+  Panel* panel = nullptr;
+};
+
+class PropertyPanel : public testing::Test, protected PropertySession {};
+
+}  // namespace varnel::test
