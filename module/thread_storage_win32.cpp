@@ -23,8 +23,8 @@ TakenIndices taken;
 DWORD WINAPI takeIndex() {
   // Asked for each time: a guarded static would itself need thread storage.
   using Function = DWORD(WINAPI*)();
-  const auto system = reinterpret_cast<Function>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "TlsAlloc")));
+  const auto system =
+      reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "TlsAlloc")));
   if (system == nullptr) return TLS_OUT_OF_INDEXES;
   const DWORD index = system();
   if (index != TLS_OUT_OF_INDEXES && taken.count < taken.index.size()) taken.index[taken.count++] = index;
