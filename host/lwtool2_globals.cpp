@@ -132,7 +132,7 @@ struct HostState {
   ModelerFunctions modelerFunctions;
   PropertyTexts propertyTexts;
   RenamerTexts renamerTexts;
-  const texts::LayoutTexts* layoutTexts = nullptr;
+  const texts::LayoutTexts* layoutTexts = &texts::layoutTexts(texts::Language::English);
 };
 
 // The module-wide state of the host layer. The host calls on one thread only.

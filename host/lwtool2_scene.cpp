@@ -102,8 +102,8 @@ Selection SaveSelection() {
 bool RestoreSelection(const Selection& selection) {
   if (selection.empty()) return true;
   const char* command = "SelectItem";
-  for (auto item = selection.rbegin(); item != selection.rend(); ++item) {
-    EvalF("%s 0x%x", command, commandId(*item));
+  for (std::size_t i = selection.size(); i-- > 0;) {
+    EvalF("%s 0x%x", command, commandId(selection[i]));
     command = "AddToSelection";
   }
   RefreshInterfaceInfo();

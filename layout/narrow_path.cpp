@@ -1,5 +1,7 @@
 #include "layout/narrow_path.h"
 
+#include <algorithm>
+
 #include "host/platform.h"
 
 namespace lwp {
@@ -11,7 +13,7 @@ const std::string& NarrowPath::ToNarrowPath(const char* utf8) {
   }
   const std::u16string wide = platform::utf16FromUtf8(utf8);
   const std::size_t units = wide.size() + 1;
-  if (units > kMaxPathUnits || units > kPathBufferUnits) return path_;
+  if (units > std::min(kMaxPathUnits, kPathBufferUnits)) return path_;
   std::string narrow = platform::narrowFromUtf16(wide);
   if (narrow.size() + 1 <= kMaxPathBytes) path_ = std::move(narrow);
   return path_;
