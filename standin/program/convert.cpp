@@ -64,7 +64,7 @@ void convertFile(const std::string& file, const ConvertOptions& options) {
 
 // The shipped rigs, written into the folder.
 std::vector<std::string> shippedRigs(const TemporaryFolder& folder) {
-  const std::vector<std::string> files = {folder.file("lizard.lwo"), folder.file("人形.lwo")};
+  std::vector<std::string> files = {folder.file("lizard.lwo"), folder.file("人形.lwo")};
   for (const auto& failure : {writeDemoRig(files[0]), writeJapaneseRig(files[1])}) {
     if (failure) throw Trouble{failure->text};
   }
