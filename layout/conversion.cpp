@@ -24,7 +24,9 @@ constexpr const char* kSource = "ST_CSkgConvPanel";
 // IK, motion controllers and deformations slow every command down: off for the life of this object, then on.
 class CSwitchedOff {
  public:
-  CSwitchedOff() { switchAll(0); }
+  // By way of the other constructor the object is whole before anything is sent, so that it switches on also what a throw in
+  // the middle left off.
+  CSwitchedOff() : CSwitchedOff(kWhole) { switchAll(0); }
   ~CSwitchedOff() {
     lw::guarded([] { switchAll(1); });
   }
@@ -32,6 +34,8 @@ class CSwitchedOff {
   CSwitchedOff& operator=(const CSwitchedOff&) = delete;
 
  private:
+  enum Whole { kWhole };
+  explicit CSwitchedOff(Whole /*unused*/) {}
   static void switchAll(int on) {
     for (const char* command : {"EnableIK", "EnableMC", "EnableDeformations"}) EvalF("%s %d", command, on);
   }
