@@ -75,19 +75,19 @@ inline std::vector<std::byte> makeRig(std::uint32_t skelegons, unsigned settings
 class BenchFolder {
  public:
   BenchFolder()
-      : m_path(std::filesystem::temp_directory_path() / ("varnel-bench-" + std::to_string(std::random_device()()))) {
-    std::filesystem::create_directories(m_path);
+      : path_(std::filesystem::temp_directory_path() / ("varnel-bench-" + std::to_string(std::random_device()()))) {
+    std::filesystem::create_directories(path_);
   }
   BenchFolder(const BenchFolder&) = delete;
   BenchFolder& operator=(const BenchFolder&) = delete;
   ~BenchFolder() {
     std::error_code ignored;
-    std::filesystem::remove_all(m_path, ignored);
+    std::filesystem::remove_all(path_, ignored);
   }
 
   // Writes a file and gives its path.
   std::string write(const std::string& name, std::span<const std::byte> bytes) const {
-    const std::filesystem::path path = m_path / name;
+    const std::filesystem::path path = path_ / name;
     std::ofstream file(path, std::ios::binary);
     file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
     if (!file.flush()) throw std::runtime_error("cannot write " + path.string());
@@ -95,7 +95,7 @@ class BenchFolder {
   }
 
  private:
-  std::filesystem::path m_path;
+  std::filesystem::path path_;
 };
 
 }  // namespace varnel::bench

@@ -61,7 +61,7 @@ class KeepingReporter : public benchmark::ConsoleReporter {
     std::vector<Run> shown;
     for (const Run& run : runs) {
       if (run.run_type == Run::RT_Iteration) {
-        m_milliseconds[run.run_name.function_name].push_back(run.GetAdjustedRealTime());
+        milliseconds_[run.run_name.function_name].push_back(run.GetAdjustedRealTime());
       } else if (run.aggregate_name == "median" || run.aggregate_name == "stddev") {
         shown.push_back(run);
       }
@@ -71,15 +71,15 @@ class KeepingReporter : public benchmark::ConsoleReporter {
 
   // The median of a measurement; 0 when it was not run.
   double milliseconds(const std::string& name) const {
-    const auto found = m_milliseconds.find(name);
-    if (found == m_milliseconds.end()) return 0;
+    const auto found = milliseconds_.find(name);
+    if (found == milliseconds_.end()) return 0;
     std::vector<double> times = found->second;
     std::nth_element(times.begin(), times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2), times.end());
     return times[times.size() / 2];
   }
 
  private:
-  std::map<std::string, std::vector<double>> m_milliseconds;
+  std::map<std::string, std::vector<double>> milliseconds_;
 };
 
 // One line of the table: how often the measured thing fits into the time of what it is compared with.

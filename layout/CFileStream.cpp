@@ -19,12 +19,12 @@ std::streamoff lengthOf(std::ifstream& file) {
 }  // namespace
 
 CFileStream::CFileStream(std::span<const std::byte> bytes)
-    : m_bytes(bytes.size() <= kLongestFile ? bytes : std::span<const std::byte>()) {}
+    : bytes_(bytes.size() <= kLongestFile ? bytes : std::span<const std::byte>()) {}
 
 bool CFileStream::load(const std::string& narrowPath) {
-  m_file.reset();
-  m_bytes = {};
-  m_position = 0;
+  file_.reset();
+  bytes_ = {};
+  position_ = 0;
 
   std::ifstream file(narrowPath, std::ios::binary);
   if (!file) return false;
@@ -34,8 +34,8 @@ bool CFileStream::load(const std::string& narrowPath) {
   const auto size = static_cast<std::size_t>(length);
   auto bytes = std::make_unique_for_overwrite<std::byte[]>(size);
   if (!file.read(reinterpret_cast<char*>(bytes.get()), length)) return false;
-  m_file = std::move(bytes);
-  m_bytes = {m_file.get(), size};
+  file_ = std::move(bytes);
+  bytes_ = {file_.get(), size};
   return true;
 }
 
@@ -55,7 +55,7 @@ bool CFileStream::readVEC12(Vec12& value) {
 
 bool CFileStream::readS0(std::string_view& text) {
   if (atEnd()) return false;
-  const auto* start = reinterpret_cast<const char*>(m_bytes.data() + m_position);
+  const auto* start = reinterpret_cast<const char*>(bytes_.data() + position_);
   const void* zero = std::memchr(start, 0, left());
   if (zero == nullptr) return false;
   const auto length = static_cast<std::size_t>(static_cast<const char*>(zero) - start);

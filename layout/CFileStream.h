@@ -27,11 +27,11 @@ class CFileStream {
   // code page. False, and nothing loaded, when the file cannot be opened or read, or is too long.
   bool load(const std::string& narrowPath);
 
-  std::uint32_t position() const { return m_position; }
-  std::uint32_t left() const { return static_cast<std::uint32_t>(m_bytes.size()) - m_position; }
+  std::uint32_t position() const { return position_; }
+  std::uint32_t left() const { return static_cast<std::uint32_t>(bytes_.size()) - position_; }
   bool atEnd() const { return left() == 0; }
   // What was not read yet.
-  std::span<const std::byte> rest() const { return m_bytes.subspan(m_position); }
+  std::span<const std::byte> rest() const { return bytes_.subspan(position_); }
 
   // Each reads one value and goes on behind it. False when the bytes are not there: then neither the position nor the
   // value is touched.
@@ -50,15 +50,15 @@ class CFileStream {
   // The address of the next 'size' bytes, which are passed; null when there are fewer.
   const std::byte* take(std::size_t size);
 
-  std::unique_ptr<std::byte[]> m_file;
-  std::span<const std::byte> m_bytes;
-  std::uint32_t m_position = 0;
+  std::unique_ptr<std::byte[]> file_;
+  std::span<const std::byte> bytes_;
+  std::uint32_t position_ = 0;
 };
 
 inline const std::byte* CFileStream::take(std::size_t size) {
   if (size > left()) return nullptr;
-  const std::byte* at = m_bytes.data() + m_position;
-  m_position += static_cast<std::uint32_t>(size);
+  const std::byte* at = bytes_.data() + position_;
+  position_ += static_cast<std::uint32_t>(size);
   return at;
 }
 
@@ -78,7 +78,7 @@ inline bool CFileStream::readU4(std::uint32_t& value) {
 
 inline bool CFileStream::readVX(std::uint32_t& index) {
   if (atEnd()) return false;
-  const std::size_t size = bytesOfIndexAt(m_bytes.data() + m_position);
+  const std::size_t size = bytesOfIndexAt(bytes_.data() + position_);
   const std::byte* at = take(size);
   if (at == nullptr) return false;
   index = size == kBytesOfLongIndex ? loadLongIndex(at) : loadU2(at);

@@ -32,23 +32,23 @@ class FaceStore {
  public:
   FaceStore() = default;
   explicit FaceStore(const PolygonCounter& counted)
-      : m_starts(counted.haveEqualCorners() ? 1 : counted.polygons + 1),
-        m_indices(counted.indices),
-        m_corners(counted.haveEqualCorners() ? counted.mostCorners : kDiffering) {}
+      : starts_(counted.haveEqualCorners() ? 1 : counted.polygons + 1),
+        indices_(counted.indices),
+        corners_(counted.haveEqualCorners() ? counted.mostCorners : kDiffering) {}
 
   std::span<const std::uint32_t> operator[](std::size_t at) const {
-    if (m_corners != kDiffering) return {m_indices.data() + at * m_corners, m_corners};
-    return {m_indices.data() + m_starts[at], m_indices.data() + m_starts[at + 1]};
+    if (corners_ != kDiffering) return {indices_.data() + at * corners_, corners_};
+    return {indices_.data() + starts_[at], indices_.data() + starts_[at + 1]};
   }
 
  private:
   friend class FaceFiller;
   static constexpr std::uint32_t kDiffering = 0xFFFFFFFF;
 
-  // Face i has the indices from m_starts[i] to m_starts[i + 1]. A single entry without a meaning when it is not needed.
-  Block<std::uint32_t> m_starts;
-  Block<std::uint32_t> m_indices;
-  std::uint32_t m_corners = 0;
+  // Face i has the indices from starts_[i] to starts_[i + 1]. A single entry without a meaning when it is not needed.
+  Block<std::uint32_t> starts_;
+  Block<std::uint32_t> indices_;
+  std::uint32_t corners_ = 0;
 };
 
 // Below every point number; those have 24 bits.
@@ -58,35 +58,33 @@ inline constexpr std::int32_t kNoPoint = -1;
 class FaceFiller {
  public:
   explicit FaceFiller(FaceStore& store)
-      : m_start(store.m_starts.data()),
-        m_step(store.m_corners == FaceStore::kDiffering ? 1 : 0),
-        m_index(store.m_indices.data()) {
-    *m_start = 0;
+      : start_(store.starts_.data()), step_(store.corners_ == FaceStore::kDiffering ? 1 : 0), index_(store.indices_.data()) {
+    *start_ = 0;
   }
 
   void startPolygon(std::uint32_t corners) {
-    ++m_faces;
-    m_indices += corners;
-    m_start += m_step;
-    *m_start = m_indices;
+    ++faces_;
+    indices_ += corners;
+    start_ += step_;
+    *start_ = indices_;
   }
   void addIndex(std::uint32_t point) {
-    *m_index++ = point;
+    *index_++ = point;
     highestPoint = std::max(highestPoint, static_cast<std::int32_t>(point));
   }
 
   // How many faces there are so far.
-  std::uint32_t faces() const { return m_faces; }
+  std::uint32_t faces() const { return faces_; }
 
   // The highest point number since it was set last.
   std::int32_t highestPoint = kNoPoint;
 
  private:
-  std::uint32_t* m_start;
-  std::size_t m_step;
-  std::uint32_t* m_index;
-  std::uint32_t m_faces = 0;
-  std::uint32_t m_indices = 0;
+  std::uint32_t* start_;
+  std::size_t step_;
+  std::uint32_t* index_;
+  std::uint32_t faces_ = 0;
+  std::uint32_t indices_ = 0;
 };
 
 }  // namespace lwp::st

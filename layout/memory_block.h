@@ -11,17 +11,17 @@ class Block {
  public:
   Block() = default;
   // Throws std::bad_alloc.
-  explicit Block(std::size_t size) : m_items(std::make_unique_for_overwrite<Item[]>(size)), m_size(size) {}
+  explicit Block(std::size_t size) : items_(std::make_unique_for_overwrite<Item[]>(size)), size_(size) {}
 
-  std::size_t size() const { return m_size; }
-  Item* data() { return m_items.get(); }
-  const Item* data() const { return m_items.get(); }
-  Item& operator[](std::size_t at) { return m_items[at]; }
-  const Item& operator[](std::size_t at) const { return m_items[at]; }
+  std::size_t size() const { return size_; }
+  Item* data() { return items_.get(); }
+  const Item* data() const { return items_.get(); }
+  Item& operator[](std::size_t at) { return items_[at]; }
+  const Item& operator[](std::size_t at) const { return items_[at]; }
 
  private:
-  std::unique_ptr<Item[]> m_items;
-  std::size_t m_size = 0;
+  std::unique_ptr<Item[]> items_;
+  std::size_t size_ = 0;
 };
 
 }  // namespace lwp::st

@@ -4,13 +4,13 @@
 
 namespace lwp::st {
 
-ObjectFileData::ObjectFileData(std::string path, ObjectStore store) : m_path(std::move(path)), m_store(std::move(store)) {}
+ObjectFileData::ObjectFileData(std::string path, ObjectStore store) : path_(std::move(path)), store_(std::move(store)) {}
 
 void ObjectFileData::renameLayer(std::size_t at, std::string_view name) {
   // The old name stays in the block, unused: layers are renamed once in a run at most.
-  LayerRecord& record = m_store.layers[at];
-  const auto start = static_cast<std::uint32_t>(m_store.layerNames.size());
-  m_store.layerNames.append(name);
+  LayerRecord& record = store_.layers[at];
+  const auto start = static_cast<std::uint32_t>(store_.layerNames.size());
+  store_.layerNames.append(name);
   record.nameStart = start;
   record.nameLength = static_cast<std::uint32_t>(name.size());
 }

@@ -18,70 +18,70 @@ class ListView {
  public:
   class Iterator {
    public:
-    Iterator(const ListView* list, std::size_t at) : m_list(list), m_at(at) {}
-    auto operator*() const { return (*m_list)[m_at]; }
+    Iterator(const ListView* list, std::size_t at) : list_(list), at_(at) {}
+    auto operator*() const { return (*list_)[at_]; }
     Iterator& operator++() {
-      ++m_at;
+      ++at_;
       return *this;
     }
-    bool operator==(const Iterator& other) const { return m_at == other.m_at; }
+    bool operator==(const Iterator& other) const { return at_ == other.at_; }
 
    private:
-    const ListView* m_list;
-    std::size_t m_at;
+    const ListView* list_;
+    std::size_t at_;
   };
 
-  ListView(std::size_t size, Get get) : m_size(size), m_get(get) {}
+  ListView(std::size_t size, Get get) : size_(size), get_(get) {}
 
-  std::size_t size() const { return m_size; }
-  bool empty() const { return m_size == 0; }
-  auto operator[](std::size_t at) const { return m_get(at); }
+  std::size_t size() const { return size_; }
+  bool empty() const { return size_ == 0; }
+  auto operator[](std::size_t at) const { return get_(at); }
   Iterator begin() const { return {this, 0}; }
-  Iterator end() const { return {this, m_size}; }
+  Iterator end() const { return {this, size_}; }
 
  private:
-  std::size_t m_size;
-  Get m_get;
+  std::size_t size_;
+  Get get_;
 };
 
 // A layer of an ObjectFileData: to be used while that stands where it is and keeps its contents.
 class ObjectLayer {
  public:
-  ObjectLayer(const ObjectStore& store, std::size_t layer) : m_store(&store), m_record(&store.layers[layer]) {}
+  ObjectLayer(const ObjectStore& store, std::size_t layer) : store_(&store), record_(&store.layers[layer]) {}
 
-  std::uint16_t number() const { return m_record->number; }
-  std::uint16_t flags() const { return m_record->flags; }
-  Vec12 pivot() const { return m_record->pivot; }
+  std::uint16_t number() const { return record_->number; }
+  std::uint16_t flags() const { return record_->flags; }
+  Vec12 pivot() const { return record_->pivot; }
   // Never empty: a layer without a name is called Layer1 when its number is 0, and so on.
   std::string_view name() const {
-    return std::string_view(m_store->layerNames).substr(m_record->nameStart, m_record->nameLength);
+    return std::string_view(store_->layerNames).substr(record_->nameStart, record_->nameLength);
   }
   // The number of the parent layer; 0 also when the file says nothing of one.
-  std::uint16_t parent() const { return m_record->parent; }
+  std::uint16_t parent() const { return record_->parent; }
 
   std::span<const Vec12> points() const {
-    return {m_store->points.data() + m_record->firstPoint, m_store->points.data() + next().firstPoint};
+    return {store_->points.data() + record_->firstPoint, store_->points.data() + next().firstPoint};
   }
 
   // FACE polygons: the numbers of their points, all below points().size().
-  std::size_t faceCount() const { return next().firstFace - m_record->firstFace; }
-  std::span<const std::uint32_t> face(std::size_t at) const { return m_store->faces[m_record->firstFace + at]; }
+  std::size_t faceCount() const { return next().firstFace - record_->firstFace; }
+  std::span<const std::uint32_t> face(std::size_t at) const { return store_->faces[record_->firstFace + at]; }
   auto faces() const {
     return ListView(faceCount(), [layer = *this](std::size_t at) { return layer.face(at); });
   }
 
   // BONE polygons. Their point numbers are below points().size(); their tags may name texts that the tag list lacks.
-  std::size_t skelegonCount() const { return next().firstSkelegon - m_record->firstSkelegon; }
-  SkelegonRecord skelegon(std::size_t at) const { return m_store->skelegons[m_record->firstSkelegon + at]; }
+  std::size_t skelegonCount() const { return next().firstSkelegon - record_->firstSkelegon; }
+  SkelegonRecord skelegon(std::size_t at) const { return store_->skelegons[record_->firstSkelegon + at]; }
   auto skelegons() const {
     return ListView(skelegonCount(), [layer = *this](std::size_t at) { return layer.skelegon(at); });
   }
 
  private:
-  const LayerRecord& next() const { return *(m_record + 1); }
+  const LayerRecord& next() const { return *(record_ + 1); }
 
-  const ObjectStore* m_store;
-  const LayerRecord* m_record;
+  const ObjectStore* store_;
+  const LayerRecord* record_;
 };
 
 class ObjectFileData {
@@ -90,15 +90,15 @@ class ObjectFileData {
   ObjectFileData(std::string path, ObjectStore store);
 
   // The path that was read; empty when nothing was read.
-  const std::string& path() const { return m_path; }
+  const std::string& path() const { return path_; }
 
   // The tag texts of the file, in its order.
   auto tags() const {
-    return ListView(m_store.tags.size(), [this](std::size_t at) { return m_store.tags[at]; });
+    return ListView(store_.tags.size(), [this](std::size_t at) { return store_.tags[at]; });
   }
 
-  std::size_t layerCount() const { return m_store.layers.empty() ? 0 : m_store.layers.size() - 1; }
-  ObjectLayer layer(std::size_t at) const { return {m_store, at}; }
+  std::size_t layerCount() const { return store_.layers.empty() ? 0 : store_.layers.size() - 1; }
+  ObjectLayer layer(std::size_t at) const { return {store_, at}; }
   auto layers() const {
     return ListView(layerCount(), [this](std::size_t at) { return layer(at); });
   }
@@ -109,8 +109,8 @@ class ObjectFileData {
   void clear();
 
  private:
-  std::string m_path;
-  ObjectStore m_store;
+  std::string path_;
+  ObjectStore store_;
 };
 
 }  // namespace lwp::st

@@ -43,9 +43,9 @@ bool passOn(const CFileStream& body, Sink& sink) {
 // --- counting ---
 
 bool CountingPass::takeTagTexts(CFileStream body) {
-  m_counts.tagTextBytes += body.left();
+  counts_.tagTextBytes += body.left();
   std::string_view text;
-  for (; !body.atEnd(); ++m_counts.tagTexts) {
+  for (; !body.atEnd(); ++counts_.tagTexts) {
     if (!body.readS0(text)) return false;
   }
   return true;
@@ -54,52 +54,49 @@ bool CountingPass::takeTagTexts(CFileStream body) {
 bool CountingPass::takeLayer(CFileStream body) {
   LayerChunk layer;
   if (!readLayerChunk(body, layer)) return false;
-  ++m_counts.layers;
-  m_counts.layerNameBytes += nameOf(layer).size();
+  ++counts_.layers;
+  counts_.layerNameBytes += nameOf(layer).size();
   return true;
 }
 
 bool CountingPass::takePoints(CFileStream body) {
-  m_counts.points += body.left() / kBytesOfVec12;
+  counts_.points += body.left() / kBytesOfVec12;
   return body.left() % kBytesOfVec12 == 0;
 }
 
-bool CountingPass::takeFaces(CFileStream body) { return passOn(body, m_counts.faces); }
+bool CountingPass::takeFaces(CFileStream body) { return passOn(body, counts_.faces); }
 
-bool CountingPass::takeSkelegons(CFileStream body) { return passOn(body, m_counts.skelegons); }
+bool CountingPass::takeSkelegons(CFileStream body) { return passOn(body, counts_.skelegons); }
 
 // --- counting the tags of each skelegon ---
 
-TagCountingPass::TagCountingPass(SkelegonStore& store) : m_store(&store), m_skelegons(store) {}
+TagCountingPass::TagCountingPass(SkelegonStore& store) : store_(&store), skelegons_(store) {}
 
 bool TagCountingPass::takeLayer(CFileStream /*body*/) {
-  m_firstOfLayer = m_skelegons.skelegons;
+  firstOfLayer_ = skelegons_.skelegons;
   return true;
 }
 
-bool TagCountingPass::takeSkelegons(CFileStream body) { return passOn(body, m_skelegons); }
+bool TagCountingPass::takeSkelegons(CFileStream body) { return passOn(body, skelegons_); }
 
 bool TagCountingPass::takeSkelegonTags(std::uint32_t /*type*/, CFileStream body) {
   TagPairs pairs(body.rest());
   std::uint32_t last = 0;
   bool ascends = true;
-  const TagCounter counter(*m_store, m_firstOfLayer);
-  pairs.readBelow(m_skelegons.skelegons - m_firstOfLayer, [&, counter](std::uint32_t skelegon, std::uint16_t /*text*/) {
+  const TagCounter counter(*store_, firstOfLayer_);
+  pairs.readBelow(skelegons_.skelegons - firstOfLayer_, [&, counter](std::uint32_t skelegon, std::uint16_t /*text*/) {
     counter.count(skelegon);
     ascends &= skelegon >= last;
     last = skelegon;
   });
-  m_listsAscend &= ascends;
+  listsAscend_ &= ascends;
   return pairs.atEnd();
 }
 
 // --- filling ---
 
 FillingPass::FillingPass(ObjectStore& store, const ObjectCounts& counts, bool tagListsAscend)
-    : m_store(&store),
-      m_tags(store.skelegons, tagListsAscend),
-      m_faces(roomFor(store, counts)),
-      m_skelegons(store.skelegons) {}
+    : store_(&store), tags_(store.skelegons, tagListsAscend), faces_(roomFor(store, counts)), skelegons_(store.skelegons) {}
 
 FaceStore& FillingPass::roomFor(ObjectStore& store, const ObjectCounts& counts) {
   store.tags = TagTexts(counts.tagTexts, counts.tagTextBytes);
@@ -111,7 +108,7 @@ FaceStore& FillingPass::roomFor(ObjectStore& store, const ObjectCounts& counts) 
 }
 
 bool FillingPass::takeTagTexts(CFileStream body) {
-  m_store->tags.append(body.rest());
+  store_->tags.append(body.rest());
   return true;
 }
 
@@ -119,56 +116,56 @@ bool FillingPass::takeLayer(CFileStream body) {
   LayerChunk layer;
   if (!endLayer() || !readLayerChunk(body, layer)) return false;
   const std::string name = nameOf(layer);
-  LayerRecord& record = m_store->layers.emplace_back(m_next);
+  LayerRecord& record = store_->layers.emplace_back(next_);
   record.pivot = layer.pivot;
   record.number = layer.number;
   record.flags = layer.flags;
   record.parent = layer.parent;
-  record.nameStart = static_cast<std::uint32_t>(m_store->layerNames.size());
+  record.nameStart = static_cast<std::uint32_t>(store_->layerNames.size());
   record.nameLength = static_cast<std::uint32_t>(name.size());
-  m_store->layerNames += name;
+  store_->layerNames += name;
   return true;
 }
 
 bool FillingPass::takePoints(CFileStream body) {
   const std::span<const std::byte> bytes = body.rest();
   const std::size_t points = bytes.size() / kBytesOfVec12;
-  Vec12* to = m_store->points.data() + m_next.firstPoint;
+  Vec12* to = store_->points.data() + next_.firstPoint;
   for (std::size_t i = 0; i < points; ++i) to[i] = loadVec12(bytes.data() + i * kBytesOfVec12);
-  m_next.firstPoint += static_cast<std::uint32_t>(points);
+  next_.firstPoint += static_cast<std::uint32_t>(points);
   return true;
 }
 
 bool FillingPass::takeFaces(CFileStream body) {
-  const bool isSound = passOn(body, m_faces);
-  m_next.firstFace = m_faces.faces();
+  const bool isSound = passOn(body, faces_);
+  next_.firstFace = faces_.faces();
   return isSound;
 }
 
 bool FillingPass::takeSkelegons(CFileStream body) {
-  const bool isSound = passOn(body, m_skelegons);
-  m_next.firstSkelegon = m_skelegons.skelegons();
+  const bool isSound = passOn(body, skelegons_);
+  next_.firstSkelegon = skelegons_.skelegons();
   return isSound;
 }
 
 bool FillingPass::takeSkelegonTags(std::uint32_t type, CFileStream body) {
-  const std::uint32_t first = m_store->layers.back().firstSkelegon;
-  m_tags.add(type, body.rest(), first, m_next.firstSkelegon - first);
+  const std::uint32_t first = store_->layers.back().firstSkelegon;
+  tags_.add(type, body.rest(), first, next_.firstSkelegon - first);
   return true;
 }
 
 bool FillingPass::endLayer() {
-  m_tags.finish();
-  if (m_store->layers.empty()) return true;
-  const std::int64_t points = m_next.firstPoint - m_store->layers.back().firstPoint;
-  const std::int32_t highest = std::max(m_faces.highestPoint, m_skelegons.highestPoint);
-  m_faces.highestPoint = m_skelegons.highestPoint = kNoPoint;
+  tags_.finish();
+  if (store_->layers.empty()) return true;
+  const std::int64_t points = next_.firstPoint - store_->layers.back().firstPoint;
+  const std::int32_t highest = std::max(faces_.highestPoint, skelegons_.highestPoint);
+  faces_.highestPoint = skelegons_.highestPoint = kNoPoint;
   return highest < points;
 }
 
 bool FillingPass::finish() {
   if (!endLayer()) return false;
-  m_store->layers.push_back(m_next);
+  store_->layers.push_back(next_);
   return true;
 }
 

@@ -25,7 +25,7 @@ struct ObjectCounts {
 // Takes no memory. Refuses all that is not sound in itself; only the tags of skelegons it leaves to the next pass.
 class CountingPass : public ObjectChunks {
  public:
-  const ObjectCounts& counts() const { return m_counts; }
+  const ObjectCounts& counts() const { return counts_; }
 
   bool takeTagTexts(CFileStream body) override;
   bool takeLayer(CFileStream body) override;
@@ -34,7 +34,7 @@ class CountingPass : public ObjectChunks {
   bool takeSkelegons(CFileStream body) override;
 
  private:
-  ObjectCounts m_counts;
+  ObjectCounts counts_;
 };
 
 // Counts the points and tags of each skelegon. Refuses a tag whose skelegon the layer does not have, or not yet.
@@ -43,17 +43,17 @@ class TagCountingPass : public ObjectChunks {
   explicit TagCountingPass(SkelegonStore& store);
 
   // Whether no tag list names a lower skelegon after a higher one.
-  bool listsAscend() const { return m_listsAscend; }
+  bool listsAscend() const { return listsAscend_; }
 
   bool takeLayer(CFileStream body) override;
   bool takeSkelegons(CFileStream body) override;
   bool takeSkelegonTags(std::uint32_t type, CFileStream body) override;
 
  private:
-  SkelegonStore* m_store;
-  SkelegonCounter m_skelegons;
-  std::uint32_t m_firstOfLayer = 0;
-  bool m_listsAscend = true;
+  SkelegonStore* store_;
+  SkelegonCounter skelegons_;
+  std::uint32_t firstOfLayer_ = 0;
+  bool listsAscend_ = true;
 };
 
 // Takes the memory and puts everything in place. Refuses a polygon with a point that its layer does not have: points may
@@ -76,12 +76,12 @@ class FillingPass : public ObjectChunks {
   static FaceStore& roomFor(ObjectStore& store, const ObjectCounts& counts);
   bool endLayer();
 
-  ObjectStore* m_store;
-  TagPlacing m_tags;
-  FaceFiller m_faces;
-  SkelegonFiller m_skelegons;
+  ObjectStore* store_;
+  TagPlacing tags_;
+  FaceFiller faces_;
+  SkelegonFiller skelegons_;
   // Where the next thing of each kind goes; the start of the next layer.
-  LayerRecord m_next{};
+  LayerRecord next_{};
 };
 
 }  // namespace lwp::st

@@ -44,7 +44,7 @@ class TagTexts {
   // The next texts of the list: the body of a TAGS chunk, which ends with the end of a text.
   void append(std::span<const std::byte> body);
 
-  std::size_t size() const { return m_count; }
+  std::size_t size() const { return count_; }
   // 'at' is below size().
   std::string_view operator[](std::size_t at) const;
 
@@ -52,10 +52,10 @@ class TagTexts {
   // A text is found from the start of its group. A start for each would be too much beside texts of one letter.
   static constexpr std::size_t kGroup = 2;
 
-  Block<char> m_texts;
-  Block<std::uint32_t> m_groupStarts;
-  std::size_t m_length = 0;
-  std::size_t m_count = 0;
+  Block<char> texts_;
+  Block<std::uint32_t> groupStarts_;
+  std::size_t length_ = 0;
+  std::size_t count_ = 0;
 };
 
 struct ObjectStore {

@@ -57,88 +57,88 @@ class SkelegonStore {
   // Set in the end of a skelegon. The bit is free: the words take at most twice the bytes of a file of 32-bit size.
   static constexpr std::uint32_t kHasTags = 0x80000000U;
 
-  // m_ends[i + 1] is where skelegon i ends and the next begins; m_ends[0] is 0. While tags are put in place it is where the
+  // ends_[i + 1] is where skelegon i ends and the next begins; ends_[0] is 0. While tags are put in place it is where the
   // next tag of i goes, which has come to the end when all are there. Counting needs one entry more, at the back.
-  Block<std::uint32_t> m_ends;
-  Block<std::byte> m_words;
+  Block<std::uint32_t> ends_;
+  Block<std::byte> words_;
 };
 
 // [before layOut] Counts skelegons in ascending order. A sink of polygon lists.
 struct SkelegonCounter {
-  explicit SkelegonCounter(SkelegonStore& store) : m_count(store.m_ends.data() + 2) {}
+  explicit SkelegonCounter(SkelegonStore& store) : count_(store.ends_.data() + 2) {}
 
-  void startPolygon(std::uint32_t points) { m_count[skelegons++] = points; }
+  void startPolygon(std::uint32_t points) { count_[skelegons++] = points; }
   void addIndex(std::uint32_t /*point*/) {}
 
   std::uint32_t skelegons = 0;
 
  private:
-  std::uint32_t* m_count;
+  std::uint32_t* count_;
 };
 
 // [before layOut] Counts a tag of a skelegon that was counted; numbers are those of a layer whose first one is 'first'.
 struct TagCounter {
-  TagCounter(SkelegonStore& store, std::uint32_t first) : m_count(store.m_ends.data() + 2 + first) {}
+  TagCounter(SkelegonStore& store, std::uint32_t first) : count_(store.ends_.data() + 2 + first) {}
 
-  void count(std::uint32_t skelegon) const { m_count[skelegon] += SkelegonStore::kWordsOfTag; }
+  void count(std::uint32_t skelegon) const { count_[skelegon] += SkelegonStore::kWordsOfTag; }
 
  private:
-  std::uint32_t* m_count;
+  std::uint32_t* count_;
 };
 
 // [laid out] Puts skelegons in place, in the same order as they were counted. A sink of polygon lists.
 class SkelegonFiller {
  public:
-  explicit SkelegonFiller(SkelegonStore& store) : m_ends(store.m_ends.data() + 1), m_words(store.m_words.data()) {}
+  explicit SkelegonFiller(SkelegonStore& store) : ends_(store.ends_.data() + 1), words_(store.words_.data()) {}
 
   void startPolygon(std::uint32_t points) {
     // The next entry is still as it was laid out.
-    std::uint32_t& begin = m_ends[m_skelegons++];
-    const std::uint32_t end = m_ends[m_skelegons];
-    m_point = reinterpret_cast<std::uint32_t*>(m_words + begin * SkelegonStore::kBytesOfWord);
+    std::uint32_t& begin = ends_[skelegons_++];
+    const std::uint32_t end = ends_[skelegons_];
+    point_ = reinterpret_cast<std::uint32_t*>(words_ + begin * SkelegonStore::kBytesOfWord);
     const bool hasTags = end - begin > points;
     begin += points;
     if (!hasTags) return;
     begin |= SkelegonStore::kHasTags;
-    std::byte* last = m_words + (end - SkelegonStore::kWordsOfTag) * SkelegonStore::kBytesOfWord;
+    std::byte* last = words_ + (end - SkelegonStore::kWordsOfTag) * SkelegonStore::kBytesOfWord;
     reinterpret_cast<PolygonTag*>(last)->pointsOfSkelegon = static_cast<std::uint16_t>(points);
   }
   void addIndex(std::uint32_t point) {
-    *m_point++ = point;
+    *point_++ = point;
     highestPoint = std::max(highestPoint, static_cast<std::int32_t>(point));
   }
 
   // How many skelegons there are so far.
-  std::uint32_t skelegons() const { return m_skelegons; }
+  std::uint32_t skelegons() const { return skelegons_; }
 
   // The highest point number since it was set last.
   std::int32_t highestPoint = kNoPoint;
 
  private:
-  std::uint32_t* m_ends;
-  std::byte* m_words;
-  std::uint32_t* m_point = nullptr;
-  std::uint32_t m_skelegons = 0;
+  std::uint32_t* ends_;
+  std::byte* words_;
+  std::uint32_t* point_ = nullptr;
+  std::uint32_t skelegons_ = 0;
 };
 
 // [laid out] Puts a tag behind those that a skelegon has so far; numbers are those of a layer whose first one is 'first'.
 class TagFiller {
  public:
   TagFiller(SkelegonStore& store, std::uint32_t first)
-      : m_ends(store.m_ends.data() + 1 + first), m_words(store.m_words.data()) {}
+      : ends_(store.ends_.data() + 1 + first), words_(store.words_.data()) {}
 
   void add(std::uint32_t skelegon, std::uint32_t type, std::uint16_t index) const {
-    const std::uint32_t end = m_ends[skelegon];
-    m_ends[skelegon] = end + SkelegonStore::kWordsOfTag;
-    std::byte* at = m_words + (end & ~SkelegonStore::kHasTags) * SkelegonStore::kBytesOfWord;
+    const std::uint32_t end = ends_[skelegon];
+    ends_[skelegon] = end + SkelegonStore::kWordsOfTag;
+    std::byte* at = words_ + (end & ~SkelegonStore::kHasTags) * SkelegonStore::kBytesOfWord;
     auto* tag = reinterpret_cast<PolygonTag*>(at);
     tag->type = type;
     tag->index = index;
   }
 
  private:
-  std::uint32_t* m_ends;
-  std::byte* m_words;
+  std::uint32_t* ends_;
+  std::byte* words_;
 };
 
 }  // namespace lwp::st

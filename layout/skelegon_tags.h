@@ -16,22 +16,22 @@ namespace lwp::st {
 class TagPairs {
  public:
   TagPairs() = default;
-  explicit TagPairs(std::span<const std::byte> list) : m_at(list.data()), m_end(list.data() + list.size()) {}
+  explicit TagPairs(std::span<const std::byte> list) : at_(list.data()), end_(list.data() + list.size()) {}
 
   // Calls take(skelegon, text) for the next pairs, as long as their skelegon is below 'limit'. Stops in front of a pair that
   // is not complete.
   template <class Take>
   void readBelow(std::uint32_t limit, Take take);
 
-  bool atEnd() const { return m_at == m_end; }
-  std::size_t left() const { return static_cast<std::size_t>(m_end - m_at); }
+  bool atEnd() const { return at_ == end_; }
+  std::size_t left() const { return static_cast<std::size_t>(end_ - at_); }
 
  private:
   static constexpr std::size_t kBytesOfShortPair = kBytesOfShortIndex + kBytesOfU2;
   static constexpr std::size_t kBytesOfLongPair = kBytesOfLongIndex + kBytesOfU2;
 
-  const std::byte* m_at = nullptr;
-  const std::byte* m_end = nullptr;
+  const std::byte* at_ = nullptr;
+  const std::byte* end_ = nullptr;
 };
 
 // Puts the tags of a layer's skelegons in place, those of each skelegon in the order of the lists.
@@ -41,7 +41,7 @@ class TagPairs {
 class TagPlacing {
  public:
   // 'listsAscend': no pair of any list names a lower skelegon than the one before.
-  TagPlacing(SkelegonStore& skelegons, bool listsAscend) : m_skelegons(&skelegons), m_listsAscend(listsAscend) {}
+  TagPlacing(SkelegonStore& skelegons, bool listsAscend) : skelegons_(&skelegons), listsAscend_(listsAscend) {}
 
   // A sound list of the layer whose skelegons are 'first' and the 'count' - 1 behind it. It may be kept until 'finish'.
   void add(std::uint32_t type, std::span<const std::byte> list, std::uint32_t first, std::uint32_t count);
@@ -63,18 +63,18 @@ class TagPlacing {
   bool isWorthInterleaving() const;
   void place(List& list, std::uint32_t limit);
 
-  SkelegonStore* m_skelegons;
-  bool m_listsAscend;
-  std::uint32_t m_first = 0;
-  std::uint32_t m_count = 0;
-  std::array<List, kListsAtOnce> m_lists;
-  std::size_t m_listCount = 0;
+  SkelegonStore* skelegons_;
+  bool listsAscend_;
+  std::uint32_t first_ = 0;
+  std::uint32_t count_ = 0;
+  std::array<List, kListsAtOnce> lists_;
+  std::size_t listCount_ = 0;
 };
 
 template <class Take>
 void TagPairs::readBelow(std::uint32_t limit, Take take) {
-  const std::byte* at = m_at;
-  const std::byte* const end = m_end;
+  const std::byte* at = at_;
+  const std::byte* const end = end_;
   const std::byte* before = nullptr;
   // Pairs of one width mostly follow each other, so each width has a loop of its own.
   while (at != before) {
@@ -92,7 +92,7 @@ void TagPairs::readBelow(std::uint32_t limit, Take take) {
       at += kBytesOfLongPair;
     }
   }
-  m_at = at;
+  at_ = at;
 }
 
 }  // namespace lwp::st

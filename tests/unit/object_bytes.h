@@ -18,7 +18,7 @@ namespace varnel::test {
 class Bytes {
  public:
   Bytes& u1(unsigned value) {
-    m_bytes.push_back(static_cast<std::byte>(value));
+    bytes_.push_back(static_cast<std::byte>(value));
     return *this;
   }
   Bytes& u2(unsigned value) { return u1(value >> 8U).u1(value & 0xFFU); }
@@ -40,19 +40,19 @@ class Bytes {
   Bytes& vx(std::uint32_t index) { return index < 0xFF00U ? u2(index) : longVx(index); }
   Bytes& longVx(std::uint32_t index) { return u4(0xFF000000U + index); }
   Bytes& append(const Bytes& other) {
-    m_bytes.insert(m_bytes.end(), other.m_bytes.begin(), other.m_bytes.end());
+    bytes_.insert(bytes_.end(), other.bytes_.begin(), other.bytes_.end());
     return *this;
   }
 
-  std::size_t size() const { return m_bytes.size(); }
-  std::span<const std::byte> span() const { return m_bytes; }
-  std::vector<std::byte>& bytes() { return m_bytes; }
-  const std::vector<std::byte>& bytes() const { return m_bytes; }
+  std::size_t size() const { return bytes_.size(); }
+  std::span<const std::byte> span() const { return bytes_; }
+  std::vector<std::byte>& bytes() { return bytes_; }
+  const std::vector<std::byte>& bytes() const { return bytes_; }
 
-  void reserve(std::size_t size) { m_bytes.reserve(size); }
+  void reserve(std::size_t size) { bytes_.reserve(size); }
 
  private:
-  std::vector<std::byte> m_bytes;
+  std::vector<std::byte> bytes_;
 };
 
 // One polygon of a POLS chunk.
@@ -67,10 +67,10 @@ using TagPair = std::pair<std::uint32_t, unsigned>;
 // A file, chunk after chunk.
 class ObjectBytes {
  public:
-  explicit ObjectBytes(std::string_view formType = "LWO2") : m_formType(formType) {}
+  explicit ObjectBytes(std::string_view formType = "LWO2") : formType_(formType) {}
 
   ObjectBytes& chunk(std::string_view id, const Bytes& body) {
-    m_body.id(id).u4(static_cast<std::uint32_t>(body.size())).append(body);
+    body_.id(id).u4(static_cast<std::uint32_t>(body.size())).append(body);
     return *this;
   }
   ObjectBytes& tags(std::initializer_list<std::string_view> texts) {
@@ -106,14 +106,14 @@ class ObjectBytes {
   // The whole file, with the size that it has, or one that differs from it.
   std::vector<std::byte> file(std::int32_t sizeError = 0) const {
     Bytes file;
-    file.reserve(m_body.size() + 12);
-    file.id("FORM").u4(static_cast<std::uint32_t>(static_cast<std::int64_t>(m_body.size()) + 4 + sizeError));
-    return std::move(file.id(m_formType).append(m_body).bytes());
+    file.reserve(body_.size() + 12);
+    file.id("FORM").u4(static_cast<std::uint32_t>(static_cast<std::int64_t>(body_.size()) + 4 + sizeError));
+    return std::move(file.id(formType_).append(body_).bytes());
   }
 
  private:
-  std::string m_formType;
-  Bytes m_body;
+  std::string formType_;
+  Bytes body_;
 };
 
 }  // namespace varnel::test

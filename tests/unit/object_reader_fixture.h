@@ -76,22 +76,22 @@ inline ObjectBytes smallRig() {
 class TemporaryFile {
  public:
   explicit TemporaryFile(std::span<const std::byte> bytes)
-      : m_path(std::filesystem::temp_directory_path() /
-               ("varnel-reader-test-" + std::to_string(std::random_device()()) + ".lwo")) {
-    std::ofstream(m_path, std::ios::binary)
+      : path_(std::filesystem::temp_directory_path() /
+              ("varnel-reader-test-" + std::to_string(std::random_device()()) + ".lwo")) {
+    std::ofstream(path_, std::ios::binary)
         .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
   }
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
   ~TemporaryFile() {
     std::error_code ignored;
-    std::filesystem::remove(m_path, ignored);
+    std::filesystem::remove(path_, ignored);
   }
 
-  std::string path() const { return m_path.string(); }
+  std::string path() const { return path_.string(); }
 
  private:
-  std::filesystem::path m_path;
+  std::filesystem::path path_;
 };
 
 }  // namespace varnel::test

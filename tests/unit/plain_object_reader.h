@@ -49,13 +49,13 @@ class PlainObjectReader {
     } catch (const Unsound&) {
       return std::nullopt;
     }
-    return std::move(reader.m_object);
+    return std::move(reader.object_);
   }
 
  private:
   struct Unsound {};
 
-  explicit PlainObjectReader(std::span<const std::byte> file) : m_file(file), m_end(file.size()) {}
+  explicit PlainObjectReader(std::span<const std::byte> file) : file_(file), end_(file.size()) {}
 
   static void require(bool isSo) {
     if (!isSo) throw Unsound();
@@ -63,14 +63,14 @@ class PlainObjectReader {
 
   // A number of that many bytes; they have to lie before the end of the chunk.
   std::uint32_t number(std::size_t bytes) {
-    require(bytes <= m_end - m_at);
+    require(bytes <= end_ - at_);
     std::uint32_t value = 0;
-    for (; bytes > 0; --bytes) value = value * 256 + std::to_integer<std::uint32_t>(m_file[m_at++]);
+    for (; bytes > 0; --bytes) value = value * 256 + std::to_integer<std::uint32_t>(file_[at_++]);
     return value;
   }
   std::uint32_t index() {
-    require(m_at < m_end);
-    if (m_file[m_at] != std::byte{255}) return number(2);
+    require(at_ < end_);
+    if (file_[at_] != std::byte{255}) return number(2);
     return number(4) % 0x1000000U;
   }
   std::string text() {
@@ -98,34 +98,34 @@ class PlainObjectReader {
 
   void readForm() {
     require(id() == "FORM");
-    require(number(4) == m_file.size() - 8);
+    require(number(4) == file_.size() - 8);
     const std::string type = id();
     require(type == "LWO2" || type == "LWO3");
-    while (m_at < m_file.size()) {
-      m_end = m_file.size();
+    while (at_ < file_.size()) {
+      end_ = file_.size();
       const std::string chunk = id();
       const std::uint32_t size = number(4);
-      require(size <= m_end - m_at);
-      const std::size_t next = m_at + size;
-      m_end = next;
+      require(size <= end_ - at_);
+      const std::size_t next = at_ + size;
+      end_ = next;
       readChunk(chunk);
-      m_at = next;
+      at_ = next;
     }
-    for (const PlainLayer& layer : m_object.layers) requirePoints(layer);
+    for (const PlainLayer& layer : object_.layers) requirePoints(layer);
   }
 
   void readChunk(const std::string& chunk) {
     if (chunk == "TAGS") {
-      while (m_at < m_end) m_object.tags.push_back(text());
+      while (at_ < end_) object_.tags.push_back(text());
     } else if (chunk == "LAYR") {
       readLayer();
     } else if (chunk == "PNTS" || chunk == "POLS" || chunk == "PTAG") {
-      require(!m_object.layers.empty());
+      require(!object_.layers.empty());
       if (chunk == "PNTS") {
-        while (m_at < m_end) m_object.layers.back().points.push_back(vector());
+        while (at_ < end_) object_.layers.back().points.push_back(vector());
       } else if (chunk == "POLS") {
         readPolygons();
-      } else if (m_polygons == "BONE") {
+      } else if (polygons_ == "BONE") {
         readTags();
       }
     }
@@ -138,26 +138,26 @@ class PlainObjectReader {
     layer.pivot = vector();
     layer.name = text();
     if (layer.name.empty()) layer.name = "Layer" + std::to_string(layer.number + 1);
-    if (m_at < m_end) layer.parent = number(2);
-    require(m_at == m_end);
-    m_object.layers.push_back(std::move(layer));
-    m_polygons.clear();
+    if (at_ < end_) layer.parent = number(2);
+    require(at_ == end_);
+    object_.layers.push_back(std::move(layer));
+    polygons_.clear();
   }
 
   void readPolygons() {
-    m_polygons = id();
-    PlainLayer& layer = m_object.layers.back();
-    if (m_polygons == "FACE") {
-      while (m_at < m_end) layer.faces.push_back(polygon());
-    } else if (m_polygons == "BONE") {
-      while (m_at < m_end) layer.skelegons.push_back({polygon(), {}});
+    polygons_ = id();
+    PlainLayer& layer = object_.layers.back();
+    if (polygons_ == "FACE") {
+      while (at_ < end_) layer.faces.push_back(polygon());
+    } else if (polygons_ == "BONE") {
+      while (at_ < end_) layer.skelegons.push_back({polygon(), {}});
     }
   }
 
   void readTags() {
-    std::vector<PlainSkelegon>& skelegons = m_object.layers.back().skelegons;
+    std::vector<PlainSkelegon>& skelegons = object_.layers.back().skelegons;
     const std::uint32_t type = number(4);
-    while (m_at < m_end) {
+    while (at_ < end_) {
       const std::uint32_t skelegon = index();
       const auto tag = static_cast<std::uint16_t>(number(2));
       require(skelegon < skelegons.size());
@@ -173,11 +173,11 @@ class PlainObjectReader {
     for (const auto& skelegon : layer.skelegons) requireAll(skelegon.points);
   }
 
-  std::span<const std::byte> m_file;
-  std::size_t m_at = 0;
-  std::size_t m_end;
-  std::string m_polygons;
-  PlainObject m_object;
+  std::span<const std::byte> file_;
+  std::size_t at_ = 0;
+  std::size_t end_;
+  std::string polygons_;
+  PlainObject object_;
 };
 
 }  // namespace varnel::test
