@@ -13,6 +13,7 @@ packages_of() {
     lint) echo "$base googletest nlohmann-json3-dev libcli11-dev clang-format-14 clang-tidy-14 git" ;;
     bench) echo "$base libbenchmark-dev libassimp-dev libcli11-dev" ;;
     demo) echo "$base libcli11-dev" ;;
+    package) echo "$(packages_of windows) pandoc zip unzip git" ;;
   esac
 }
 

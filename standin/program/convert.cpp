@@ -5,8 +5,8 @@
 
 #include "standin/layout/layout_host.h"
 #include "standin/layout/report.h"
-#include "standin/objectfile/sample_rigs.h"
 #include "standin/panels/text.h"
+#include "standin/program/shipped_rigs.h"
 #include "standin/program/support.h"
 
 namespace standin {
@@ -62,20 +62,11 @@ void convertFile(const std::string& file, const ConvertOptions& options) {
   endSession(module);
 }
 
-// The shipped rigs, written into the folder.
-std::vector<std::string> shippedRigs(const TemporaryFolder& folder) {
-  std::vector<std::string> files = {folder.file("lizard.lwo"), folder.file("人形.lwo")};
-  for (const auto& failure : {writeDemoRig(files[0]), writeJapaneseRig(files[1])}) {
-    if (failure) throw Trouble{failure->text};
-  }
-  return files;
-}
-
 int run(const ConvertOptions& options) {
   const TemporaryFolder folder;
   std::vector<std::string> files;
   int result = reporting([&] {
-    if (options.shipped) files = shippedRigs(folder);
+    if (options.shipped) files = writeShippedRigs(folder.path());
     files.insert(files.end(), options.files.begin(), options.files.end());
     if (files.empty()) throw Trouble{"no files; name some, or give --shipped"};
   });

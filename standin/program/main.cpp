@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "standin/program/convert.h"
+#include "standin/program/shipped_rigs.h"
 #include "standin/program/trip.h"
 #include "standin/program/utf8_arguments.h"
 
@@ -16,6 +17,7 @@ int main(int argc, char** argv) {
   standin::addConvertCommand(app, result);
   standin::addTripCommand(app, result);
   standin::addPanelsCommand(app, result);
+  standin::addRigsCommand(app, result);
   std::vector<std::string> arguments = standin::utf8Arguments(argc, argv);
   std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the back
   try {

@@ -31,6 +31,8 @@ TemporaryFolder::~TemporaryFolder() {
   fs::remove_all(path_, ignored);
 }
 
+std::string TemporaryFolder::path() const { return utf8Of(path_); }
+
 std::string TemporaryFolder::file(const std::string& name) const { return utf8Of(path_ / pathOf(name)); }
 
 void indent(const std::string& text) {

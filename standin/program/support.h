@@ -27,6 +27,7 @@ class TemporaryFolder {
   ~TemporaryFolder();
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  std::string path() const;
   std::string file(const std::string& name) const;
 
  private:

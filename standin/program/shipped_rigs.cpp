@@ -1,0 +1,51 @@
+#include "standin/program/shipped_rigs.h"
+
+#include <array>
+#include <iostream>
+
+#include "standin/objectfile/sample_rigs.h"
+#include "standin/program/support.h"
+
+namespace standin {
+namespace {
+
+struct ShippedRig {
+  const char* file;
+  std::optional<Failure> (*write)(const std::string& path);
+};
+
+constexpr std::array kShippedRigs{
+    ShippedRig{"lizard.lwo", writeDemoRig},
+    ShippedRig{"人形.lwo", writeJapaneseRig},
+};
+
+int run(const std::string& folder) {
+  return reporting([&] {
+    std::error_code error;
+    std::filesystem::create_directories(pathOf(folder), error);
+    if (error) throw Trouble{"the folder " + folder + " cannot be made"};
+    for (const std::string& path : writeShippedRigs(folder)) std::cout << path << "\n";
+  });
+}
+
+}  // namespace
+
+std::vector<std::string> writeShippedRigs(const std::string& folder) {
+  std::vector<std::string> paths;
+  for (const ShippedRig& rig : kShippedRigs) {
+    const std::string path = utf8Of(pathOf(folder) / pathOf(rig.file));
+    if (const auto failure = rig.write(path)) throw Trouble{failure->text};
+    paths.push_back(path);
+  }
+  return paths;
+}
+
+void addRigsCommand(CLI::App& app, int& result) {
+  CLI::App* const command = app.add_subcommand("rigs", "Write the rigs that come with the program into a folder");
+  const auto folder = std::make_shared<std::string>();
+  command->add_option("folder", *folder, "Where to; it is made when it is not there")->required();
+  command->footer("Example:\n  varnel rigs my-rigs");
+  command->callback([folder, &result] { result = run(*folder); });
+}
+
+}  // namespace standin
