@@ -29,6 +29,11 @@ if(VARNEL_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(VARNEL_COVERAGE)
+  add_compile_options(--coverage -fprofile-update=atomic)
+  add_link_options(--coverage)
+endif()
+
 # Header-only libraries of Debian's that both builds share. A cross compiler must not see /usr/include as a whole, so each
 # library is reached through a folder of links that holds nothing else.
 function(varnel_header_library name)
