@@ -1,9 +1,11 @@
-// What only the operating system knows. One source file per system: platform_win32.cpp, platform_posix.cpp.
+// What only the operating system knows. Source files per system: platform_win32.cpp and platform_gl_win32.cpp, platform_posix.cpp.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <string_view>
+
+struct GlCalls;
 
 namespace platform {
 
@@ -15,5 +17,8 @@ std::string narrowFromUtf16(std::u16string_view text);
 
 // UTF-8 to UTF-16; bytes that are no valid UTF-8 become U+FFFD.
 std::u16string utf16FromUtf8(std::string_view utf8);
+
+// OpenGL as it is in the host; null on systems on which the tree is not drawn.
+const GlCalls* glCalls();
 
 }  // namespace platform

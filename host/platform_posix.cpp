@@ -70,4 +70,6 @@ std::string narrowFromUtf16(std::u16string_view text) {
   return narrow;
 }
 
+const GlCalls* glCalls() { return nullptr; }
+
 }  // namespace platform
