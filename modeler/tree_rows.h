@@ -14,6 +14,7 @@ namespace mst {
 inline constexpr int kRowHeight = 14;
 inline constexpr int kCellWidth = 6;  // of a character; full-width ones take two
 inline constexpr int kCellHeight = 12;
+inline constexpr int kIndent = 2 * kCellWidth;  // of a row below its parent
 inline constexpr int kScrollBarSize = 12;
 inline constexpr int kUnitsPerPixel = 8;  // of view sizes and scroll offsets, as the tree view keeps them
 

@@ -1,0 +1,25 @@
+// Draws the selector's tree with OpenGL into the device context that is current. Reads what is to be seen from a TreePicture;
+// where a press hits is computed elsewhere from the same numbers.
+#pragma once
+
+#include "host/platform.h"
+#include "modeler/tree_font.h"
+#include "modeler/tree_rows.h"
+
+namespace mst {
+
+class CTreeDrawing {
+ public:
+  // 'gl' outlives the drawing; null: nothing is ever drawn.
+  explicit CTreeDrawing(const GlCalls* gl = platform::glCalls()) : gl_(gl) {}
+
+  // Does nothing without a current device context. Costs what the rows in view cost, however many there are. OpenGL is left as
+  // it was found, also when the owner of the rows throws.
+  void draw(const TreePicture& picture);
+
+ private:
+  const GlCalls* gl_;
+  CTreeFont font_;
+};
+
+}  // namespace mst

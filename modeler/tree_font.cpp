@@ -1,0 +1,93 @@
+#include "modeler/tree_font.h"
+
+#include <array>
+#include <cstddef>
+
+namespace mst {
+namespace {
+
+constexpr char32_t kFirstNonAscii = 0x80;
+constexpr char32_t kGreatestWide = 0xFFFF;  // of a single UTF-16 unit
+constexpr int kMostErrors = 16;             // there are fewer kinds, and each is told once
+constexpr unsigned kQuestionList = kFirstList + '?';
+
+// Lists keep a character's pixels as they are unpacked when the list is made; the system unpacks them by these values.
+struct Unpacking {
+  unsigned what;
+  int value;
+};
+constexpr std::array kUnpacking = {
+    Unpacking{gl::kUnpackSwapBytes, 0}, Unpacking{gl::kUnpackLeastBitFirst, 0}, Unpacking{gl::kUnpackRowLength, 0},
+    Unpacking{gl::kUnpackSkipRows, 0},  Unpacking{gl::kUnpackSkipPixels, 0},    Unpacking{gl::kUnpackAlignment, 4},
+};
+
+// While lists are made.
+class ListMaking {
+ public:
+  explicit ListMaking(const GlCalls& gl) : gl_(gl) {
+    for (std::size_t i = 0; i < kUnpacking.size(); ++i) {
+      gl_.getIntegers(kUnpacking[i].what, &before_[i]);
+      gl_.pixelStore(kUnpacking[i].what, kUnpacking[i].value);
+    }
+  }
+  ~ListMaking() {
+    // OpenGL can call the list of an empty character an error, though it is made as it should be.
+    for (int i = 0; i < kMostErrors && gl_.getError() != 0; ++i) {
+    }
+    for (std::size_t i = 0; i < kUnpacking.size(); ++i) gl_.pixelStore(kUnpacking[i].what, before_[i]);
+  }
+  ListMaking(const ListMaking&) = delete;
+  ListMaking& operator=(const ListMaking&) = delete;
+
+ private:
+  const GlCalls& gl_;
+  std::array<int, kUnpacking.size()> before_{};
+};
+
+}  // namespace
+
+CTreeFont::Use::~Use() {
+  if (selected_ && selected_->font != nullptr) gl_.giveFontBack(device_, *selected_);
+}
+
+bool CTreeFont::Use::select() {
+  if (!selected_) selected_ = gl_.selectFont(device_);
+  return selected_->font != nullptr;
+}
+
+bool CTreeFont::prepare(Use& use) {
+  const GlCalls& gl = use.gl();
+  // A new window can get the handle of a closed one's device context. Then the lists went with the old window.
+  const bool haveLists = gl.isList(kFirstList) != 0;
+  if (use.device() == madeFor_ && haveLists) return true;
+
+  // Without the lists it is another OpenGL context: what has these numbers there is not ours.
+  if (haveLists) forgetOwnLists(gl);
+  ownLists_.clear();
+  madeFor_ = nullptr;
+  const ListMaking making(gl);
+  if (!use.select() || !gl.makeByteLists(use.device(), 0, kByteLists, kFirstList)) return false;
+  madeFor_ = use.device();
+  return true;
+}
+
+unsigned CTreeFont::listOf(char32_t character, Use& use) {
+  if (character < kFirstNonAscii) return kFirstList + character;
+  if (character > kGreatestWide) return kQuestionList;
+  if (const auto known = ownLists_.find(character); known != ownLists_.end()) return known->second;
+
+  if (ownLists_.size() == kMostOwnLists) forgetOwnLists(use.gl());
+  unsigned& list = ownLists_[character];
+  list = kQuestionList;
+  const auto own = static_cast<unsigned>(kFirstOwnList + ownLists_.size() - 1);
+  const ListMaking making(use.gl());
+  if (use.select() && use.gl().makeWideList(use.device(), static_cast<char16_t>(character), own)) list = own;
+  return list;
+}
+
+void CTreeFont::forgetOwnLists(const GlCalls& gl) {
+  if (!ownLists_.empty()) gl.deleteLists(kFirstOwnList, static_cast<int>(ownLists_.size()));
+  ownLists_.clear();
+}
+
+}  // namespace mst

@@ -1,0 +1,52 @@
+// The tree's characters as bitmap lists of OpenGL: those of the font's first 255 byte codes, made together, and one for each other
+// character that a name holds, made when it is first drawn.
+#pragma once
+
+#include <optional>
+#include <unordered_map>
+
+#include "host/gl_calls.h"
+
+namespace mst {
+
+inline constexpr unsigned kFirstList = 1000;  // of character code 0
+inline constexpr unsigned kByteLists = 255;   // there is none for code 255
+inline constexpr unsigned kFirstOwnList = kFirstList + kByteLists;
+inline constexpr unsigned kMostOwnLists = 2048;  // more than a view shows; when they are used up they begin anew
+
+class CTreeFont {
+ public:
+  // The font in a device context while a picture is drawn. It is made when a list has to be and goes with this object, so that
+  // nothing of it is left between two pictures.
+  class Use {
+   public:
+    Use(const GlCalls& gl, void* device) : gl_(gl), device_(device) {}
+    ~Use();
+    Use(const Use&) = delete;
+    Use& operator=(const Use&) = delete;
+
+    const GlCalls& gl() const { return gl_; }
+    void* device() const { return device_; }
+    bool select();
+
+   private:
+    const GlCalls& gl_;
+    void* device_;
+    std::optional<SelectedFont> selected_;
+  };
+
+  // [context current] Makes the lists when the device context is not the one that they were made for. False: there are none,
+  // and no text can be drawn.
+  bool prepare(Use& use);
+
+  // [prepared] The list that shows a character; that of "?" where the font gives none.
+  unsigned listOf(char32_t character, Use& use);
+
+ private:
+  void forgetOwnLists(const GlCalls& gl);
+
+  void* madeFor_ = nullptr;
+  std::unordered_map<char32_t, unsigned> ownLists_;
+};
+
+}  // namespace mst
