@@ -106,11 +106,20 @@ void CControl::setHotWidth(int width) const {
   if (present != width) setNumber(kControlWidth, measure(kControlWidth) + width - present);
 }
 
+void CControl::setHotHeight(int height) const {
+  const int present = measure(kControlHotHeight);
+  if (present != height) setNumber(kControlHeight, measure(kControlHeight) + height - present);
+}
+
 void CControl::show(bool visible) const { control_->draw(control_, visible ? kDrawRender : kDrawErase); }
+
+void CControl::refresh() const { control_->draw(control_, kDrawRefresh); }
 
 void CControl::setUser(void* user) const { setPointer(kControlUserData, user); }
 
 void CControl::onEvent(ControlEvent event) const { setPointer(kControlEventCallback, reinterpret_cast<void*>(event)); }
+
+void CControl::onDraw(ControlDraw draw) const { setPointer(kControlDrawCallback, reinterpret_cast<void*>(draw)); }
 
 void CControl::setPointer(ControlAttribute attribute, void* pointer) const {
   LWValue value;
@@ -173,6 +182,19 @@ CControl CPanel::addTabs(const char* label, texts::Choices choices) const {
   return add("TabChoiceControl", choiceDescription(choices, 0), label);
 }
 
+CControl CPanel::addNumber(const char* label) const { return add("NumControl", description(kValueInteger), label); }
+
+CControl CPanel::addNumberInfo(const char* label) const { return add("NumInfoControl", description(kValueInteger), label); }
+
+// The host only reads the lines.
+CControl CPanel::addText(const char* const* lines) const {
+  LWPanControlDesc text = description(kValueText);
+  text.text.text = const_cast<const char**>(lines);
+  return add("TextControl", text, "");
+}
+
+CControl CPanel::addOpenGL(int width, int height) const { return add("OpenGLControl", areaDescription(width, height), ""); }
+
 CControl CPanel::addMiniSlider(const char* label, int fieldWidth, int least, int greatest) const {
   return add("MiniSliderControl", rangeDescription(fieldWidth, least, greatest), label);
 }
@@ -190,6 +212,24 @@ void CPanel::setSize(int width, int height) const {
   panels().set(panel_, kPanelHeight, &height);
 }
 
+void CPanel::setGreatestSize(int width, int height) const {
+  panels().set(panel_, kPanelGreatestWidth, &width);
+  panels().set(panel_, kPanelGreatestHeight, &height);
+}
+
+void CPanel::redraw() const { panels().draw(panel_, kDrawRefresh); }
+
+void CPanel::setLeastSize(int width, int height) const {
+  panels().set(panel_, kPanelLeastWidth, &width);
+  panels().set(panel_, kPanelLeastHeight, &height);
+}
+
+int CPanel::measure(PanelAttribute attribute) const {
+  int number = 0;
+  panels().get(panel_, attribute, &number);
+  return number;
+}
+
 void CPanel::bringToFront() const {
   int yes = 1;
   panels().set(panel_, kPanelToFront, &yes);
@@ -198,6 +238,14 @@ void CPanel::bringToFront() const {
 void CPanel::setUser(void* user) const { panels().set(panel_, kPanelUserData, user); }
 
 void CPanel::onClose(PanelHook hook) const { panels().set(panel_, kPanelCloseHook, reinterpret_cast<void*>(hook)); }
+
+void CPanel::onMouse(PanelMouseHook button, PanelMouseHook motion, PanelMouseHook wheel) const {
+  panels().set(panel_, kPanelMouseButtonHook, reinterpret_cast<void*>(button));
+  panels().set(panel_, kPanelMouseMoveHook, reinterpret_cast<void*>(motion));
+  panels().set(panel_, kPanelMouseWheelHook, reinterpret_cast<void*>(wheel));
+}
+
+void CPanel::onResize(PanelResizeHook hook) const { panels().set(panel_, kPanelResizeHook, reinterpret_cast<void*>(hook)); }
 
 int CPanel::open(int flags) const { return panels().open(panel_, flags); }
 

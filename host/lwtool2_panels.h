@@ -32,13 +32,17 @@ class CControl {
   // A number that the host knows of the control, in pixels: place, size, label width.
   int measure(ControlAttribute attribute) const;
   void moveTo(int x, int y) const;
-  // Makes the part without the label this wide.
+  // Makes the part without the label this wide or high.
   void setHotWidth(int width) const;
+  void setHotHeight(int height) const;
   void show(bool visible) const;
+  // Asks the host to paint the control again.
+  void refresh() const;
 
   // Both before the panel opens. The user pointer reaches every callback of the control.
   void setUser(void* user) const;
   void onEvent(ControlEvent event) const;
+  void onDraw(ControlDraw draw) const;
 
  private:
   void setPointer(ControlAttribute attribute, void* pointer) const;
@@ -72,6 +76,10 @@ class CPanel {
   CControl addEdit(const char* label, int characters) const;
   CControl addPopup(const char* label, int width, texts::Choices choices) const;
   CControl addTabs(const char* label, texts::Choices choices) const;
+  CControl addNumber(const char* label) const;
+  CControl addNumberInfo(const char* label) const;   // only shown
+  CControl addText(const char* const* lines) const;  // ended by a null
+  CControl addOpenGL(int width, int height) const;
   CControl addMiniSlider(const char* label, int fieldWidth, int least, int greatest) const;
   CControl addAngle(const char* label) const;
   CControl addDistance(const char* label) const;
@@ -79,10 +87,20 @@ class CPanel {
   CControl addPercent(const char* label) const;
 
   void setSize(int width, int height) const;
+  void setLeastSize(int width, int height) const;
+  // A number that the host knows of the panel: its size, the bits of the last mouse event.
+  int measure(PanelAttribute attribute) const;
+  // How far the user can draw the panel's border. Before it opens.
+  void setGreatestSize(int width, int height) const;
+  // Paints everything again, as it is now.
+  void redraw() const;
   void bringToFront() const;
   // The user pointer reaches the panel's hooks. The close hook runs whenever the panel closes, by whose wish ever.
   void setUser(void* user) const;
   void onClose(PanelHook hook) const;
+  // Positions are relative to the panel. The wheel's bits are a signed count of clicks.
+  void onMouse(PanelMouseHook button, PanelMouseHook motion, PanelMouseHook wheel) const;
+  void onResize(PanelResizeHook hook) const;
   // Shows the panel and returns at once, unless the flags say otherwise. What the host gives; it gives non-zero for success.
   int open(int flags) const;
 
