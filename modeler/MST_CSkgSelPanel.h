@@ -1,0 +1,62 @@
+// The selector tool: a panel with a tree of the skelegons of the current layers and of the weight maps. What the user selects
+// in the tree becomes Modeler's selection at once.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "modeler/mouse_merge.h"
+#include "modeler/open_panels.h"
+#include "modeler/selector_form.h"
+#include "modeler/tree_drawing.h"
+#include "modeler/tree_view.h"
+
+namespace mst {
+
+// One object for the module's lifetime, and one host panel that each run opens again.
+class CSkgSelPanel {
+ public:
+  CSkgSelPanel();
+  // At the module's end: calls nothing of the host.
+  ~CSkgSelPanel();
+  CSkgSelPanel(const CSkgSelPanel&) = delete;
+  CSkgSelPanel& operator=(const CSkgSelPanel&) = delete;
+
+  // The tool's run: opens the panel without waiting for the user. A panel that is still open comes to the front and is
+  // refreshed instead. False when the host did not open it. Throws CBaseEx.
+  bool OpenSelectorPanel();
+
+ private:
+  // The host's and the other panels' way in.
+  static void OnTreeUsed(lw::LWControl* control, void* user);
+  static void OnDrawTree(lw::LWControl* control, void* user, int mode);
+  static void OnSync(lw::LWControl* control, void* user);
+  static void OnClosed(lw::PanelId panel, void* user);
+  static void OnMouseButton(lw::PanelId panel, void* user, int bits, int x, int y);
+  static void OnMouseMotion(lw::PanelId panel, void* user, int bits, int x, int y);
+  static void OnMouseWheel(lw::PanelId panel, void* user, int clicks, int x, int y);
+  static void OnResized(lw::PanelId panel, void* user, int width, int height);
+  static void OnNews(void* user, PanelNews news);
+
+  void build();
+  void closed();
+  void resized(int width, int height);
+  void fitView();
+
+  // What the panel knows of the mesh.
+  void rescan();
+  void refresh();
+
+  bool act(MouseStep step, const MouseReport& report);
+  void show(const TreeChange& change);
+  void pushSelection();
+
+  std::string title_;
+  std::optional<CSelectorForm> form_;
+  bool isOpen_ = false;
+  CTreeView tree_;
+  CTreeDrawing drawing_;
+  CMouseMerge mouse_;
+};
+
+}  // namespace mst
