@@ -152,7 +152,8 @@ MeshEditOp* BeginEditInRecord(CEditRecord& record, int mode);
 // Ends the record's edit with its error code and empties the record. Nothing when none is open.
 void EndEditInRecord(CEditRecord& record);
 
-// [edit open in the record] Selected skelegons of the foreground; the edit is ended and the record emptied.
+// [edit open in the record] Selected skelegons of the foreground; the edit is ended and the record emptied. None, here and
+// below, when the scan fails.
 PolygonIds CollectSelectedInEdit(CEditRecord& record);
 
 // [edit open in the record] Skelegons of all layers; the edit stays open, the scan's code is in the record.

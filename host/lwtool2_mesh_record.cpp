@@ -13,6 +13,7 @@ PolygonIds collectInRecord(CEditRecord& record, int layers, FlagRule rule) {
   const MeshEditOp& edit = *record.edit;
   PolygonScan scan(edit, layers);
   record.error = scan.error;
+  if (scan.error != kEditNoError) return {};  // half of the skelegons would pass for all of them
   std::erase_if(scan.found, [&](PolygonId polygon) {
     if (edit.polyType(edit.state, polygon) != kTypeBone) return true;
     const EDPolygonInfo* const info = edit.polyInfo(edit.state, polygon);
