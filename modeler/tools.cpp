@@ -1,12 +1,20 @@
 #include "modeler/tools.h"
 
 #include "modeler/MST_CSkgPropPanel.h"
+#include "modeler/MST_CSkgSelPanel.h"
+#include "modeler/MST_RenamerPanel.h"
 
 namespace mst {
 
-// These tools are not there yet: their runs fail, which the host's user is told where the host can tell it.
-int runSelector() { return 0; }
-int runRenamer() { return 0; }
+int runSelector() {
+  static CSkgSelPanel panel;
+  return panel.OpenSelectorPanel() ? 1 : 0;
+}
+
+int runRenamer() {
+  static RenamerPanel panel;
+  return panel.OpenRenamerPanel() ? 1 : 0;
+}
 
 int runProperty() {
   static CSkgPropPanel panel;

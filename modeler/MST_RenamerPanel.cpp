@@ -1,0 +1,160 @@
+#include "modeler/MST_RenamerPanel.h"
+
+#include <algorithm>
+
+#include "host/lwtool2_errors.h"
+#include "host/lwtool2_eval.h"
+#include "host/lwtool2_globals.h"
+#include "modeler/tools.h"
+
+namespace mst {
+namespace {
+
+constexpr const char* kReplaceFromDefault = "_L_";
+constexpr const char* kReplaceToDefault = "_R_";
+constexpr const char* kRegexPatternDefault = "(.*)_L(.*)";
+constexpr const char* kRegexFormatDefault = "$1_R$2";
+
+// The modes that share the remembered text.
+bool usesChangeText(RenameMode mode) {
+  return mode == RenameMode::Change || mode == RenameMode::Prefix || mode == RenameMode::Suffix;
+}
+
+const char* message(texts::RenamerMessage which) {
+  // A title stands before each text; the host's error message has no place for one.
+  return (*lw::renamerTexts().messages)[static_cast<std::size_t>(which) + 1];
+}
+
+void complain(const RenameResult& result) {
+  switch (result.outcome) {
+    case RenameOutcome::Renamed: break;
+    case RenameOutcome::NoSkelegons: return lw::messages().error(message(texts::RenamerMessage::NoSelection), "");
+    case RenameOutcome::DuplicatedNames: return lw::messages().error(message(texts::RenamerMessage::DuplicatedNames), "");
+    case RenameOutcome::InvalidPattern: return lw::messages().error(result.complaint.c_str(), "");
+  }
+}
+
+}  // namespace
+
+RenamerPanel::RenamerPanel() { enterPanel(this, &OnNews); }
+
+RenamerPanel::~RenamerPanel() {
+  removePanel(this);
+  if (form_) form_->abandon();
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Opening
+
+bool RenamerPanel::OpenRenamerPanel() {
+  if (isOpen_) {
+    form_->bringToFront();
+    return true;
+  }
+  if (!form_) build();
+  isOpen_ = form_->open();
+  if (isOpen_) form_->takeSize(mode_);  // the host may have chosen one of its own
+  return isOpen_;
+}
+
+void RenamerPanel::build() {
+  title_ = lw::FormatString("%s(%d.%02d)%s", kRenamerName, VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR, " ");
+  form_.emplace(title_.c_str(), lw::renamerTexts(), RenamerHooks{&OnUsed, &OnClosed, this});
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// What the user does
+
+void RenamerPanel::use(const lw::LWControl* control) {
+  if (form_->owns(RenamerItem::Mode, control)) return chooseMode();
+  if (form_->owns(RenamerItem::Add, control)) return add();
+  if (form_->owns(RenamerItem::Clear, control)) return clear();
+  if (form_->owns(RenamerItem::Run, control)) return run();
+}
+
+// What the list of modes shows; the present mode where that is none.
+RenameMode RenamerPanel::chosenMode() const {
+  const int number = form_->number(RenamerItem::Mode);
+  const bool isMode = number >= 0 && number <= static_cast<int>(RenameMode::Advanced);
+  return isMode ? static_cast<RenameMode>(number) : mode_;
+}
+
+// A mode that is chosen again keeps the texts that were typed.
+void RenamerPanel::chooseMode() {
+  const RenameMode mode = chosenMode();
+  if (mode == mode_) return;
+  if (usesChangeText(mode_)) changeText_ = form_->text(RenamerItem::FirstText);
+  mode_ = mode;
+  if (usesChangeText(mode)) form_->setText(RenamerItem::FirstText, changeText_, isOpen_);
+  if (mode == RenameMode::Replace) showTexts(kReplaceFromDefault, kReplaceToDefault);
+  if (mode == RenameMode::RegularExpression) showTexts(kRegexPatternDefault, kRegexFormatDefault);
+  form_->lookLike(mode, isOpen_);
+}
+
+void RenamerPanel::showTexts(const char* first, const char* second) {
+  form_->setText(RenamerItem::FirstText, first, isOpen_);
+  form_->setText(RenamerItem::SecondText, second, isOpen_);
+}
+
+void RenamerPanel::add() {
+  for (const lw::PolygonId polygon : selectedForRenaming()) {
+    if (std::find(registered_.begin(), registered_.end(), polygon) == registered_.end()) registered_.push_back(polygon);
+  }
+  showRegistered();
+}
+
+void RenamerPanel::clear() {
+  registered_.clear();
+  showRegistered();
+}
+
+void RenamerPanel::showRegistered() {
+  form_->setNumber(RenamerItem::RegisteredCount, static_cast<int>(registered_.size()), isOpen_);
+}
+
+// The others are told of an advanced run also when it failed, and of a simple one only when it did not, deliberately.
+void RenamerPanel::run() {
+  const RenameMode mode = chosenMode();
+  const bool withProperties = form_->number(RenamerItem::BoneProperty) != 0;
+  // None: a call of the host's failed, and nothing was renamed.
+  const std::optional<RenameResult> result =
+      lw::guarded([&] { return std::optional(runPass(mode)); }, std::optional<RenameResult>());
+  if (result) complain(*result);
+  const bool done = result && result->outcome == RenameOutcome::Renamed;
+  if (!isSimple(mode) || done) {
+    NotifyPanels(this, PanelNews::NamesChanged);
+    if (withProperties) NotifyPanels(this, PanelNews::PropertiesChanged);
+  }
+  if (done && isOpen_) form_->redraw();
+}
+
+RenameResult RenamerPanel::runPass(RenameMode mode) const {
+  if (!isSimple(mode)) return runAdvancedPass(form_->settings(), registered_);
+  return runSimplePass(mode, form_->text(RenamerItem::FirstText), form_->text(RenamerItem::SecondText),
+                       form_->number(RenamerItem::BoneProperty) != 0);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Called by the host and by other panels
+
+void RenamerPanel::OnUsed(lw::LWControl* control, void* user) {
+  lw::guarded([&] {
+    auto* const panel = static_cast<RenamerPanel*>(user);
+    if (panel != nullptr && panel->isOpen_ && !panel->form_->isSetting()) panel->use(control);
+  });
+}
+
+void RenamerPanel::OnClosed(lw::PanelId /*panel*/, void* user) {
+  lw::guarded([&] {
+    if (user != nullptr) static_cast<RenamerPanel*>(user)->isOpen_ = false;
+  });
+}
+
+void RenamerPanel::OnNews(void* user, PanelNews /*news*/) {
+  lw::guarded([&] {
+    auto* const panel = static_cast<RenamerPanel*>(user);
+    if (panel != nullptr && panel->isOpen_) panel->showRegistered();
+  });
+}
+
+}  // namespace mst

@@ -1,0 +1,176 @@
+// The renamer panel's table and where its controls stand.
+#include "modeler/renamer_layout.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "modeler/renamer_controls.h"
+
+namespace varnel::test {
+namespace {
+
+using Item = mst::RenamerItem;
+using Measures = std::array<mst::RenamerMeasure, mst::kRenamerItemCount>;
+using mst::RenameMode;
+using mst::RenamerPosition;
+
+constexpr RenameMode kEveryMode[] = {
+    RenameMode::Change,  RenameMode::Prefix, RenameMode::Suffix, RenameMode::Replace, RenameMode::RegularExpression,
+    RenameMode::Advanced};
+
+// Every control is 50 wide; labels are as wide as their number.
+Measures someMeasures() {
+  Measures measures;
+  for (std::size_t i = 0; i < measures.size(); ++i) measures[i] = {50, static_cast<int>(i)};
+  return measures;
+}
+mst::RenamerPositions homes() { return mst::renamerHomes(someMeasures()); }
+RenamerPosition home(Item item) { return homes()[mst::indexOf(item)]; }
+RenamerPosition inMode(Item item, RenameMode mode) { return mst::renamerPosition(item, mode, home(item)); }
+
+TEST(RenamerTable, NamesItsLabels) {
+  const auto& labels = texts::renamerLabels(texts::Language::English);
+  std::vector<std::string> shown;
+  for (const mst::RenamerRow& row : mst::renamerTable()) shown.push_back(row.label ? labels[*row.label] : "");
+  EXPECT_EQ(shown, (std::vector<std::string>{"Mode",
+                                             "",
+                                             "",
+                                             "Target",
+                                             "Registered Count",
+                                             "Add",
+                                             "Clear",
+                                             "Conversion Method",
+                                             "Based Name",
+                                             "",
+                                             "Add to Head",
+                                             "",
+                                             "Add to Last",
+                                             "",
+                                             "Replace",
+                                             "",
+                                             "",
+                                             "RegExp",
+                                             "",
+                                             "",
+                                             "Column Character",
+                                             "Order",
+                                             "Start",
+                                             "Invert",
+                                             "Row Digit",
+                                             "Number of Digits",
+                                             "Start",
+                                             "Target",
+                                             "Skelegon",
+                                             "Bone Weight Map",
+                                             "Bone Property",
+                                             "Overlap Check",
+                                             "",
+                                             "Run"}));
+}
+
+TEST(RenamerTable, HasTheSameLabelsInBothLanguages) {
+  for (const mst::RenamerRow& row : mst::renamerTable()) {
+    if (row.label) {
+      EXPECT_STRNE(texts::renamerLabels(texts::Language::Japanese)[*row.label], "");
+    }
+  }
+}
+
+TEST(RenamerHomes, HaveTheHeightsOfTheTable) {
+  std::vector<int> tops;
+  for (const RenamerPosition position : homes()) tops.push_back(position.y);
+  tops.resize(32);
+  EXPECT_EQ(tops, (std::vector<int>{0,   24,  48,  72,  96,  96,  96,  120, 142, 142, 166, 166, 190, 190, 214, 214,
+                                    236, 260, 260, 282, 318, 318, 342, 366, 402, 402, 424, 460, 460, 482, 504, 540}));
+}
+
+TEST(RenamerHomes, LineUpHotAreasAt100) {
+  for (const Item item :
+       {Item::Mode, Item::FirstText, Item::SecondText, Item::Target, Item::RegisteredCount, Item::OverlapCheck}) {
+    EXPECT_EQ(home(item).x, 100 - static_cast<int>(mst::indexOf(item)));
+  }
+}
+
+TEST(RenamerHomes, StandAtTheirLeftEdge) {
+  EXPECT_EQ(home(Item::Add).x, 188);
+  EXPECT_EQ(home(Item::Clear).x, 248);
+  EXPECT_EQ(home(Item::BaseNameOn).x, 4);
+  EXPECT_EQ(home(Item::Invert).x, 140);
+  EXPECT_EQ(home(Item::BoneProperty).x, 100);
+  EXPECT_EQ(home(Item::Border).x, 0);
+}
+
+TEST(RenamerHomes, AlignWhatIsBesideCheckMarks) {
+  Measures measures = someMeasures();
+  measures[mst::indexOf(Item::SuffixOn)].width = 70;  // the widest of its block
+  for (const Item item : {Item::BaseName, Item::Prefix, Item::Suffix, Item::ReplaceFrom, Item::ReplaceTo, Item::RegexPattern,
+                          Item::RegexFormat})
+    measures[mst::indexOf(item)].labelWidth = 0;
+  const mst::RenamerPositions places = mst::renamerHomes(measures);
+  for (const Item item : {Item::BaseName, Item::Prefix, Item::Suffix, Item::ReplaceFrom, Item::ReplaceTo, Item::RegexPattern,
+                          Item::RegexFormat})
+    EXPECT_EQ(places[mst::indexOf(item)].x, 4 + 70 + 4);
+}
+
+TEST(RenamerHomes, AlignHotAreasBesideCheckMarksWhateverTheirLabels) {
+  Measures measures = someMeasures();
+  measures[mst::indexOf(Item::RowDigits)].labelWidth = 90;
+  measures[mst::indexOf(Item::RowStart)].labelWidth = 30;
+  const mst::RenamerPositions places = mst::renamerHomes(measures);
+  EXPECT_EQ(places[mst::indexOf(Item::RowDigits)].x, 4 + 50 + 4);
+  EXPECT_EQ(places[mst::indexOf(Item::RowStart)].x, 4 + 50 + 4 + 60);
+}
+
+TEST(RenamerHomes, KeepBorderAndButtonBelowTheLastControl) {
+  EXPECT_GE(home(Item::Border).y, home(Item::OverlapCheck).y + 20);
+  EXPECT_GE(home(Item::Run).y, home(Item::Border).y + mst::kRenamerBorderHeight);
+  EXPECT_LE(home(Item::Run).y + 20, mst::kRenamerAdvancedHeight);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// The two layouts
+
+TEST(RenamerLayout, HasTwoSizes) {
+  EXPECT_EQ(mst::kRenamerWidth, 320);
+  EXPECT_EQ(mst::renamerHeight(RenameMode::Change), 130);
+  EXPECT_EQ(mst::renamerHeight(RenameMode::RegularExpression), 130);
+  EXPECT_EQ(mst::renamerHeight(RenameMode::Advanced), 630);
+}
+
+TEST(RenamerLayout, ShowsTheAdvancedControlsInTheAdvancedModeOnly) {
+  for (std::size_t i = mst::indexOf(Item::Target); i <= mst::indexOf(Item::OverlapCheck); ++i) {
+    const auto item = static_cast<Item>(i);
+    EXPECT_EQ(inMode(item, RenameMode::Advanced), home(item));
+    if (item == Item::BoneProperty) continue;
+    for (const RenameMode mode : kEveryMode) {
+      if (mst::isSimple(mode)) {
+        EXPECT_EQ(inMode(item, mode), mst::kOutOfSight);
+      }
+    }
+  }
+}
+
+TEST(RenamerLayout, ShowsTheSecondTextForTwoModes) {
+  for (const RenameMode mode : kEveryMode) {
+    const bool hasTwo = mode == RenameMode::Replace || mode == RenameMode::RegularExpression;
+    EXPECT_EQ(inMode(Item::SecondText, mode), hasTwo ? home(Item::SecondText) : mst::kOutOfSight);
+    EXPECT_EQ(inMode(Item::FirstText, mode), mst::isSimple(mode) ? home(Item::FirstText) : mst::kOutOfSight);
+    EXPECT_EQ(inMode(Item::Mode, mode), home(Item::Mode));
+  }
+}
+
+TEST(RenamerLayout, MovesBonePropertyBorderAndButtonUpInSimpleModes) {
+  for (const RenameMode mode : kEveryMode) {
+    if (!mst::isSimple(mode)) continue;
+    EXPECT_EQ(inMode(Item::BoneProperty, mode), (RenamerPosition{100, 72}));
+    EXPECT_EQ(inMode(Item::Border, mode), (RenamerPosition{home(Item::Border).x, home(Item::Border).y - 500}));
+    EXPECT_EQ(inMode(Item::Run, mode), (RenamerPosition{home(Item::Run).x, home(Item::Run).y - 500}));
+  }
+}
+
+TEST(RenamerLayout, PutsWhatIsOutOfSightAt800) { EXPECT_EQ(mst::kOutOfSight, (RenamerPosition{800, 800})); }
+
+}  // namespace
+}  // namespace varnel::test
