@@ -1,0 +1,20 @@
+// Texts of object files as they can be shown: such a text may be any bytes.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace standin::rigs {
+
+bool isUtf8(std::string_view text);
+
+// The text with control characters and bytes that are no UTF-8 as \xNN, so that it fits on a line of a terminal.
+std::string printable(std::string_view text);
+
+// The same between quotation marks.
+std::string inQuotes(std::string_view text);
+
+// Pairs of lower case hexadecimal digits.
+std::string hexOf(std::string_view bytes);
+
+}  // namespace standin::rigs

@@ -1,0 +1,121 @@
+// What differs between two states of a rig.
+#include "standin/rigs/difference.h"
+
+#include <gmock/gmock.h>
+
+#include "standin/rigs/report.h"
+#include "tests/standin/rigs_fixture.h"
+
+namespace standin::rigs {
+namespace {
+
+using testing::IsEmpty;
+
+std::string differences(const SoundRig& before, const SoundRig& after) {
+  return differencesText(differencesOf(before.rig(), after.rig("other.lwo"), Language::English), Language::English);
+}
+
+ObjectPolygon& polygonOf(ObjectFile& object, std::size_t i) { return object.layers[0].groups[0].polygons[i]; }
+
+class Differences : public testing::Test {
+ protected:
+  std::string changed(ObjectFile after) const {
+    return differencesText(differencesOf(before.rig(), rigOf(after, kFileName), Language::English), Language::English);
+  }
+
+  SoundRig before;
+  SoundRig after;
+  ObjectFile object = before.object();
+};
+
+TEST_F(Differences, OfEqualRigsThereAreNoneWhateverTheirFilesAreCalled) {
+  EXPECT_THAT(differences(before, after), IsEmpty());
+}
+
+TEST_F(Differences, AChangedSettingIsShownFromAndTo) {
+  after.set(after.root, 31, "50.000000");
+  EXPECT_EQ(differences(before, after), "Rig / Root\n  Strength: 80 % -> 50 %\n");
+}
+
+TEST_F(Differences, AnAddedAndARemovedSettingSayNone) {
+  polygonOf(object, 0).removeTag(settingTag(31));
+  polygonOf(object, 1).setTag(settingTag(32), "0");
+  EXPECT_EQ(changed(object),
+            "Rig / Root\n  Strength: 80 % -> (none)\nRig / Hand\n  Multiply Strength by Rest Length: (none) -> off\n");
+}
+
+TEST_F(Differences, TextsOfOneMeaningAreShownAsTheyStand) {
+  after.set(after.root, 31, "80");
+  EXPECT_EQ(differences(before, after), "Rig / Root\n  Strength: \"80.000000\" -> \"80\"\n");
+}
+
+TEST_F(Differences, AnotherNameAtTheSamePointsIsARenaming) {
+  polygonOf(object, 1).setTag(lw::kTagBone, "Paw");
+  EXPECT_EQ(changed(object), "Rig / Paw\n  renamed: Hand -> Paw\n");
+}
+
+TEST_F(Differences, TwoNamesThatWereExchangedAreTwoMoves) {
+  polygonOf(object, 0).setTag(lw::kTagBone, "Hand");
+  polygonOf(object, 1).setTag(lw::kTagBone, "Root");
+  EXPECT_THAT(changed(object), testing::HasSubstr("Rig / Hand\n  moved: "));
+}
+
+TEST_F(Differences, AnotherNameAtOtherPointsIsAnotherSkelegon) {
+  polygonOf(object, 1).tags = {{lw::kTagBone, "Paw"}};
+  object.layers[0].points[2] = {1, 2, 3};
+  EXPECT_EQ(changed(object), "Rig / Paw\n  added\nRig / Hand\n  removed\n");
+}
+
+TEST_F(Differences, AMovedSkelegonShowsItsEnds) {
+  object.layers[0].points[2] = {0, 2.5F, 0};
+  EXPECT_EQ(changed(object), "Rig / Hand\n  moved: (0, 1, 0) - (0, 2, 0) -> (0, 1, 0) - (0, 2.5, 0)\n");
+}
+
+TEST_F(Differences, AnotherParentIsShownThoughNothingMoved) {
+  object.layers[0].points.push_back({0, 1, 0});
+  polygonOf(object, 1).points[0] = 3;
+  EXPECT_EQ(changed(object), "Rig / Hand\n  parent: Root -> (none)\n");
+}
+
+TEST_F(Differences, ARenamedParentIsNoOtherParent) {
+  polygonOf(object, 0).setTag(lw::kTagBone, "Trunk");
+  EXPECT_EQ(changed(object), "Rig / Trunk\n  renamed: Root -> Trunk\n");
+}
+
+TEST_F(Differences, SkelegonsOfOneNameKeepTheirPartnersByPlace) {
+  SoundRig one;
+  SoundRig two;
+  const auto first = one.builder.child(one.hand, "Twin", {1, 2, 0});
+  one.builder.child(one.hand, "Twin", {2, 2, 0});
+  two.builder.child(two.hand, "Twin", {2, 2, 0});
+  const auto same = two.builder.child(two.hand, "Twin", {1, 2, 0});
+  one.set(first, 27, "0");
+  two.set(same, 27, "0");
+  EXPECT_THAT(differences(one, two), IsEmpty());
+}
+
+TEST_F(Differences, AddedLayersBringTheirSkelegonsAndSettings) {
+  after.builder.layer(1, "Tail");
+  const auto tail = after.builder.root("Tail_01", {0, 0, 0}, {0, 0, 1});
+  after.set(tail, 27, "0");
+  EXPECT_EQ(differences(before, after), "Tail\n  layer added\nTail / Tail_01\n  added\n  Bone Active: (none) -> off\n");
+  EXPECT_EQ(differences(after, before), "Tail\n  layer removed\nTail / Tail_01\n  removed\n");
+}
+
+TEST_F(Differences, ARenamedLayerIsTheLayerOfItsNumber) {
+  object.layers[0].name = "Body";
+  EXPECT_EQ(changed(object), "Body\n  layer renamed: \"Rig\" -> \"Body\"\n");
+}
+
+TEST_F(Differences, TagsOfNoSettingAreComparedToo) {
+  polygonOf(object, 0).setTag(settingTag(144), "x");
+  EXPECT_EQ(changed(object), "Rig / Root\n  tag sg1+144: (none) -> \"x\"\n");
+}
+
+TEST_F(Differences, TheSecondPlaceOfTheNameIsNoDifference) {
+  polygonOf(object, 0).setTag(lw::kTagPart, "Root");
+  EXPECT_THAT(changed(object), IsEmpty());
+}
+
+}  // namespace
+}  // namespace standin::rigs

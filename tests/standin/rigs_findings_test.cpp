@@ -1,0 +1,242 @@
+// Each kind of finding: a rig that has it, and the sound rig that has none.
+#include "standin/rigs/findings.h"
+
+#include <gmock/gmock.h>
+
+#include "standin/layout/layout_host.h"
+#include "standin/rigs/names_in_layout.h"
+#include "tests/standin/rigs_fixture.h"
+
+namespace standin::rigs {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+// "id place: ...", the sentence left out.
+std::vector<std::string> found(const Rig& rig, int codePage = 932) {
+  std::vector<std::string> list;
+  for (const Finding& finding : findingsOf(rig, CodePage(codePage))) {
+    const std::string place = placeOf(rig, finding, Language::English);
+    list.push_back(findingTable()[static_cast<std::size_t>(finding.kind)].id + (place.empty() ? "" : " " + place));
+  }
+  return list;
+}
+
+std::string sentence(const Rig& rig, int codePage = 932) {
+  const auto findings = findingsOf(rig, CodePage(codePage));
+  return findings.empty() ? "" : sentenceOf(findings.front(), Language::English);
+}
+
+class Findings : public testing::Test {
+ protected:
+  SoundRig sound;
+};
+
+TEST_F(Findings, OfASoundRigThereAreNone) { EXPECT_THAT(found(sound.rig()), IsEmpty()); }
+
+TEST_F(Findings, AFileNameInCapitalsIsPassedOver) {
+  EXPECT_THAT(found(sound.rig("rig.LWO")), ElementsAre("file-extension"));
+  EXPECT_THAT(found(sound.rig("rig.lwo.bak")), testing::Contains("file-extension"));
+}
+
+TEST_F(Findings, ALayerNameWithABlankIsNotFound) {
+  sound.builder.layer(1, "Left Arm");
+  sound.builder.root("Other", {0, 0, 0}, {1, 0, 0});
+  EXPECT_THAT(found(sound.rig()), testing::Contains("layer-name Left Arm"));
+  EXPECT_THAT(found(sound.rig()), testing::Not(testing::Contains("layer-name Rig")));
+}
+
+TEST_F(Findings, ALayerNameThatEndsLikeACounterIsNotFound) {
+  RigBuilder builder;
+  builder.layer(3, "Arm (2)");
+  builder.root("A", {0, 0, 0}, {1, 0, 0});
+  EXPECT_THAT(found(rigOf(builder.object(), kFileName)), ElementsAre("layer-name Arm (2)"));
+}
+
+TEST_F(Findings, ALayerWithoutSkelegonsMayBeCalledAnything) {
+  RigBuilder builder;
+  builder.layer(3, "Left Arm");
+  builder.point({0, 0, 0});
+  EXPECT_THAT(found(rigOf(builder.object(), kFileName)), IsEmpty());
+}
+
+TEST_F(Findings, TwoLayersOfOneNameGetTheSettingsOfTheFirst) {
+  RigBuilder builder;
+  for (const std::uint16_t number : std::initializer_list<std::uint16_t>{0, 1}) {
+    builder.layer(number, "Arm");
+    builder.root("Bone" + std::to_string(number), {0, 0, 0}, {1, 0, 0});
+  }
+  EXPECT_THAT(found(rigOf(builder.object(), kFileName)), ElementsAre("layer-twice Arm"));
+}
+
+TEST_F(Findings, ASkelegonWithoutANameGetsNoSettings) {
+  sound.builder.between(0, 2, std::nullopt);
+  sound.builder.between(0, 2, "Named");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("no-name Rig / (no name)"));
+}
+
+TEST_F(Findings, ANameBorneTwiceInALayerIsToldOnce) {
+  sound.builder.child(sound.root, "Root", {1, 1, 1});
+  const Rig rig = sound.rig();
+  EXPECT_THAT(found(rig), testing::Contains("name-twice Rig / Root [1]").Times(1));
+  EXPECT_THAT(sentence(rig), HasSubstr("2 skelegons of this layer"));
+}
+
+TEST_F(Findings, ANameBorneInTwoLayersSendsBothToTheFirst) {
+  sound.builder.layer(1, "Second");
+  sound.builder.root("Hand", {0, 0, 0}, {1, 0, 0});
+  EXPECT_THAT(found(sound.rig()), testing::Contains("name-in-two-layers Second / Hand"));
+}
+
+TEST_F(Findings, ASkelegonOfTheItemsNameLosesItsSettingsToTheItem) {
+  EXPECT_THAT(found(sound.rig("Hand.lwo")), testing::Contains("name-of-item Rig / Hand"));
+}
+
+TEST_F(Findings, ALinkedNameThatNothingBearsBecomesANull) {
+  sound.set(sound.hand, 55, "Hand_goal");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("becomes-null Rig / Hand / Goal Object"));
+  EXPECT_THAT(sentence(sound.rig()), HasSubstr("\"Hand_goal\""));
+}
+
+TEST_F(Findings, ALinkedNameIsLookedUpWithTheObjectsNameForThePlaceholder) {
+  SoundRig rig;
+  rig.builder.layer(1, "Body");
+  rig.set(rig.hand, 130, "");
+  rig.builder.settings(rig.root, {{51, "[file]:Body"}});
+  EXPECT_THAT(found(rig.rig()), IsEmpty());
+  rig.set(rig.root, 51, "[file]:Bodie");
+  EXPECT_THAT(found(rig.rig()), ElementsAre("parent-missing Rig / Root / Parent Item"));
+  EXPECT_THAT(sentence(rig.rig()), HasSubstr("\"rig:Bodie\""));
+}
+
+TEST_F(Findings, AParentMayBeANullOfAnotherSkelegon) {
+  sound.set(sound.hand, 55, "Hand_goal");
+  sound.set(sound.root, 51, "Hand_goal");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("becomes-null Rig / Hand / Goal Object"));
+}
+
+TEST_F(Findings, BonesFromAMissingObjectEndTheLayer) {
+  sound.set(sound.root, 12, "Elsewhere");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("bones-from-missing Rig / Root / Use Bones From Object"));
+}
+
+TEST_F(Findings, AChoiceHasToBeOneOfItsList) {
+  sound.set(sound.root, 13, "7");
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+  sound.set(sound.root, 13, "8");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("choice-outside Rig / Root / Falloff Type"));
+  sound.set(sound.root, 13, "-1");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("choice-outside Rig / Root / Falloff Type"));
+}
+
+TEST_F(Findings, AFlagOfTwoCountsAsOn) {
+  sound.set(sound.root, 27, "2");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("flag-outside Rig / Root / Bone Active"));
+}
+
+TEST_F(Findings, AnUnknownColourBecomesOrange) {
+  sound.set(sound.root, 152, "Pink");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("colour-unknown Rig / Root / Color (Target Item)"));
+}
+
+TEST_F(Findings, AnEmptyColourOfTheHostsHidesTheChosenOne) {
+  sound.builder.tag(sound.root, lw::kTagColour, "");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("colour-empty Rig / Root / Color (bone)"));
+}
+
+TEST_F(Findings, TheCopyOfTheColourCountsOnlyAlone) {
+  sound.set(sound.root, 129, "Pink");
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+  sound.set(sound.hand, 129, "Pink");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("colour-unknown Rig / Hand / Color (bone) as chosen"));
+}
+
+TEST_F(Findings, ATextWithoutANumberCountsAsZero) {
+  sound.set(sound.root, 31, "strong");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("number-unreadable Rig / Root / Strength"));
+}
+
+TEST_F(Findings, OfANumberWithARestTheBeginningCounts) {
+  sound.set(sound.root, 31, "50,5");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("number-partly Rig / Root / Strength"));
+  EXPECT_THAT(sentence(sound.rig()), HasSubstr("count as 50"));
+}
+
+TEST_F(Findings, ACommandMayHave511Bytes) {
+  const std::size_t left = kLongestCommand - std::string("BoneWeightMapName ").size();
+  sound.builder.tag(sound.root, lw::kTagBoneWeight, std::string(left, 'x'));
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+  sound.builder.tag(sound.root, lw::kTagBoneWeight, std::string(left + 1, 'x'));
+  EXPECT_THAT(found(sound.rig()), ElementsAre("command-too-long Rig / Root / Bone Weight Map"));
+}
+
+TEST_F(Findings, TheNameOfANullCountsWithTheObjectsName) {
+  const std::size_t left = kLongestCommand - std::string("AddNull ").size();
+  sound.set(sound.hand, 55, "[file]:" + std::string(left - 4, 'x'));  // "rig:" comes before it
+  EXPECT_THAT(found(sound.rig()), ElementsAre("becomes-null Rig / Hand / Goal Object"));
+  sound.set(sound.hand, 55, "[file]:" + std::string(left - 3, 'x'));
+  EXPECT_THAT(found(sound.rig()), testing::Contains("command-too-long Rig / Hand / Goal Object"));
+}
+
+TEST_F(Findings, AFileNameOutsideTheCodePageIsNotFound) {
+  EXPECT_THAT(found(sound.rig("頭.lwo"), 1252), testing::Contains("path-code-page"));
+  EXPECT_THAT(found(sound.rig("頭.lwo"), 932), testing::Not(testing::Contains("path-code-page")));
+}
+
+TEST_F(Findings, AWeightMapOutsideTheCodePageBecomesAnotherName) {
+  sound.builder.tag(sound.root, lw::kTagBoneWeight, "頭");
+  EXPECT_THAT(found(sound.rig(), 1252), ElementsAre("command-code-page Rig / Root / Bone Weight Map"));
+  EXPECT_THAT(found(sound.rig(), 932), IsEmpty());
+}
+
+TEST_F(Findings, ALinkedNameThatIsFoundIsNotSent) {
+  sound.builder.child(sound.hand, "頭", {1, 1, 1});
+  sound.set(sound.hand, 55, "頭");
+  EXPECT_THAT(found(sound.rig(), 1252), IsEmpty());
+}
+
+TEST_F(Findings, ATagOfNoSettingIsNamed) {
+  for (const std::uint8_t slot : std::initializer_list<std::uint8_t>{3, 28, 144, 187, 255}) {
+    SoundRig rig;
+    rig.set(rig.root, slot, "x");
+    EXPECT_THAT(found(rig.rig()), ElementsAre("unknown-slot Rig / Root"));
+    EXPECT_THAT(sentence(rig.rig()), HasSubstr("sg1+" + std::to_string(slot)));
+  }
+}
+
+TEST_F(Findings, OtherTagsOfPolygonsAreLeftAlone) {
+  sound.builder.tag(sound.root, lw::kTagPart, "Root");
+  sound.builder.tag(sound.root, kTagSurface, "Default");
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+}
+
+TEST(FindingTable, HasAnIdAndASentenceInBothLanguagesInEachRow) {
+  std::set<std::string> ids;
+  for (const FindingRow& row : findingTable()) {
+    EXPECT_TRUE(ids.insert(row.id).second) << row.id;
+    EXPECT_STRNE(row.english, "");
+    for (const char* part : {"{text}", "{other}", "{number}"}) {
+      EXPECT_EQ(std::string(row.english).find(part) == std::string::npos,
+                std::string(row.japanese).find(part) == std::string::npos)
+          << row.id << part;
+    }
+  }
+}
+
+// The host's own naming, as the stand-in plays it, against that of the inspector, which cannot ask it.
+class ItemNames : public OnSamples {};
+
+TEST_F(ItemNames, AreThoseOfTheItemsThatLayoutMakes) {
+  for (const std::string& path : sampleRigs()) {
+    LayoutHost host;
+    const auto items = host.loadObject(path);
+    const Rig rig = rigOf(*readObject(path), utf8(pathFromUtf8(path).filename()));
+    ASSERT_EQ(items.size(), rig.layers.size()) << path;
+    for (std::size_t i = 0; i < items.size(); ++i) EXPECT_EQ(host.scene().nameOf(*items[i]), rig.layers[i].itemName) << path;
+  }
+}
+
+}  // namespace
+}  // namespace standin::rigs
