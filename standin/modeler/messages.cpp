@@ -11,7 +11,9 @@ void tell(const char* function, MessageKind kind, const char* first, const char*
   const ModelerCall call(function);
   if (first == nullptr) call.fault("was called without a text");
   if (ModelerSession* session = call.session()) {
-    session->messages.shown.push_back({kind, {}, copied(first), copied(second), Answer::no});
+    MessageDesk& desk = session->messages;
+    desk.shown.push_back({kind, {}, copied(first), copied(second), Answer::no});
+    if (desk.person) desk.person(desk.shown.back());
   }
 }
 
@@ -31,7 +33,9 @@ int ask(const char* function, MessageKind kind, const AnswerNumbers& numbers, co
   ModelerSession* session = call.session();
   if (session == nullptr) return numbers.cancel;
   Answer answer = Answer::no;
-  if (session->messages.answers.empty()) {
+  if (session->messages.answers.empty() && session->messages.person) {
+    answer = session->messages.person({kind, copied(title), copied(first), copied(second), Answer::no});
+  } else if (session->messages.answers.empty()) {
     call.fault("asked \"" + copied(first) + "\", for which no answer was laid ready");
   } else {
     answer = session->messages.answers.front();

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -72,6 +73,8 @@ class ModelerHost {
   bool redo();
   // Lays ready what the user answers to the next questions.
   void answer(Answer answer) { session_.messages.answers.push_back(answer); }
+  // Lets a person see the messages and answer the questions.
+  void showMessagesTo(std::function<Answer(const Message&)> person) { session_.messages.person = std::move(person); }
 
   // --- what happened -----------------------------------------------------------------------------------------------------
 

@@ -1,0 +1,208 @@
+#include "standin/program/pictures.h"
+
+#include <CLI/CLI.hpp>
+#include <array>
+#include <functional>
+#include <iostream>
+
+#include "standin/layout/layout_host.h"
+#include "standin/modeler/modeler_host.h"
+#include "standin/objectfile/sample_rigs.h"
+#include "standin/program/property_panel.h"
+#include "standin/program/support.h"
+#include "standin/windows/desk_window.h"
+#include "standin/windows/driver.h"
+
+namespace standin {
+namespace {
+
+struct PicturesOptions {
+  std::string folder = "pictures";
+  std::string module;
+  std::vector<std::string> languages = {"en", "ja"};
+  std::vector<std::string> only;
+};
+
+// Takes the pictures of one tool in one language.
+class Album {
+ public:
+  Album(const PicturesOptions& options, std::string language) : options_(options), language_(std::move(language)) {}
+
+  const std::string& language() const { return language_; }
+  const std::string& module() const { return options_.module; }
+
+  void take(Driver& driver, const Panel& panel, const std::string& tool, const std::string& name) const {
+    keep(driver.picture(panel), tool, name);
+  }
+  // Writes "TOOL-LANGUAGE-NAME.png", without the name where it is empty.
+  void keep(const Picture& picture, const std::string& tool, const std::string& name) const {
+    const std::string file = tool + "-" + language_ + (name.empty() ? "" : "-" + name) + ".png";
+    const std::string path = utf8Of(pathOf(options_.folder) / pathOf(file));
+    if (!savePng(picture, path)) throw Trouble{path + " could not be written"};
+    std::cout << file << std::endl;
+  }
+
+ private:
+  const PicturesOptions& options_;
+  std::string language_;
+};
+
+void takePropertyPanel(const Album& album) {
+  ModelerHost host;
+  host.options().localeInfo = localeOf(album.language());
+  host.add(makeDemoRig(), "lizard.lwo");
+  host.showLayers({0, 1});
+  host.select({"Tail_01"});
+  ModuleFile module;
+  loadModule(module, album.module());
+  {
+    WindowsFront front;
+    Driver driver(front);
+    Panel& panel = openPropertyPanel(host, module);
+    const Control* const pages = panel.find(ControlKind::TabChoice, 0);
+    for (int page = 0; page < kPropertyPages; ++page) {
+      must(driver.chooseTab(*pages, page));
+      const std::string name = "page" + std::to_string(page + 1);
+      if (page != kControllersPage) {
+        album.take(driver, panel, "property", name);
+        continue;
+      }
+      for (int group = 0; group < kMotionGroups; ++group) {
+        must(driver.chooseTab(*panel.find(ControlKind::TabChoice, 1), group));
+        album.take(driver, panel, "property", name + "-group" + std::to_string(group + 1));
+      }
+    }
+  }
+  endSession(module);
+}
+
+void takeConversionPanel(const Album& album) {
+  LayoutHost host;
+  host.setLocale(localeOf(album.language()));
+  ModuleFile module;
+  loadModule(module, album.module());
+  {
+    WindowsFront front;
+    Driver driver(front);
+    constexpr const char* tool = "Orlo:SkelegonOptimize";
+    if (host.activate(module, tool) != 0) throw Trouble{"the conversion tool could not be activated"};
+    album.take(driver, *must(panels().find(tool), "the panel"), "conversion", "");
+  }
+  endSession(module);
+}
+
+Panel& openTool(ModelerHost& host, ModuleFile& module, const char* tool) {
+  if (host.activate(module, tool) != 0) throw Trouble{std::string(tool) + " could not be activated"};
+  return *must(panels().find(tool), "the panel");
+}
+
+void takeSelector(const Album& album) {
+  ModelerHost host;
+  host.options().localeInfo = localeOf(album.language());
+  host.add(makeDemoRig(), "lizard.lwo");
+  host.showLayers({0, 1});
+  ModuleFile module;
+  loadModule(module, album.module());
+  {
+    WindowsFront front;
+    Driver driver(front);
+    const Panel& panel = openTool(host, module, "Orlo:SkelegonSelector");
+    const Control& tree = *must(panel.find(ControlKind::OpenGL), "the tree");
+    album.take(driver, panel, "selector", "plain");
+    must(driver.resize(panel, 150, 220));
+    album.take(driver, panel, "selector", "resized");
+    constexpr int rowHeight = 14;
+    const auto clickRow = [&](int row, Held held) {
+      must(driver.clickAt(tree, 60, row * rowHeight + rowHeight / 2, MouseButton::Left, held));
+    };
+    clickRow(3, {});
+    clickRow(6, {.shift = true});
+    clickRow(9, {.control = true});
+    album.take(driver, panel, "selector", "selections");
+    must(driver.resize(panel, -180, -520));  // fewer rows than there are
+    const POINT thumb{tree.hot().right() - 6, tree.hot().y + 20};
+    must(driver.drag(panel, thumb, {thumb.x, thumb.y + 60}));
+    album.take(driver, panel, "selector", "scrolled");
+  }
+  endSession(module);
+}
+
+void takeRenamer(const Album& album) {
+  ModelerHost host;
+  host.options().localeInfo = localeOf(album.language());
+  host.add(makeDemoRig(), "lizard.lwo");
+  host.showLayers({0, 1});
+  host.select({"Tail_01"});
+  ModuleFile module;
+  loadModule(module, album.module());
+  {
+    WindowsFront front;
+    Driver driver(front);
+    const Panel& panel = openTool(host, module, "Orlo:SkelegonRenamer");
+    const Control& mode = *must(panel.find(ControlKind::Popup, 0), "the list of modes");
+    const int advanced = static_cast<int>(mode.items().size()) - 1;
+    must(driver.choose(mode, 0));
+    album.take(driver, panel, "renamer", "simple");
+    must(driver.choose(mode, advanced));
+    album.take(driver, panel, "renamer", "advanced");
+  }
+  endSession(module);
+}
+
+void takeDesk(const Album& album) {
+  ModelerHost host;
+  host.options().localeInfo = localeOf(album.language());
+  host.add(makeDemoRig(), "lizard.lwo");
+  host.showLayers({0, 1});
+  host.select({"Tail_01", "Tail_02"});
+  ModuleFile module;
+  loadModule(module, album.module());
+  {
+    WindowsFront front;
+    const DeskWindow desk(host, module, front);
+    front.settle();
+    album.keep(pictureOf(desk.handle()), "desk", "");
+  }
+  endSession(module);
+}
+
+struct Subject {
+  const char* name;
+  void (*take)(const Album&);
+};
+constexpr std::array kSubjects{
+    Subject{"property", &takePropertyPanel},
+    Subject{"conversion", &takeConversionPanel},
+    Subject{"selector", &takeSelector},
+    Subject{"renamer", &takeRenamer},
+    Subject{"desk", &takeDesk},
+};
+
+int run(const PicturesOptions& options) {
+  int result = reporting([&] { std::filesystem::create_directories(pathOf(options.folder)); });
+  for (const std::string& language : options.languages) {
+    const Album album(options, language);
+    for (const Subject& subject : kSubjects) {
+      const bool isWanted =
+          options.only.empty() || std::find(options.only.begin(), options.only.end(), subject.name) != options.only.end();
+      if (isWanted) result |= reporting([&] { subject.take(album); });
+    }
+  }
+  return result;
+}
+
+}  // namespace
+
+void addPicturesCommand(CLI::App& app, int& result) {
+  CLI::App* const command =
+      app.add_subcommand("pictures", "Write pictures of the tools' panels as real windows (Windows only)");
+  const auto options = std::make_shared<PicturesOptions>();
+  command->add_option("folder", options->folder, "Where the pictures go");
+  command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
+  command->add_option("--lang", options->languages, "Languages to show")->check(CLI::IsMember({"en", "ja"}));
+  command->add_option("--only", options->only, "Tools to show");
+  command->footer("Example:\n  varnel pictures --lang ja build/pictures");
+  command->callback([options, &result] { result = run(*options); });
+}
+
+}  // namespace standin

@@ -1,0 +1,15 @@
+// The windows' own messages and command numbers.
+#pragma once
+
+#include "standin/windows/system.h"
+
+namespace standin {
+
+inline constexpr UINT kMessageSync = WM_APP + 1;    // the panel's record changed
+inline constexpr UINT kMessageChosen = WM_APP + 2;  // an item of a list was chosen; its part's window in the first number
+
+// Continue and Cancel of a blocking panel, Close of another one. The numbers of Enter and Escape (1 and 2) are not among them.
+inline constexpr int kContinueCommand = 0x7001;
+inline constexpr int kCancelCommand = 0x7002;
+
+}  // namespace standin
