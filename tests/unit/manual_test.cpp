@@ -1,0 +1,298 @@
+// The manual says everything that the program says, in both languages: labels, choices, messages, services.
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "host/texts/texts.h"
+#include "tests/unit/documents.h"
+
+namespace varnel::test {
+namespace {
+
+using texts::Language;
+
+struct Edition {
+  Language language;
+  const char* folder;
+};
+constexpr Edition kEditions[] = {{Language::English, "en"}, {Language::Japanese, "ja"}};
+
+fs::path folderOf(const Edition& edition) { return repository() / "docs" / "manual" / edition.folder; }
+std::string page(const Edition& edition, const char* name) { return textOf(folderOf(edition) / name); }
+
+// A label as the manual quotes it: bold in English, in corner brackets in Japanese.
+bool quotes(const Edition& edition, const std::string& page, const std::string& label) {
+  const bool isJapanese = edition.language == Language::Japanese;
+  return contains(page, isJapanese ? "「" + label + "」" : "**" + label + "**");
+}
+
+// Without the code of the picture that the host draws before it; empty when it is nothing but a picture.
+std::string withoutPicture(const char* label) {
+  const std::string text = label;
+  return text.starts_with('\x03') ? text.substr(text.find(')') + 1) : text;
+}
+
+void expectQuoted(const Edition& edition, const char* name, const std::string& page, const char* label) {
+  const std::string text = withoutPicture(label);
+  EXPECT_TRUE(text.empty() || quotes(edition, page, text)) << edition.folder << "/" << name << " lacks: " << text;
+}
+
+template <class Labels>
+void expectLabels(const char* name, Labels&& labels) {
+  for (const Edition& edition : kEditions) {
+    const std::string text = page(edition, name);
+    for (const char* label : labels(edition.language)) expectQuoted(edition, name, text, label);
+  }
+}
+
+template <class Lists>
+void expectChoices(const char* name, const Lists& lists) {
+  for (const Edition& edition : kEditions) {
+    const std::string text = page(edition, name);
+    for (const auto& list : lists) {
+      for (texts::Choices choice = list.in(edition.language); *choice != nullptr; ++choice)
+        expectQuoted(edition, name, text, *choice);
+    }
+  }
+}
+
+TEST(Manual, ExplainsEveryLabelOfThePropertyPanel) { expectLabels("property-panel.md", texts::propertyLabels); }
+
+TEST(Manual, ExplainsEveryChoiceOfThePropertyPanel) { expectChoices("property-panel.md", texts::propertyChoices()); }
+
+TEST(Manual, ExplainsEveryLabelOfTheRenamer) { expectLabels("renamer.md", texts::renamerLabels); }
+
+TEST(Manual, ExplainsEveryChoiceOfTheRenamer) { expectChoices("renamer.md", texts::renamerChoices()); }
+
+TEST(Manual, ExplainsEveryLabelOfTheConversion) { expectLabels("conversion.md", texts::layoutTexts); }
+
+TEST(Manual, ExplainsTheRenamersMessages) {
+  for (const Edition& edition : kEditions) {
+    const std::string text = page(edition, "messages.md");
+    for (const std::string message : texts::renamerMessages(edition.language)) {
+      EXPECT_TRUE(message.empty() || contains(text, "`" + message + "`")) << edition.folder << ": " << message;
+    }
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Texts that stand in the sources
+
+// The text literals of a source. Those in comments count too: they only ask for more.
+std::vector<std::string> literalsOf(const std::string& source) {
+  std::vector<std::string> literals;
+  for (std::size_t at = source.find('"'); at != std::string::npos; at = source.find('"', at + 1)) {
+    if (at > 0 && source[at - 1] == '\'') continue;  // the character '"'
+    std::string literal;
+    for (++at; at < source.size() && source[at] != '"' && source[at] != '\n'; ++at) {
+      if (source[at] == '\\') ++at;
+      literal += source[at];
+    }
+    literals.push_back(literal);
+  }
+  return literals;
+}
+
+bool isMessage(const std::string& literal) {
+  const bool hasWords = std::any_of(literal.begin(), literal.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+  const bool soundsLikeOne = contains(literal, "!") || literal.ends_with("...") || literal.ends_with("done.") ||
+                             literal.ends_with(" ?") || contains(literal, "_GLOBAL,");
+  return hasWords && soundsLikeOne;
+}
+
+// What stands between the places that are filled in.
+std::vector<std::string> fixedParts(const std::string& message) {
+  std::vector<std::string> parts(1);
+  for (std::size_t i = 0; i < message.size(); ++i) {
+    if (message[i] == '%' && i + 1 < message.size()) {
+      parts.emplace_back();
+      ++i;
+    } else {
+      parts.back() += message[i];
+    }
+  }
+  return parts;
+}
+
+std::set<std::string> messagesInSources() {
+  std::set<std::string> messages;
+  for (const char* folder : {"host", "layout", "modeler"}) {
+    for (const std::string& file : filesIn(repository() / folder, ".cpp")) {
+      for (const std::string& literal : literalsOf(textOf(repository() / folder / file))) {
+        // The command that shows the message is no part of it.
+        const std::string_view command = "StatusMsg {1.0} ";
+        if (isMessage(literal)) messages.insert(literal.starts_with(command) ? literal.substr(command.size()) : literal);
+      }
+    }
+  }
+  return messages;
+}
+
+TEST(Manual, ExplainsEveryMessageOfTheSources) {
+  const std::set<std::string> messages = messagesInSources();
+  EXPECT_EQ(messages.count("polSelect() !"), 1u);  // the search works
+  for (const Edition& edition : kEditions) {
+    const std::string text = page(edition, "messages.md");
+    for (const std::string& message : messages) {
+      for (const std::string& part : fixedParts(message)) {
+        EXPECT_TRUE(contains(text, part)) << edition.folder << ": " << part << "  of  " << message;
+      }
+    }
+  }
+}
+
+TEST(Manual, NamesEveryServiceThatTheHostMustOffer) {
+  const std::string source = textOf(repository() / "host" / "lwtool2_globals.cpp");
+  const std::size_t begin = source.find("kWanted[] = {");
+  const std::vector<std::string> services = literalsOf(source.substr(begin, source.find("};", begin) - begin));
+  EXPECT_GT(services.size(), 30u);  // the search works
+  for (const Edition& edition : kEditions) {
+    const std::string text = page(edition, "install.md");
+    for (const std::string& service : services)
+      EXPECT_TRUE(contains(text, "`" + service + "`")) << edition.folder << ": " << service;
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// The program
+
+// What stands under a heading of the third level, up to the next heading of that level or a higher one.
+std::string sectionOf(const std::string& page, const std::string& title) {
+  std::string section;
+  bool isInside = false;
+  for (const std::string& line : linesOf(page)) {
+    const bool ends = line.starts_with("# ") || line.starts_with("## ") || line.starts_with("### ");
+    if (ends) isInside = line == "### " + title;
+    if (isInside) section += line + "\n";
+  }
+  return section;
+}
+
+struct CommandOption {
+  std::string command;
+  std::string option;
+};
+
+// Subcommands and their options as the sources add them; a command that the help hides is left out. What a command has more
+// names than one, counts once for each: "-o,--output".
+std::vector<CommandOption> commandOptions() {
+  std::vector<CommandOption> found;
+  for (const std::string& file : filesIn(repository() / "standin" / "program", ".cpp")) {
+    const std::string source = textOf(repository() / "standin" / "program" / file);
+    std::string command;
+    for (std::size_t at = source.find("add_"); at != std::string::npos; at = source.find("add_", at + 1)) {
+      const std::string_view call = std::string_view(source).substr(at);
+      const bool isCommand = call.starts_with("add_subcommand(");
+      if (!isCommand && !call.starts_with("add_option(") && !call.starts_with("add_flag(")) continue;
+      const std::size_t open = source.find_first_not_of(" \n", source.find('(', at) + 1);
+      if (source[open] != '"') continue;  // the name is given to a function that serves several commands
+      std::string name = source.substr(open + 1, source.find('"', open + 1) - open - 1);
+      if (isCommand) {
+        command = name == "validate-check" ? "" : name;
+        if (!command.empty()) found.push_back({command, {}});
+        continue;
+      }
+      for (name += ','; !command.empty() && !name.empty(); name.erase(0, name.find(',') + 1)) {
+        found.push_back({command, name.substr(0, name.find(','))});
+      }
+    }
+  }
+  return found;
+}
+
+TEST(Manual, ExplainsEveryCommandAndOptionOfTheProgram) {
+  const std::vector<CommandOption> options = commandOptions();
+  EXPECT_GT(options.size(), 30u);  // the search works
+  for (const Edition& edition : kEditions) {
+    const std::string text = page(edition, "tools.md");
+    for (const auto& [command, option] : options) {
+      const std::string section = sectionOf(text, command);
+      const bool isThere =
+          option.empty() ? !section.empty() : contains(section, "`" + option + "`") || contains(section, "`" + option + " ");
+      EXPECT_TRUE(isThere) << edition.folder << ": " << command << " " << option;
+    }
+  }
+}
+
+TEST(Manual, ExplainsEveryFindingOfTheProgram) {
+  const std::string source = textOf(repository() / "standin" / "rigs" / "findings.cpp");
+  std::size_t count = 0;
+  for (std::size_t row = source.find("{FindingKind::"); row != std::string::npos;
+       row = source.find("{FindingKind::", row + 1)) {
+    const std::size_t open = source.find('"', row);
+    const std::string kind = source.substr(open + 1, source.find('"', open + 1) - open - 1);
+    for (const Edition& edition : kEditions) {
+      EXPECT_TRUE(contains(page(edition, "tools.md"), "| `" + kind + "` |")) << edition.folder << ": " << kind;
+    }
+    ++count;
+  }
+  EXPECT_GE(count, 20u);  // the search works
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// The languages beside each other
+
+// What a page is made of: its headings' levels, table rows, boxes and pictures in their order.
+std::vector<std::string> skeletonOf(const std::string& page, const std::string& language) {
+  std::vector<std::string> parts;
+  bool isInBox = false;
+  for (const std::string& line : linesOf(page)) {
+    if (line.starts_with('#')) parts.push_back(line.substr(0, line.find(' ')));
+    if (line.starts_with('|')) parts.emplace_back("|");
+    if (line.starts_with('>') && !isInBox) parts.emplace_back(">");
+    isInBox = line.starts_with('>');
+    if (const std::size_t picture = line.find("../pictures/"); picture != std::string::npos) {
+      std::string name = line.substr(picture);
+      name.replace(name.find("-" + language), 3, "-LANGUAGE");
+      parts.push_back(name);
+    }
+  }
+  return parts;
+}
+
+TEST(Manual, HasTheSamePagesInBothLanguages) {
+  EXPECT_EQ(filesIn(folderOf(kEditions[0]), ".md"), filesIn(folderOf(kEditions[1]), ".md"));
+}
+
+TEST(Manual, IsBuiltTheSameInBothLanguages) {
+  for (const std::string& name : filesIn(folderOf(kEditions[0]), ".md")) {
+    EXPECT_EQ(skeletonOf(page(kEditions[0], name.c_str()), "en"), skeletonOf(page(kEditions[1], name.c_str()), "ja"))
+        << name;
+  }
+}
+
+// The targets of the links and pictures of a page, without the parts behind '#'.
+std::set<std::string> targetsOf(const std::string& page) {
+  std::set<std::string> targets;
+  for (std::size_t at = page.find("]("); at != std::string::npos; at = page.find("](", at + 2)) {
+    const std::string target = page.substr(at + 2, page.find_first_of("#)", at) - at - 2);
+    if (!target.empty()) targets.insert(target);
+  }
+  return targets;
+}
+
+TEST(Manual, LinksToPagesThatAreThere) {
+  for (const Edition& edition : kEditions) {
+    for (const std::string& name : filesIn(folderOf(edition), ".md")) {
+      for (const std::string& target : targetsOf(page(edition, name.c_str()))) {
+        if (target.ends_with(".png")) continue;
+        EXPECT_TRUE(fs::exists(folderOf(edition) / target)) << edition.folder << "/" << name << " links to " << target;
+      }
+    }
+  }
+}
+
+TEST(Manual, ShowsPicturesThatAreThere) {
+  if (!fs::exists(repository() / "docs" / "manual" / "pictures")) GTEST_SKIP() << "the pictures have not been taken";
+  for (const Edition& edition : kEditions) {
+    for (const std::string& name : filesIn(folderOf(edition), ".md")) {
+      for (const std::string& target : targetsOf(page(edition, name.c_str()))) {
+        EXPECT_TRUE(!target.ends_with(".png") || fs::exists(folderOf(edition) / target))
+            << edition.folder << "/" << name << ": " << target;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace varnel::test
