@@ -49,6 +49,35 @@ void showPropertyPanel(const PanelsOptions& options, const std::string& language
   endSession(module);
 }
 
+void showSelector(const PanelsOptions& options, const std::string& language) {
+  ModelerHost host;
+  host.options().localeInfo = localeOf(language);
+  host.add(makeDemoRig(), "lizard.lwo");
+  ModuleFile module;
+  loadModule(module, options.module);
+  if (host.activate(module, "Orlo:SkelegonSelector") != 0) throw Trouble{"the selector could not be activated"};
+  show("selector, " + language, *must(panels().find("Orlo:SkelegonSelector"), "the panel"));
+  endSession(module);
+}
+
+// Without the look for cut labels: some of its fields have widths that leave out the end of their longest text, deliberately.
+void showRenamer(const PanelsOptions& options, const std::string& language) {
+  ModelerHost host;
+  host.options().localeInfo = localeOf(language);
+  host.add(makeDemoRig(), "lizard.lwo");
+  ModuleFile module;
+  loadModule(module, options.module);
+  if (host.activate(module, "Orlo:SkelegonRenamer") != 0) throw Trouble{"the renamer could not be activated"};
+  const Panel& panel = *must(panels().find("Orlo:SkelegonRenamer"), "the panel");
+  const Control* const modes = panel.find(ControlKind::Popup, 0);
+  for (std::size_t mode = 0; mode < person::menu(modes).size(); ++mode) {
+    must(person::choose(panel.find(ControlKind::Popup, 0), static_cast<int>(mode)));
+    std::cout << "== renamer, " << language << ", mode " << mode + 1 << "\n";
+    indent(panelText(panel));
+  }
+  endSession(module);
+}
+
 void showConversionPanel(const PanelsOptions& options, const std::string& language) {
   LayoutHost host;
   host.setLocale(localeOf(language));
@@ -62,6 +91,8 @@ void showConversionPanel(const PanelsOptions& options, const std::string& langua
 int run(const PanelsOptions& options) {
   return reporting([&] {
     for (const std::string& language : options.languages) {
+      showSelector(options, language);
+      showRenamer(options, language);
       showPropertyPanel(options, language);
       showConversionPanel(options, language);
     }

@@ -35,12 +35,13 @@ Picture Picture::part(const Rectangle& area) const {
 }
 
 bool savePng(const Picture& picture, const std::string& path) {
+  if (picture.isEmpty()) return false;
   std::ofstream file(std::filesystem::path(std::u8string(path.begin(), path.end())), std::ios::binary);
   const auto write = [](void* out, void* data, int size) {
     static_cast<std::ofstream*>(out)->write(static_cast<const char*>(data), size);
   };
   const int rowBytes = picture.width * 4;
-  return !picture.isEmpty() && file &&
+  return file &&
          stbi_write_png_to_func(write, &file, picture.width, picture.height, 4, picture.pixels.data(), rowBytes) != 0 &&
          file.flush();
 }
