@@ -68,6 +68,12 @@ bool EvalF(const char* format, ...) {
   return true;
 }
 
+void EvalPlain(const char* command) {
+  const CommandFunc send = layoutCommand();
+  if (send == nullptr || send(command) != 0) return;
+  ReportError("lwtool2", 3193, "%s", refusal(command, 0).c_str());
+}
+
 void ReportStatusError(const std::string& message) {
   const CommandFunc command = layoutCommand();
   if (command != nullptr) sendToLayout(command, "StatusMsg *** ERROR: " + message + " ***");

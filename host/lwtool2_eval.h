@@ -18,6 +18,10 @@ bool Eval(const std::string& command);
 // Formats a command and sends it. Always true: what Layout refuses, Eval has reported.
 bool EvalF(const char* format, ...) VARNEL_PRINTF(1, 2);
 
+// Sends one command of plain ASCII to Layout as Eval does, but takes no memory unless it is refused: for what must be sent
+// even when there is none. Nothing where there is no Layout.
+void EvalPlain(const char* command);
+
 // Layout's status line; nothing in Modeler. The fraction runs from 0 to 1 and draws a progress bar.
 void StatusText(const char* format, ...) VARNEL_PRINTF(1, 2);
 void StatusProgress(float fraction, const char* format, ...) VARNEL_PRINTF(2, 3);

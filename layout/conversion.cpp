@@ -26,9 +26,14 @@ class CSwitchedOff {
  public:
   // By way of the other constructor the object is whole before anything is sent, so that it switches on also what a throw in
   // the middle left off.
-  CSwitchedOff() : CSwitchedOff(kWhole) { switchAll(0); }
+  CSwitchedOff() : CSwitchedOff(kWhole) {
+    for (const char* command : {"EnableIK 0", "EnableMC 0", "EnableDeformations 0"}) lw::Eval(command);
+  }
+  // Each on its own, as plain texts: a failure, want of memory as well, leaves as little as possible switched off.
   ~CSwitchedOff() {
-    lw::guarded([] { switchAll(1); });
+    for (const char* command : {"EnableIK 1", "EnableMC 1", "EnableDeformations 1"}) {
+      lw::guarded([&] { lw::EvalPlain(command); });
+    }
   }
   CSwitchedOff(const CSwitchedOff&) = delete;
   CSwitchedOff& operator=(const CSwitchedOff&) = delete;
@@ -36,9 +41,6 @@ class CSwitchedOff {
  private:
   enum Whole { kWhole };
   explicit CSwitchedOff(Whole /*unused*/) {}
-  static void switchAll(int on) {
-    for (const char* command : {"EnableIK", "EnableMC", "EnableDeformations"}) EvalF("%s %d", command, on);
-  }
 };
 
 // Switches the host's auto-confirm off again when a throw leaves the scope.
@@ -46,7 +48,7 @@ class CAutoConfirmOffOnThrow {
  public:
   CAutoConfirmOffOnThrow() = default;
   ~CAutoConfirmOffOnThrow() {
-    if (std::uncaught_exceptions() > throwsBefore_) lw::guarded([] { EvalF("AutoConfirm 0"); });
+    if (std::uncaught_exceptions() > throwsBefore_) lw::guarded([] { lw::EvalPlain("AutoConfirm 0"); });
   }
   CAutoConfirmOffOnThrow(const CAutoConfirmOffOnThrow&) = delete;
   CAutoConfirmOffOnThrow& operator=(const CAutoConfirmOffOnThrow&) = delete;
