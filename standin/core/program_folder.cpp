@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 #if defined(_WIN32)
 constexpr const char* kModuleName = "varnel.p";
 
-fs::path programFile() {
+fs::path runningFile() {
   wchar_t buffer[32768];
   const DWORD length = GetModuleFileNameW(nullptr, buffer, static_cast<DWORD>(std::size(buffer)));
   return std::wstring(buffer, length);
@@ -23,7 +23,7 @@ fs::path programFile() {
 #else
 constexpr const char* kModuleName = "varnel.so";
 
-fs::path programFile() { return fs::read_symlink("/proc/self/exe"); }
+fs::path runningFile() { return fs::read_symlink("/proc/self/exe"); }
 #endif
 
 std::string utf8(const fs::path& path) {
@@ -33,11 +33,13 @@ std::string utf8(const fs::path& path) {
 
 }  // namespace
 
-std::string programFolder() { return utf8(programFile().parent_path()); }
+std::string programFile() { return utf8(runningFile()); }
+
+std::string programFolder() { return utf8(runningFile().parent_path()); }
 
 std::string modulePath() {
   if (const char* const chosen = std::getenv("VARNEL_MODULE"); chosen != nullptr && *chosen != '\0') return chosen;
-  const fs::path folder = programFile().parent_path();
+  const fs::path folder = runningFile().parent_path();
   for (const fs::path& candidate : {folder / kModuleName, folder.parent_path() / kModuleName}) {
     if (fs::exists(candidate)) return utf8(candidate);
   }

@@ -5,6 +5,9 @@
 
 namespace standin {
 
+// The file of the running program, UTF-8.
+std::string programFile();
+
 // The folder of the running program, UTF-8.
 std::string programFolder();
 

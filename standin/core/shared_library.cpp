@@ -41,6 +41,12 @@ const void* findSymbol(void* library, const char* name) {
 
 void closeLibrary(void* library) { FreeLibrary(static_cast<HMODULE>(library)); }
 
+bool isLibraryLoaded(const std::string& path) {
+  std::string why;
+  const std::filesystem::path file = existingFile(path, why);
+  return !file.empty() && GetModuleHandleW(file.c_str()) != nullptr;
+}
+
 #else
 
 void* openLibrary(const std::string& path, std::string& why) {
@@ -54,6 +60,14 @@ void* openLibrary(const std::string& path, std::string& why) {
 const void* findSymbol(void* library, const char* name) { return dlsym(library, name); }
 
 void closeLibrary(void* library) { dlclose(library); }
+
+bool isLibraryLoaded(const std::string& path) {
+  std::string why;
+  const std::filesystem::path file = existingFile(path, why);
+  void* library = file.empty() ? nullptr : dlopen(file.c_str(), RTLD_NOW | RTLD_NOLOAD);
+  if (library != nullptr) dlclose(library);
+  return library != nullptr;
+}
 
 #endif
 

@@ -10,10 +10,12 @@ Witness& witness() {
 void Witness::reset() {
   const bool measuring = measuring_;
   const int depth = depth_;
+  const bool moduleRuns = moduleRuns_;
   auto afterModule = std::move(afterModule_);
   *this = Witness();
   measuring_ = measuring;
   depth_ = depth;
+  moduleRuns_ = moduleRuns;
   afterModule_ = std::move(afterModule);
 }
 
@@ -51,12 +53,14 @@ void Witness::stopClock() {
   clockRuns_ = false;
 }
 
-HostCall::HostCall(const char* function) : function_(function), clockRan_(witness().clockRuns_) {
+HostCall::HostCall(const char* function)
+    : function_(function), clockRan_(witness().clockRuns_), moduleRan_(std::exchange(witness().moduleRuns_, false)) {
   witness().stopClock();
   refused_ = witness().enter(function);
 }
 
 HostCall::~HostCall() {
+  witness().moduleRuns_ = moduleRan_;
   if (clockRan_) witness().startClock();
 }
 

@@ -43,6 +43,8 @@ class Witness {
   std::chrono::nanoseconds moduleTime() const { return moduleTime_; }
   // True while module code is on the stack.
   bool inModule() const { return depth_ > 0; }
+  // True while module code itself runs: not while a function of the host's that it called does.
+  bool moduleRuns() const { return moduleRuns_; }
   // Asked with the function's name whenever the module has returned to the host for good: what must not be left behind then.
   // There is one such check; it outlives a reset and is taken back with nullptr by who set it.
   void afterModule(std::function<void(const char* function)> check) { afterModule_ = std::move(check); }
@@ -65,6 +67,7 @@ class Witness {
   bool measuring_ = false;
   bool clockRuns_ = false;
   int depth_ = 0;
+  bool moduleRuns_ = false;
   Clock::time_point started_;
   std::chrono::nanoseconds moduleTime_{0};
   std::function<void(const char*)> afterModule_;
@@ -88,6 +91,7 @@ class HostCall {
  private:
   const char* function_;
   bool clockRan_;
+  bool moduleRan_;
   bool refused_;
 };
 
@@ -97,19 +101,24 @@ template <class F>
 auto callModule(const char* name, F&& call) {
   using Result = std::invoke_result_t<F>;
   struct Depth {
-    explicit Depth(const char* name) : function(name) {
+    explicit Depth(const char* name) : function(name), moduleRan(std::exchange(witness().moduleRuns_, true)) {
       ++witness().depth_;
       witness().startClock();
     }
     ~Depth() {
+      witness().moduleRuns_ = moduleRan;
       witness().stopClock();
       if (--witness().depth_ == 0 && witness().afterModule_) witness().afterModule_(function);
     }
     Depth(const Depth&) = delete;
     Depth& operator=(const Depth&) = delete;
     const char* function;
+    bool moduleRan;
   } depth(name);
-  const auto faulted = [&] { witness().fault(name, "let an exception out into the host"); };
+  const auto faulted = [&] {
+    witness().moduleRuns_ = false;
+    witness().fault(name, "let an exception out into the host");
+  };
   if constexpr (std::is_void_v<Result>) {
     try {
       std::forward<F>(call)();

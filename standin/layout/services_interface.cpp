@@ -50,8 +50,13 @@ Result staleFunction(lw::ItemId) {
 
 int command(const char* text) {
   const HostCall call("LW Command Interface");
-  if (!checkedOutput(call, text) || call.refused()) return 0;
-  return runCommand(LayoutHost::current().state(), fromNarrow(text)) ? 1 : 0;
+  if (!checkedOutput(call, text)) return 0;
+  LayoutState& state = LayoutHost::current().state();
+  if (call.refused()) {
+    state.transcript.add({EventKind::rejected, fromNarrow(text), kRefused, std::nullopt});
+    return 0;
+  }
+  return runCommand(state, fromNarrow(text)) ? 1 : 0;
 }
 
 // ---------------------------------------------------------------------------------------------------------------------

@@ -18,6 +18,9 @@ enum class EventKind {
   message,   // a message box; `why` is its kind
 };
 
+// The reason of a command that was rejected only because the witness was asked to refuse that call.
+inline constexpr const char* kRefused = "refused";
+
 struct Event {
   EventKind kind = EventKind::command;
   std::string text;

@@ -126,8 +126,11 @@ Panels& panels() {
 }
 
 void Panels::reset() {
-  for (ControlHandle& handle : handles().controls) handle.record = nullptr;
-  for (PanelHandle& handle : handles().panels) handle.record = nullptr;
+  // Only the records of this session: those before have none any more, and there may be very many.
+  for (const auto& panel : panels_) {
+    handles().panelByAddress.at(panel->id)->record = nullptr;
+    for (const auto& control : panel->controls) handles().controlByAddress.at(control->face)->record = nullptr;
+  }
   panels_.clear();
   notes_.clear();
   options = PanelOptions();
