@@ -1,0 +1,74 @@
+// One stay of the module in one of the two programs, with a rig loaded: what the checks play on.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "standin/core/module_file.h"
+#include "standin/layout/layout_host.h"
+#include "standin/modeler/modeler_host.h"
+#include "standin/panels/panel.h"
+#include "standin/validate/tools.h"
+
+namespace standin::validate {
+
+inline constexpr std::uint32_t kEnglish = 0x409;
+inline constexpr std::uint32_t kJapanese = 0x411;
+
+// A rig, and the file that holds it.
+struct Rig {
+  ObjectFile object;
+  std::string path;
+};
+
+// The rigs that are shipped, written into a folder.
+Rig lizardRig(const std::string& folder);
+Rig japaneseRig(const std::string& folder);
+// Writes any object under a name.
+Rig rigOf(ObjectFile object, const std::string& path);
+
+class Session {
+ public:
+  // Starts the program, loads the rig (in Modeler with all layers in the foreground, in Layout selected) and the module.
+  Session(Program program, const Rig& rig, const std::string& module);
+  // Unloads the module without looking.
+  ~Session();
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  // Why the module could not be loaded; empty when it is.
+  const std::string& refusal() const { return refusal_; }
+  ModelerHost* modeler() { return modeler_.get(); }
+  LayoutHost* layout() { return layout_.get(); }
+  ModuleFile& module() { return module_; }
+
+  void setLocale(std::uint32_t word);
+  void setProduct(std::uint32_t word);
+  // Lays an answer to the next question ready, unless one is.
+  void layAnswer(Answer answer = Answer::yes);
+
+  std::optional<int> activate(const Tool& tool, std::optional<int> version = std::nullopt);
+  // Activates the tool; its open panel. Null when there is none.
+  Panel* open(const Tool& tool);
+
+  // Which rules of the host the module has broken since the last call; empty when none.
+  std::string complaints();
+  // Ends the module's stay and loads it afresh, in the same session. False when it cannot be loaded again.
+  bool reload();
+  // Ends the module's stay; complaints, also of panels without end.
+  std::string end();
+
+ private:
+  std::unique_ptr<ModelerHost> modeler_;
+  std::unique_ptr<LayoutHost> layout_;
+  ModuleFile module_;
+  std::string path_;
+  std::string refusal_;
+  std::size_t told_ = 0;  // faults that complaints() gave
+};
+
+// The values that a panel's controls show, as lines, on every page. Turns the pages and ends on the first ones.
+std::string everythingShown(Panel& panel);
+
+}  // namespace standin::validate

@@ -1,0 +1,32 @@
+// What the module under test has to offer, and what it may need from the host for it.
+#pragma once
+
+#include <array>
+#include <span>
+
+#include "host/lightwave.h"
+
+namespace standin::validate {
+
+enum class Program { Modeler, Layout };
+
+struct Tool {
+  const char* server;
+  const char* className;
+  Program program;
+  int version;  // of its local data
+};
+
+inline constexpr Tool kSelector{"Orlo:SkelegonSelector", "CommandSequence", Program::Modeler, lw::kModCommandVersion};
+inline constexpr Tool kRenamer{"Orlo:SkelegonRenamer", "CommandSequence", Program::Modeler, lw::kModCommandVersion};
+inline constexpr Tool kProperty{"Orlo:SkelegonProperty", "CommandSequence", Program::Modeler, lw::kModCommandVersion};
+inline constexpr Tool kConversion{"Orlo:SkelegonOptimize", "LayoutGeneric", Program::Layout, lw::kLayoutGenericVersion};
+// In the order of the server table.
+inline constexpr std::array kTools{kSelector, kRenamer, kProperty, kConversion};
+
+// Services without which a tool of the program must not run.
+std::span<const char* const> requiredServices(Program program);
+
+constexpr const char* nameOf(Program program) { return program == Program::Modeler ? "Modeler" : "Layout"; }
+
+}  // namespace standin::validate

@@ -1,0 +1,37 @@
+// Trips: what a user does with a tool from its opening to its end, as the fifth to seventh level do them.
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "standin/validate/session.h"
+
+namespace standin::validate {
+
+struct TripOrder {
+  std::string module;
+  const Rig* rig = nullptr;
+  std::uint32_t language = kEnglish;
+  // Called when all is ready and the tool is about to be opened, and when the user is done. What fails in between is made to.
+  std::function<void()> begin;
+  std::function<void()> end;
+};
+
+struct TripReport {
+  // What the user could not do or found wrong. It counts only on a host that fails in nothing.
+  std::vector<std::string> troubles;
+  // Rules that were broken, which hold whatever the host does: faults, open edits, switches left off, panels that show
+  // something else than what is stored.
+  std::vector<std::string> broken;
+};
+
+struct Trip {
+  const char* name;
+  TripReport (*go)(const TripOrder&);
+};
+
+std::span<const Trip> allTrips();
+
+}  // namespace standin::validate

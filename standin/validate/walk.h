@@ -1,0 +1,35 @@
+// A random user: acts on whatever panels are open, and on the object or the scene below them, as a seed says.
+#pragma once
+
+#include <cstdint>
+#include <random>
+#include <string>
+
+#include "standin/validate/session.h"
+
+namespace standin::validate {
+
+class Walk {
+ public:
+  // `session` must have the rig loaded; the walk opens tools on its way.
+  Walk(Session& session, const Rig& rig, std::uint64_t seed);
+
+  // One action; what it was.
+  std::string act();
+
+ private:
+  std::uint32_t below(std::uint32_t count) { return static_cast<std::uint32_t>(random_() % count); }
+
+  std::string openTool();
+  std::string useControl();
+  std::string usePanel();
+  std::string changeMesh();
+  std::string changeObjects();
+  std::string changeScene();
+
+  Session& session_;
+  const Rig& rig_;
+  std::mt19937_64 random_;
+};
+
+}  // namespace standin::validate
