@@ -50,14 +50,32 @@ void reloadTwentyTimes(ModelerHost& host, ModuleFile& module) {
   for (int i = 0; i < 20; ++i) must(person::press(opened("Orlo:SkelegonProperty").find("Sync")));
 }
 
+void renameAll(ModelerHost& host, ModuleFile& module) {
+  host.selectPolygons(host.current()->skelegons());
+  host.activate(module, "Orlo:SkelegonRenamer");
+  const Panel& panel = opened("Orlo:SkelegonRenamer");
+  must(person::choose(panel.find(ControlKind::Popup, 0), "Advanced Setting"));
+  for (const char* box : {"Based Name", "Column Character", "Row Digit", "Bone Property"}) {
+    must(person::switchTo(panel.find(ControlKind::Bool, box), true));
+  }
+  must(person::press(panel.find("Run")));
+}
+
+void selectTwentyRows(ModelerHost& host, ModuleFile& module) {
+  constexpr int kRow = 14;
+  host.activate(module, "Orlo:SkelegonSelector");
+  for (int i = 0; i < 20; ++i)
+    must(person::click(opened("Orlo:SkelegonSelector").find(ControlKind::OpenGL), 200, kRow * (2 + i)));
+}
+
 struct ModelerWorkload {
   std::string_view name;
   void (*run)(ModelerHost& host, ModuleFile& module);
 };
 constexpr std::array kModelerWorkloads{
-    ModelerWorkload{"property-open", openPropertyPanel},
-    ModelerWorkload{"property-change-20", changeTwentySettings},
-    ModelerWorkload{"property-reload-20", reloadTwentyTimes},
+    ModelerWorkload{"property-open", openPropertyPanel},      ModelerWorkload{"property-change-20", changeTwentySettings},
+    ModelerWorkload{"property-reload-20", reloadTwentyTimes}, ModelerWorkload{"rename-all", renameAll},
+    ModelerWorkload{"selector-click-20", selectTwentyRows},
 };
 
 void load(ModuleFile& module) {

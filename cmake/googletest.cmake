@@ -3,8 +3,6 @@ set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
 set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
 add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
 
-varnel_header_library(varnel_json /usr/include/nlohmann)
-
 # One test program. Its sources follow; link further libraries with target_link_libraries.
 function(varnel_test_program name)
   add_executable(${name} ${ARGN})

@@ -8,11 +8,12 @@ packages_of() {
   case $1 in
     native) echo "$base googletest nlohmann-json3-dev libcli11-dev binutils" ;;
     windows) echo "$base googletest nlohmann-json3-dev libcli11-dev g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64
-      wine wine64 xvfb xauth locales fonts-ipafont-gothic libgl1-mesa-dri" ;;
+      wine wine64 xvfb xauth locales fonts-ipafont-gothic fonts-vlgothic libgl1-mesa-dri libstb-dev" ;;
     fuzz) echo "$base clang-14 libclang-rt-14-dev" ;;
     lint) echo "$base googletest nlohmann-json3-dev libcli11-dev clang-format-14 clang-tidy-14 git" ;;
-    bench) echo "$base libbenchmark-dev libassimp-dev libcli11-dev" ;;
-    demo) echo "$base libcli11-dev" ;;
+    bench) echo "$base libbenchmark-dev libassimp-dev libcli11-dev nlohmann-json3-dev valgrind" ;;
+    demo) echo "$base libcli11-dev nlohmann-json3-dev" ;;
+    coverage) echo "$(packages_of native) gcovr" ;;
     package) echo "$(packages_of windows) pandoc zip unzip git" ;;
   esac
 }
@@ -59,6 +60,11 @@ start_wine() {
     LC_ALL=ja_JP.UTF-8 xvfb-run -a wineboot -i >/dev/null 2>&1 || true
     LC_ALL=ja_JP.UTF-8 wineserver -w || true
     touch "$WINEPREFIX/.ready"
+  fi
+  # No window manager answers there: without this, Wine waits two seconds for one whenever a window goes.
+  if [ ! -f "$WINEPREFIX/.unmanaged" ]; then
+    xvfb-run -a wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1 || true
+    touch "$WINEPREFIX/.unmanaged"
   fi
 }
 
