@@ -1,0 +1,257 @@
+// A stand-in Modeler with the built module in it, the module's three panels, and what a walk expects of all of them.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "modeler/property_controls.h"
+#include "modeler/renamer_controls.h"
+#include "skelegon/slots.h"
+#include "standin/core/program_folder.h"
+#include "standin/core/witness.h"
+#include "standin/modeler/modeler_host.h"
+#include "standin/objectfile/rig_builder.h"
+#include "standin/panels/geometry.h"
+#include "standin/panels/person.h"
+#include "tests/tools/panels_walk_mesh.h"
+#include "tests/tools/panels_walk_tree.h"
+
+namespace varnel::test {
+
+namespace person = standin::person;
+
+using Item = mst::RenamerItem;
+using Names = std::vector<std::string>;
+
+inline constexpr const char* kSelectorTool = "Orlo:SkelegonSelector";
+inline constexpr const char* kRenamerTool = "Orlo:SkelegonRenamer";
+inline constexpr const char* kPropertyTool = "Orlo:SkelegonProperty";
+
+inline const Names kWalkLayers = {"Body", "尾"};
+inline const Names kWalkMaps = {"Spine", "Head", "腰"};
+
+// Two layers with branches, and with Japanese, equal, empty and missing names. Heads lie at different places but where two
+// skelegons begin in one point.
+//
+//   Hips - Chest - Head              腕_L_01 - 腕_L_02      (none)
+//               \ Same - Bone10      尾2 - 尾10 - ""        Same
+//                     \ Bone2
+//                     \ Bone2
+inline standin::ObjectFile walkRig() {
+  standin::RigBuilder rig;
+  rig.layer(0, kWalkLayers[0]);
+  rig.face({rig.point({0, 0, 0}), rig.point({1, 0, 0}), rig.point({0, 1, 0})}, "Skin");
+  for (const std::string& map : kWalkMaps) rig.weightMap(map, {{1, 1.0F}});
+  const auto hips = rig.root("Hips", {0.5F, 1, 0.25F}, {0.25F, 2, 0.5F});
+  const auto chest = rig.child(hips, "Chest", {-0.5F, 3.5F, 0.75F});
+  const auto arm = rig.child(chest, "Same", {-2.25F, 4, -1});
+  rig.child(arm, "Bone10", {-3, 4.25F, -2});
+  rig.child(arm, "Bone2", {-3.5F, 5, -3});
+  rig.child(arm, "Bone2", {-4, 4.5F, -3.25F});
+  rig.child(chest, "Head", {0, 5, 0.5F});
+  rig.chain({"腕_L_01", "腕_L_02"}, {{2, 3, -0.25F}, {3.25F, 2.5F, 1.5F}, {4, 2, 2}});
+  rig.layer(1, kWalkLayers[1]);
+  rig.between(rig.point({1.5F, -1, 3}), rig.point({1, -2, 3.5F}), std::nullopt);
+  rig.chain({"尾2", "尾10", ""}, {{-1.25F, -2, 4}, {-1.5F, -2.75F, 5}, {-1.75F, -3.5F, 6}, {-1, -4, 7}});
+  rig.root("Same", {-4.5F, 0.75F, -4}, {-5, 1, -5});
+  return rig.take();
+}
+
+// The panels see what others did when they are told of it, when they are opened, or when the user asks for it. `isFresh`: the
+// panel is open and has seen everything.
+class ThreePanels : public testing::Test {
+ protected:
+  using Control = standin::Control;
+  using Panel = standin::Panel;
+
+  ThreePanels() : object(&host.add(walkRig(), "rig.lwo")), mesh(*object), tree(kWalkLayers, kWalkMaps) {
+    showLayers({0, 1});
+    EXPECT_NE(standin::modulePath(), "") << "the module is not beside the tests";
+    EXPECT_EQ(module.load(standin::modulePath()), "");
+  }
+
+  // Whatever was done, the module must have kept to the host's rules.
+  ~ThreePanels() override {
+    standin::panels().moduleUnloaded();
+    module.unload();
+    EXPECT_EQ(standin::witness().report(), "");
+  }
+
+  // --- the panels ----------------------------------------------------------------------------------------------------------
+
+  struct Window {
+    Panel* panel = nullptr;
+    bool isFresh = false;
+
+    bool isOpen() const { return panel != nullptr && panel->isOpen(); }
+    Control* at(std::size_t number) const { return panel->at(static_cast<int>(number)); }
+  };
+
+  static Panel* run(standin::ModelerHost& host, standin::ModuleFile& module, const char* tool) {
+    EXPECT_EQ(host.activate(module, tool), 0) << tool;
+    return standin::panels().find(tool);
+  }
+
+  void openSelector() {
+    const bool wasOpen = selector.isOpen();
+    selector.panel = run(host, module, kSelectorTool);
+    if (!wasOpen) {
+      tree.forgetAnchor();
+      tree.setView(treeControl()->hotWidth, treeControl()->hotHeight);
+    }
+    treeHears();
+  }
+  // One that is open tells the others what it saw.
+  void openProperties() {
+    const bool wasOpen = properties.isOpen();
+    properties.panel = run(host, module, kPropertyTool);
+    propertiesHear();
+    if (wasOpen) treeHears();
+  }
+  void openRenamer() { renamer.panel = run(host, module, kRenamerTool); }
+
+  Control* treeControl() const { return selector.panel->find(standin::ControlKind::OpenGL); }
+  Control* at(Item item) const { return renamer.at(mst::indexOf(item)); }
+  Control* field(std::size_t number) const { return properties.at(number); }
+
+  void showLayers(const std::vector<int>& front) {
+    host.showLayers(front);
+    mesh.showLayers(front);
+    nobodyHears();
+  }
+
+  // A panel looks at the mesh again.
+  void treeHears() {
+    if (!selector.isOpen()) return;
+    tree.scan(mesh);
+    selector.isFresh = true;
+  }
+  void propertiesHear() {
+    if (!properties.isOpen()) return;
+    shownOfSelected = 0;
+    shownOfNone.clear();
+    properties.isFresh = true;
+  }
+  // The mesh changed in a way that tells no panel.
+  void nobodyHears() {
+    selector.isFresh = false;
+    properties.isFresh = false;
+  }
+
+  // --- comparing -----------------------------------------------------------------------------------------------------------
+
+  // What is stored for a setting, as the panel reads it. With nothing selected the defaults, and what the user put over them.
+  std::string storedValue(std::size_t place, skg::Slot slot) const {
+    if (place == walk::kNone) {
+      const auto found = shownOfNone.find(slot);
+      return found == shownOfNone.end() ? std::string(skg::SlotDefaults(slot)) : found->second;
+    }
+    std::string text = mesh[place].text(skg::SlotTagId(slot));
+    if (text.empty() && slot == skg::Slot::Colour) text = mesh[place].text(walk::kColourCopy);
+    return text.empty() ? std::string(skg::SlotDefaults(slot)) : text;
+  }
+
+  static std::string realText(double value) {
+    char text[64];
+    std::snprintf(text, sizeof text, "%.6f", value);
+    return text;
+  }
+
+  // The value of a control as it would be stored.
+  static std::string valueOf(const mst::ControlRow& row, const Control& control) {
+    switch (row.value) {
+      case mst::ValueKind::Integer: return std::to_string(control.integer);
+      case mst::ValueKind::Real: return realText(control.real);
+      case mst::ValueKind::Colour: return std::string(skg::BoneColourNames.at(static_cast<std::size_t>(control.integer)));
+      case mst::ValueKind::Text:
+      case mst::ValueKind::None: break;
+    }
+    return control.text;
+  }
+
+  void expectPropertiesAsMesh() const {
+    const walk::Places selected = mesh.selected();
+    const bool isEdited = selected.size() == 1;
+    EXPECT_EQ(standin::isVisible(*field(mst::control::kNameEdit)), isEdited) << selected.size() << " are selected";
+    EXPECT_EQ(standin::isVisible(*field(mst::control::kNamePopup)), !isEdited) << selected.size() << " are selected";
+    EXPECT_EQ(field(mst::control::kNamePopup)->items(), namesOf(selected));
+
+    const std::size_t shown = selected.empty() ? walk::kNone : selected[shownOfSelected];
+    EXPECT_EQ(field(mst::control::kNameEdit)->text, shown == walk::kNone ? "" : mesh[shown].name());
+    for (const mst::ControlRow& row : mst::controlTable()) {
+      if (!row.slot) continue;
+      std::string expected = storedValue(shown, *row.slot);
+      if (row.value == mst::ValueKind::Real) expected = realText(std::strtod(expected.c_str(), nullptr));
+      EXPECT_EQ(valueOf(row, *field(row.number)), expected) << "control " << row.number;
+    }
+    expectChoosersAsMesh();
+  }
+
+  void expectChoosersAsMesh() const {
+    Names items = {"(none)"};
+    for (const std::string& layer : kWalkLayers) items.push_back("[file]:" + layer);
+    for (const std::string& name : namesOf(mesh.inFront())) items.push_back(name);
+    EXPECT_EQ(field(kParentChooser)->items(), items);
+    Names maps = {"(none)"};
+    maps.insert(maps.end(), kWalkMaps.begin(), kWalkMaps.end());
+    EXPECT_EQ(field(kMapChooser)->items(), maps);
+  }
+
+  // The errors that the user was shown since the last look are these.
+  void expectErrors(const Names& expected) {
+    Names errors;
+    for (const standin::Message& message : host.messages()) {
+      if (message.kind == standin::MessageKind::error) errors.push_back(message.first);
+    }
+    EXPECT_EQ(errors, expected);
+    host.forgetRecords();
+  }
+
+  void expectEditsDone() {
+    for (; editsSeen < host.edits().size(); ++editsSeen) EXPECT_TRUE(host.edits()[editsSeen].done);
+  }
+
+  void expectEverythingAgrees() {
+    EXPECT_EQ(mesh.difference(*object), "");
+    EXPECT_TRUE(standin::witness().faults().empty()) << standin::witness().report();
+    expectErrors(std::exchange(errorsExpected, {}));
+    expectEditsDone();
+    if (properties.isOpen() && properties.isFresh) expectPropertiesAsMesh();
+    if (renamer.isOpen()) {
+      EXPECT_EQ(at(Item::RegisteredCount)->integer, static_cast<int>(registered.size()));
+    }
+    // The rows of the selector cannot be asked for what they hold: the next press shows it.
+  }
+
+  Names namesOf(const walk::Places& places) const {
+    Names names;
+    for (const std::size_t place : places) names.push_back(mesh[place].name());
+    return names;
+  }
+
+  static constexpr std::size_t kMapChooser = 16;
+  static constexpr std::size_t kParentChooser = 48;
+
+  standin::ModelerHost host;
+  standin::ModelerObject* object;
+  standin::ModuleFile module;
+  Window selector, renamer, properties;
+
+  walk::Mesh mesh;
+  walk::Tree tree;
+  std::size_t shownOfSelected = 0;  // which of the selected skelegons the property panel shows
+  std::map<skg::Slot, std::string> shownOfNone;
+  walk::Places registered;
+  Names errorsExpected;
+  std::size_t editsSeen = 0;
+};
+
+}  // namespace varnel::test
