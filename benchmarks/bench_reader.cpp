@@ -13,8 +13,8 @@
 #include <string>
 #include <vector>
 
-#include "bench/object_files.h"
-#include "bench/timing.h"
+#include "benchmarks/object_files.h"
+#include "benchmarks/timing.h"
 #include "layout/object_reader.h"
 
 namespace {
