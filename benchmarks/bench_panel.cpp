@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "benchmarks/module_cost.h"
 #include "standin/core/program_folder.h"
 #include "standin/core/witness.h"
 #include "standin/modeler/modeler_host.h"
@@ -12,32 +13,10 @@
 namespace {
 
 using namespace standin;
+using namespace varnel::bench;
 
 constexpr std::size_t kSizes[] = {10, 100, 1000, 5000};
 constexpr int kRepetitions = 5;
-
-struct Cost {
-  double microseconds = 0;  // the best of the repetitions
-  std::uint64_t calls = 0;
-};
-
-template <class Action>
-void measure(Cost& cost, Action&& action) {
-  const std::uint64_t calls = witness().calls();
-  const auto before = witness().moduleTime();
-  witness().measure(true);
-  action();
-  witness().measure(false);
-  const double spent = std::chrono::duration<double, std::micro>(witness().moduleTime() - before).count();
-  cost.microseconds = cost.microseconds == 0 ? spent : std::min(cost.microseconds, spent);
-  cost.calls = witness().calls() - calls;
-}
-
-void must(const Done& done) {
-  if (done) return;
-  std::fprintf(stderr, "bench_panel: %s\n", done.why.c_str());
-  std::exit(1);
-}
 
 }  // namespace
 
@@ -45,9 +24,9 @@ int main() {
   std::printf("property panel, one skelegon selected: module time in us and host calls\n");
   std::printf("%10s %14s %9s %14s %9s %14s %9s\n", "skelegons", "open", "calls", "change", "calls", "reload", "calls");
   for (const std::size_t size : kSizes) {
-    Cost open;
-    Cost change;
-    Cost reload;
+    ModuleCost open;
+    ModuleCost change;
+    ModuleCost reload;
     for (int repetition = 0; repetition < kRepetitions; ++repetition) {
       ModelerHost host;
       host.add(makeChainRig(size, 20), "rig.lwo");

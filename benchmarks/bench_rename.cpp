@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "benchmarks/module_cost.h"
 #include "standin/core/program_folder.h"
 #include "standin/core/witness.h"
 #include "standin/modeler/modeler_host.h"
@@ -13,6 +14,7 @@
 namespace {
 
 using namespace standin;
+using namespace varnel::bench;
 
 constexpr std::size_t kSizes[] = {10, 100, 1000, 5000};
 constexpr int kRepetitions = 5;
@@ -20,18 +22,7 @@ constexpr int kRepetitions = 5;
 // Places of the panel's controls in their order of creation.
 enum Place { kMode = 0, kTarget = 3, kBaseNameOn = 8, kColumnOn = 20, kRowOn = 24, kBoneProperty = 30, kRun = 33 };
 
-struct Cost {
-  double microseconds = 0;  // the best of the repetitions
-  std::uint64_t calls = 0;
-};
-
-void must(const Done& done) {
-  if (done) return;
-  std::fprintf(stderr, "bench_rename: %s\n", done.why.c_str());
-  std::exit(1);
-}
-
-void run(std::size_t size, bool withProperties, Cost& cost) {
+void run(std::size_t size, bool withProperties, ModuleCost& cost) {
   ModelerHost host;
   host.add(makeChainRig(size, 0), "rig.lwo");
   ModuleFile module;
@@ -44,14 +35,7 @@ void run(std::size_t size, bool withProperties, Cost& cost) {
   for (const Place place : {kBaseNameOn, kColumnOn, kRowOn}) must(person::toggle(panel->at(place)));
   must(person::switchTo(panel->at(kBoneProperty), withProperties));
 
-  const std::uint64_t calls = witness().calls();
-  const auto before = witness().moduleTime();
-  witness().measure(true);
-  must(person::press(panel->at(kRun)));
-  witness().measure(false);
-  const double spent = std::chrono::duration<double, std::micro>(witness().moduleTime() - before).count();
-  cost.microseconds = cost.microseconds == 0 ? spent : std::min(cost.microseconds, spent);
-  cost.calls = witness().calls() - calls;
+  measure(cost, [&] { must(person::press(panel->at(kRun))); });
 
   panels().moduleUnloaded();
   module.unload();
@@ -65,8 +49,8 @@ int main() {
   std::printf("renamer, advanced run on one chain: module time in us and host calls\n");
   std::printf("%10s %14s %9s %14s %9s\n", "skelegons", "two tags", "calls", "all 18", "calls");
   for (const std::size_t size : kSizes) {
-    Cost names;
-    Cost properties;
+    ModuleCost names;
+    ModuleCost properties;
     for (int repetition = 0; repetition < kRepetitions; ++repetition) {
       run(size, false, names);
       run(size, true, properties);

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <functional>
 
+#include "benchmarks/module_cost.h"
 #include "standin/core/program_folder.h"
 #include "standin/core/witness.h"
 #include "standin/modeler/modeler_host.h"
@@ -14,33 +15,12 @@
 namespace {
 
 using namespace standin;
+using namespace varnel::bench;
 
 constexpr const char* kTool = "Orlo:SkelegonSelector";
 constexpr std::size_t kSizes[] = {10, 100, 1000, 10000};
 constexpr std::size_t kChain = 20;
 constexpr int kRepetitions = 5;
-
-struct Cost {
-  double microseconds = 0;  // the best of the repetitions
-  std::uint64_t calls = 0;
-};
-
-void must(const Done& done) {
-  if (done) return;
-  std::fprintf(stderr, "bench_selector: %s\n", done.why.c_str());
-  std::exit(1);
-}
-
-void measure(Cost& cost, const std::function<void()>& action) {
-  const std::uint64_t calls = witness().calls();
-  const auto before = witness().moduleTime();
-  witness().measure(true);
-  action();
-  witness().measure(false);
-  const double spent = std::chrono::duration<double, std::micro>(witness().moduleTime() - before).count();
-  cost.microseconds = cost.microseconds == 0 ? spent : std::min(cost.microseconds, spent);
-  cost.calls = witness().calls() - calls;
-}
 
 // Skelegons in chains of twenty.
 ObjectFile rigOf(std::size_t skelegons) {
@@ -55,11 +35,11 @@ ObjectFile rigOf(std::size_t skelegons) {
 }
 
 struct Costs {
-  Cost open;
-  Cost sync;
-  Cost clickOne;
-  Cost clickAll;
-  Cost expand;
+  ModuleCost open;
+  ModuleCost sync;
+  ModuleCost clickOne;
+  ModuleCost clickAll;
+  ModuleCost expand;
 };
 
 void measureOnce(std::size_t size, Costs& costs) {
@@ -80,7 +60,7 @@ void measureOnce(std::size_t size, Costs& costs) {
   if (!witness().faults().empty()) must({false, witness().report()});
 }
 
-void print(const Cost& cost) {
+void print(const ModuleCost& cost) {
   std::printf(" %10.1f %7llu", cost.microseconds, static_cast<unsigned long long>(cost.calls));
 }
 
@@ -95,7 +75,7 @@ int main() {
     Costs costs;
     for (int repetition = 0; repetition < kRepetitions; ++repetition) measureOnce(size, costs);
     std::printf("%9zu", size);
-    for (const Cost* cost : {&costs.open, &costs.sync, &costs.clickOne, &costs.clickAll, &costs.expand}) print(*cost);
+    for (const ModuleCost* cost : {&costs.open, &costs.sync, &costs.clickOne, &costs.clickAll, &costs.expand}) print(*cost);
     std::printf("\n");
   }
   return 0;

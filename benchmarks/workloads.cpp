@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "benchmarks/module_cost.h"
 #include "standin/core/program_folder.h"
 #include "standin/core/witness.h"
 #include "standin/layout/layout_host.h"
@@ -16,15 +17,10 @@
 namespace {
 
 using namespace standin;
+using varnel::bench::must;
 
 constexpr std::size_t kSkelegons = 200;
 constexpr std::size_t kSettingsEach = 20;
-
-void must(const Done& done) {
-  if (done) return;
-  std::fprintf(stderr, "workloads: %s\n", done.why.c_str());
-  std::exit(1);
-}
 
 Panel& opened(const char* name) {
   Panel* const panel = panels().find(name);
