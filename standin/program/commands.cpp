@@ -11,8 +11,6 @@
 namespace standin {
 namespace {
 
-constexpr const char* kServer = "Orlo:SkelegonOptimize";
-
 struct CommandsOptions {
   std::string file;
   std::string module;
@@ -23,11 +21,10 @@ struct CommandsOptions {
 };
 
 void pressRun(LayoutHost& host, ModuleFile& module, const CommandsOptions& options) {
-  if (host.activate(module, kServer) != 0) throw Trouble{"the conversion tool could not be activated"};
-  Panel* const panel = must(panels().find(kServer), "the panel");
-  if (options.noSkelegons) must(person::switchTo(panel->find(ControlKind::Bool, 0), false));
-  if (options.noPivot) must(person::switchTo(panel->find(ControlKind::Bool, 1), false));
-  must(person::press(panel->find(ControlKind::Button, 0)));
+  const Panel& panel = openTool(host, module, kConversionTool);
+  if (options.noSkelegons) must(person::switchTo(panel.find(ControlKind::Bool, 0), false));
+  if (options.noPivot) must(person::switchTo(panel.find(ControlKind::Bool, 1), false));
+  must(person::press(panel.find(ControlKind::Button, 0)));
 }
 
 std::vector<rigs::SentCommand> sentCommands(const Transcript& transcript) {

@@ -12,8 +12,6 @@
 namespace standin {
 namespace {
 
-constexpr const char* kServer = "Orlo:SkelegonOptimize";
-
 struct ConvertOptions {
   std::vector<std::string> files;
   std::string module;
@@ -26,13 +24,12 @@ struct ConvertOptions {
 
 // What the user of the panel does: opens the tool, sets the options and presses the button.
 void runTool(LayoutHost& host, ModuleFile& module, const ConvertOptions& options) {
-  if (host.activate(module, kServer) != 0) throw Trouble{"the tool could not be activated"};
-  Panel* const panel = must(panels().find(kServer), "the panel");
-  if (options.noSkelegons) must(person::switchTo(panel->find(ControlKind::Bool, 0), false));
-  if (options.noPivot) must(person::switchTo(panel->find(ControlKind::Bool, 1), false));
+  const Panel& panel = openTool(host, module, kConversionTool);
+  if (options.noSkelegons) must(person::switchTo(panel.find(ControlKind::Bool, 0), false));
+  if (options.noPivot) must(person::switchTo(panel.find(ControlKind::Bool, 1), false));
   std::cout << "panel\n";
-  indent(panelText(*panel));
-  must(person::press(panel->find(ControlKind::Button, 0)));
+  indent(panelText(panel));
+  must(person::press(panel.find(ControlKind::Button, 0)));
 }
 
 void convertFile(const std::string& file, const ConvertOptions& options) {

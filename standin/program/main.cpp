@@ -13,6 +13,18 @@
 #include "standin/program/utf8_arguments.h"
 #include "standin/program/validate.h"
 
+namespace {
+
+// In the order of the help.
+constexpr void (*kCommands[])(CLI::App&, int&) = {
+    &standin::addConvertCommand,  &standin::addTripCommand, &standin::addPanelsCommand, &standin::addRenameCommand,
+    &standin::addPicturesCommand, &standin::addDeskCommand, &standin::addRigsCommand,   &standin::addInspectCommand,
+    &standin::addCommandsCommand, &standin::addDiffCommand, &standin::addExportCommand, &standin::addImportCommand,
+    &standin::addValidateCommand,
+};
+
+}  // namespace
+
 int main(int argc, char** argv) {
   standin::useUtf8Streams();
   CLI::App app{"Plays the host for the Varnel module, on machines without the host.", "varnel"};
@@ -21,19 +33,7 @@ int main(int argc, char** argv) {
   app.set_help_all_flag("--help-all", "Print the help of every command and exit");
   app.set_version_flag("--version", std::to_string(VARNEL_VERSION_MAJOR) + "." + std::to_string(VARNEL_VERSION_MINOR));
   int result = 0;
-  standin::addConvertCommand(app, result);
-  standin::addTripCommand(app, result);
-  standin::addPanelsCommand(app, result);
-  standin::addRenameCommand(app, result);
-  standin::addPicturesCommand(app, result);
-  standin::addDeskCommand(app, result);
-  standin::addRigsCommand(app, result);
-  standin::addInspectCommand(app, result);
-  standin::addCommandsCommand(app, result);
-  standin::addDiffCommand(app, result);
-  standin::addExportCommand(app, result);
-  standin::addImportCommand(app, result);
-  standin::addValidateCommand(app, result);
+  for (const auto addCommand : kCommands) addCommand(app, result);
   std::vector<std::string> arguments = standin::utf8Arguments(argc, argv);
   std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the back
   try {

@@ -25,7 +25,9 @@ void show(const std::string& heading, const Panel& panel) {
   if (const std::string complaints = layoutComplaints(panel); !complaints.empty()) throw Trouble{complaints};
 }
 
-void showPropertyPanel(const PanelsOptions& options, const std::string& language) {
+// Shows one of Modeler's tools with a skelegon of the demonstration's rig selected.
+void showInModeler(const PanelsOptions& options, const std::string& language, const char* tool,
+                   void (*showPages)(Panel& panel, const std::string& language)) {
   ModelerHost host;
   host.options().localeInfo = localeOf(language);
   host.add(makeDemoRig(), "lizard.lwo");
@@ -33,7 +35,11 @@ void showPropertyPanel(const PanelsOptions& options, const std::string& language
   host.select({"Tail_01"});
   ModuleFile module;
   loadModule(module, options.module);
-  Panel& panel = openPropertyPanel(host, module);
+  showPages(openTool(host, module, tool), language);
+  endSession(module);
+}
+
+void showPropertyPanel(Panel& panel, const std::string& language) {
   for (int page = 0; page < kPropertyPages; ++page) {
     showPage(panel, page);
     const std::string heading = "property panel, " + language + ", page " + std::to_string(page + 1);
@@ -46,36 +52,18 @@ void showPropertyPanel(const PanelsOptions& options, const std::string& language
       show(heading + ", group " + std::to_string(group + 1), panel);
     }
   }
-  endSession(module);
 }
 
-void showSelector(const PanelsOptions& options, const std::string& language) {
-  ModelerHost host;
-  host.options().localeInfo = localeOf(language);
-  host.add(makeDemoRig(), "lizard.lwo");
-  ModuleFile module;
-  loadModule(module, options.module);
-  if (host.activate(module, "Orlo:SkelegonSelector") != 0) throw Trouble{"the selector could not be activated"};
-  show("selector, " + language, *must(panels().find("Orlo:SkelegonSelector"), "the panel"));
-  endSession(module);
-}
+void showSelector(Panel& panel, const std::string& language) { show("selector, " + language, panel); }
 
 // Without the look for cut labels: some of its fields have widths that leave out the end of their longest text, deliberately.
-void showRenamer(const PanelsOptions& options, const std::string& language) {
-  ModelerHost host;
-  host.options().localeInfo = localeOf(language);
-  host.add(makeDemoRig(), "lizard.lwo");
-  ModuleFile module;
-  loadModule(module, options.module);
-  if (host.activate(module, "Orlo:SkelegonRenamer") != 0) throw Trouble{"the renamer could not be activated"};
-  const Panel& panel = *must(panels().find("Orlo:SkelegonRenamer"), "the panel");
-  const Control* const modes = panel.find(ControlKind::Popup, 0);
-  for (std::size_t mode = 0; mode < person::menu(modes).size(); ++mode) {
+void showRenamer(Panel& panel, const std::string& language) {
+  const std::size_t modes = person::menu(panel.find(ControlKind::Popup, 0)).size();
+  for (std::size_t mode = 0; mode < modes; ++mode) {
     must(person::choose(panel.find(ControlKind::Popup, 0), static_cast<int>(mode)));
     std::cout << "== renamer, " << language << ", mode " << mode + 1 << "\n";
     indent(panelText(panel));
   }
-  endSession(module);
 }
 
 void showConversionPanel(const PanelsOptions& options, const std::string& language) {
@@ -83,17 +71,16 @@ void showConversionPanel(const PanelsOptions& options, const std::string& langua
   host.setLocale(localeOf(language));
   ModuleFile module;
   loadModule(module, options.module);
-  if (host.activate(module, "Orlo:SkelegonOptimize") != 0) throw Trouble{"the conversion tool could not be activated"};
-  show("conversion panel, " + language, *must(panels().find("Orlo:SkelegonOptimize"), "the panel"));
+  show("conversion panel, " + language, openTool(host, module, kConversionTool));
   endSession(module);
 }
 
 int run(const PanelsOptions& options) {
   return reporting([&] {
     for (const std::string& language : options.languages) {
-      showSelector(options, language);
-      showRenamer(options, language);
-      showPropertyPanel(options, language);
+      showInModeler(options, language, kSelectorTool, &showSelector);
+      showInModeler(options, language, kRenamerTool, &showRenamer);
+      showInModeler(options, language, kPropertyTool, &showPropertyPanel);
       showConversionPanel(options, language);
     }
   });

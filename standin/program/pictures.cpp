@@ -47,33 +47,48 @@ class Album {
   std::string language_;
 };
 
-void takePropertyPanel(const Album& album) {
+// Modeler with the demonstration's rig, in real windows.
+struct Workplace {
+  ModelerHost& host;
+  ModuleFile& module;
+  WindowsFront& front;
+  Driver& driver;
+};
+
+template <class Action>
+void inModeler(const Album& album, const std::vector<std::string>& selected, Action&& action) {
   ModelerHost host;
   host.options().localeInfo = localeOf(album.language());
   host.add(makeDemoRig(), "lizard.lwo");
   host.showLayers({0, 1});
-  host.select({"Tail_01"});
+  host.select(selected);
   ModuleFile module;
   loadModule(module, album.module());
   {
     WindowsFront front;
     Driver driver(front);
-    Panel& panel = openPropertyPanel(host, module);
+    std::forward<Action>(action)(Workplace{host, module, front, driver});
+  }
+  endSession(module);
+}
+
+void takePropertyPanel(const Album& album) {
+  inModeler(album, {"Tail_01"}, [&](const Workplace& at) {
+    const Panel& panel = openTool(at.host, at.module, kPropertyTool);
     const Control* const pages = panel.find(ControlKind::TabChoice, 0);
     for (int page = 0; page < kPropertyPages; ++page) {
-      must(driver.chooseTab(*pages, page));
+      must(at.driver.chooseTab(*pages, page));
       const std::string name = "page" + std::to_string(page + 1);
       if (page != kControllersPage) {
-        album.take(driver, panel, "property", name);
+        album.take(at.driver, panel, "property", name);
         continue;
       }
       for (int group = 0; group < kMotionGroups; ++group) {
-        must(driver.chooseTab(*panel.find(ControlKind::TabChoice, 1), group));
-        album.take(driver, panel, "property", name + "-group" + std::to_string(group + 1));
+        must(at.driver.chooseTab(*panel.find(ControlKind::TabChoice, 1), group));
+        album.take(at.driver, panel, "property", name + "-group" + std::to_string(group + 1));
       }
     }
-  }
-  endSession(module);
+  });
 }
 
 void takeConversionPanel(const Album& album) {
@@ -84,86 +99,51 @@ void takeConversionPanel(const Album& album) {
   {
     WindowsFront front;
     Driver driver(front);
-    constexpr const char* tool = "Orlo:SkelegonOptimize";
-    if (host.activate(module, tool) != 0) throw Trouble{"the conversion tool could not be activated"};
-    album.take(driver, *must(panels().find(tool), "the panel"), "conversion", "");
+    album.take(driver, openTool(host, module, kConversionTool), "conversion", "");
   }
   endSession(module);
 }
 
-Panel& openTool(ModelerHost& host, ModuleFile& module, const char* tool) {
-  if (host.activate(module, tool) != 0) throw Trouble{std::string(tool) + " could not be activated"};
-  return *must(panels().find(tool), "the panel");
-}
-
 void takeSelector(const Album& album) {
-  ModelerHost host;
-  host.options().localeInfo = localeOf(album.language());
-  host.add(makeDemoRig(), "lizard.lwo");
-  host.showLayers({0, 1});
-  ModuleFile module;
-  loadModule(module, album.module());
-  {
-    WindowsFront front;
-    Driver driver(front);
-    const Panel& panel = openTool(host, module, "Orlo:SkelegonSelector");
+  inModeler(album, {}, [&](const Workplace& at) {
+    const Panel& panel = openTool(at.host, at.module, kSelectorTool);
     const Control& tree = *must(panel.find(ControlKind::OpenGL), "the tree");
-    album.take(driver, panel, "selector", "plain");
-    must(driver.resize(panel, 150, 220));
-    album.take(driver, panel, "selector", "resized");
+    album.take(at.driver, panel, "selector", "plain");
+    must(at.driver.resize(panel, 150, 220));
+    album.take(at.driver, panel, "selector", "resized");
     constexpr int rowHeight = 14;
     const auto clickRow = [&](int row, Held held) {
-      must(driver.clickAt(tree, 60, row * rowHeight + rowHeight / 2, MouseButton::Left, held));
+      must(at.driver.clickAt(tree, 60, row * rowHeight + rowHeight / 2, MouseButton::Left, held));
     };
     clickRow(3, {});
     clickRow(6, {.shift = true});
     clickRow(9, {.control = true});
-    album.take(driver, panel, "selector", "selections");
-    must(driver.resize(panel, -180, -520));  // fewer rows than there are
+    album.take(at.driver, panel, "selector", "selections");
+    must(at.driver.resize(panel, -180, -520));  // fewer rows than there are
     const POINT thumb{tree.hot().right() - 6, tree.hot().y + 20};
-    must(driver.drag(panel, thumb, {thumb.x, thumb.y + 60}));
-    album.take(driver, panel, "selector", "scrolled");
-  }
-  endSession(module);
+    must(at.driver.drag(panel, thumb, {thumb.x, thumb.y + 60}));
+    album.take(at.driver, panel, "selector", "scrolled");
+  });
 }
 
 void takeRenamer(const Album& album) {
-  ModelerHost host;
-  host.options().localeInfo = localeOf(album.language());
-  host.add(makeDemoRig(), "lizard.lwo");
-  host.showLayers({0, 1});
-  host.select({"Tail_01"});
-  ModuleFile module;
-  loadModule(module, album.module());
-  {
-    WindowsFront front;
-    Driver driver(front);
-    const Panel& panel = openTool(host, module, "Orlo:SkelegonRenamer");
+  inModeler(album, {"Tail_01"}, [&](const Workplace& at) {
+    const Panel& panel = openTool(at.host, at.module, kRenamerTool);
     const Control& mode = *must(panel.find(ControlKind::Popup, 0), "the list of modes");
     const int advanced = static_cast<int>(mode.items().size()) - 1;
-    must(driver.choose(mode, 0));
-    album.take(driver, panel, "renamer", "simple");
-    must(driver.choose(mode, advanced));
-    album.take(driver, panel, "renamer", "advanced");
-  }
-  endSession(module);
+    must(at.driver.choose(mode, 0));
+    album.take(at.driver, panel, "renamer", "simple");
+    must(at.driver.choose(mode, advanced));
+    album.take(at.driver, panel, "renamer", "advanced");
+  });
 }
 
 void takeDesk(const Album& album) {
-  ModelerHost host;
-  host.options().localeInfo = localeOf(album.language());
-  host.add(makeDemoRig(), "lizard.lwo");
-  host.showLayers({0, 1});
-  host.select({"Tail_01", "Tail_02"});
-  ModuleFile module;
-  loadModule(module, album.module());
-  {
-    WindowsFront front;
-    const DeskWindow desk(host, module, front);
-    front.settle();
+  inModeler(album, {"Tail_01", "Tail_02"}, [&](const Workplace& at) {
+    const DeskWindow desk(at.host, at.module, at.front);
+    at.front.settle();
     album.keep(pictureOf(desk.handle()), "desk", "");
-  }
-  endSession(module);
+  });
 }
 
 struct Subject {

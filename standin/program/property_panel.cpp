@@ -4,11 +4,6 @@
 
 namespace standin {
 
-Panel& openPropertyPanel(ModelerHost& host, ModuleFile& module) {
-  if (host.activate(module, kPropertyTool) != 0) throw Trouble{"the property tool could not be activated"};
-  return *must(panels().find(kPropertyTool), "the property panel");
-}
-
 void showPage(Panel& panel, int page) { must(person::choose(panel.find(ControlKind::TabChoice, 0), page)); }
 
 void showGroup(Panel& panel, int group) { must(person::choose(panel.find(ControlKind::TabChoice, 1), group)); }

@@ -1,18 +1,13 @@
 // The property panel as a person finds it: its pages, its groups, and a control by its place in the panel.
 #pragma once
 
-#include "standin/modeler/modeler_host.h"
 #include "standin/panels/panel.h"
 
 namespace standin {
 
-inline constexpr const char* kPropertyTool = "Orlo:SkelegonProperty";
 inline constexpr int kPropertyPages = 4;
 inline constexpr int kControllersPage = 3;
 inline constexpr int kMotionGroups = 3;
-
-// Runs the tool; the panel that it opened. Throws Trouble.
-Panel& openPropertyPanel(ModelerHost& host, ModuleFile& module);
 
 // Turns to a page, and on the last page to a group. Throws Trouble.
 void showPage(Panel& panel, int page);

@@ -15,8 +15,6 @@
 namespace standin {
 namespace {
 
-constexpr const char* kRenamerTool = "Orlo:SkelegonRenamer";
-
 // Places of the panel's controls in their order of creation.
 enum Place {
   kMode = 0,
@@ -114,8 +112,7 @@ class Rigger {
     for (const MeshLayer& layer : object.layers()) layers.push_back(layer.number);
     host.showLayers(layers);
     loadModule(module_, options.module);
-    if (host.activate(module_, kRenamerTool) != 0) throw Trouble{"the renamer could not be activated"};
-    panel_ = must(panels().find(kRenamerTool), "the renamer's panel");
+    panel_ = &openTool(host, module_, kRenamerTool);
   }
 
   void choose(Place place, int index) { must(person::choose(control(place), index)); }

@@ -7,6 +7,8 @@
 
 #include "host/lightwave.h"
 #include "standin/core/module_file.h"
+#include "standin/core/tool_names.h"
+#include "standin/panels/panel.h"
 #include "standin/panels/person.h"
 
 namespace standin {
@@ -51,6 +53,13 @@ T* must(T* thing, const std::string& what) {
 
 // The module of --module, else the one beside the program. Throws Trouble.
 void loadModule(ModuleFile& module, const std::string& chosen);
+
+// Runs a tool in Modeler or Layout; the panel that it opened. Throws Trouble.
+template <class Host>
+Panel& openTool(Host& host, ModuleFile& module, const char* tool) {
+  if (host.activate(module, tool) != 0) throw Trouble{std::string(tool) + " could not be activated"};
+  return *must(panels().find(tool), std::string("the panel of ") + tool);
+}
 
 // Ends the module's stay; throws Trouble with the faults that the host noted.
 void endSession(ModuleFile& module);

@@ -49,7 +49,7 @@ void inModeler(const TripOptions& options, const std::string& path, Steps& steps
 
   steps.say(std::string("The rigger selects the skelegon ") + kSkelegon + " and opens the property panel");
   host.select({kSkelegon});
-  Panel& panel = openPropertyPanel(host, module);
+  Panel& panel = openTool(host, module, kPropertyTool);
   Control* const falloff = must(falloffControl(panel), "the falloff control");
   std::cout << "   " << falloff->label.read() << " = " << falloff->shown() << ", stored: " << storedFalloff(host) << "\n";
 
@@ -75,9 +75,8 @@ void inLayout(const TripOptions& options, const std::string& path, Steps& steps)
   ModuleFile module;
   loadModule(module, options.module);
 
-  steps.say("The animator runs Orlo:SkelegonOptimize");
-  if (host.activate(module, "Orlo:SkelegonOptimize") != 0) throw Trouble{"the tool could not be activated"};
-  must(person::press(must(panels().find("Orlo:SkelegonOptimize"), "the panel")->find(ControlKind::Button, 0)));
+  steps.say(std::string("The animator runs ") + kConversionTool);
+  must(person::press(openTool(host, module, kConversionTool).find(ControlKind::Button, 0)));
   std::cout << "   " << host.transcript().commandCount() << " commands\n";
 
   const Item* const bone = must(host.scene().find(kSkelegon), "the bone");

@@ -5,6 +5,7 @@
 #include <span>
 
 #include "host/lightwave.h"
+#include "standin/core/tool_names.h"
 
 namespace standin::validate {
 
@@ -17,10 +18,10 @@ struct Tool {
   int version;  // of its local data
 };
 
-inline constexpr Tool kSelector{"Orlo:SkelegonSelector", "CommandSequence", Program::Modeler, lw::kModCommandVersion};
-inline constexpr Tool kRenamer{"Orlo:SkelegonRenamer", "CommandSequence", Program::Modeler, lw::kModCommandVersion};
-inline constexpr Tool kProperty{"Orlo:SkelegonProperty", "CommandSequence", Program::Modeler, lw::kModCommandVersion};
-inline constexpr Tool kConversion{"Orlo:SkelegonOptimize", "LayoutGeneric", Program::Layout, lw::kLayoutGenericVersion};
+inline constexpr Tool kSelector{kSelectorTool, "CommandSequence", Program::Modeler, lw::kModCommandVersion};
+inline constexpr Tool kRenamer{kRenamerTool, "CommandSequence", Program::Modeler, lw::kModCommandVersion};
+inline constexpr Tool kProperty{kPropertyTool, "CommandSequence", Program::Modeler, lw::kModCommandVersion};
+inline constexpr Tool kConversion{kConversionTool, "LayoutGeneric", Program::Layout, lw::kLayoutGenericVersion};
 // In the order of the server table.
 inline constexpr std::array kTools{kSelector, kRenamer, kProperty, kConversion};
 

@@ -1,4 +1,5 @@
 #include "standin/validate/touch.h"
+#include "standin/core/tool_names.h"
 
 #include <algorithm>
 #include <array>
@@ -43,9 +44,9 @@ struct NarrowByDesign {
   int control;  // in order of creation
 };
 constexpr std::array kNarrowByDesign{
-    NarrowByDesign{"Orlo:SkelegonRenamer", 3},   // "Target"
-    NarrowByDesign{"Orlo:SkelegonRenamer", 6},   // "Clear"
-    NarrowByDesign{"Orlo:SkelegonRenamer", 21},  // "Order"
+    NarrowByDesign{kRenamerTool, 3},   // "Target"
+    NarrowByDesign{kRenamerTool, 6},   // "Clear"
+    NarrowByDesign{kRenamerTool, 21},  // "Order"
 };
 
 bool isNarrowByDesign(const Control& control) {

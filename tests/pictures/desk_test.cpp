@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "standin/core/program_folder.h"
+#include "standin/core/tool_names.h"
 #include "standin/objectfile/sample_rigs.h"
 #include "standin/windows/desk_window.h"
 #include "standin/windows/driver.h"
@@ -54,9 +55,9 @@ class Desk : public testing::Test {
     settle();
   }
   Panel* startPropertyPanel() {
-    EXPECT_TRUE(driver->press(desk->toolButton("Orlo:SkelegonProperty")));
+    EXPECT_TRUE(driver->press(desk->toolButton(kPropertyTool)));
     settle();
-    return panels().find("Orlo:SkelegonProperty");
+    return panels().find(kPropertyTool);
   }
   void changeSomething() {
     host.select({"Tail_01"});

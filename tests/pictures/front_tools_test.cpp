@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "standin/core/program_folder.h"
+#include "standin/core/tool_names.h"
 #include "standin/layout/layout_host.h"
 #include "standin/modeler/modeler_host.h"
 #include "standin/objectfile/sample_rigs.h"
@@ -11,11 +12,6 @@
 
 namespace standin {
 namespace {
-
-constexpr const char* kPropertyTool = "Orlo:SkelegonProperty";
-constexpr const char* kRenamerTool = "Orlo:SkelegonRenamer";
-constexpr const char* kSelectorTool = "Orlo:SkelegonSelector";
-constexpr const char* kConversionTool = "Orlo:SkelegonOptimize";
 
 // Texts of the visible controls that are wider when drawn than the room that they have.
 std::vector<std::string> cutTexts(const Panel& panel) {

@@ -30,7 +30,7 @@ constexpr const char* kModelerRequired[] = {"LWM: Dynamic Monitor 2", "LWM: Stat
 class LayoutActivation : public ConversionTest {};
 
 TEST_F(LayoutActivation, RefusesAWrongInterfaceVersion) {
-  for (const int version : {0, 4, 6, 8}) EXPECT_EQ(host.activate(module, kOptimize, version), 1) << version;
+  for (const int version : {0, 4, 6, 8}) EXPECT_EQ(host.activate(module, kConversionTool, version), 1) << version;
   EXPECT_TRUE(globals().asked().empty());
 }
 
@@ -38,7 +38,7 @@ TEST_F(LayoutActivation, RefusesAnotherHostReleaseBeforeAskingForAnythingElse) {
   for (const std::uint32_t product : {0x08E00641u, 0x00000641u, 0x00000000u}) {
     globals().clearAsked();
     host.setProductInfo(product);
-    EXPECT_EQ(host.activate(module, kOptimize), 1);
+    EXPECT_EQ(host.activate(module, kConversionTool), 1);
     EXPECT_EQ(globals().asked(), std::vector<std::string>{"Product Info"});
   }
 }
@@ -46,12 +46,12 @@ TEST_F(LayoutActivation, RefusesAnotherHostReleaseBeforeAskingForAnythingElse) {
 TEST_F(LayoutActivation, LooksAtTheMajorReleaseOnly) {
   for (const std::uint32_t product : {0x00F00000u, 0xFFFFFFFFu, 0x08F00642u}) {
     host.setProductInfo(product);
-    EXPECT_EQ(host.activate(module, kOptimize), 0);
+    EXPECT_EQ(host.activate(module, kConversionTool), 0);
   }
 }
 
 TEST_F(LayoutActivation, AsksForItsServicesInTheirOrderAndForTheLocaleAgain) {
-  ASSERT_EQ(host.activate(module, kOptimize), 0);
+  ASSERT_EQ(host.activate(module, kConversionTool), 0);
   std::vector<std::string> wanted = {"Product Info"};
   wanted.insert(wanted.end(), std::begin(kLayoutRequired), std::end(kLayoutRequired));
   wanted.insert(wanted.end(), std::begin(kBothRequired), std::end(kBothRequired));
@@ -63,7 +63,7 @@ TEST_F(LayoutActivation, GivesTwoWithoutAnyOneOfItsServices) {
   for (const auto& group : {std::span<const char* const>(kLayoutRequired), std::span<const char* const>(kBothRequired)}) {
     for (const char* const name : group) {
       globals().withhold(name);
-      EXPECT_EQ(host.activate(module, kOptimize), 2) << name;
+      EXPECT_EQ(host.activate(module, kConversionTool), 2) << name;
       globals().giveBack(name);
     }
   }
@@ -72,24 +72,24 @@ TEST_F(LayoutActivation, GivesTwoWithoutAnyOneOfItsServices) {
 
 TEST_F(LayoutActivation, CountsALocaleOfZeroAsMissing) {
   host.setLocale(0);
-  EXPECT_EQ(host.activate(module, kOptimize), 2);
+  EXPECT_EQ(host.activate(module, kConversionTool), 2);
 }
 
 TEST_F(LayoutActivation, TellsThePanelServicesHowToLookUp) {
-  ASSERT_EQ(host.activate(module, kOptimize), 0);
+  ASSERT_EQ(host.activate(module, kConversionTool), 0);
   EXPECT_EQ(panelServices()->globalFun, Globals::lookup());
 }
 
 TEST_F(LayoutActivation, ReportsARunThatMadeNoPanelAndIsDoneAllTheSame) {
   // The lookups come first; one call further on the panel is created.
-  ASSERT_EQ(host.activate(module, kOptimize), 0);
+  ASSERT_EQ(host.activate(module, kConversionTool), 0);
   const std::uint64_t lookups = globals().asked().size();
   for (Panel* const panel : panels().all()) std::ignore = person::close(panel);
   panels().moduleUnloaded();
   module.unload();
   ASSERT_EQ(module.load(modulePath()), "");
   witness().refuseCall(lookups + 1);
-  EXPECT_EQ(host.activate(module, kOptimize), 0);
+  EXPECT_EQ(host.activate(module, kConversionTool), 0);
   EXPECT_EQ(witness().refusedFunction(), "panel create");
   EXPECT_TRUE(statusSays("*** ERROR:  ***")) << host.transcript().text();
 }

@@ -12,14 +12,13 @@
 #include <vector>
 
 #include "standin/core/program_folder.h"
+#include "standin/core/tool_names.h"
 #include "standin/core/witness.h"
 #include "standin/layout/layout_host.h"
 #include "standin/objectfile/rig_builder.h"
 #include "standin/panels/person.h"
 
 namespace standin {
-
-inline constexpr const char* kOptimize = "Orlo:SkelegonOptimize";
 
 // A folder for the files of one test.
 class TestFolder {
@@ -77,8 +76,8 @@ class ConversionTest : public testing::Test {
   }
 
   Panel* openTool() {
-    EXPECT_EQ(host.activate(module, kOptimize), 0);
-    return panels().find(kOptimize);
+    EXPECT_EQ(host.activate(module, kConversionTool), 0);
+    return panels().find(kConversionTool);
   }
 
   // Opens the tool on the selected items and presses "Run".

@@ -356,9 +356,9 @@ FailedRun runWithFailure(const std::string& path, std::uint64_t n) {
   ModuleFile module;
   EXPECT_EQ(module.load(modulePath()), "");
   host.select(host.loadObject(path));
-  EXPECT_EQ(host.activate(module, kOptimize), 0);
+  EXPECT_EQ(host.activate(module, kConversionTool), 0);
   witness().refuseCall(n);
-  EXPECT_TRUE(person::press(panels().find(kOptimize)->find(ControlKind::Button, 0)));
+  EXPECT_TRUE(person::press(panels().find(kConversionTool)->find(ControlKind::Button, 0)));
   FailedRun run;
   run.happened = witness().refusalHappened();
   run.refused = witness().refusedFunction();

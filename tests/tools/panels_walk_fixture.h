@@ -15,25 +15,15 @@
 #include "modeler/property_controls.h"
 #include "modeler/renamer_controls.h"
 #include "skelegon/slots.h"
-#include "standin/core/program_folder.h"
-#include "standin/core/witness.h"
-#include "standin/modeler/modeler_host.h"
 #include "standin/objectfile/rig_builder.h"
 #include "standin/panels/geometry.h"
-#include "standin/panels/person.h"
+#include "tests/tools/modeler_session.h"
 #include "tests/tools/panels_walk_mesh.h"
 #include "tests/tools/panels_walk_tree.h"
 
 namespace varnel::test {
 
-namespace person = standin::person;
-
 using Item = mst::RenamerItem;
-using Names = std::vector<std::string>;
-
-inline constexpr const char* kSelectorTool = "Orlo:SkelegonSelector";
-inline constexpr const char* kRenamerTool = "Orlo:SkelegonRenamer";
-inline constexpr const char* kPropertyTool = "Orlo:SkelegonProperty";
 
 inline const Names kWalkLayers = {"Body", "尾"};
 inline const Names kWalkMaps = {"Spine", "Head", "腰"};
@@ -67,23 +57,9 @@ inline standin::ObjectFile walkRig() {
 
 // The panels see what others did when they are told of it, when they are opened, or when the user asks for it. `isFresh`: the
 // panel is open and has seen everything.
-class ThreePanels : public testing::Test {
+class ThreePanels : public testing::Test, protected ModelerSession {
  protected:
-  using Control = standin::Control;
-  using Panel = standin::Panel;
-
-  ThreePanels() : object(&host.add(walkRig(), "rig.lwo")), mesh(*object), tree(kWalkLayers, kWalkMaps) {
-    showLayers({0, 1});
-    EXPECT_NE(standin::modulePath(), "") << "the module is not beside the tests";
-    EXPECT_EQ(module.load(standin::modulePath()), "");
-  }
-
-  // Whatever was done, the module must have kept to the host's rules.
-  ~ThreePanels() override {
-    standin::panels().moduleUnloaded();
-    module.unload();
-    EXPECT_EQ(standin::witness().report(), "");
-  }
+  ThreePanels() : ModelerSession(walkRig()), mesh(*object), tree(kWalkLayers, kWalkMaps) { showLayers({0, 1}); }
 
   // --- the panels ----------------------------------------------------------------------------------------------------------
 
@@ -95,14 +71,9 @@ class ThreePanels : public testing::Test {
     Control* at(std::size_t number) const { return panel->at(static_cast<int>(number)); }
   };
 
-  static Panel* run(standin::ModelerHost& host, standin::ModuleFile& module, const char* tool) {
-    EXPECT_EQ(host.activate(module, tool), 0) << tool;
-    return standin::panels().find(tool);
-  }
-
   void openSelector() {
     const bool wasOpen = selector.isOpen();
-    selector.panel = run(host, module, kSelectorTool);
+    selector.panel = runTool(kSelectorTool);
     if (!wasOpen) {
       tree.forgetAnchor();
       tree.setView(treeControl()->hotWidth, treeControl()->hotHeight);
@@ -112,11 +83,11 @@ class ThreePanels : public testing::Test {
   // One that is open tells the others what it saw.
   void openProperties() {
     const bool wasOpen = properties.isOpen();
-    properties.panel = run(host, module, kPropertyTool);
+    properties.panel = runTool(kPropertyTool);
     propertiesHear();
     if (wasOpen) treeHears();
   }
-  void openRenamer() { renamer.panel = run(host, module, kRenamerTool); }
+  void openRenamer() { renamer.panel = runTool(kRenamerTool); }
 
   Control* treeControl() const { return selector.panel->find(standin::ControlKind::OpenGL); }
   Control* at(Item item) const { return renamer.at(mst::indexOf(item)); }
@@ -240,9 +211,6 @@ class ThreePanels : public testing::Test {
   static constexpr std::size_t kMapChooser = 16;
   static constexpr std::size_t kParentChooser = 48;
 
-  standin::ModelerHost host;
-  standin::ModelerObject* object;
-  standin::ModuleFile module;
   Window selector, renamer, properties;
 
   walk::Mesh mesh;

@@ -3,32 +3,17 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "modeler/property_controls.h"
 #include "modeler/property_sections.h"
-#include "skelegon/slots.h"
-#include "standin/core/program_folder.h"
-#include "standin/core/witness.h"
-#include "standin/modeler/modeler_host.h"
 #include "standin/objectfile/rig_builder.h"
 #include "standin/panels/geometry.h"
-#include "standin/panels/person.h"
+#include "tests/tools/modeler_session.h"
 
 namespace varnel::test {
-
-namespace person = standin::person;
-
-using skg::Slot;
-using Names = std::vector<std::string>;
-using Text = std::optional<std::string>;  // of a tag; none where there is no such tag
-
-inline constexpr const char* kPropertyTool = "Orlo:SkelegonProperty";
-inline constexpr std::uint32_t kEnglish = 0x409;
-inline constexpr std::uint32_t kJapanese = 0x411;
 
 enum Page { kGroupPage, kBonePage, kIKPage, kControllersPage };
 enum Group { kPositionGroup, kRotationGroup, kScaleGroup };
@@ -46,35 +31,11 @@ inline standin::ObjectFile panelRig() {
   return rig.take();
 }
 
-// Modeler with that object, both layers in the foreground, and the module loaded.
-class PropertySession {
+class PropertySession : public ModelerSession {
  public:
-  using Panel = standin::Panel;
-  using Control = standin::Control;
+  PropertySession() : ModelerSession(panelRig()) {}
 
-  PropertySession() : object(&host.add(panelRig(), "rig.lwo")) {
-    host.showLayers({0, 1});
-    EXPECT_NE(standin::modulePath(), "") << "the module is not beside the tests";
-    EXPECT_EQ(module.load(standin::modulePath()), "");
-  }
-
-  // Whatever a test looks at, the module must have kept to the host's rules.
-  ~PropertySession() {
-    standin::panels().moduleUnloaded();
-    module.unload();
-    EXPECT_EQ(standin::witness().report(), "");
-    for (const standin::EditRecord& edit : host.edits()) EXPECT_TRUE(edit.done) << "mode " << edit.mode;
-  }
-  PropertySession(const PropertySession&) = delete;
-  PropertySession& operator=(const PropertySession&) = delete;
-
-  // Runs the tool. The panel is then that of this run.
-  void openTool() {
-    EXPECT_EQ(host.activate(module, kPropertyTool), 0);
-    panel = standin::panels().find(kPropertyTool);
-    ASSERT_NE(panel, nullptr);
-    EXPECT_TRUE(panel->isOpen());
-  }
+  void openTool() { runTool(kPropertyTool); }
   void openWith(const Names& selected) {
     host.select(selected);
     openTool();
@@ -132,40 +93,6 @@ class PropertySession {
 
   bool isVisible(std::size_t number) const { return standin::isVisible(*control(number)); }
   std::string shown(Slot slot) const { return control(slot)->shown(); }
-
-  Text stored(std::string_view name, std::uint32_t type) const {
-    const standin::MeshPolygon* const polygon = object->skelegon(name);
-    if (polygon == nullptr) return "no such skelegon";
-    const std::string* const text = polygon->content.tag(type);
-    return text == nullptr ? std::nullopt : Text(*text);
-  }
-  Text stored(std::string_view name, Slot slot) const { return stored(name, skg::SlotTagId(slot)); }
-  void store(std::string_view name, std::uint32_t type, const Text& text) {
-    object->setTag(*object->skelegon(name), type, text);
-  }
-  void store(std::string_view name, Slot slot, const Text& text) { store(name, skg::SlotTagId(slot), text); }
-
-  // Everything that is stored on the object's skelegons, to compare it.
-  std::string everythingStored() const {
-    std::string all;
-    for (const standin::MeshPolygon* polygon : object->skelegons()) {
-      all += "skelegon\n";
-      for (const auto& tag : polygon->content.tags) all += std::to_string(tag.type) + "=" + tag.text + "\n";
-    }
-    return all;
-  }
-
-  // Edits of the session that changed something.
-  std::size_t changingEdits() const {
-    std::size_t count = 0;
-    for (const standin::EditRecord& edit : host.edits()) count += edit.changes > 0 ? 1 : 0;
-    return count;
-  }
-
-  standin::ModelerHost host;
-  standin::ModelerObject* object;
-  standin::ModuleFile module;
-  Panel* panel = nullptr;
 };
 
 class PropertyPanel : public testing::Test, protected PropertySession {};

@@ -4,25 +4,13 @@
 
 #include "host/lwtool2_globals.h"
 #include "modeler/MST_CSkgPropPanel.h"
+#include "tests/tools/panel_listener.h"
 #include "tests/tools/property_panel_fixture.h"
 
 namespace varnel::test {
 namespace {
 
 using mst::PanelNews;
-
-// Another open panel: it keeps what it is told.
-class Listener {
- public:
-  Listener() {
-    mst::enterPanel(this, [](void* self, PanelNews news) { static_cast<Listener*>(self)->heard.push_back(news); });
-  }
-  ~Listener() { mst::removePanel(this); }
-  Listener(const Listener&) = delete;
-  Listener& operator=(const Listener&) = delete;
-
-  std::vector<PanelNews> heard;
-};
 
 class PropertyPanelNews : public testing::Test {
  protected:
@@ -57,31 +45,31 @@ class PropertyPanelNews : public testing::Test {
 const std::vector<PanelNews> kTold = {PanelNews::SelectionChanged};
 
 TEST_F(PropertyPanelNews, AChangeIsToldOnce) {
-  const Listener listener;
+  const PanelListener listener;
   EXPECT_TRUE(standin::oddhost::fire(control(Slot::Strength)));
   EXPECT_EQ(listener.heard, kTold);
 }
 
 TEST_F(PropertyPanelNews, ANewNameIsToldOnce) {
-  const Listener listener;
+  const PanelListener listener;
   EXPECT_TRUE(person::type(control(mst::control::kNameEdit), "Pelvis"));
   EXPECT_EQ(listener.heard, kTold);
 }
 
 TEST_F(PropertyPanelNews, AReloadIsToldOnce) {
-  const Listener listener;
+  const PanelListener listener;
   EXPECT_TRUE(person::press(control(mst::control::kSync)));
   EXPECT_EQ(listener.heard, kTold);
 }
 
 TEST_F(PropertyPanelNews, AFillButtonIsToldOnce) {
-  const Listener listener;
+  const PanelListener listener;
   EXPECT_TRUE(standin::oddhost::fire(control(50)));
   EXPECT_EQ(listener.heard, kTold);
 }
 
 TEST_F(PropertyPanelNews, APageSwitchIsToldToNobody) {
-  const Listener listener;
+  const PanelListener listener;
   EXPECT_TRUE(person::choose(control(mst::control::kPages), 1));
   EXPECT_TRUE(listener.heard.empty());
 }
@@ -103,7 +91,7 @@ TEST_F(PropertyPanelNews, AnUnknownCodeLoadsNothing) {
 }
 
 TEST_F(PropertyPanelNews, AReloadThatAnotherPanelAskedForIsNotToldOn) {
-  const Listener listener;
+  const PanelListener listener;
   mst::NotifyPanels(nullptr, PanelNews::NamesChanged);
   EXPECT_EQ(listener.heard, std::vector<PanelNews>{PanelNews::NamesChanged});
 }
@@ -123,7 +111,7 @@ TEST_F(PropertyPanelNews, ATakenDownToolIsToldNothing) {
 }
 
 TEST_F(PropertyPanelNews, AFailedChangeIsToldToNobody) {
-  const Listener listener;
+  const PanelListener listener;
   host.closeAll();
   EXPECT_TRUE(standin::oddhost::fire(control(Slot::Strength)));
   EXPECT_TRUE(listener.heard.empty());

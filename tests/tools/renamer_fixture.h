@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -13,30 +12,18 @@
 #include "modeler/rename_rules.h"
 #include "modeler/renamer_controls.h"
 #include "modeler/renamer_layout.h"
-#include "skelegon/slots.h"
-#include "standin/core/program_folder.h"
-#include "standin/core/witness.h"
-#include "standin/modeler/modeler_host.h"
 #include "standin/objectfile/rig_builder.h"
 #include "standin/panels/geometry.h"
-#include "standin/panels/person.h"
+#include "tests/tools/modeler_session.h"
 
 namespace varnel::test {
 
-namespace person = standin::person;
-
 using mst::RenameMode;
 using mst::RenameTarget;
-using skg::Slot;
 using Item = mst::RenamerItem;
-using Names = std::vector<std::string>;
-using Text = std::optional<std::string>;  // of a tag; none where there is no such tag
 
-inline constexpr const char* kRenamerTool = "Orlo:SkelegonRenamer";
 inline constexpr const char* kNeedSelection = "Need select the skelegon!";
 inline constexpr const char* kDuplicated = "Skelegon names are duplicated!";
-inline constexpr std::uint32_t kEnglish = 0x409;
-inline constexpr std::uint32_t kJapanese = 0x411;
 
 inline constexpr RenameMode kEveryMode[] = {
     RenameMode::Change,  RenameMode::Prefix, RenameMode::Suffix, RenameMode::Replace, RenameMode::RegularExpression,
@@ -67,27 +54,9 @@ inline standin::ObjectFile renamerRig() {
 inline const Names kLeftArm = {"Arm_L_01", "Arm_L_02", "Arm_L_03"};
 inline const Names kRightArm = {"Arm_R_01", "Arm_R_02", "Arm_R_03"};
 
-// Modeler with an object, all layers in the foreground, and the module loaded.
-class RenamerSession {
+class RenamerSession : public ModelerSession {
  public:
-  using Panel = standin::Panel;
-  using Control = standin::Control;
-
-  explicit RenamerSession(standin::ObjectFile file = renamerRig()) : object(&host.add(std::move(file), "rig.lwo")) {
-    showAllLayers();
-    EXPECT_NE(standin::modulePath(), "") << "the module is not beside the tests";
-    EXPECT_EQ(module.load(standin::modulePath()), "");
-  }
-
-  // Whatever a test looks at, the module must have kept to the host's rules.
-  ~RenamerSession() {
-    standin::panels().moduleUnloaded();
-    module.unload();
-    EXPECT_EQ(standin::witness().report(), "");
-    for (const standin::EditRecord& edit : host.edits()) EXPECT_TRUE(edit.done) << "mode " << edit.mode;
-  }
-  RenamerSession(const RenamerSession&) = delete;
-  RenamerSession& operator=(const RenamerSession&) = delete;
+  explicit RenamerSession(standin::ObjectFile file = renamerRig()) : ModelerSession(std::move(file)) {}
 
   // Another object beside the first; it becomes the current one.
   void load(standin::ObjectFile file) {
@@ -95,18 +64,8 @@ class RenamerSession {
     showAllLayers();
     host.forgetRecords();
   }
-  void showAllLayers() {
-    std::vector<int> numbers;
-    for (const standin::MeshLayer& layer : object->layers()) numbers.push_back(layer.number);
-    host.showLayers(numbers);
-  }
 
-  void openTool() {
-    EXPECT_EQ(host.activate(module, kRenamerTool), 0);
-    panel = standin::panels().find(kRenamerTool);
-    ASSERT_NE(panel, nullptr);
-    EXPECT_TRUE(panel->isOpen());
-  }
+  void openTool() { runTool(kRenamerTool); }
   void openIn(RenameMode mode) {
     openTool();
     chooseMode(mode);
@@ -164,35 +123,6 @@ class RenamerSession {
     return some;
   }
 
-  Text stored(std::string_view name, std::uint32_t type) const {
-    const standin::MeshPolygon* const polygon = object->skelegon(name);
-    if (polygon == nullptr) return "no such skelegon";
-    const std::string* const text = polygon->content.tag(type);
-    return text == nullptr ? std::nullopt : Text(*text);
-  }
-  Text stored(std::string_view name, Slot slot) const { return stored(name, skg::SlotTagId(slot)); }
-  void store(std::string_view name, std::uint32_t type, const Text& text) {
-    object->setTag(*object->skelegon(name), type, text);
-  }
-  void store(std::string_view name, Slot slot, const Text& text) { store(name, skg::SlotTagId(slot), text); }
-
-  // Everything that is stored on the object's skelegons, to compare it.
-  std::string everythingStored() const {
-    std::string all;
-    for (const standin::MeshPolygon* polygon : object->skelegons()) {
-      all += "skelegon\n";
-      for (const auto& tag : polygon->content.tags) all += std::to_string(tag.type) + "=" + tag.text + "\n";
-    }
-    return all;
-  }
-
-  // Edits of the session that changed something.
-  std::size_t changingEdits() const {
-    std::size_t count = 0;
-    for (const standin::EditRecord& edit : host.edits()) count += edit.changes > 0 ? 1 : 0;
-    return count;
-  }
-
   // The one message that was shown: its first line.
   std::string onlyMessage() const {
     if (host.messages().size() != 1) return std::to_string(host.messages().size()) + " messages";
@@ -201,11 +131,6 @@ class RenamerSession {
     EXPECT_EQ(message.second, "");
     return message.first;
   }
-
-  standin::ModelerHost host;
-  standin::ModelerObject* object;
-  standin::ModuleFile module;
-  Panel* panel = nullptr;
 };
 
 class Renamer : public testing::Test, protected RenamerSession {};

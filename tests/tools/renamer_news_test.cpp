@@ -4,6 +4,7 @@
 
 #include "host/lwtool2_globals.h"
 #include "modeler/MST_RenamerPanel.h"
+#include "tests/tools/panel_listener.h"
 #include "tests/tools/renamer_fixture.h"
 
 namespace varnel::test {
@@ -11,19 +12,6 @@ namespace {
 
 using mst::PanelNews;
 using News = std::vector<PanelNews>;
-
-// Another open panel: it keeps what it is told.
-class Listener {
- public:
-  Listener() {
-    mst::enterPanel(this, [](void* self, PanelNews news) { static_cast<Listener*>(self)->heard.push_back(news); });
-  }
-  ~Listener() { mst::removePanel(this); }
-  Listener(const Listener&) = delete;
-  Listener& operator=(const Listener&) = delete;
-
-  News heard;
-};
 
 class RenamerNews : public testing::Test {
  protected:
@@ -59,26 +47,26 @@ class RenamerNews : public testing::Test {
 };
 
 TEST_F(RenamerNews, ASimpleRunTellsOfNames) {
-  const Listener listener;
+  const PanelListener listener;
   run(false);
   EXPECT_EQ(listener.heard, News{PanelNews::NamesChanged});
 }
 
 TEST_F(RenamerNews, ASimpleRunWithPropertiesTellsOfBoth) {
-  const Listener listener;
+  const PanelListener listener;
   run(true);
   EXPECT_EQ(listener.heard, (News{PanelNews::NamesChanged, PanelNews::PropertiesChanged}));
 }
 
 TEST_F(RenamerNews, ASimpleRunThatFailsTellsNothing) {
-  const Listener listener;
+  const PanelListener listener;
   host.deselectAll();
   run(true);
   EXPECT_TRUE(listener.heard.empty());
 }
 
 TEST_F(RenamerNews, ASimpleRunWithABadPatternTellsNothing) {
-  const Listener listener;
+  const PanelListener listener;
   chooseMode(RenameMode::RegularExpression);
   EXPECT_TRUE(person::type(at(Item::FirstText), "("));
   run(false);
@@ -86,21 +74,21 @@ TEST_F(RenamerNews, ASimpleRunWithABadPatternTellsNothing) {
 }
 
 TEST_F(RenamerNews, AnAdvancedRunTellsOfNames) {
-  const Listener listener;
+  const PanelListener listener;
   chooseMode(RenameMode::Advanced);
   run(false);
   EXPECT_EQ(listener.heard, News{PanelNews::NamesChanged});
 }
 
 TEST_F(RenamerNews, AnAdvancedRunWithPropertiesTellsOfBoth) {
-  const Listener listener;
+  const PanelListener listener;
   chooseMode(RenameMode::Advanced);
   run(true);
   EXPECT_EQ(listener.heard, (News{PanelNews::NamesChanged, PanelNews::PropertiesChanged}));
 }
 
 TEST_F(RenamerNews, AnAdvancedRunThatFailsTellsAllTheSame) {
-  const Listener listener;
+  const PanelListener listener;
   chooseMode(RenameMode::Advanced);
   host.deselectAll();
   run(true);
@@ -109,7 +97,7 @@ TEST_F(RenamerNews, AnAdvancedRunThatFailsTellsAllTheSame) {
 }
 
 TEST_F(RenamerNews, ModesAndRegisteringTellNothing) {
-  const Listener listener;
+  const PanelListener listener;
   chooseMode(RenameMode::Advanced);
   EXPECT_TRUE(person::press(at(Item::Add)));
   EXPECT_TRUE(person::press(at(Item::Clear)));
@@ -137,7 +125,7 @@ TEST_F(RenamerNews, ShowsTheRegisteredCountAgainWhenItIsTold) {
 
 TEST_F(RenamerNews, DoesNothingElseWhenItIsTold) {
   const std::size_t edits = host.edits().size();
-  const Listener listener;
+  const PanelListener listener;
   mst::NotifyPanels(&listener, PanelNews::SelectionChanged);
   EXPECT_EQ(host.edits().size(), edits);
   EXPECT_TRUE(listener.heard.empty());
@@ -158,8 +146,8 @@ TEST_F(RenamerNews, LeavesTheListWithItsObject) {
 // Both panels in the module: what one renames the other shows.
 TEST_F(Renamer, ThePropertyPanelShowsTheNewNameAtOnce) {
   host.select({"Arm_L_01"});
-  EXPECT_EQ(host.activate(module, "Orlo:SkelegonProperty"), 0);
-  const Panel* const properties = standin::panels().find("Orlo:SkelegonProperty");
+  EXPECT_EQ(host.activate(module, kPropertyTool), 0);
+  const Panel* const properties = standin::panels().find(kPropertyTool);
   ASSERT_NE(properties, nullptr);
   EXPECT_EQ(properties->at(7)->text, "Arm_L_01");
   openIn(RenameMode::Replace);

@@ -1,6 +1,7 @@
 // A rig's whole way: renamed from left to right with its links, saved, converted, and every link still finds its item.
 #include "standin/layout/layout_host.h"
 #include "tests/tools/conversion_fixture.h"
+#include "tests/tools/convert_saved.h"
 #include "tests/tools/renamer_fixture.h"
 
 namespace varnel::test {
@@ -35,18 +36,6 @@ class RenamerTrip : public testing::Test {
     EXPECT_FALSE(session.host.saveAs(path).has_value());
   }
 
-  // In Layout: loads what was saved and converts it.
-  void convert(standin::LayoutHost& host) {
-    standin::ModuleFile module;
-    ASSERT_EQ(module.load(standin::modulePath()), "");
-    host.select(host.loadObject(path));
-    ASSERT_EQ(host.activate(module, standin::kOptimize), 0);
-    EXPECT_TRUE(person::press(standin::panels().find(standin::kOptimize)->find(standin::ControlKind::Button, 0)));
-    standin::panels().moduleUnloaded();
-    module.unload();
-    EXPECT_EQ(standin::witness().report(), "");
-  }
-
   standin::TestFolder folder;
   const std::string path = folder.file("rig.lwo");
 };
@@ -58,7 +47,7 @@ std::string nameOf(const standin::LayoutHost& host, const standin::Item* item) {
 TEST_F(RenamerTrip, EveryLinkedNameStillFindsItsItem) {
   renameAndSave();
   standin::LayoutHost host;
-  convert(host);
+  convertSaved(host, path);
   const standin::Scene& scene = host.scene();
   const standin::Item* const upper = scene.find("Leg_R_01");
   const standin::Item* const lower = scene.find("Leg_R_02");

@@ -4,6 +4,7 @@
 #include "standin/layout/layout_host.h"
 #include "tests/tools/arrived.h"
 #include "tests/tools/conversion_fixture.h"
+#include "tests/tools/convert_saved.h"
 #include "tests/tools/property_panel_fixture.h"
 
 namespace varnel::test {
@@ -99,18 +100,6 @@ class RoundTrip : public testing::TestWithParam<Slot> {
     }
   }
 
-  // In Layout: loads what was saved and converts it.
-  void convert(standin::LayoutHost& host, const std::string& path) {
-    standin::ModuleFile module;
-    ASSERT_EQ(module.load(standin::modulePath()), "");
-    host.select(host.loadObject(path));
-    ASSERT_EQ(host.activate(module, standin::kOptimize), 0);
-    EXPECT_TRUE(person::press(standin::panels().find(standin::kOptimize)->find(standin::ControlKind::Button, 0)));
-    standin::panels().moduleUnloaded();
-    module.unload();
-    EXPECT_EQ(standin::witness().report(), "");
-  }
-
   // What the saved file holds of the skelegon, by slot.
   StoredBySlot storedIn(const std::string& path, const std::string& name) const {
     StoredBySlot stored;
@@ -141,7 +130,7 @@ TEST_P(RoundTrip, BringsTheChangeToTheBone) {
   const std::string path = folder.file("rig.lwo");
   changeAndSave(path);
   standin::LayoutHost host;
-  convert(host, path);
+  convertSaved(host, path);
   const std::string name = GetParam() == Slot::Name ? nameFor(slot()) : kSkelegon;
   const standin::Item* const bone = host.scene().find(name);
   ASSERT_NE(bone, nullptr);

@@ -4,27 +4,18 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "modeler/tree_rows.h"
-#include "standin/core/program_folder.h"
-#include "standin/core/witness.h"
-#include "standin/modeler/modeler_host.h"
 #include "standin/objectfile/rig_builder.h"
 #include "standin/panels/geometry.h"
-#include "standin/panels/person.h"
+#include "tests/tools/modeler_session.h"
 
 namespace varnel::test {
 
-namespace person = standin::person;
-
-using Names = std::vector<std::string>;
-
-inline constexpr const char* kSelectorTool = "Orlo:SkelegonSelector";
 inline constexpr int kCtrl = lw::kMouseCtrl;
 inline constexpr int kShift = lw::kMouseShift;
 inline constexpr int kAlt = lw::kMouseAlt;
@@ -74,28 +65,10 @@ inline std::string nameOf(Delivery delivery) {
   return "";
 }
 
-// Modeler with that object, both layers in the foreground, and the module loaded.
-class SelectorSession {
+class SelectorSession : public ModelerSession {
  public:
-  using Panel = standin::Panel;
-  using Control = standin::Control;
-
   SelectorSession() : SelectorSession(selectorRig()) {}
-  explicit SelectorSession(standin::ObjectFile file) : object(&host.add(std::move(file), "rig.lwo")) {
-    host.showLayers({0, 1});
-    EXPECT_NE(standin::modulePath(), "") << "the module is not beside the tests";
-    EXPECT_EQ(module.load(standin::modulePath()), "");
-  }
-
-  // Whatever a test looks at, the module must have kept to the host's rules.
-  ~SelectorSession() {
-    standin::panels().moduleUnloaded();
-    module.unload();
-    EXPECT_EQ(standin::witness().report(), "");
-    for (const standin::EditRecord& edit : host.edits()) EXPECT_TRUE(edit.done) << "mode " << edit.mode;
-  }
-  SelectorSession(const SelectorSession&) = delete;
-  SelectorSession& operator=(const SelectorSession&) = delete;
+  explicit SelectorSession(standin::ObjectFile file) : ModelerSession(std::move(file)) {}
 
   static void deliver(Delivery delivery) {
     standin::PanelOptions& options = standin::panels().options;
@@ -108,12 +81,7 @@ class SelectorSession {
     options.hooksNeedMouseFlag = delivery == Delivery::ControlOnly;
   }
 
-  void openTool() {
-    EXPECT_EQ(host.activate(module, kSelectorTool), 0);
-    panel = standin::panels().find(kSelectorTool);
-    ASSERT_NE(panel, nullptr);
-    EXPECT_TRUE(panel->isOpen());
-  }
+  void openTool() { runTool(kSelectorTool); }
   void openWith(const Names& selected) {
     host.select(selected);
     openTool();
@@ -177,11 +145,6 @@ class SelectorSession {
   // Selections that were pushed to Modeler. Each is followed by a reading of the selection, which looks like a scan.
   std::size_t pushes() const { return editsOf(lw::kEditSelecting | lw::kEditDirect); }
   std::size_t scans() const { return editsOf(lw::kEditDirect) - pushes(); }
-
-  standin::ModelerHost host;
-  standin::ModelerObject* object;
-  standin::ModuleFile module;
-  Panel* panel = nullptr;
 
  private:
   std::size_t counted_ = 0;

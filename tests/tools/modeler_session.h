@@ -1,0 +1,104 @@
+// A stand-in Modeler with the built module in it: what the tests of the Modeler tools share.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "skelegon/slots.h"
+#include "standin/core/program_folder.h"
+#include "standin/core/tool_names.h"
+#include "standin/core/witness.h"
+#include "standin/modeler/modeler_host.h"
+#include "standin/panels/person.h"
+
+namespace varnel::test {
+
+namespace person = standin::person;
+
+using skg::Slot;
+using standin::kPropertyTool;
+using standin::kRenamerTool;
+using standin::kSelectorTool;
+using Names = std::vector<std::string>;
+using Text = std::optional<std::string>;  // of a tag; none where there is no such tag
+
+inline constexpr std::uint32_t kEnglish = 0x409;
+inline constexpr std::uint32_t kJapanese = 0x411;
+
+// Modeler with an object, all its layers in the foreground, and the module loaded.
+class ModelerSession {
+ public:
+  using Panel = standin::Panel;
+  using Control = standin::Control;
+
+  explicit ModelerSession(standin::ObjectFile file) : object(&host.add(std::move(file), "rig.lwo")) {
+    showAllLayers();
+    EXPECT_NE(standin::modulePath(), "") << "the module is not beside the tests";
+    EXPECT_EQ(module.load(standin::modulePath()), "");
+  }
+
+  // Whatever a test looks at, the module must have kept to the host's rules.
+  ~ModelerSession() {
+    standin::panels().moduleUnloaded();
+    module.unload();
+    EXPECT_EQ(standin::witness().report(), "");
+    for (const standin::EditRecord& edit : host.edits()) EXPECT_TRUE(edit.done) << "mode " << edit.mode;
+  }
+  ModelerSession(const ModelerSession&) = delete;
+  ModelerSession& operator=(const ModelerSession&) = delete;
+
+  void showAllLayers() {
+    std::vector<int> numbers;
+    for (const standin::MeshLayer& layer : object->layers()) numbers.push_back(layer.number);
+    host.showLayers(numbers);
+  }
+
+  // Runs a tool. The panel is then that of this run.
+  Panel* runTool(const char* tool) {
+    EXPECT_EQ(host.activate(module, tool), 0);
+    panel = standin::panels().find(tool);
+    EXPECT_TRUE(panel != nullptr && panel->isOpen()) << tool;
+    return panel;
+  }
+
+  Text stored(std::string_view name, std::uint32_t type) const {
+    const standin::MeshPolygon* const polygon = object->skelegon(name);
+    if (polygon == nullptr) return "no such skelegon";
+    const std::string* const text = polygon->content.tag(type);
+    return text == nullptr ? std::nullopt : Text(*text);
+  }
+  Text stored(std::string_view name, Slot slot) const { return stored(name, skg::SlotTagId(slot)); }
+  void store(std::string_view name, std::uint32_t type, const Text& text) {
+    object->setTag(*object->skelegon(name), type, text);
+  }
+  void store(std::string_view name, Slot slot, const Text& text) { store(name, skg::SlotTagId(slot), text); }
+
+  // Everything that is stored on the object's skelegons, to compare it.
+  std::string everythingStored() const {
+    std::string all;
+    for (const standin::MeshPolygon* polygon : object->skelegons()) {
+      all += "skelegon\n";
+      for (const auto& tag : polygon->content.tags) all += std::to_string(tag.type) + "=" + tag.text + "\n";
+    }
+    return all;
+  }
+
+  // Edits of the session that changed something.
+  std::size_t changingEdits() const {
+    std::size_t count = 0;
+    for (const standin::EditRecord& edit : host.edits()) count += edit.changes > 0 ? 1 : 0;
+    return count;
+  }
+
+  standin::ModelerHost host;
+  standin::ModelerObject* object;
+  standin::ModuleFile module;
+  Panel* panel = nullptr;
+};
+
+}  // namespace varnel::test
