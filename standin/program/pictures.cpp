@@ -146,16 +146,30 @@ void takeDesk(const Album& album) {
   });
 }
 
+// What the manual's first trip does: picks a skelegon in the tree, chooses its falloff in the panel.
+void takeFirstTrip(const Album& album) {
+  inModeler(album, {}, [&](const Workplace& at) {
+    const Panel& selector = openTool(at.host, at.module, kSelectorTool);
+    constexpr int rowHeight = 14;
+    constexpr int rowOfTail = 21;
+    const Control& tree = *must(selector.find(ControlKind::OpenGL), "the tree");
+    must(at.driver.clickAt(tree, 60, rowOfTail * rowHeight + rowHeight / 2, MouseButton::Left, {}));
+    if (at.host.selectedNames() != std::vector<std::string>{"Tail_01"}) throw Trouble{"another row was picked"};
+    album.take(at.driver, selector, "first-trip", "selector");
+
+    Panel& properties = openTool(at.host, at.module, kPropertyTool);
+    must(at.driver.choose(*must(falloffControl(properties), "the falloff control"), kInverseDistance4));
+    album.take(at.driver, properties, "first-trip", "property");
+  });
+}
+
 struct Subject {
   const char* name;
   void (*take)(const Album&);
 };
 constexpr std::array kSubjects{
-    Subject{"property", &takePropertyPanel},
-    Subject{"conversion", &takeConversionPanel},
-    Subject{"selector", &takeSelector},
-    Subject{"renamer", &takeRenamer},
-    Subject{"desk", &takeDesk},
+    Subject{"property", &takePropertyPanel}, Subject{"conversion", &takeConversionPanel}, Subject{"selector", &takeSelector},
+    Subject{"renamer", &takeRenamer},        Subject{"first-trip", &takeFirstTrip},       Subject{"desk", &takeDesk},
 };
 
 int run(const PicturesOptions& options) {

@@ -15,7 +15,6 @@ namespace {
 
 constexpr const char* kSkelegon = "Tail_01";
 constexpr std::uint8_t kFalloffSetting = 13;
-constexpr int kInverseDistance4 = 2;  // place in the list, in both languages
 
 struct TripOptions {
   std::string module;
