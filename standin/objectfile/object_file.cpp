@@ -39,10 +39,10 @@ std::size_t ObjectLayer::polygonCount(std::uint32_t type) const {
   return count;
 }
 
-Outcome<ObjectFile> readObject(const std::string& path) {
+Outcome<ObjectFile> readObject(const std::string& path, TextlessTags textless) {
   const Outcome<std::string> bytes = readFileBytes(path);
   if (!bytes) return Failure{bytes.why()};
-  Outcome<ObjectFile> object = parseObject(*bytes);
+  Outcome<ObjectFile> object = parseObject(*bytes, textless);
   if (!object) return Failure{path + ": " + object.why()};
   return object;
 }

@@ -80,8 +80,11 @@ struct ObjectFile {
   std::vector<Chunk> chunks;        // of the file it was read from; empty for an object made in code
 };
 
-Outcome<ObjectFile> parseObject(std::string_view bytes);
-Outcome<ObjectFile> readObject(const std::string& path);
+// What to do with a tag whose text the file does not have.
+enum class TextlessTags { Refuse, LeaveOut };
+
+Outcome<ObjectFile> parseObject(std::string_view bytes, TextlessTags textless = TextlessTags::Refuse);
+Outcome<ObjectFile> readObject(const std::string& path, TextlessTags textless = TextlessTags::Refuse);
 
 Outcome<std::string> serializeObject(const ObjectFile& object);
 // Empty when the file was written, else the failure.

@@ -9,6 +9,8 @@ namespace {
 
 class ObjectReader {
  public:
+  explicit ObjectReader(TextlessTags textless) : textless_(textless) {}
+
   // Empty when all went well.
   std::string read(const std::vector<Chunk>& chunks) {
     // Texts first: tags refer to them, wherever their chunk stands.
@@ -29,6 +31,12 @@ class ObjectReader {
   bool refuse(std::string why) {
     why_ = std::move(why);
     return false;
+  }
+
+  bool refuseTag(const char* what, std::size_t number, std::size_t count) {
+    return refuse("a tag in layer " + std::to_string(layers_.back().number) + " names " + what + " " +
+                  std::to_string(number) + ", which is not there (" + std::to_string(count) + " " + what +
+                  "s, counted from 0)");
   }
 
   bool readChunk(const Chunk& chunk) {
@@ -86,9 +94,12 @@ class ObjectReader {
     if (layer.groups.empty()) return refuse("polygon tags stand before the polygons of their layer");
     std::vector<ObjectPolygon>& polygons = layer.groups.back().polygons;
     for (const auto& [polygon, text] : tags->pairs) {
-      if (polygon >= polygons.size()) return refuse("a tag names a polygon that is not there");
-      if (text >= texts_.size()) return refuse("a tag names a text that is not there");
-      polygons[polygon].setTag(tags->type, texts_[text]);
+      if (polygon >= polygons.size()) return refuseTag("polygon", polygon, polygons.size());
+      if (text < texts_.size()) {
+        polygons[polygon].setTag(tags->type, texts_[text]);
+      } else if (textless_ == TextlessTags::Refuse) {
+        return refuseTag("text", text, texts_.size());
+      }
     }
     return true;
   }
@@ -105,6 +116,7 @@ class ObjectReader {
     return true;
   }
 
+  const TextlessTags textless_;
   std::vector<std::string> texts_;
   std::vector<ObjectLayer> layers_;
   std::string why_;
@@ -112,13 +124,13 @@ class ObjectReader {
 
 }  // namespace
 
-Outcome<ObjectFile> parseObject(std::string_view bytes) {
+Outcome<ObjectFile> parseObject(std::string_view bytes, TextlessTags textless) {
   Outcome<Form> form = splitForm(bytes);
   if (!form) return Failure{form.why()};
   if (form->type != kFormObject2 && form->type != kFormObject3) {
     return Failure{"form type " + chunkName(form->type) + " is not one that is read (LWO2, LWO3)"};
   }
-  ObjectReader reader;
+  ObjectReader reader(textless);
   if (std::string why = reader.read(form->chunks); !why.empty()) return Failure{std::move(why)};
   return ObjectFile{form->type, reader.takeLayers(), std::move(form->chunks)};
 }

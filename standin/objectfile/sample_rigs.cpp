@@ -216,11 +216,11 @@ ObjectFile makeJapaneseRig() {
   const std::uint32_t first = rig.box({-0.1F, 0, -0.1F}, {0.1F, 1, 0.1F});
   rig.weightMap("頭ウェイト", {{first + 2, 1.0F}, {first + 3, 1.0F}});
   const auto bones = rig.chain({"腰", "背骨", "首", "頭"}, {{0, 0, 0}, {0, 0.3F, 0}, {0, 0.6F, 0}, {0, 0.8F, 0}, {0, 1, 0}});
-  rig.settings(bones[0], {{51, "[file]:体"}, {142, "腰_initpos"}, {151, "0"}});
+  rig.settings(bones[0], {{142, "腰_initpos"}, {151, "0"}});
   rig.settings(bones[1], {{26, "1"}, {48, "1"}, {49, "60.000000"}});
   rig.tag(bones[3], lw::kTagBoneWeight, "頭ウェイト");
   rig.tag(bones[3], lw::kTagColour, "Red");
-  rig.settings(bones[3], {{52, "頭_tar"}, {130, "[file]:体"}, {136, "1"}, {152, "Orang"}, {95, "1"}});
+  rig.settings(bones[3], {{52, "頭_tar"}, {130, "腰"}, {136, "1"}, {152, "Orang"}, {95, "1"}});
   return rig.take();
 }
 

@@ -38,7 +38,7 @@ rigs::CodePage codePageOf(const std::string& name) {
 
 rigs::Inspected inspect(const std::string& path, const rigs::CodePage& codePage, const std::vector<std::string>& ignored) {
   rigs::Inspected file{path, {}, {}, {}};
-  const Outcome<ObjectFile> object = readObject(path);
+  const Outcome<ObjectFile> object = readObject(path, TextlessTags::LeaveOut);
   if (!object) {
     file.trouble = object.why();
     return file;

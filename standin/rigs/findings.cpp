@@ -34,7 +34,7 @@ constexpr std::array<FindingRow, kFindingKinds> kRows = {{
      "名前がありません: ボーンに設定が付きません"},
     {FindingKind::NameTwice, "name-twice",
      "{number} skelegons of this layer bear this name: Layout will number their bones, and the settings will reach none or the wrong one",
-     "このレイヤーの {number} 個のスケルゴンが同じ名前です: Layout はボーンに番号を付けるので、設定は付かないか別のボーンに付きます"},
+     "このレイヤーの {number} 個のスケルゴンが同じ名前です: レイアウトはボーンに番号を付けるので、設定は付かないか別のボーンに付きます"},
     {FindingKind::NameInTwoLayers, "name-in-two-layers",
      "a skelegon of the layer {text} bears this name too: the settings of both will go to the first bone of that name",
      "レイヤー {text} のスケルゴンも同じ名前です: 両方の設定が、その名前の最初のボーンに付きます"},
@@ -52,7 +52,7 @@ constexpr std::array<FindingRow, kFindingKinds> kRows = {{
      "ファイルに {text} という名前のものがありません: シーンに無ければ、このボーンとレイヤー内のそれ以降のボーンに設定が付きません"},
     {FindingKind::ChoiceOutside, "choice-outside",
      "{text} is none of the {number} choices, which count from 0: Layout will be sent a number that it does not know",
-     "{text} は 0 から数える {number} 個の選択肢にありません: Layout の知らない番号が送られます"},
+     "{text} は 0 から数える {number} 個の選択肢にありません: レイアウトの知らない番号が送られます"},
     {FindingKind::FlagOutside, "flag-outside",
      "{text} is neither 0 nor 1: it will count as on",
      "{text} は 0 でも 1 でもありません: オンとして扱われます"},
@@ -80,6 +80,12 @@ constexpr std::array<FindingRow, kFindingKinds> kRows = {{
     {FindingKind::UnknownSlot, "unknown-slot",
      "the tag {other} with the text {text} is of no setting: nothing will come of it",
      "タグ {other}（テキスト {text}）はどの設定のものでもありません: 何にも使われません"},
+    {FindingKind::TagRepeated, "tag-repeated",
+     "is stored {number} times, first with the text {text}, last with {other}: the conversion will take the first, Modeler the last",
+     "{number} 回保存されていて、最初のテキストは {text}、最後は {other} です: 変換は最初のものを、モデラーは最後のものを使います"},
+    {FindingKind::TextMissing, "text-missing",
+     "names the text {number}, which the file does not have: it will count as not stored, and other programs may refuse the file",
+     "ファイルにないテキスト {number} を指しています: 保存されていないものとして扱われ、ほかのプログラムはファイルを断るかもしれません"},
     // clang-format on
 }};
 
@@ -90,7 +96,7 @@ constexpr bool rowsStandInOrder() {
   return true;
 }
 static_assert(rowsStandInOrder());
-static_assert(static_cast<std::size_t>(FindingKind::UnknownSlot) + 1 == kFindingKinds);
+static_assert(static_cast<std::size_t>(FindingKind::TextMissing) + 1 == kFindingKinds);
 
 // The items that the conversion makes a null for when it does not find them, and those that it only looks up.
 constexpr Slot kHelpers[] = {
@@ -175,6 +181,23 @@ class Search {
     for (const PolygonTag& tag : skelegon.tags) {
       if (isUnknownSlot(tag.type))
         addFor(i, nullptr, FindingKind::UnknownSlot, inQuotes(tag.text)).other = tagName(tag.type);
+    }
+    checkOddTags(i);
+  }
+
+  // Only where it makes a difference to the conversion.
+  void checkOddTags(std::size_t i) {
+    const Skelegon& skelegon = rig_.skelegons[i];
+    const auto isRead = [](std::uint32_t type) { return type == lw::kTagBone || settingOfTag(type) != nullptr; };
+    for (const RepeatedTag& tag : skelegon.repeated) {
+      if (!isRead(tag.type)) continue;
+      Finding& finding = addFor(i, settingOfTag(tag.type), FindingKind::TagRepeated, inQuotes(tag.first));
+      finding.other = inQuotes(tag.last);
+      finding.number = std::to_string(tag.times);
+    }
+    for (const TextlessTag& tag : skelegon.textless) {
+      if (!isRead(tag.type)) continue;
+      addFor(i, settingOfTag(tag.type), FindingKind::TextMissing).number = std::to_string(tag.text);
     }
   }
 
@@ -293,9 +316,14 @@ std::vector<Finding> findingsOf(const Rig& rig, const CodePage& codePage) { retu
 std::string placeOf(const Rig& rig, const Finding& finding, Language language) {
   if (!finding.layer) return {};
   const Layer& layer = rig.layers[*finding.layer];
-  std::string place = layer.name.empty() ? "layer " + std::to_string(layer.number) : printable(layer.name);
-  if (finding.skelegon) place += " / " + nameShown(rig.skelegons[*finding.skelegon]);
+  const bool japanese = language == Language::Japanese;
+  std::string place = printable(layer.name);
+  if (place.empty()) place = (japanese ? "レイヤー " : "layer ") + std::to_string(layer.number);
+  if (finding.skelegon) place += " / " + nameShown(rig.skelegons[*finding.skelegon], language);
   if (finding.setting != nullptr) place += " / " + finding.setting->name(language);
+  // These are about a stored text; where it is that of no setting, it is the skelegon's name.
+  const bool isOfAText = finding.kind == FindingKind::TagRepeated || finding.kind == FindingKind::TextMissing;
+  if (isOfAText && finding.setting == nullptr) place += japanese ? " / 名前" : " / name";
   return place;
 }
 

@@ -33,8 +33,10 @@ enum class FindingKind : std::size_t {
   PathCodePage,
   CommandCodePage,
   UnknownSlot,
+  TagRepeated,
+  TextMissing,
 };
-inline constexpr std::size_t kFindingKinds = 20;
+inline constexpr std::size_t kFindingKinds = 22;
 
 struct FindingRow {
   FindingKind kind;

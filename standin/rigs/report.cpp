@@ -92,7 +92,7 @@ class Tree {
 
   void write(const Step& step) {
     const Skelegon& skelegon = rig_.skelegons[step.skelegon];
-    text_ += step.branch + nameShown(skelegon) + '\n';
+    text_ += step.branch + nameShown(skelegon, options_.language) + '\n';
     const char* const line = skelegon.children.empty() ? "   " : "│  ";
     for (const std::string& setting : settingLines(skelegon, options_)) text_.append(step.indent + line + setting + '\n');
   }
@@ -113,7 +113,7 @@ std::string layerHead(const Rig& rig, const Layer& layer, Language language) {
         });
       }));
   if (language == Language::Japanese) {
-    return "レイヤー " + std::to_string(layer.number) + name + "、Layout では " + inQuotes(layer.itemName) +
+    return "レイヤー " + std::to_string(layer.number) + name + "、レイアウトでは " + inQuotes(layer.itemName) +
            ": スケルゴン " + count + "、設定あり " + stored + "\n";
   }
   return "layer " + std::to_string(layer.number) + name + ", in Layout " + inQuotes(layer.itemName) + ": " +

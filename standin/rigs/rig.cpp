@@ -43,6 +43,18 @@ void link(const ObjectFile& object, Rig& rig, const Layer& layer) {
   }
 }
 
+void takeOddTags(const ObjectFile& object, Rig& rig) {
+  auto skelegon = rig.skelegons.begin();  // both lists are in the order of the file
+  for (OddTags& odd : oddTagsOf(object)) {
+    skelegon = std::find_if(skelegon, rig.skelegons.end(), [&](const Skelegon& s) {
+      return s.layer == odd.layer && s.group == odd.group && s.polygon == odd.polygon;
+    });
+    if (skelegon == rig.skelegons.end()) return;
+    skelegon->repeated = std::move(odd.repeated);
+    skelegon->textless = std::move(odd.textless);
+  }
+}
+
 void countNamesakes(Rig& rig, const Layer& layer) {
   std::map<std::string, std::vector<std::size_t>> byName;
   for (const std::size_t i : layer.skelegons) {
@@ -83,11 +95,13 @@ Rig rigOf(const ObjectFile& object, const std::string& fileName) {
     countNamesakes(rig, layer);
     rig.layers.push_back(std::move(layer));
   }
+  takeOddTags(object, rig);
   return rig;
 }
 
-std::string nameShown(const Skelegon& skelegon) {
-  const std::string name = skelegon.name.empty() ? "(no name)" : printable(skelegon.name);
+std::string nameShown(const Skelegon& skelegon, Language language) {
+  const char* const none = language == Language::Japanese ? "(名前なし)" : "(no name)";
+  const std::string name = skelegon.name.empty() ? none : printable(skelegon.name);
   return skelegon.namesakes == 1 ? name : name + " [" + std::to_string(skelegon.number + 1) + "]";
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "standin/objectfile/object_file.h"
+#include "standin/rigs/file_tags.h"
 #include "standin/rigs/settings.h"
 
 namespace standin::rigs {
@@ -21,7 +22,9 @@ struct Skelegon {
   std::string name;  // empty without a name tag too
   FilePoint head{};
   FilePoint tail{};
-  std::vector<PolygonTag> tags;  // as in the file
+  std::vector<PolygonTag> tags;  // one of a type at most
+  std::vector<RepeatedTag> repeated;
+  std::vector<TextlessTag> textless;
 
   std::optional<std::size_t> parent;  // the last in its layer that ends where this one begins, as in Modeler's tools
   std::vector<std::size_t> children;
@@ -47,8 +50,8 @@ struct Rig {
 
 Rig rigOf(const ObjectFile& object, const std::string& fileName);
 
-// "Tail", "skelegon without a name", or "Tail [2]" for the second of that name.
-std::string nameShown(const Skelegon& skelegon);
+// "Tail", "(no name)", or "Tail [2]" for the second of that name.
+std::string nameShown(const Skelegon& skelegon, Language language = Language::English);
 
 // "BONE", or "sg1+200" for a tag of the settings' family.
 std::string tagName(std::uint32_t tag);

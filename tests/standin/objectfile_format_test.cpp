@@ -197,13 +197,22 @@ TEST(DamagedObjects, AChunkPastTheEndIsRefused) {
 TEST(DamagedObjects, ATagOfAPolygonThatIsNotThereIsRefused) {
   std::vector<Chunk> chunks = smallRig();
   chunks[4] = tagsChunk(lw::kTagBone, {{2, 0}});
-  EXPECT_EQ(whyRefused(file(chunks)), "a tag names a polygon that is not there");
+  EXPECT_EQ(whyRefused(file(chunks)), "a tag in layer 0 names polygon 2, which is not there (2 polygons, counted from 0)");
 }
 
 TEST(DamagedObjects, ATagOfATextThatIsNotThereIsRefused) {
   std::vector<Chunk> chunks = smallRig();
   chunks[4] = tagsChunk(lw::kTagBone, {{0, 2}});
-  EXPECT_EQ(whyRefused(file(chunks)), "a tag names a text that is not there");
+  EXPECT_EQ(whyRefused(file(chunks)), "a tag in layer 0 names text 2, which is not there (2 texts, counted from 0)");
+}
+
+TEST(DamagedObjects, ATagOfATextThatIsNotThereIsLeftOutWhenAskedSo) {
+  std::vector<Chunk> chunks = smallRig();
+  chunks[4] = tagsChunk(lw::kTagBone, {{0, 2}, {1, 1}});
+  const auto object = parseObject(file(chunks), TextlessTags::LeaveOut);
+  ASSERT_TRUE(object) << object.why();
+  EXPECT_EQ(skelegon(*object, 0).tag(lw::kTagBone), nullptr);
+  EXPECT_EQ(*skelegon(*object, 1).tag(lw::kTagBone), "B");
 }
 
 TEST(DamagedObjects, APolygonOnAMissingPointIsRefused) {

@@ -117,6 +117,11 @@ TEST_F(RigCommandLine, InspectGoesOnAfterAFileThatCannotBeRead) {
   EXPECT_THAT(out_, HasSubstr("Strength: 80 %"));
 }
 
+TEST_F(RigCommandLine, InspectTellsOfATextThatIsMissing) {
+  EXPECT_EQ(run({"inspect", "--strict", std::string(VARNEL_REPOSITORY) + "/tests/data/stored-beyond.lwo"}), 1);
+  EXPECT_THAT(out_, HasSubstr("[text-missing]"));
+}
+
 TEST_F(RigCommandLine, InspectPrintsJsonAlsoOfTrouble) {
   EXPECT_EQ(run({"inspect", "--json", "--lang", "ja", write("rig.lwo", SoundRig()), folder_.file("missing.lwo")}), 2);
   const auto json = nlohmann::json::parse(out_);

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "standin/layout/layout_host.h"
+#include "standin/objectfile/chunk_records.h"
 #include "standin/rigs/names_in_layout.h"
 #include "tests/standin/rigs_fixture.h"
 
@@ -210,6 +211,58 @@ TEST_F(Findings, OtherTagsOfPolygonsAreLeftAlone) {
   sound.builder.tag(sound.root, lw::kTagPart, "Root");
   sound.builder.tag(sound.root, kTagSurface, "Default");
   EXPECT_THAT(found(sound.rig()), IsEmpty());
+}
+
+// What only a file can hold: the tags of the sound rig, and one more chunk of tags behind them.
+Rig rigWithTags(const SoundRig& sound, std::uint32_t type, std::vector<records::TagPair> pairs) {
+  ObjectFile object = *parseObject(*serializeObject(sound.object()));
+  object.chunks.push_back({records::kPolygonTags, records::writeTags({type, std::move(pairs)})});
+  return rigOf(*parseObject(*joinForm({object.form, std::move(object.chunks)}), TextlessTags::LeaveOut), kFileName);
+}
+
+std::uint16_t textNumber(const SoundRig& sound, const std::string& text) {
+  const ObjectFile object = *parseObject(*serializeObject(sound.object()));
+  for (const Chunk& chunk : object.chunks) {
+    if (chunk.id != records::kTags) continue;
+    const auto texts = *records::readTexts(chunk.bytes);
+    return static_cast<std::uint16_t>(std::find(texts.begin(), texts.end(), text) - texts.begin());
+  }
+  return 0;
+}
+
+TEST_F(Findings, ASettingStoredTwiceIsToldWithBothTexts) {
+  const Rig rig = rigWithTags(sound, settingTag(13), {{0, textNumber(sound, "Green")}});
+  EXPECT_THAT(found(rig), testing::Contains("tag-repeated Rig / Root / Falloff Type"));
+  const auto findings = findingsOf(rig, CodePage(932));
+  EXPECT_THAT(sentenceOf(findings.back(), Language::English),
+              HasSubstr("2 times, first with the text \"2\", last with \"Green\""));
+}
+
+TEST_F(Findings, ANameStoredTwiceIsToldToo) {
+  EXPECT_THAT(found(rigWithTags(sound, lw::kTagBone, {{0, textNumber(sound, "Hand")}})),
+              testing::Contains("tag-repeated Rig / Hand [1] / name"));
+}
+
+TEST_F(Findings, ATagStoredTwiceWithOneTextDoesNoHarm) {
+  EXPECT_THAT(found(rigWithTags(sound, settingTag(13), {{0, textNumber(sound, "2")}})), IsEmpty());
+}
+
+TEST_F(Findings, ATagWhoseTextIsMissingCountsAsNotStored) {
+  const Rig rig = rigWithTags(sound, settingTag(26), {{1, 999}});
+  EXPECT_THAT(found(rig), ElementsAre("text-missing Rig / Hand / Bone Type"));
+  EXPECT_THAT(sentence(rig), HasSubstr("the text 999"));
+}
+
+TEST_F(Findings, ATextlessTagBehindAnotherOfItsTypeDoesNoHarm) {
+  EXPECT_THAT(found(rigWithTags(sound, settingTag(13), {{0, 999}})), IsEmpty());
+}
+
+TEST(FindingPlaces, AreNamedInJapaneseToo) {
+  RigBuilder builder;
+  builder.layer(0, "");
+  builder.between(builder.point({0, 0, 0}), builder.point({1, 0, 0}), std::nullopt);
+  const Rig rig = rigOf(builder.object(), kFileName);
+  EXPECT_EQ(placeOf(rig, findingsOf(rig, CodePage(932)).front(), Language::Japanese), "レイヤー 0 / (名前なし)");
 }
 
 TEST(FindingTable, HasAnIdAndASentenceInBothLanguagesInEachRow) {

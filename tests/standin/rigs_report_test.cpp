@@ -33,6 +33,7 @@ TEST(RigReport, ShowsTheTreeWithWhatDiffersFromTheDefaults) {
 
 TEST(RigReport, SpeaksJapanese) {
   const std::string text = treeText(SoundRig().rig(), {Language::Japanese, false});
+  EXPECT_THAT(text, HasSubstr("レイヤー 0 \"Rig\"、レイアウトでは \"rig\""));
   EXPECT_THAT(text, HasSubstr("フォールオフ種: 反比例^4"));
   EXPECT_THAT(text, HasSubstr("最小 (ヘディング制限): -90°"));
 }
