@@ -1,7 +1,7 @@
 #include "host/lwtool2_scene.h"
 
-#include <algorithm>
 #include <cstdint>
+#include <unordered_set>
 
 #include "host/item_names.h"
 #include "host/lwtool2_errors.h"
@@ -11,7 +11,10 @@
 namespace lw {
 namespace {
 
-std::string copied(const char* text) { return text == nullptr ? std::string() : std::string(text); }
+std::string copied(const char* text) {
+  if (text == nullptr) return {};
+  return text;
+}
 
 // The first channel of that path in the group or in the groups below it; null when there is none.
 ChannelId findChannel(GroupId group, const std::string& pathOfGroup, const std::string& wanted) {
@@ -29,7 +32,8 @@ ChannelId findChannel(GroupId group, const std::string& pathOfGroup, const std::
 EnvelopeId envelopeOf(ItemId item, const char* pathName) {
   const GroupId group = itemInfo().chanGroup(item);
   // A null group would mean the root of all channels, which are not this item's.
-  const ChannelId channel = group == nullptr ? nullptr : findChannel(group, {}, pathName);
+  ChannelId channel = nullptr;
+  if (group != nullptr) channel = findChannel(group, {}, pathName);
   if (channel == nullptr) throwReported(FormatString("getChannelByPathName() returned NULL !(%s)", pathName));
   const EnvelopeId envelope = channelInfo().channelEnvelope(channel);
   if (envelope == nullptr) throwReported(FormatString("channelEnvelope() returned NULL !(%s)", pathName));
@@ -65,7 +69,8 @@ void CSceneItems::added(ItemId item, const std::string& name) {
   if (!walked_) return;
   // Under another name than the one asked for, or beside an item of that name, the new item may change more than its own
   // entry: the host counts items of equal name, and where it puts a new one among the others is its own affair.
-  const bool alone = itemName(item) == name && first_.count(name) == 0;
+  const std::string given = itemName(item);
+  const bool alone = given == name && first_.count(name) == 0;
   if (alone) {
     first_.emplace(name, item);
   } else {
@@ -92,9 +97,10 @@ Selection SaveSelection() {
   RefreshInterfaceInfo();
   Selection selection;
   selection.reserve(128);
+  std::unordered_set<ItemId> known;
   const ItemId* item = interfaceInfo().selItems;
   for (; item != nullptr && *item != nullptr; ++item) {
-    if (std::find(selection.begin(), selection.end(), *item) == selection.end()) selection.push_back(*item);
+    if (known.insert(*item).second) selection.push_back(*item);
   }
   return selection;
 }

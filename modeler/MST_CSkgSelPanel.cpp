@@ -24,7 +24,9 @@ constexpr std::array kScannedTags = {lw::kTagColour, skg::kColourCopyTag};
 ScannedSkelegons scan() {
   ScannedSkelegons skelegons;
   if (!objectIsLoaded()) return skelegons;
-  for (lw::SkelegonInfo& info : lw::ScanSkelegons(lw::kLayersForeground, kSelectorReport, kScannedTags)) {
+  std::vector<lw::SkelegonInfo> scanned = lw::ScanSkelegons(lw::kLayersForeground, kSelectorReport, kScannedTags);
+  skelegons.reserve(scanned.size());
+  for (lw::SkelegonInfo& info : scanned) {
     skelegons.push_back({info.polygon, std::move(info.name), info.layer, info.head, info.tail, info.isSelected,
                          std::move(info.tags[0]), std::move(info.tags[1])});
   }

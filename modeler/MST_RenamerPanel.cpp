@@ -1,6 +1,6 @@
 #include "modeler/MST_RenamerPanel.h"
 
-#include <algorithm>
+#include <unordered_set>
 
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_eval.h"
@@ -97,8 +97,9 @@ void RenamerPanel::showTexts(const char* first, const char* second) {
 }
 
 void RenamerPanel::add() {
+  std::unordered_set<lw::PolygonId> known(registered_.begin(), registered_.end());
   for (const lw::PolygonId polygon : selectedForRenaming()) {
-    if (std::find(registered_.begin(), registered_.end(), polygon) == registered_.end()) registered_.push_back(polygon);
+    if (known.insert(polygon).second) registered_.push_back(polygon);
   }
   showRegistered();
 }
@@ -152,8 +153,8 @@ void RenamerPanel::OnClosed(lw::PanelId /*panel*/, void* user) {
 
 void RenamerPanel::OnNews(void* user, PanelNews /*news*/) {
   lw::guarded([&] {
-    auto* const panel = static_cast<RenamerPanel*>(user);
-    if (panel != nullptr && panel->isOpen_) panel->showRegistered();
+    auto* const panel = static_cast<RenamerPanel*>(user);  // as it was entered
+    if (panel->isOpen_) panel->showRegistered();
   });
 }
 

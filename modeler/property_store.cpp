@@ -32,8 +32,10 @@ TagWrites writesToLiving(const TagWrites& writes, const lw::PolygonIds& living) 
 }  // namespace
 
 std::vector<PanelSkelegon> ScanPanelSkelegons() {
+  std::vector<lw::SkelegonInfo> scanned = lw::ScanSkelegons(lw::kLayersForeground, kPanelReport);
   std::vector<PanelSkelegon> skelegons;
-  for (lw::SkelegonInfo& info : lw::ScanSkelegons(lw::kLayersForeground, kPanelReport)) {
+  skelegons.reserve(scanned.size());
+  for (lw::SkelegonInfo& info : scanned) {
     skelegons.push_back({info.polygon, std::move(info.name), info.layer, info.isSelected});
   }
   return skelegons;

@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <array>
 #include <set>
+#include <string_view>
+#include <unordered_set>
 
 #include "modeler/property_store.h"
 
@@ -108,9 +110,10 @@ TagWrites writesForLinkedNames(PanelSkelegons skelegons, Slot slot) {
 }
 
 TagWrites writesForWeightMapsByName(PanelSkelegons skelegons, const std::vector<std::string>& mapNames) {
+  const std::unordered_set<std::string_view> maps(mapNames.begin(), mapNames.end());
   TagWrites writes;
   forSelected(skelegons, [&](const PanelSkelegon& skelegon) {
-    const bool hasMap = std::find(mapNames.begin(), mapNames.end(), skelegon.name) != mapNames.end();
+    const bool hasMap = maps.count(skelegon.name) != 0;
     // Stored as it stands, though "1" is the default.
     writes.add(skelegon.polygon, skg::SlotTagId(Slot::BoneActive), hasMap ? "1" : "0");
     writes.add(skelegon.polygon, skg::SlotTagId(Slot::WeightMap), hasMap ? std::string_view(skelegon.name) : "");
