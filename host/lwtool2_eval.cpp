@@ -16,7 +16,7 @@ VARNEL_PRINTF(1, 0)
 std::string formatList(const char* format, std::va_list arguments) {
   std::array<char, kFormatBytes> buffer;
   const int length = std::vsnprintf(buffer.data(), buffer.size(), format, arguments);
-  if (length < 0 || static_cast<std::size_t>(length) >= buffer.size()) return {};
+  if (static_cast<std::size_t>(length) >= buffer.size()) return {};  // a failure is negative, and so beyond it too
   return std::string(buffer.data(), static_cast<std::size_t>(length));
 }
 

@@ -199,7 +199,7 @@ SkelegonInfo skelegonInfo(const MeshEditOp& edit, const EDPolygonInfo& record, s
   info.polygon = record.pol;
   info.layer = record.layer;
   info.isSelected = kSelectedNotDeleted.fits(record.flags);
-  if (record.numPnts >= 2) {
+  if (record.numPnts >= 2 && record.points != nullptr) {  // a damaged one has no ends
     info.head = record.points[0];
     info.tail = record.points[1];
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <string_view>
 
 #include "host/lwtool2_eval.h"
 #include "host/lwtool2_globals.h"
@@ -318,7 +319,7 @@ lw::ItemId FindOrCreateNull(lw::CSceneItems& scene, const std::string& name, lw:
     if (found != nullptr) return found;
   }
   const lw::CSavedSelection selection;
-  const std::string nullName = name.empty() ? "Null" : name;
+  const std::string nullName(name.empty() ? std::string_view("Null") : name);
   const lw::ItemId made = addNull(nullName, selection.items());
   if (made == nullptr) {
     lw::ReportError(kSource, 273, "%s", "createNull() !");

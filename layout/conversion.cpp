@@ -64,7 +64,9 @@ struct ObjectNames {
 };
 
 ObjectNames namesOf(lw::ItemId object) {
-  ObjectNames names{lw::SplitItemName(object, 2), lw::SplitItemName(object, 1)};
+  ObjectNames names;
+  names.layer = lw::SplitItemName(object, 2);
+  names.object = lw::SplitItemName(object, 1);
   // Without a colon the item may be the only layer of its file, which Layout names after the file alone.
   if (names.layer.empty() && lw::objectInfo().layerLoaded(object) == 0) {
     names.layer = lw::itemName(object);
@@ -78,9 +80,9 @@ ObjectNames namesOf(lw::ItemId object) {
 std::optional<st::ObjectLayer> layerNamed(const st::ObjectFileData& data, const std::string& name,
                                           const std::string& filePath) {
   const bool namedByFile = data.layerCount() == 1 && data.layer(0).number() == 0;
+  const std::string fileName = lw::fileBaseName(filePath);
   for (const st::ObjectLayer layer : data.layers()) {
-    const std::string layerName = namedByFile ? lw::fileBaseName(filePath) : std::string(layer.name());
-    if (layerName == name) return layer;
+    if ((namedByFile ? fileName : layer.name()) == name) return layer;
   }
   return std::nullopt;
 }
@@ -88,7 +90,9 @@ std::optional<st::ObjectLayer> layerNamed(const st::ObjectFileData& data, const 
 bool recordPivotRotation(lw::ItemId bone) {
   EvalF("SelectItem 0x%x", lw::commandId(bone));
   lw::RefreshInterfaceInfo();
-  return EvalF("RecordPivotRotation") && lw::ResetRotation(bone);
+  if (!EvalF("RecordPivotRotation")) return false;
+  lw::ResetRotation(bone);  // what the host refuses of it is thrown
+  return true;
 }
 
 // Gives one bone its settings. The message format of what failed, or null.

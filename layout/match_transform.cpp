@@ -48,8 +48,11 @@ bool MatchTransform(lw::ItemId item, lw::ItemId reference, bool matchRotation, b
 
   const Vector3 rotation = matchRotation ? turn.rotation : Vector3{0, 0, 0};
   const Vector3 scale = matchScale ? turn.scale : Vector3{1, 1, 1};
-  return lw::SetPosition(item, position[0], position[1], position[2]) &&
-         lw::SetRotation(item, rotation[0], rotation[1], rotation[2]) && lw::SetScale(item, scale[0], scale[1], scale[2]);
+  // What the host refuses of these is thrown.
+  lw::SetPosition(item, position[0], position[1], position[2]);
+  lw::SetRotation(item, rotation[0], rotation[1], rotation[2]);
+  lw::SetScale(item, scale[0], scale[1], scale[2]);
+  return true;
 }
 
 }  // namespace lwp

@@ -310,8 +310,8 @@ void CSkgPropPanel::OnClosed(lw::PanelId /*panel*/, void* user) {
 
 void CSkgPropPanel::OnNews(void* user, PanelNews news) {
   lw::guarded([&] {
-    auto* const panel = static_cast<CSkgPropPanel*>(user);
-    if (panel == nullptr || !panel->isOpen_) return;
+    auto* const panel = static_cast<CSkgPropPanel*>(user);  // as it was entered
+    if (!panel->isOpen_) return;
     switch (news) {
       case PanelNews::Refresh:
       case PanelNews::NamesChanged:

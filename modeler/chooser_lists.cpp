@@ -13,13 +13,13 @@ std::size_t indexOf(ChooserList list) { return static_cast<std::size_t>(list); }
 }  // namespace
 
 ChooserTexts weightMapChoices(const ChooserTexts& mapNames) {
-  ChooserTexts texts = {kNone};
+  ChooserTexts texts(1, kNone);
   texts.insert(texts.end(), mapNames.begin(), mapNames.end());
   return texts;
 }
 
 ChooserTexts itemChoices(const ChooserTexts& layerNames, const ChooserTexts& skelegonNames) {
-  ChooserTexts texts = {kNone};
+  ChooserTexts texts(1, kNone);
   for (const std::string& name : layerNames) texts.push_back(kFilePrefix + name);
   texts.insert(texts.end(), skelegonNames.begin(), skelegonNames.end());
   return texts;

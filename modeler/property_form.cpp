@@ -107,11 +107,10 @@ void CPropertyForm::showValues(const skg::SkelegonProperties& properties) {
 }
 
 void CPropertyForm::showText(skg::Slot slot, const std::string& text) {
-  const std::optional<std::size_t> number = controlOf(slot);
-  if (!number) return;
+  const std::size_t number = controlOf(slot).value();
   const CSetting setting(isSetting_);
-  setValue(*number, text);
-  controls_[*number].show(true);  // the host does not redraw a field by itself
+  setValue(number, text);
+  controls_[number].show(true);  // the host does not redraw a field by itself
 }
 
 std::string CPropertyForm::storedText(std::size_t number) const {

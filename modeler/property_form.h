@@ -39,7 +39,7 @@ class CPropertyForm {
 
   // The settings and the name in all value controls; unknown colours show as the orange entry.
   void showValues(const skg::SkelegonProperties& properties);
-  // A setting in its control, which must be in sight.
+  // A setting that has a control, in that control, which must be in sight.
   void showText(skg::Slot slot, const std::string& text);
   // The value of a control as the text that is stored for it.
   std::string storedText(std::size_t number) const;

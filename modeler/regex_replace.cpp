@@ -107,7 +107,7 @@ class CPatternSize {
       if (character == '[' && (left_.front() == ':' || left_.front() == '.' || left_.front() == '=')) {
         const char kind = next();
         const std::size_t end = left_.find(kind);
-        if (end == std::string_view::npos || left_.substr(end, 2) != std::string{kind, ']'}) return false;
+        if (end == std::string_view::npos || left_.substr(end + 1, 1) != "]") return false;
         left_.remove_prefix(end + 2);
       }
     }
@@ -182,7 +182,8 @@ struct Watch {
     steps -= cost;
     if (steps < 0) throw std::regex_error(error::error_complexity);
     const std::uintptr_t now = stackPointer();
-    if ((now < bottom ? bottom - now : now - bottom) > kDeepestMatch) throw std::regex_error(error::error_stack);
+    // Wherever the stack grows to.
+    if (std::max(now, bottom) - std::min(now, bottom) > kDeepestMatch) throw std::regex_error(error::error_stack);
   }
 };
 

@@ -29,7 +29,8 @@ std::string withCounter(const std::string& name, std::string_view mark, const st
 std::string columnText(std::int32_t start, std::uint32_t column) {
   constexpr std::int64_t kLetters = 24;
   const std::int64_t sum = std::int64_t{start} + column;
-  return sum < 0 ? std::string() : std::string(1, static_cast<char>('A' + sum % kLetters));
+  if (sum < 0) return {};
+  return std::string(1, static_cast<char>('A' + sum % kLetters));
 }
 
 std::string rowText(std::int32_t start, std::uint32_t row, std::int32_t digits) {

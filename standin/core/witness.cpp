@@ -33,9 +33,17 @@ void Witness::refuseCall(std::uint64_t n) {
   refusedFunction_.clear();
 }
 
+void Witness::refuseNext(std::string function) {
+  refuseNext_ = std::move(function);
+  refusalHappened_ = false;
+  refusedFunction_.clear();
+}
+
 bool Witness::enter(const char* function) {
   ++calls_;
-  if (refuseAt_ == 0 || calls_ != refuseAt_) return false;
+  const bool isChosen = (refuseAt_ != 0 && calls_ == refuseAt_) || (!refuseNext_.empty() && refuseNext_ == function);
+  if (!isChosen) return false;
+  refuseNext_.clear();
   refusalHappened_ = true;
   refusedFunction_ = function;
   return true;

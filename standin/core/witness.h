@@ -34,6 +34,8 @@ class Witness {
   std::uint64_t calls() const { return calls_; }
   // Lets the n-th host call from now fail once, in the way that call can fail. 0 takes the wish back.
   void refuseCall(std::uint64_t n);
+  // Lets the next call of that host function fail once, in the way that it can fail. An empty name takes the wish back.
+  void refuseNext(std::string function);
   // True when the refusal asked for has happened.
   bool refusalHappened() const { return refusalHappened_; }
   const std::string& refusedFunction() const { return refusedFunction_; }
@@ -62,6 +64,7 @@ class Witness {
   std::vector<Fault> faults_;
   std::uint64_t calls_ = 0;
   std::uint64_t refuseAt_ = 0;
+  std::string refuseNext_;
   bool refusalHappened_ = false;
   std::string refusedFunction_;
   bool measuring_ = false;

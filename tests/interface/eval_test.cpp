@@ -165,6 +165,22 @@ TEST_F(InModeler, ARefusedCommandThrowsWithItsCode) {
   }
 }
 
+TEST_F(InModeler, AnAcceptedCommandIsNoFailure) {
+  EXPECT_FALSE(Eval("Foo 1"));
+  EXPECT_EQ(received, Commands{"Foo 1"});
+}
+
+TEST_F(InModeler, APlainCommandIsForLayoutOnly) {
+  EvalPlain("EnableIK 1");
+  EXPECT_TRUE(received.empty());
+}
+
+TEST_F(InModeler, AQuietCommandIsDroppedWhereNothingTakesIt) {
+  modelerFunctions() = ModelerFunctions();
+  EvalQuiet("Foo 1");
+  EXPECT_TRUE(received.empty());
+}
+
 TEST_F(InModeler, AnEmptyCommandThrows) { EXPECT_THROW(Eval(""), ex::CEvalEx); }
 
 TEST_F(InModeler, ReportsAndStatusTextsShowNothing) {
@@ -198,6 +214,15 @@ TEST(Guarded, KeepsEveryThrowInside) {
   EXPECT_EQ(guarded([]() -> int { throw ex::CBaseEx("x"); }, 7), 7);
   EXPECT_EQ(guarded([]() -> int { throw 5; }, 7), 7);
   EXPECT_EQ(guarded([] { return 3; }, 7), 3);
+}
+
+TEST_F(InModeler, WithoutALookupFunctionNothingIsAcquired) {
+  EXPECT_FALSE(AcquireHostGlobals(Program::Modeler, nullptr, &command));
+  ModelerFunctions functions;
+  AcquireModelerFunctions(functions, nullptr, &command);
+  EXPECT_TRUE(functions.filled);
+  EXPECT_EQ(functions.evaluate, nullptr);
+  EXPECT_EQ(functions.editBegin, nullptr);
 }
 
 TEST_F(InModeler, LoadersLeaveTheirListsAsLongAsTheyAre) {

@@ -56,6 +56,36 @@ TEST_F(EditRecord, LeftOpenIsEndedWithACodeAndDropsItsChanges) {
   EXPECT_EQ(mesh.object->skelegon("Fin"), nullptr);
 }
 
+TEST_F(EditRecord, LeftOpenWithACodeIsEndedWithThatCode) {
+  {
+    lw::CEditRecord record;
+    lw::BeginEditInRecord(record, lw::kEditForTags);
+    record.error = lw::kEditNoMemory;
+  }
+  EXPECT_EQ(onlyEdit().error, lw::kEditNoMemory);
+}
+
+TEST_F(EditRecord, WithoutTheHostsFunctionThereIsNoEdit) {
+  lw::modelerFunctions().editBegin = nullptr;
+  lw::CEditRecord record;
+  EXPECT_EQ(lw::BeginEditInRecord(record, lw::kEditForTags), nullptr);
+  EXPECT_TRUE(mesh.host.edits().empty());
+}
+
+// Filled without Modeler's data, the functions hold a command interface, and the user is told by it.
+TEST_F(EditRecord, AnEditThatDoesNotBeginIsToldWhereThereIsACommandInterface) {
+  static Names told;
+  told.clear();
+  lw::modelerFunctions() = {};
+  lw::modelerFunctions().commandInterface = [](const char* command) {
+    told.emplace_back(command);
+    return 1;
+  };
+  lw::CEditRecord record;
+  EXPECT_EQ(lw::BeginEditInRecord(record, lw::kEditForTags), nullptr);
+  EXPECT_EQ(told, Names{"StatusMsg {1.0} Error in editBegin()!"});
+}
+
 TEST(EditRecordFailures, AFailedScanEndsTheEditWithItsCodeAndNobodyIsTold) {
   const Refused refused = refuseFirst("MeshEditOp::fastPolyScan", [](Mesh& mesh) {
     mesh.host.select({"Hips"});

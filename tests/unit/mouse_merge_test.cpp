@@ -97,6 +97,17 @@ TEST_F(MouseMerge, APressElsewhereInTheOtherWayIsAnother) {
   EXPECT_EQ(steps, "PRP");
 }
 
+TEST_F(MouseMerge, APressAtAnotherHeightInTheOtherWayIsAnother) {
+  hook(kPress);
+  event({10, 21, kLeftDown, 1});
+  EXPECT_EQ(steps, "PP");
+}
+
+TEST_F(MouseMerge, MotionWithAButtonThatWentDownElsewhereIsNothing) {
+  hookMoved(kDragged);
+  EXPECT_EQ(steps, "-");
+}
+
 TEST_F(MouseMerge, APressWithOtherQualifiersInTheOtherWayIsAnother) {
   hook(kPress);
   hook(kRelease);

@@ -21,6 +21,13 @@ class DamagedObject : public testing::TestWithParam<Damage> {};
 
 TEST_P(DamagedObject, IsRefused) { EXPECT_TRUE(isRefused(Reading(GetParam().object))); }
 
+TEST_P(DamagedObject, IsRefusedFromDisk) {
+  const TemporaryFile file(GetParam().object.file());
+  ObjectFileData data = Reading(smallRig()).data;
+  EXPECT_FALSE(ReadObjectFile(data, file.path()));
+  EXPECT_TRUE(isEmpty(data));
+}
+
 TEST_P(DamagedObject, IsRefusedByThePlainReaderToo) {
   EXPECT_FALSE(PlainObjectReader::read(GetParam().object.file()).has_value());
 }

@@ -47,6 +47,8 @@ TEST(Orders, AnOrderThatIsNoneKeepsTheOrder) {
   EXPECT_EQ(ordered({{3, 0, 0}, {1, 0, 0}}, -1), (Names{"0", "1"}));
 }
 
+TEST(Orders, RegistrationHasNoKeyOfItsOwn) { EXPECT_EQ(orderKey(kOrders[0], {3, 4, 5}), 0); }
+
 TEST(Orders, EqualKeysLoseNoRecord) {
   const Names names = ordered({{1, 0, 0}, {1, 5, 0}, {0, 0, 0}, {1, 0, 9}}, 1);
   EXPECT_EQ(names.front(), "2");

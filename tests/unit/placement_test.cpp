@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 #include <numbers>
 #include <random>
 
@@ -110,6 +111,14 @@ TEST(InverseOf, DoesNotExistForFlatAxes) {
   Axes axes = kUnitAxes;
   axes[1] = {0, 0, 0};
   EXPECT_FALSE(inverseOf(axes).has_value());
+}
+
+TEST(InverseOf, DoesNotExistForAxesThatAreNoNumbersOrWithoutEnd) {
+  for (const double bad : {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(), 1e308}) {
+    Axes axes = kUnitAxes;
+    for (std::size_t i = 0; i < 3; ++i) axes[i][i] = bad;
+    EXPECT_FALSE(inverseOf(axes).has_value()) << bad;
+  }
 }
 
 }  // namespace

@@ -360,6 +360,12 @@ TEST(SimpleRuleErrors, APatternOfAnotherModeIsNotLookedAt) {
   EXPECT_EQ(rule.newText("x"), "[x");
 }
 
+// The advanced layout has a rule of its own; this one leaves its texts alone.
+TEST(SimpleRuleErrors, AModeThatIsNotSimpleChangesNothing) {
+  CSimpleRule rule(RenameMode::Advanced, "x", "y");
+  EXPECT_EQ(rule.newText(kArm), kArm);
+}
+
 TEST(SimpleModeSlots, AreEighteenInTheirOrder) {
   std::vector<std::size_t> numbers;
   numbers.reserve(mst::kSimpleModeSlots.size());

@@ -170,6 +170,11 @@ TEST(RenamerLayout, MovesBonePropertyBorderAndButtonUpInSimpleModes) {
   }
 }
 
+TEST(RenamerLayout, TellsPlacesApartByBothCoordinates) {
+  EXPECT_NE((RenamerPosition{1, 2}), (RenamerPosition{3, 2}));
+  EXPECT_NE((RenamerPosition{1, 2}), (RenamerPosition{1, 3}));
+}
+
 TEST(RenamerLayout, PutsWhatIsOutOfSightAt800) { EXPECT_EQ(mst::kOutOfSight, (RenamerPosition{800, 800})); }
 
 }  // namespace

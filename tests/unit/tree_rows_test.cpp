@@ -32,6 +32,10 @@ TEST(SelectorNodes, LayersStandInTheOrderOfTheirNumbers) {
             "[Top]\n [Layer3]:Layer3\n  B\n [Layer11]:Layer11\n  C\n [WMaps]\n");
 }
 
+TEST(SelectorNodes, ALayerWithoutANumberOfItsOwnHasNoName) {
+  EXPECT_EQ(outlineOf({skelegon("A", 1, 2, -1)}, {"Body"}), "[Top]\n [Layer0]:Layer0\n  A\n [WMaps]\n");
+}
+
 TEST(SelectorNodes, WeightMapsStandInByteOrder) {
   EXPECT_EQ(outlineOf({}, {}, {"b10", "B2", "b2", "腰"}), "[Top]\n [WMaps]\n  B2\n  b10\n  b2\n  腰\n");
 }

@@ -1,0 +1,100 @@
+// The walk over the chunks of an object file, for collectors that want only some of them, and files that are odd in themselves.
+#include <gtest/gtest.h>
+
+#if !defined(_WIN32)
+#include <sys/stat.h>
+#endif
+
+#include <fstream>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "layout/CLWOFileStream.h"
+#include "layout/object_reader.h"
+#include "tests/unit/object_reader_fixture.h"
+
+namespace varnel::test {
+namespace {
+
+using lwp::st::CFileStream;
+using lwp::st::CLWOFileStream;
+using lwp::st::ObjectChunks;
+using lwp::st::ObjectFileData;
+using lwp::st::Vec12;
+
+// Takes nothing but what it is told to.
+class Points : public ObjectChunks {
+ public:
+  bool takePoints(CFileStream body) override {
+    points += body.left() / lwp::st::kBytesOfVec12;
+    return isContent;
+  }
+  std::size_t points = 0;
+  bool isContent = true;
+};
+
+bool walk(const ObjectBytes& object, ObjectChunks& chunks) {
+  const std::vector<std::byte> file = object.file();
+  CLWOFileStream stream(file);
+  return stream.enterForm() && stream.readChunks(chunks);
+}
+
+TEST(ObjectChunkWalk, PassesOverWhatACollectorDoesNotAskFor) {
+  Points points;
+  EXPECT_TRUE(walk(smallRig(), points));
+  EXPECT_EQ(points.points, 7U);
+}
+
+TEST(ObjectChunkWalk, EndsWhereACollectorIsNotContent) {
+  Points points;
+  points.isContent = false;
+  EXPECT_FALSE(walk(smallRig(), points));
+  EXPECT_EQ(points.points, 4U);  // those of the first layer
+}
+
+// A form of no bytes at all, and of one to three: there is no room for its type.
+TEST(ObjectForm, WithoutATypeIsNone) {
+  for (unsigned size = 0; size < 4; ++size) {
+    Bytes bytes = Bytes().id("FORM").u4(size);
+    for (unsigned i = 0; i < size; ++i) bytes.u1('L');
+    CLWOFileStream stream(bytes.span());
+    EXPECT_FALSE(stream.enterForm()) << size;
+  }
+}
+
+TEST(ObjectVector, DiffersInEachOfItsCoordinates) {
+  const Vec12 vector{1, 2, 3};
+  EXPECT_EQ(vector, (Vec12{1, 2, 3}));
+  EXPECT_NE(vector, (Vec12{0, 2, 3}));
+  EXPECT_NE(vector, (Vec12{1, 0, 3}));
+  EXPECT_NE(vector, (Vec12{1, 2, 0}));
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Files
+
+// No byte of it is looked at: the reading position could not say where it is.
+TEST(FileStreamLength, BeyondFourGigabytesCountsAsNothing) {
+  const std::byte byte{};
+  EXPECT_TRUE(CFileStream(std::span(&byte, CFileStream::kLongestFile + 1)).atEnd());
+}
+
+#if !defined(_WIN32)
+// A name that is no file but gives bytes once: there is no length to be asked for. Opened for both ways first, so that opening
+// it again does not wait for a writer.
+TEST(FileStreamLength, OfAPipeIsUnknownAndNothingIsRead) {
+  const std::string path = TemporaryFile({}).path() + ".pipe";
+  ASSERT_EQ(mkfifo(path.c_str(), S_IRUSR | S_IWUSR), 0);
+  {
+    const std::fstream keepsItOpen(path, std::ios::in | std::ios::out | std::ios::binary);
+    ObjectFileData data;
+    EXPECT_FALSE(lwp::st::ReadObjectFile(data, path));
+    EXPECT_TRUE(isEmpty(data));
+  }
+  std::filesystem::remove(path);
+}
+#endif
+
+}  // namespace
+}  // namespace varnel::test
