@@ -1,9 +1,14 @@
 // The manual says everything that the program says, in both languages: labels, choices, messages, services.
 #include <gtest/gtest.h>
 
+#include <cctype>
+#include <random>
 #include <set>
 
 #include "host/texts/texts.h"
+#include "standin/core/program_folder.h"
+#include "standin/objectfile/file_bytes.h"
+#include "standin/validate/child_process.h"
 #include "tests/unit/documents.h"
 
 namespace varnel::test {
@@ -200,6 +205,11 @@ std::vector<CommandOption> commandOptions() {
   return found;
 }
 
+bool explains(const std::string& section, const std::string& option) {
+  return contains(section, "`" + option + "`") || contains(section, "`" + option + " ");
+}
+
+// The sources know the options of both systems; the help those that are added by functions for several commands too.
 TEST(Manual, ExplainsEveryCommandAndOptionOfTheProgram) {
   const std::vector<CommandOption> options = commandOptions();
   EXPECT_GT(options.size(), 30u);  // the search works
@@ -207,9 +217,64 @@ TEST(Manual, ExplainsEveryCommandAndOptionOfTheProgram) {
     const std::string text = page(edition, "tools.md");
     for (const auto& [command, option] : options) {
       const std::string section = sectionOf(text, command);
-      const bool isThere =
-          option.empty() ? !section.empty() : contains(section, "`" + option + "`") || contains(section, "`" + option + " ");
-      EXPECT_TRUE(isThere) << edition.folder << ": " << command << " " << option;
+      EXPECT_TRUE(option.empty() ? !section.empty() : explains(section, option))
+          << edition.folder << ": " << command << " " << option;
+    }
+  }
+}
+
+// What the built program prints for "--help-all".
+std::string helpOfTheProgram() {
+  const fs::path program = standin::pathFromUtf8(standin::programFolder()).parent_path() / VARNEL_PROGRAM;
+  const fs::path printed = fs::temp_directory_path() / ("varnel-help-" + std::to_string(std::random_device()()));
+  const auto utf8 = [](const fs::path& path) {
+    const std::u8string text = path.u8string();
+    return std::string(text.begin(), text.end());
+  };
+  std::string help;
+  {
+    standin::validate::ChildProcess process(utf8(program), {"--help-all"}, utf8(printed));
+    if (process.why().empty() && process.wait(60'000)) help = textOf(printed);
+  }
+  std::error_code ignored;
+  fs::remove(printed, ignored);
+  return help;
+}
+
+// Commands with their options and positionals, as the help lists them: a command stands at the beginning of a line, what it takes
+// four places in. What stands before the commands is for all of them, and is listed two places in.
+std::vector<CommandOption> optionsInHelp(const std::string& help) {
+  std::vector<CommandOption> found;
+  std::string command;
+  bool areCommands = false;
+  for (const std::string& line : linesOf(help)) {
+    const std::size_t indent = std::min(line.find_first_not_of(' '), line.size());
+    const std::string word = line.substr(indent, line.find_first_of(" \r", indent) - indent);
+    if (indent == 0) {
+      if (areCommands && !word.empty()) {
+        command = word;
+        found.push_back({command, {}});
+      }
+      areCommands = areCommands || word == "Subcommands:";
+    } else if (indent == (areCommands ? 4U : 2U)) {
+      for (std::string names = word + ','; !names.empty(); names.erase(0, names.find(',') + 1)) {
+        found.push_back({command, names.substr(0, names.find(','))});
+      }
+    }
+  }
+  return found;
+}
+
+TEST(Manual, ExplainsWhatTheProgramsOwnHelpLists) {
+  const std::vector<CommandOption> options = optionsInHelp(helpOfTheProgram());
+  EXPECT_GT(options.size(), 50u);  // the program ran, and its help was understood
+  for (const Edition& edition : kEditions) {
+    const std::string text = page(edition, "tools.md");
+    const std::string head = text.substr(0, text.find("\n## "));
+    for (const auto& [command, option] : options) {
+      const std::string section = command.empty() ? head : sectionOf(text, command);
+      EXPECT_TRUE(option.empty() ? !section.empty() : explains(section, option))
+          << edition.folder << ": " << command << " " << option;
     }
   }
 }
@@ -280,6 +345,44 @@ TEST(Manual, LinksToPagesThatAreThere) {
       }
     }
   }
+}
+
+// The name under which a heading is linked to: small letters, "-" for blanks, other marks of ASCII left out.
+std::string anchorOf(const std::string& heading) {
+  std::string anchor;
+  for (const char c : heading.substr(heading.find(' ') + 1)) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (c == ' ') anchor += '-';
+    if (byte >= 0x80 || std::isalnum(byte) != 0 || c == '-' || c == '_') anchor += static_cast<char>(std::tolower(byte));
+  }
+  return anchor;
+}
+
+std::set<std::string> anchorsOf(const std::string& page) {
+  std::set<std::string> anchors;
+  for (const std::string& line : linesOf(page)) {
+    if (line.starts_with('#')) anchors.insert(anchorOf(line));
+  }
+  return anchors;
+}
+
+TEST(Manual, LinksToHeadingsThatAreThere) {
+  std::size_t links = 0;
+  for (const Edition& edition : kEditions) {
+    for (const std::string& name : filesIn(folderOf(edition), ".md")) {
+      const std::string text = page(edition, name.c_str());
+      for (std::size_t at = text.find("]("); at != std::string::npos; at = text.find("](", at + 2)) {
+        const std::string target = text.substr(at + 2, text.find(')', at) - at - 2);
+        const std::size_t mark = target.find('#');
+        if (mark == std::string::npos) continue;
+        const std::string on = mark == 0 ? name : target.substr(0, mark);
+        EXPECT_EQ(anchorsOf(page(edition, on.c_str())).count(target.substr(mark + 1)), 1u)
+            << edition.folder << "/" << name << " links to " << target;
+        ++links;
+      }
+    }
+  }
+  EXPECT_GT(links, 10u);  // the search works
 }
 
 TEST(Manual, ShowsPicturesThatAreThere) {
