@@ -1,29 +1,25 @@
-// What a conversion costs for each bone: time in the module (the host's own time is not counted) and calls into the host.
-#include <benchmark/benchmark.h>
-
-#include <cstdio>
+// What a conversion costs in Layout: reading the object, making its nulls, and the commands for each bone.
+#include <cstdlib>
 #include <filesystem>
-#include <map>
 #include <string>
 
-#include "standin/core/program_folder.h"
-#include "standin/core/witness.h"
+#include "benchmarks/loaded_module.h"
+#include "benchmarks/module_cost.h"
+#include "standin/core/tool_names.h"
 #include "standin/layout/layout_host.h"
 #include "standin/objectfile/rig_builder.h"
-#include "standin/panels/person.h"
 
 namespace {
 
 using namespace standin;
-
-constexpr int kSizes[] = {10, 100, 1000, 5000};
+using namespace varnel::bench;
 
 // One chain; every bone has settings of its own, a target and a goal of its own, and both have parents.
-std::string writeRig(int bones) {
+ObjectFile rigOf(std::size_t bones) {
   RigBuilder rig;
   rig.layer(0, "");
   RigBuilder::Skelegon last;
-  for (int i = 0; i < bones; ++i) {
+  for (std::size_t i = 0; i < bones; ++i) {
     const std::string name = "Bone" + std::to_string(i);
     const auto end = static_cast<float>(i + 1);
     last = i == 0 ? rig.root(name, {0, 0, 0}, {0, end, 0}) : rig.child(last, name, {0, end, 0});
@@ -39,63 +35,53 @@ std::string writeRig(int bones) {
       rig.tag(last, settingTag(slot), text);
     }
   }
-  const std::string path =
-      (std::filesystem::temp_directory_path() / ("varnel-bench-" + std::to_string(bones) + ".lwo")).string();
-  if (writeObject(rig.take(), path)) std::abort();
-  return path;
+  return rig.take();
 }
 
-struct Cost {
-  double nanoseconds = 0;  // of the module, for each bone; the best of all iterations
-  double calls = 0;
+struct Converted {
+  std::size_t bones;
+  std::size_t commands = 0;
 };
-std::map<int, Cost> costs;
 
-void convert(benchmark::State& state) {
-  const int bones = static_cast<int>(state.range(0));
-  const std::string path = writeRig(bones);
-  for (auto unused : state) {
-    (void)unused;
-    LayoutHost host;
-    ModuleFile module;
-    if (!module.load(modulePath()).empty()) {
-      state.SkipWithError("the module cannot be loaded");
-      return;
-    }
-    host.select(host.loadObject(path));
-    host.activate(module, "Orlo:SkelegonOptimize");
-    Panel* const panel = panels().find("Orlo:SkelegonOptimize");
-    host.state().transcript.record(false);
-    const std::uint64_t callsBefore = witness().calls();
-    const auto timeBefore = witness().moduleTime();
-    witness().measure(true);
-    if (!person::press(panel->find(ControlKind::Button, 0))) state.SkipWithError("the button cannot be pressed");
-    witness().measure(false);
-    const std::chrono::duration<double> spent = witness().moduleTime() - timeBefore;
-    state.SetIterationTime(spent.count());
-    Cost& cost = costs[bones];
-    const double each = spent.count() * 1e9 / bones;
-    cost.nanoseconds = cost.nanoseconds == 0 ? each : std::min(cost.nanoseconds, each);
-    cost.calls = static_cast<double>(witness().calls() - callsBefore) / bones;
-    if (host.scene().objects().size() != static_cast<std::size_t>(2 * bones + 1))
-      state.SkipWithError("not everything was converted");
-    panels().moduleUnloaded();
-  }
-  std::filesystem::remove(path);
+void run(const std::string& path, CostTable& costs, Converted& converted) {
+  LayoutHost host;
+  LoadedModule module;
+  host.select(host.loadObject(path));
+  host.activate(module, kConversionTool);
+  const Panel& panel = opened(kConversionTool);
+  host.state().transcript.record(false);
+  costs.measure("convert", converted.bones, [&] { must(person::press(panel.find(ControlKind::Button, 0))); });
+  converted.commands = host.state().transcript.commandCount();
+  if (host.scene().objects().size() != 2 * converted.bones + 1) must({false, "not everything was converted"});
 }
-BENCHMARK(convert)->Arg(10)->Arg(100)->Arg(1000)->Arg(5000)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  std::printf("\nconversion, for each bone (8 settings, 2 nulls)\n%10s %16s %12s\n", "bones", "module time", "host calls");
-  for (const int size : kSizes)
-    std::printf("%10d %13.2f us %12.1f\n", size, costs[size].nanoseconds / 1000, costs[size].calls);
-  if (costs[100].nanoseconds > 0) {
-    std::printf("5,000 bones against 100: %.2f times the cost of a bone (wanted: at most 1.5)\n",
-                costs[5000].nanoseconds / costs[100].nanoseconds);
+int main() {
+  const std::string path = (std::filesystem::temp_directory_path() / "varnel-bench.lwo").string();
+  CostTable costs;
+  std::vector<Converted> conversions;
+  for (const std::size_t size : kSizes) {
+    if (writeObject(rigOf(size), path)) must({false, "the rig cannot be written"});
+    conversions.push_back({size});
+    for (int repetition = 0; repetition < kRepetitions; ++repetition) run(path, costs, conversions.back());
   }
+  std::filesystem::remove(path);
+
+  std::puts("### Conversion\n");
+  std::puts("A chain of skelegons with 8 settings each, of which a target and a goal become two nulls with parents.\n");
+  costs.print();
+  std::puts("\nFor each bone:\n");
+  std::puts("| bones | commands | of a bone | time of a bone, µs | host calls of a bone |\n|---:|---:|---:|---:|---:|");
+  const auto ofABone = [&](std::size_t bones, auto value) {
+    return static_cast<double>(costs.at("convert", bones).*value) / static_cast<double>(bones);
+  };
+  for (const Converted& each : conversions) {
+    std::printf("| %zu | %zu | %.1f | %.2f | %.1f |\n", each.bones, each.commands,
+                static_cast<double>(each.commands) / static_cast<double>(each.bones),
+                ofABone(each.bones, &ModuleCost::microseconds), ofABone(each.bones, &ModuleCost::calls));
+  }
+  std::printf("\nA bone of 5,000 costs %.2f times what a bone of 100 does (wanted: at most 1.5).\n",
+              ofABone(5000, &ModuleCost::microseconds) / ofABone(100, &ModuleCost::microseconds));
   return 0;
 }

@@ -1,52 +1,56 @@
-// What the property panel costs in Modeler: opening it, one change of a setting, and a reload. Time in the module (the host's own
-// time is not counted) and calls into the host.
+// What the property panel costs in Modeler: opening it, one change of a setting, a reload; with all skelegons selected one change
+// again, and the button that fills the weight maps in by name.
 #include <cstdio>
-#include <cstdlib>
+#include <string>
 
+#include "benchmarks/loaded_module.h"
 #include "benchmarks/module_cost.h"
-#include "standin/core/program_folder.h"
-#include "standin/core/witness.h"
+#include "standin/core/tool_names.h"
 #include "standin/modeler/modeler_host.h"
 #include "standin/objectfile/sample_rigs.h"
-#include "standin/panels/person.h"
 
 namespace {
 
 using namespace standin;
-using namespace varnel::bench;
 
-constexpr std::size_t kSizes[] = {10, 100, 1000, 5000};
-constexpr int kRepetitions = 5;
+constexpr const char* kFillButton = "\x03(i:MIMG_LEFTARROW)";
+
+// A weight map for every skelegon, under its name.
+ObjectFile rigOf(std::size_t skelegons) {
+  ObjectFile rig = makeChainRig(skelegons, 20);
+  for (std::size_t i = 0; i < skelegons; ++i) {
+    rig.layers.front().maps.push_back({.name = "Bone" + std::to_string(i), .points = {0}, .values = {1}});
+  }
+  return rig;
+}
 
 }  // namespace
 
 int main() {
-  std::printf("property panel, one skelegon selected: module time in us and host calls\n");
-  std::printf("%10s %14s %9s %14s %9s %14s %9s\n", "skelegons", "open", "calls", "change", "calls", "reload", "calls");
+  using namespace varnel::bench;
+  CostTable costs;
   for (const std::size_t size : kSizes) {
-    ModuleCost open;
-    ModuleCost change;
-    ModuleCost reload;
     for (int repetition = 0; repetition < kRepetitions; ++repetition) {
       ModelerHost host;
-      host.add(makeChainRig(size, 20), "rig.lwo");
+      host.add(rigOf(size), "rig.lwo");
       host.selectPolygons({host.current()->skelegons().front()});
-      ModuleFile module;
-      if (const std::string why = module.load(modulePath()); !why.empty()) must({false, why});
-      measure(open, [&] { host.activate(module, "Orlo:SkelegonProperty"); });
-      Panel* const panel = panels().find("Orlo:SkelegonProperty");
-      if (panel == nullptr) must({false, "the panel did not open"});
-      must(person::choose(panel->find(ControlKind::TabChoice, 0), 1));
-      measure(change, [&] { must(person::enter(panel->find(ControlKind::Percent, 0), 40 + repetition)); });
-      measure(reload, [&] { must(person::press(panel->find("Sync"))); });
-      panels().moduleUnloaded();
-      module.unload();
-      if (!witness().faults().empty()) must({false, witness().report()});
+      LoadedModule module;
+      costs.measure("open", size, [&] { host.activate(module, kPropertyTool); });
+      const Panel& panel = opened(kPropertyTool);
+      must(person::choose(panel.find(ControlKind::TabChoice, 0), 1));
+      costs.measure("change", size, [&] { must(person::enter(panel.find(ControlKind::Percent, 0), 40 + repetition)); });
+      costs.measure("reload", size, [&] { must(person::press(panel.find("Sync"))); });
+      host.selectPolygons(host.current()->skelegons());
+      must(person::press(panel.find("Sync")));
+      costs.measure("change, all selected", size,
+                    [&] { must(person::enter(panel.find(ControlKind::Percent, 0), 60 + repetition)); });
+      costs.measure("weight maps by name", size, [&] { must(person::press(panel.find(kFillButton))); });
     }
-    std::printf("%10zu %14.1f %9llu %14.1f %9llu %14.1f %9llu\n", size, open.microseconds,
-                static_cast<unsigned long long>(open.calls), change.microseconds,
-                static_cast<unsigned long long>(change.calls), reload.microseconds,
-                static_cast<unsigned long long>(reload.calls));
   }
+  std::puts("### Property panel\n");
+  std::puts(
+      "A chain of skelegons with 20 settings each and a weight map of its name for each. One skelegon is selected, or all;");
+  std::puts("one percentage is changed, or the maps are filled in by name.\n");
+  costs.print();
   return 0;
 }

@@ -93,9 +93,6 @@ int main(int argc, char** argv) {
   const std::string rigPath = folder.write("rig.lwo", rig);
   requireSameFaces(meshPath);
   requireAllTags(readFile(rigPath));
-  std::printf("mesh: %.1f MB of points and faces; rig: %.1f MB, %u skelegons with %u settings each\n",
-              static_cast<double>(mesh.size()) / 1e6, static_cast<double>(rig.size()) / 1e6, kSkelegons, kSettings);
-
   add("mesh/copy", [&] { return copy(mesh); });
   add("mesh/parse", [&] { return parse(mesh); });
   add("mesh/read", [&] { return readFile(meshPath); });
@@ -107,9 +104,17 @@ int main(int argc, char** argv) {
 
   KeepingReporter times;
   benchmark::RunSpecifiedBenchmarks(&times);
+  std::puts("### Object reader\n");
+  std::printf("A mesh of %.1f MB, points and triangles, and a rig of %.1f MB, %u skelegons with %u settings each.\n",
+              static_cast<double>(mesh.size()) / 1e6, static_cast<double>(rig.size()) / 1e6, kSkelegons, kSettings);
+  std::puts(
+      "Processor time, the system's for the program included. The ratio says how many times faster the reader is than");
+  std::puts("assimp, or which share of the speed of a memcpy into fresh memory it has.\n");
   printRatios(times, {{"mesh parsed in memory, beside assimp doing the same", "mesh/parse", "mesh/assimp/parse", 12},
                       {"mesh read from disk, beside assimp doing the same", "mesh/read", "mesh/assimp/read", 12},
-                      {"mesh parsed in memory, beside a copy of its bytes", "mesh/parse", "mesh/copy", 0.7},
-                      {"rig parsed in memory, beside a copy of its bytes", "rig/parse", "rig/copy", 0.3}});
+                      {"mesh parsed in memory, beside a memcpy of its bytes", "mesh/parse", "mesh/copy", 0.7},
+                      {"mesh read from disk, beside a memcpy of its bytes", "mesh/read", "mesh/copy"},
+                      {"rig parsed in memory, beside a memcpy of its bytes", "rig/parse", "rig/copy", 0.3},
+                      {"rig read from disk, beside a memcpy of its bytes", "rig/read", "rig/copy"}});
   return 0;
 }

@@ -1,26 +1,18 @@
 // What the selector costs in Modeler: opening it (scan and layout), a new scan, a click that selects one row, one that selects
-// all, and one that expands or collapses. Time in the module (the host's own time is not counted) and calls into the host.
-#include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <functional>
-
+// all, and one that expands or collapses.
+#include "benchmarks/loaded_module.h"
 #include "benchmarks/module_cost.h"
-#include "standin/core/program_folder.h"
-#include "standin/core/witness.h"
+#include "standin/core/tool_names.h"
 #include "standin/modeler/modeler_host.h"
 #include "standin/objectfile/rig_builder.h"
-#include "standin/panels/person.h"
 
 namespace {
 
 using namespace standin;
 using namespace varnel::bench;
 
-constexpr const char* kTool = "Orlo:SkelegonSelector";
-constexpr std::size_t kSizes[] = {10, 100, 1000, 10000};
 constexpr std::size_t kChain = 20;
-constexpr int kRepetitions = 5;
+constexpr std::size_t kLargest = 10'000;
 
 // Skelegons in chains of twenty.
 ObjectFile rigOf(std::size_t skelegons) {
@@ -34,49 +26,31 @@ ObjectFile rigOf(std::size_t skelegons) {
   return rig.take();
 }
 
-struct Costs {
-  ModuleCost open;
-  ModuleCost sync;
-  ModuleCost clickOne;
-  ModuleCost clickAll;
-  ModuleCost expand;
-};
-
-void measureOnce(std::size_t size, Costs& costs) {
+void run(std::size_t size, CostTable& costs) {
   ModelerHost host;
   host.add(rigOf(size), "rig.lwo");
-  ModuleFile module;
-  if (const std::string why = module.load(modulePath()); !why.empty()) must({false, why});
-  measure(costs.open, [&] { host.activate(module, kTool); });
-  Panel* const panel = panels().find(kTool);
-  if (panel == nullptr) must({false, "the panel did not open"});
-  Control* const tree = panel->find(ControlKind::OpenGL);
-  measure(costs.sync, [&] { must(person::press(panel->find("Sync"))); });
-  measure(costs.clickOne, [&] { must(person::click(tree, 200, 35)); });
-  measure(costs.clickAll, [&] { must(person::click(tree, 200, 7, MouseButton::Left, lw::kMouseAlt)); });
-  measure(costs.expand, [&] { must(person::click(tree, 24, 35)); });
-  panels().moduleUnloaded();
-  module.unload();
-  if (!witness().faults().empty()) must({false, witness().report()});
-}
-
-void print(const ModuleCost& cost) {
-  std::printf(" %10.1f %7llu", cost.microseconds, static_cast<unsigned long long>(cost.calls));
+  LoadedModule module;
+  costs.measure("open", size, [&] { host.activate(module, kSelectorTool); });
+  const Panel& panel = opened(kSelectorTool);
+  Control* const tree = panel.find(ControlKind::OpenGL);
+  costs.measure("reload", size, [&] { must(person::press(panel.find("Sync"))); });
+  costs.measure("click, one row", size, [&] { must(person::click(tree, 200, 35)); });
+  costs.measure("click, all rows", size, [&] { must(person::click(tree, 200, 7, MouseButton::Left, lw::kMouseAlt)); });
+  costs.measure("collapse", size, [&] { must(person::click(tree, 24, 35)); });
 }
 
 }  // namespace
 
 int main() {
-  std::printf("selector: module time in us and host calls\n%9s", "skelegons");
-  for (const char* const what : {"open", "sync", "select 1", "select all", "expand"})
-    std::printf(" %10s %7s", what, "calls");
-  std::printf("\n");
-  for (const std::size_t size : kSizes) {
-    Costs costs;
-    for (int repetition = 0; repetition < kRepetitions; ++repetition) measureOnce(size, costs);
-    std::printf("%9zu", size);
-    for (const ModuleCost* cost : {&costs.open, &costs.sync, &costs.clickOne, &costs.clickAll, &costs.expand}) print(*cost);
-    std::printf("\n");
+  std::vector<std::size_t> sizes(std::begin(kSizes), std::end(kSizes));
+  sizes.push_back(kLargest);
+  CostTable costs;
+  for (const std::size_t size : sizes) {
+    for (int repetition = 0; repetition < kRepetitions; ++repetition) run(size, costs);
   }
+  std::puts("### Selector\n");
+  std::puts("Skelegons in chains of twenty. A click that selects sends the selection to Modeler: one scan of its");
+  std::puts("polygons.\n");
+  costs.print();
   return 0;
 }

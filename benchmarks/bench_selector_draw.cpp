@@ -1,10 +1,10 @@
 // What one redraw of the selector's tree asks of OpenGL, and the time that the drawing itself takes, by the number of rows. OpenGL
 // is a counter here, so that only the module's own work is measured.
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <string>
 
+#include "benchmarks/module_cost.h"
 #include "modeler/tree_drawing.h"
 #include "tests/unit/tree_fixture.h"
 
@@ -60,25 +60,15 @@ GlCalls countingCalls() {
   return gl;
 }
 
-struct Cost {
-  double microseconds = 0;
-  int calls = 0;
-};
-
-Cost costOf(mst::CTreeDrawing& drawing, const mst::TreePicture& picture) {
-  constexpr int kRepetitions = 200;
-  using Clock = std::chrono::steady_clock;
-  drawing.draw(picture);
-  Cost cost;
-  for (int i = 0; i < kRepetitions; ++i) {
+void measureRedraw(varnel::bench::ModuleCost& cost, mst::CTreeDrawing& drawing, const mst::TreePicture& picture) {
+  constexpr int kRedraws = 200;
+  const auto redraw = [&] { standin::callModule("draw", [&] { drawing.draw(picture); }); };
+  redraw();
+  for (int i = 0; i < kRedraws; ++i) {
     calls = 0;
-    const Clock::time_point start = Clock::now();
-    drawing.draw(picture);
-    const double spent = std::chrono::duration<double, std::micro>(Clock::now() - start).count();
-    cost.microseconds = i == 0 ? spent : std::min(cost.microseconds, spent);
+    varnel::bench::measure(cost, redraw);
+    cost.calls = static_cast<std::uint64_t>(calls);
   }
-  cost.calls = calls;
-  return cost;
 }
 
 }  // namespace
@@ -87,22 +77,21 @@ int main() {
   constexpr int kWidth = 340;
   constexpr int kHeight = 240;
   const GlCalls gl = countingCalls();
-  std::printf("one redraw of the selector's tree in a view of %d by %d: OpenGL calls, and time of the drawing in us\n",
-              kWidth, kHeight);
-  std::printf("%10s %12s %10s %12s %10s %12s %10s\n", "rows", "at the top", "calls", "at the end", "calls", "long names",
-              "calls");
-  for (const std::size_t size : {10U, 100U, 1000U, 10'000U}) {
+  varnel::bench::CostTable costs;
+  for (const std::size_t size : {10U, 100U, 1000U, 5000U, 10'000U}) {
     mst::CTreeDrawing drawing(&gl);
     mst::TestTree tree = mst::mixedTree(size);
     mst::TreePicture picture = tree.picture(kWidth, kHeight);
-    const Cost top = costOf(drawing, picture);
+    measureRedraw(costs.at("redraw at the top", size), drawing, picture);
     picture.scrollY =
         std::max(0.0, static_cast<double>(picture.rows.size()) * mst::kRowHeight - kHeight + mst::kScrollBarSize);
-    const Cost end = costOf(drawing, picture);
+    measureRedraw(costs.at("redraw at the end", size), drawing, picture);
     for (auto& node : tree.nodes) node.text = std::string(1000, 'x');
-    const Cost longNames = costOf(drawing, picture);
-    std::printf("%10zu %12.1f %10d %12.1f %10d %12.1f %10d\n", picture.rows.size(), top.microseconds, top.calls,
-                end.microseconds, end.calls, longNames.microseconds, longNames.calls);
+    measureRedraw(costs.at("with names of 1,000 letters", size), drawing, picture);
   }
+  std::puts("### Redraw of the selector\n");
+  std::printf("A view of %d by %d; only the rows in view are drawn, so the cost hardly depends on their number.\n\n", kWidth,
+              kHeight);
+  costs.print("rows", "OpenGL calls");
   return 0;
 }

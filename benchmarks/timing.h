@@ -5,8 +5,9 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
+#include <ctime>
+#include <iostream>
 #include <map>
 #include <string>
 #include <utility>
@@ -26,18 +27,18 @@ inline void forgetUsedMemory() {
 #endif
 }
 
-// Measures 'action' in each iteration. What it returns is kept until the time was taken, then thrown away.
+// Measures 'action' in each iteration: the processor's time, of the program and of the system for it, so that other work on the
+// machine counts less. What it returns is kept until the time was taken, then thrown away.
 template <class Action>
 void measure(benchmark::State& state, Action action) {
-  using Clock = std::chrono::steady_clock;
   for (auto iteration : state) {
     static_cast<void>(iteration);
     forgetUsedMemory();
-    const Clock::time_point start = Clock::now();
+    const std::clock_t start = std::clock();
     auto result = action();
-    const Clock::time_point end = Clock::now();
+    const std::clock_t end = std::clock();
     benchmark::DoNotOptimize(result);
-    state.SetIterationTime(std::chrono::duration<double>(end - start).count());
+    state.SetIterationTime(static_cast<double>(end - start) / CLOCKS_PER_SEC);
   }
 }
 
@@ -55,7 +56,11 @@ benchmark::internal::Benchmark* add(const std::string& name, Action action) {
 // Shows what was measured as usual, and keeps the times.
 class KeepingReporter : public benchmark::ConsoleReporter {
  public:
-  KeepingReporter() : ConsoleReporter(OO_Tabular) {}
+  // On the error stream, so that the tables stand alone on the other.
+  KeepingReporter() : ConsoleReporter(OO_Tabular) {
+    SetOutputStream(&std::cerr);
+    SetErrorStream(&std::cerr);
+  }
 
   void ReportRuns(const std::vector<Run>& runs) override {
     std::vector<Run> shown;
@@ -87,16 +92,17 @@ struct Ratio {
   const char* what;
   const char* measured;
   const char* comparedWith;
-  double wanted;
+  double wanted = 0;  // 0: nothing in particular
 };
 
 inline void printRatios(const KeepingReporter& times, const std::vector<Ratio>& ratios) {
-  std::printf("\n%-52s %10s %12s %8s %8s\n", "", "ms", "compared ms", "ratio", "wanted");
+  std::puts("| | ms | compared with, ms | ratio | wanted |\n|---|---:|---:|---:|---:|");
   for (const Ratio& ratio : ratios) {
     const double measured = times.milliseconds(ratio.measured);
     const double compared = times.milliseconds(ratio.comparedWith);
     if (measured == 0 || compared == 0) continue;
-    std::printf("%-52s %10.2f %12.2f %8.2f %8.2f\n", ratio.what, measured, compared, compared / measured, ratio.wanted);
+    std::printf("| %s | %.1f | %.1f | %.2f |", ratio.what, measured, compared, compared / measured);
+    ratio.wanted > 0 ? std::printf(" %g |\n", ratio.wanted) : std::printf(" |\n");
   }
 }
 

@@ -18,5 +18,8 @@ std::uint64_t allocations();
 // What it has taken and not given back.
 std::int64_t liveBytes();
 std::int64_t liveBlocks();
+// The most bytes that it had at once since watchPeak was called.
+void watchPeak();
+std::int64_t peakBytes();
 
 }  // namespace standin::validate::memory

@@ -1,4 +1,5 @@
 // The program's own operator new, which the module uses as well: the dynamic linker finds the program's first.
+#include <algorithm>
 #include <cstddef>
 #include <cstdlib>
 #include <new>
@@ -13,6 +14,7 @@ std::uint64_t refuseAt = 0;
 bool refused = false;
 std::int64_t bytes = 0;
 std::int64_t blocks = 0;
+std::int64_t peak = 0;
 
 // Stands before each block, and says whether the module took it.
 struct alignas(std::max_align_t) BlockHeader {
@@ -32,6 +34,7 @@ void* take(std::size_t size) noexcept {
   auto* const header = new (memory) BlockHeader{size, isModules};
   if (isModules) {
     bytes += static_cast<std::int64_t>(size);
+    peak = std::max(peak, bytes);
     ++blocks;
   }
   return header + 1;
@@ -79,5 +82,7 @@ bool refusalHappened() { return refused; }
 std::uint64_t allocations() { return count; }
 std::int64_t liveBytes() { return bytes; }
 std::int64_t liveBlocks() { return blocks; }
+void watchPeak() { peak = bytes; }
+std::int64_t peakBytes() { return peak; }
 
 }  // namespace standin::validate::memory

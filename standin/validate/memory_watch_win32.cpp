@@ -8,5 +8,7 @@ bool refusalHappened() { return false; }
 std::uint64_t allocations() { return 0; }
 std::int64_t liveBytes() { return 0; }
 std::int64_t liveBlocks() { return 0; }
+void watchPeak() {}
+std::int64_t peakBytes() { return 0; }
 
 }  // namespace standin::validate::memory
