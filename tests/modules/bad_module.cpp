@@ -43,8 +43,10 @@ struct BadControl {
 };
 
 std::unordered_map<lw::LWControl*, BadControl> controls;
-std::vector<lw::LWControl*> newControls;  // of the activation that runs
+std::unordered_map<lw::PanelId, std::vector<lw::LWControl*>> controlsOf;
+lw::PanelId newPanel = nullptr;  // of the activation that runs
 lw::LWControl* (*realAddControl)(lw::PanelId, const char*, lw::LWPanControlDesc*, const char*) = nullptr;
+void (*realDestroy)(lw::PanelId) = nullptr;
 lw::GlobalFunc realLookup = nullptr;
 lw::EditBeginFunc beginEdit = nullptr;
 int events = 0;
@@ -145,9 +147,17 @@ lw::LWControl* badAddControl(lw::PanelId panel, const char* kind, lw::LWPanContr
   lw::LWControl* const control = realAddControl(panel, kind, description, label);
   if (control != nullptr) {
     controls[control] = {kind, nullptr};
-    newControls.push_back(control);
+    controlsOf[panel].push_back(control);
+    newPanel = panel;
   }
   return control;
+}
+
+// A tool takes down its former panel, and one that could not be built.
+void badDestroy(lw::PanelId panel) {
+  for (lw::LWControl* control : controlsOf[panel]) controls.erase(control);
+  controlsOf.erase(panel);
+  realDestroy(panel);
 }
 
 void setInteger(lw::LWControl* control, int attribute, int number) {
@@ -189,12 +199,15 @@ int activateBadly(lw::ActivateFunc real, int wanted, int version, lw::GlobalFunc
   auto* const services = static_cast<lw::LWPanelFuncs*>(global("LWPanelServices 3", lw::kUseTransient));
   if (services == nullptr) return real(version, &badLookup, local, serverData);
   realAddControl = services->addControl;
+  realDestroy = services->destroy;
   services->addControl = &badAddControl;
-  newControls.clear();
+  services->destroy = &badDestroy;
+  newPanel = nullptr;
   const int answer = real(version, &badLookup, local, serverData);
   services->addControl = realAddControl;
+  services->destroy = realDestroy;
   services->globalFun = global;
-  for (lw::LWControl* control : newControls) wrap(control, controls[control]);
+  for (lw::LWControl* control : controlsOf[newPanel]) wrap(control, controls[control]);
   if (has(BadFault::LeaksPanels)) services->create("left behind", services);
   return answer;
 }
@@ -211,7 +224,7 @@ int activateProperty(int version, lw::GlobalFunc global, void* local, void* serv
 int activateOptimize(int version, lw::GlobalFunc global, void* local, void* serverData) {
   const int answer = activateBadly(&varnel::ActivateOptimize, lw::kLayoutGenericVersion, version, global, local, serverData);
   if (has(BadFault::OverlapsControls)) {
-    for (lw::LWControl* control : newControls) {
+    for (lw::LWControl* control : controlsOf[newPanel]) {
       if (controls[control].kind == "BoolControl") setInteger(control, lw::kControlY, 10);
     }
   }
