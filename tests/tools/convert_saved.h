@@ -18,8 +18,8 @@ inline void convertSaved(standin::LayoutHost& host, const std::string& path) {
   ASSERT_EQ(module.load(standin::modulePath()), "");
   host.select(host.loadObject(path));
   ASSERT_EQ(host.activate(module, standin::kConversionTool), 0);
-  EXPECT_TRUE(standin::person::press(
-      standin::panels().find(standin::kConversionTool)->find(standin::ControlKind::Button, 0)));
+  EXPECT_TRUE(
+      standin::person::press(standin::panels().find(standin::kConversionTool)->find(standin::ControlKind::Button, 0)));
   standin::panels().moduleUnloaded();
   module.unload();
   EXPECT_EQ(standin::witness().report(), "");

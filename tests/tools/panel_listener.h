@@ -10,8 +10,7 @@ namespace varnel::test {
 class PanelListener {
  public:
   PanelListener() {
-    mst::enterPanel(this,
-                    [](void* self, mst::PanelNews news) { static_cast<PanelListener*>(self)->heard.push_back(news); });
+    mst::enterPanel(this, [](void* self, mst::PanelNews news) { static_cast<PanelListener*>(self)->heard.push_back(news); });
   }
   ~PanelListener() { mst::removePanel(this); }
   PanelListener(const PanelListener&) = delete;
