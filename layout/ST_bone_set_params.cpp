@@ -203,10 +203,10 @@ bool BoneRun::sendAxis(std::size_t index) {
   if (wanted != ((limits & row.limitBit) != 0)) {
     if (EvalF("Limit%s", row.axis)) {
       limits ^= row.limitBit;
-    } else if (row.limitFailureEnds) {
-      return false;
-    } else {
+    } else if (row.limitLine != 0) {
       lw::ReportError(kSource, row.limitLine, "");
+    } else {
+      return false;
     }
   }
   if ((limits & row.limitBit) != 0 &&

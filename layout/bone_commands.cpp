@@ -17,28 +17,28 @@ enum AxisIndex : std::size_t { X, Y, Z, H, P, B, SX, SY, SZ };
 constexpr AxisRow kAxes[] = {
     // clang-format off
     // axis group bit  limits     controller                limits                least              greatest           stiffness
-    //      follow                 factor                 offset                 gate  limit's failure ends, lines
+    //      follow                 factor                 offset                 gate  lines
     {"X",  0, 0x1, 1,        Slot::XPositionController, Slot::XPositionLimits, Slot::XPositionMin, Slot::XPositionMax, Slot::XPositionStiffness,
-            Slot::XPositionFollow, Slot::XPositionFactor, Slot::XPositionOffset, X,  true,  725, 731, 758},
+            Slot::XPositionFollow, Slot::XPositionFactor, Slot::XPositionOffset, X,  725, 0},
     // A refused LimitY is reported and the sequence goes on, deliberately.
     {"Y",  0, 0x2, 1,        Slot::YPositionController, Slot::YPositionLimits, Slot::YPositionMin, Slot::YPositionMax, Slot::YPositionStiffness,
-            Slot::YPositionFollow, Slot::YPositionFactor, Slot::YPositionOffset, Y,  false, 763, 770, 798},
+            Slot::YPositionFollow, Slot::YPositionFactor, Slot::YPositionOffset, Y,  763, 770},
     {"Z",  0, 0x4, 1,        Slot::ZPositionController, Slot::ZPositionLimits, Slot::ZPositionMin, Slot::ZPositionMax, Slot::ZPositionStiffness,
-            Slot::ZPositionFollow, Slot::ZPositionFactor, Slot::ZPositionOffset, Z,  true,  803, 809, 836},
+            Slot::ZPositionFollow, Slot::ZPositionFactor, Slot::ZPositionOffset, Z,  803, 0},
     // Only the limits of a rotation are turned into degrees; the transform goes as it is stored, deliberately.
     {"H",  1, 0x1, kDegrees, Slot::HeadingController,   Slot::HeadingLimits,   Slot::HeadingMin,   Slot::HeadingMax,   Slot::HeadingStiffness,
-            Slot::HeadingFollow,   Slot::HeadingFactor,   Slot::HeadingOffset,   H,  true,  864, 870, 899},
+            Slot::HeadingFollow,   Slot::HeadingFactor,   Slot::HeadingOffset,   H,  864, 0},
     {"P",  1, 0x2, kDegrees, Slot::PitchController,     Slot::PitchLimits,     Slot::PitchMin,     Slot::PitchMax,     Slot::PitchStiffness,
-            Slot::PitchFollow,     Slot::PitchFactor,     Slot::PitchOffset,     P,  true,  904, 910, 939},
+            Slot::PitchFollow,     Slot::PitchFactor,     Slot::PitchOffset,     P,  904, 0},
     {"B",  1, 0x4, kDegrees, Slot::BankController,      Slot::BankLimits,      Slot::BankMin,      Slot::BankMax,      Slot::BankStiffness,
-            Slot::BankFollow,      Slot::BankFactor,      Slot::BankOffset,      B,  true,  944, 950, 979},
+            Slot::BankFollow,      Slot::BankFactor,      Slot::BankOffset,      B,  944, 0},
     {"SX", 2, 0x1, 1,        Slot::XScaleController,    Slot::XScaleLimits,    Slot::XScaleMin,    Slot::XScaleMax,    Slot::XScaleStiffness,
-            Slot::XScaleFollow,    Slot::XScaleFactor,    Slot::XScaleOffset,    SX, true,  1002, 1008, 1035},
+            Slot::XScaleFollow,    Slot::XScaleFactor,    Slot::XScaleOffset,    SX, 1002, 0},
     {"SY", 2, 0x2, 1,        Slot::YScaleController,    Slot::YScaleLimits,    Slot::YScaleMin,    Slot::YScaleMax,    Slot::YScaleStiffness,
-            Slot::YScaleFollow,    Slot::YScaleFactor,    Slot::YScaleOffset,    SY, true,  1040, 1046, 1073},
+            Slot::YScaleFollow,    Slot::YScaleFactor,    Slot::YScaleOffset,    SY, 1040, 0},
     // SZ follows by the controller of SY, not its own, deliberately: stored rigs count on it.
     {"SZ", 2, 0x4, 1,        Slot::ZScaleController,    Slot::ZScaleLimits,    Slot::ZScaleMin,    Slot::ZScaleMax,    Slot::ZScaleStiffness,
-            Slot::ZScaleFollow,    Slot::ZScaleFactor,    Slot::ZScaleOffset,    SY, true,  1078, 1084, 1111},
+            Slot::ZScaleFollow,    Slot::ZScaleFactor,    Slot::ZScaleOffset,    SY, 1078, 0},
     // clang-format on
 };
 static_assert(std::size(kAxes) == SZ + 1);
@@ -85,7 +85,7 @@ constexpr BoneCommand axisGroup(AxisIndex axis) {
           .sends = Sends::AxisGroup,
           .slot = kAxes[axis].controller,
           .axis = axis,
-          .line = kAxes[axis].firstLine};
+          .line = kAxes[axis].line};
 }
 
 constexpr FlagWord kBone = FlagWord::Bone;

@@ -78,8 +78,8 @@ struct AxisRow {
   skg::Slot controller, limits, least, greatest, stiffness;
   skg::Slot follow, factor, offset;
   std::size_t followGate;  // the row whose controller decides whether follow and transform are sent
-  bool limitFailureEnds;
-  int firstLine, limitLine, lastLine;
+  int line;                // reported when a command of the group fails, which ends the sequence
+  int limitLine;           // reported when the limit switch fails and the sequence goes on; 0 = that ends it too
 };
 
 // The motion groups: host parameter of each, in the order of AxisRow::group.
