@@ -27,7 +27,8 @@ bool readLayerChunk(CFileStream& body, LayerChunk& layer) {
 }
 
 std::string nameOf(const LayerChunk& layer) {
-  return layer.name.empty() ? "Layer" + std::to_string(layer.number + 1) : std::string(layer.name);
+  if (!layer.name.empty()) return std::string(layer.name);
+  return "Layer" + std::to_string(layer.number + 1);
 }
 
 // Gives the polygons of a chunk to a sink.

@@ -81,6 +81,19 @@ TEST(FileStreamLength, BeyondFourGigabytesCountsAsNothing) {
 }
 
 #if !defined(_WIN32)
+// Files of the system's own state claim a page and give some bytes.
+TEST(FileStreamLength, BeyondWhatTheFileGivesIsRefused) {
+  const std::string path = "/sys/kernel/mm/transparent_hugepage/enabled";
+  std::ifstream file(path, std::ios::binary);
+  std::string text;
+  if (!file || !std::getline(file, text) || std::filesystem::file_size(path) <= text.size() + 1) {
+    GTEST_SKIP() << "the system has no such file here";
+  }
+  CFileStream stream;
+  EXPECT_FALSE(stream.load(path));
+  EXPECT_TRUE(stream.atEnd());
+}
+
 // A name that is no file but gives bytes once: there is no length to be asked for. Opened for both ways first, so that opening
 // it again does not wait for a writer.
 TEST(FileStreamLength, OfAPipeIsUnknownAndNothingIsRead) {
