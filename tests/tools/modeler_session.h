@@ -66,6 +66,21 @@ class ModelerSession {
     return panel;
   }
 
+  // Runs a tool while the host refuses a call that its panel needs; nothing may be open then.
+  void runRefused(const char* tool, const char* refusedCall) {
+    standin::witness().refuseNext(refusedCall);
+    EXPECT_EQ(host.activate(module, tool), 0);
+    EXPECT_TRUE(standin::witness().refusalHappened());
+    EXPECT_TRUE(standin::panels().open().empty());
+  }
+  // The module goes while a tool's panel was never made.
+  void unloadAfterRefusedPanel(const char* tool) {
+    runRefused(tool, "panel create");
+    EXPECT_TRUE(standin::panels().all().empty());
+    module.unload();
+    EXPECT_EQ(standin::witness().report(), "");
+  }
+
   Text stored(std::string_view name, std::uint32_t type) const {
     const standin::MeshPolygon* const polygon = object->skelegon(name);
     if (polygon == nullptr) return "no such skelegon";

@@ -65,22 +65,11 @@ TEST_F(PropertyPanelOddHost, ANameChosenAfterTheObjectWasClosedShowsNone) {
   EXPECT_TRUE(person::menu(control(mst::control::kNamePopup)).empty());
 }
 
-// The module goes while its panel was never made.
-TEST_F(PropertyPanelOddHost, APanelThatCouldNotBeMadeIsNoneWhenTheModuleGoes) {
-  standin::witness().refuseNext("panel create");
-  EXPECT_EQ(host.activate(module, kPropertyTool), 0);
-  EXPECT_TRUE(standin::witness().refusalHappened());
-  EXPECT_TRUE(standin::panels().all().empty());
-  module.unload();
-  EXPECT_EQ(standin::witness().report(), "");
-}
+TEST_F(PropertyPanelOddHost, APanelThatCouldNotBeMadeIsNoneWhenTheModuleGoes) { unloadAfterRefusedPanel(kPropertyTool); }
 
 TEST_F(PropertyPanelOddHost, ARefusedPanelIsTriedAgain) {
   host.select({"Hips"});
-  standin::witness().refuseNext("panel open");
-  EXPECT_EQ(host.activate(module, kPropertyTool), 0);
-  EXPECT_TRUE(standin::witness().refusalHappened());
-  EXPECT_TRUE(standin::panels().open().empty());
+  runRefused(kPropertyTool, "panel open");
   openTool();
   EXPECT_EQ(control(mst::control::kNameEdit)->text, "Hips");
   EXPECT_EQ(standin::panels().all().size(), 1U);

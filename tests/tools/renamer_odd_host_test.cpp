@@ -43,21 +43,10 @@ TEST_F(RenamerOddHost, AClosedPanelIsDeaf) {
   EXPECT_EQ(names(), before);
 }
 
-// The module goes while its panel was never made.
-TEST_F(RenamerOddHost, APanelThatCouldNotBeMadeIsNoneWhenTheModuleGoes) {
-  standin::witness().refuseNext("panel create");
-  EXPECT_EQ(host.activate(module, kRenamerTool), 0);
-  EXPECT_TRUE(standin::witness().refusalHappened());
-  EXPECT_TRUE(standin::panels().all().empty());
-  module.unload();
-  EXPECT_EQ(standin::witness().report(), "");
-}
+TEST_F(RenamerOddHost, APanelThatCouldNotBeMadeIsNoneWhenTheModuleGoes) { unloadAfterRefusedPanel(kRenamerTool); }
 
 TEST_F(RenamerOddHost, ARefusedPanelIsTriedAgain) {
-  standin::witness().refuseNext("panel open");
-  EXPECT_EQ(host.activate(module, kRenamerTool), 0);
-  EXPECT_TRUE(standin::witness().refusalHappened());
-  EXPECT_TRUE(standin::panels().open().empty());
+  runRefused(kRenamerTool, "panel open");
   openReady();
   run();
   EXPECT_EQ(names(1), Names{"MyArm_L_01"});

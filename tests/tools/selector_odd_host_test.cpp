@@ -77,21 +77,10 @@ TEST_F(SelectorOddHost, AnErasedTreeIsNotDrawn) {
   EXPECT_EQ(selectedBy(row::kHips), Names{"Hips"});
 }
 
-// The module goes while its panel was never made.
-TEST_F(SelectorOddHost, APanelThatCouldNotBeMadeIsNoneWhenTheModuleGoes) {
-  standin::witness().refuseNext("panel create");
-  EXPECT_EQ(host.activate(module, kSelectorTool), 0);
-  EXPECT_TRUE(standin::witness().refusalHappened());
-  EXPECT_TRUE(standin::panels().all().empty());
-  module.unload();
-  EXPECT_EQ(standin::witness().report(), "");
-}
+TEST_F(SelectorOddHost, APanelThatCouldNotBeMadeIsNoneWhenTheModuleGoes) { unloadAfterRefusedPanel(kSelectorTool); }
 
 TEST_F(SelectorOddHost, ARefusedPanelIsTriedAgain) {
-  standin::witness().refuseNext("panel open");
-  EXPECT_EQ(host.activate(module, kSelectorTool), 0);
-  EXPECT_TRUE(standin::witness().refusalHappened());
-  EXPECT_TRUE(standin::panels().open().empty());
+  runRefused(kSelectorTool, "panel open");
   openTool();
   EXPECT_EQ(selectedBy(row::kHips), Names{"Hips"});
   EXPECT_EQ(standin::panels().all().size(), 1U);

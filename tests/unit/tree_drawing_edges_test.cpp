@@ -1,13 +1,6 @@
 // The drawing of the tree where something lies at or beyond the view's edges, where OpenGL refuses, and of the tree view itself.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <string>
-
 #include "modeler/selector_colours.h"
-#include "modeler/tree_drawing.h"
-#include "tests/unit/gl_recorder.h"
-#include "tests/unit/tree_fixture.h"
+#include "tests/unit/tree_drawing_fixture.h"
 #include "tests/unit/tree_view_fixture.h"
 
 namespace mst {
@@ -16,51 +9,19 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr int kWidth = 100;
-constexpr int kHeight = 70;  // five rows
-
-std::string lettersOf(const GlRecorder& gl) {
-  std::string text;
-  for (const DrawnCharacter& c : gl.characters)
-    text += c.list < kFirstOwnList ? static_cast<char>(c.list - kFirstList) : '#';
-  return text;
-}
-
-class TreeAtTheEdge : public testing::Test {
- protected:
-  ~TreeAtTheEdge() override {
-    EXPECT_THAT(gl.faults, IsEmpty());
-    EXPECT_EQ(gl.fontsOut, 0);
-    EXPECT_EQ(gl.attribDepth, 0);
-  }
-
-  void draw(const TreePicture& picture) {
-    gl.clear();
-    drawing.draw(picture);
-  }
-  void drawScrolledTo(double x) {
-    TreePicture picture = tree.picture(kWidth, kHeight);
-    picture.scrollX = x;
-    draw(picture);
-  }
-
-  GlRecorder gl;
-  GlCalls calls = GlRecorder::calls();
-  CTreeDrawing drawing{&calls};
-  TestTree tree;
-};
+class TreeAtTheEdge : public DrawnTree {};
 
 // The text begins at 4: scrolled by 10, its first cell lies before the view and the wide character that begins there goes whole.
 TEST_F(TreeAtTheEdge, AWideCharacterThatBeginsLeftOfTheViewIsLeftOut) {
   tree.nodes[0].text = "日ab";
-  drawScrolledTo(10);
+  drawScrolled(10, 0);
   EXPECT_EQ(lettersOf(gl), "ab");
   EXPECT_EQ(gl.characters.at(0).at.x, 6);
 }
 
 TEST_F(TreeAtTheEdge, ATextThatEndsLeftOfTheViewIsNotDrawn) {
   tree.nodes[0].text = "ab";
-  drawScrolledTo(50);
+  drawScrolled(50, 0);
   EXPECT_THAT(gl.characters, IsEmpty());
 }
 
@@ -74,7 +35,7 @@ TEST_F(TreeAtTheEdge, ATextThatBeginsRightOfTheViewIsNotDrawn) {
 
 TEST_F(TreeAtTheEdge, GuideLinesLeftOfTheViewAreNotDrawn) {
   tree.add(0, "a");
-  drawScrolledTo(50);
+  drawScrolled(50, 0);
   EXPECT_THAT(gl.shapesOf(gl::kLines), IsEmpty());
 }
 

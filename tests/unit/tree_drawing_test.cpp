@@ -1,24 +1,15 @@
 // What the drawing of the tree asks of OpenGL, and where.
-#include "modeler/tree_drawing.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
-#include "tests/unit/gl_recorder.h"
-#include "tests/unit/tree_fixture.h"
+#include "tests/unit/tree_drawing_fixture.h"
 
 namespace mst {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-constexpr int kWidth = 100;
-constexpr int kHeight = 70;  // five rows
 
 // The four sides of what was drawn; a line has two equal ones.
 struct Box {
@@ -40,26 +31,8 @@ Box boxOf(const DrawnShape& shape) {
   return {left->x, top->y, right->x, bottom->y};
 }
 
-class TreeDrawing : public testing::Test {
+class TreeDrawing : public DrawnTree {
  protected:
-  ~TreeDrawing() override {
-    EXPECT_THAT(gl.faults, IsEmpty());
-    EXPECT_EQ(gl.fontsOut, 0);
-    EXPECT_EQ(gl.attribDepth, 0);
-  }
-
-  void draw() { draw(tree.picture(kWidth, kHeight)); }
-  void draw(const TreePicture& picture) {
-    gl.clear();
-    drawing.draw(picture);
-  }
-  void drawScrolled(double x, double y) {
-    TreePicture picture = tree.picture(kWidth, kHeight);
-    picture.scrollX = x;
-    picture.scrollY = y;
-    draw(picture);
-  }
-
   // Stripes are the quads as wide as the content; markers are smaller and scroll bars come last.
   std::vector<DrawnShape> stripes() const {
     std::vector<DrawnShape> found = gl.shapesOf(gl::kQuads);
@@ -81,16 +54,6 @@ class TreeDrawing : public testing::Test {
     });
     return lines;
   }
-  std::string lettersDrawn() const {
-    std::string text;
-    for (const DrawnCharacter& c : gl.characters)
-      text += c.list < kFirstOwnList ? static_cast<char>(c.list - kFirstList) : '#';
-    return text;
-  }
-
-  GlRecorder gl;
-  CTreeDrawing drawing{&GlRecorder::calls()};
-  TestTree tree;
 };
 
 TEST_F(TreeDrawing, NothingIsDrawnWithoutADeviceContext) {
@@ -289,7 +252,7 @@ TEST_F(TreeDrawing, ScrollBarsAreGrey) {
 TEST_F(TreeDrawing, OnlyRowsInViewAreDrawn) {
   for (int i = 0; i < 100; ++i) tree.add(0, std::to_string(i));
   drawScrolled(-20, 50 * 14 + 1);
-  EXPECT_EQ(lettersDrawn(), "495051525354");  // the root is row 0
+  EXPECT_EQ(lettersOf(gl), "495051525354");  // the root is row 0
   EXPECT_EQ(stripes().size(), 6u);
 }
 
@@ -312,7 +275,7 @@ TEST_F(TreeDrawing, ALongNameCostsOnlyWhatIsInView) {
 TEST_F(TreeDrawing, ALongNameIsFoundAgainFarToTheRight) {
   tree.nodes[0].text = std::string(30'000, 'x') + "右a" + std::string(100, 'y');
   drawScrolled(30'000 * 6 + 4 - 12, 0);
-  EXPECT_EQ(lettersDrawn(), "xx#a" + std::string(12, 'y'));
+  EXPECT_EQ(lettersOf(gl), "xx#a" + std::string(12, 'y'));
   EXPECT_EQ(gl.characters.at(3).at.x, 24);
 }
 
