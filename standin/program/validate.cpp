@@ -40,7 +40,7 @@ void takeLevels(const std::string& text, v::RunOrder& order) {
     const bool isNumber = !part.empty() && part.size() < 4 && part.find_first_not_of("0123456789") == std::string::npos;
     const int value = isNumber ? std::stoi(part) : 0;
     if (value < v::kFirstLevel || value > v::kLastLevel)
-      throw Trouble{"\"" + text + "\" is no level from 1 to 10, nor a range"};
+      throw Trouble{"\"" + text + "\" is no level from 1 to 11, nor a range"};
     return value;
   };
   order.firstLevel = dash == std::string::npos ? v::kFirstLevel : number(text.substr(0, dash));
@@ -129,16 +129,16 @@ void addHiddenCommand(CLI::App& app, int& result) {
 }  // namespace
 
 void addValidateCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("validate", "Check a module's file on a ladder of ten levels");
+  CLI::App* const command = app.add_subcommand("validate", "Check a module's file on a ladder of eleven levels");
   const auto options = std::make_shared<ValidateOptions>();
   command->add_option("module", options->module, "The module's file (the one beside this program by default)");
   command->add_option("--level", options->levels, "The ladder up to a level, or a range: 4, 7-9")->capture_default_str();
   command->add_option("--only", options->only, "Only these checks, by name");
   command->add_option("--seed", options->seed, "Of everything random")->capture_default_str();
   command->add_option("--report", options->report, "Write report.txt and report.html into this folder");
-  command->add_option("--share", options->share, "Do only this share of the long checks of levels 7 to 10")
+  command->add_option("--share", options->share, "Do only this share of the long checks of levels 7 to 11")
       ->check(CLI::Range(0.0001, 1.0));
-  command->add_flag("--quick", options->quick, "Short forms of levels 7 to 10");
+  command->add_flag("--quick", options->quick, "Short forms of levels 7 to 11");
   command->add_option("--limit", options->limit, "Seconds without a sign of life after which a check hangs")
       ->capture_default_str()
       ->check(CLI::Range(1, 3600));
@@ -146,7 +146,7 @@ void addValidateCommand(CLI::App& app, int& result) {
   command->add_flag("--list", options->list, "Only name the checks");
   command->footer(
       "Exit code 0: sound; 1: something was found; 2: nothing could be checked.\n\n"
-      "Examples:\n  varnel validate varnel.p\n  varnel validate varnel.p --level 10 --report report\n"
+      "Examples:\n  varnel validate varnel.p\n  varnel validate varnel.p --level 11 --report report\n"
       "  varnel validate --only walks --seed 7");
   command->callback([options, &result] { result = run(*options); });
   addHiddenCommand(app, result);

@@ -9,8 +9,8 @@ namespace standin::validate {
 std::span<const Check> allChecks() {
   static const std::vector<Check> all = [] {
     std::vector<Check> joined;
-    for (const std::span<const Check> part :
-         {fileChecks(), activationChecks(), panelChecks(), tripChecks(), walkChecks(), hostileChecks(), enduranceChecks()}) {
+    for (const std::span<const Check> part : {fileChecks(), activationChecks(), panelChecks(), tripChecks(), walkChecks(),
+                                              hostileChecks(), enduranceChecks(), hostChecks()}) {
       joined.insert(joined.end(), part.begin(), part.end());
     }
     return joined;
@@ -25,8 +25,9 @@ const Check* checkNamed(std::string_view name) {
 }
 
 const char* levelName(int level) {
-  static constexpr std::array<const char*, kLastLevel> kNames{
-      "file", "activation", "services", "panels", "trips", "refusals", "memory", "walks", "hostile data", "endurance"};
+  static constexpr std::array<const char*, kLastLevel> kNames{"file",         "activation", "services", "panels",
+                                                              "trips",        "refusals",   "memory",   "walks",
+                                                              "hostile data", "endurance",  "hosts"};
   return kNames.at(static_cast<std::size_t>(level - kFirstLevel));
 }
 

@@ -1,7 +1,7 @@
 // A check of a module as data, and the table of all of them. The ladder's steps:
 //
-//    1 file         4 panels       7 memory       10 endurance
-//    2 activation   5 trips        8 walks
+//    1 file         4 panels       7 memory         10 endurance
+//    2 activation   5 trips        8 walks          11 hosts
 //    3 services     6 refusals     9 hostile data
 //
 // The runner (runner.h) runs each check in a process of its own; the functions here run in that process.
@@ -15,7 +15,7 @@ namespace standin::validate {
 class CheckRun;
 
 inline constexpr int kFirstLevel = 1;
-inline constexpr int kLastLevel = 10;
+inline constexpr int kLastLevel = 11;
 
 struct Check {
   const char* name;
@@ -39,5 +39,6 @@ std::span<const Check> tripChecks();        // 5, 6 and 7
 std::span<const Check> walkChecks();        // 8
 std::span<const Check> hostileChecks();     // 9
 std::span<const Check> enduranceChecks();   // 10
+std::span<const Check> hostChecks();        // 11
 
 }  // namespace standin::validate

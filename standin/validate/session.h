@@ -10,6 +10,7 @@
 #include "standin/modeler/modeler_host.h"
 #include "standin/panels/panel.h"
 #include "standin/validate/tools.h"
+#include "standin/variants/variants.h"
 
 namespace standin::validate {
 
@@ -31,7 +32,8 @@ Rig rigOf(ObjectFile object, const std::string& path);
 class Session {
  public:
   // Starts the program, loads the rig (in Modeler with all layers in the foreground, in Layout selected) and the module.
-  Session(Program program, const Rig& rig, const std::string& module);
+  // On the default host, or on another.
+  Session(Program program, const Rig& rig, const std::string& module, const HostOptions& host = {});
   // Unloads the module without looking.
   ~Session();
   Session(const Session&) = delete;

@@ -20,7 +20,8 @@ constexpr int kInverseDistance4 = 2;  // place in the list
 // A trip under way. Whatever its user cannot do is noted and the trip goes on.
 class Traveller {
  public:
-  explicit Traveller(const TripOrder& order, Program program) : order_(order), session_(program, *order.rig, order.module) {
+  explicit Traveller(const TripOrder& order, Program program)
+      : order_(order), session_(program, *order.rig, order.module, order.host.options()) {
     session_.setLocale(order.language);
     if (!session_.refusal().empty()) report_.broken.push_back(session_.refusal());
   }
@@ -101,10 +102,10 @@ std::string meshText(Session& session) {
   return text;
 }
 
-// What a freshly loaded module shows for the mesh as it is. It depends on nothing else, so it is kept.
-const std::string& freshView(Session& session, std::uint32_t language) {
+// What a freshly loaded module shows for the mesh as it is. It depends on nothing else but the host, so it is kept.
+const std::string& freshView(Session& session, const TripOrder& order) {
   static std::map<std::string, std::string> views;
-  const std::string key = std::to_string(language) + '\n' + meshText(session);
+  const std::string key = order.host.text() + '\n' + std::to_string(order.language) + '\n' + meshText(session);
   if (const auto found = views.find(key); found != views.end()) return found->second;
   std::string view;
   if (session.reload()) {
@@ -139,7 +140,7 @@ void useOneOfEachKind(Traveller& user, Panel& panel) {
 }
 
 // Whatever failed, the next run of the property tool shows what is stored, as a module that was never disturbed does.
-void judgeNextRun(Traveller& user, std::uint32_t language) {
+void judgeNextRun(Traveller& user, const TripOrder& order) {
   Session& session = user.session();
   if (user.wasDeceived()) user.mustHold(session.reload(), "the module can be loaded again");
   user.mustHold(session.activate(kProperty) == lw::kActivationOk, "the next activation of the property tool succeeds");
@@ -148,7 +149,7 @@ void judgeNextRun(Traveller& user, std::uint32_t language) {
   user.mustHold(isOpen, "the next run of the property tool opens its panel");
   if (!isOpen) return;
   const std::string shown = everythingShown(*panel);
-  const std::string& expected = freshView(session, language);
+  const std::string& expected = freshView(session, order);
   user.mustHold(shown == expected, "panels show what is stored: " + firstDifference(shown, expected));
 }
 
@@ -172,7 +173,7 @@ TripReport propertyTrip(const TripOrder& order) {
   session.modeler()->select(chosen);
   if (panel != nullptr) useOneOfEachKind(user, *panel);
   user.end();
-  judgeNextRun(user, order.language);
+  judgeNextRun(user, order);
   return user.finish();
 }
 
@@ -232,7 +233,7 @@ TripReport renamerTrip(const TripOrder& order) {
   user.does(person::press(control(kRun)));
   user.finds(named("Bone01_"), "registered skelegons get the base name");
   user.end();
-  judgeNextRun(user, order.language);
+  judgeNextRun(user, order);
   return user.finish();
 }
 
@@ -270,7 +271,7 @@ TripReport selectorTrip(const TripOrder& order) {
     panels().paintWanted(*panel);
   }
   user.end();
-  judgeNextRun(user, order.language);
+  judgeNextRun(user, order);
   return user.finish();
 }
 

@@ -9,6 +9,19 @@
 
 namespace standin::validate {
 
+class CheckRun;
+
+// A whole walk in a session of its own.
+struct WalkOrder {
+  Program program = Program::Modeler;
+  const Rig* rig = nullptr;
+  std::uint64_t seed = 1;
+  int actions = 1000;
+  HostChoice host = {};
+};
+// Fails the run with the first thing that was wrong, and ends there.
+void walkOnce(CheckRun& run, const WalkOrder& order);
+
 class Walk {
  public:
   // `session` must have the rig loaded; the walk opens tools on its way.

@@ -10,7 +10,6 @@ namespace standin::validate {
 namespace {
 
 constexpr std::size_t kWalks = 100;
-constexpr int kActions = 1000;
 
 // What is wrong after an action; empty when nothing.
 std::string judged(Session& session) {
@@ -23,13 +22,15 @@ std::string whereIs(int action, const std::string& last) {
   return std::string("before action ").append(std::to_string(action)).append(", after: ").append(last);
 }
 
-void walkOnce(CheckRun& run, Program program, const Rig& rig, std::uint64_t seed) {
-  Session session(program, rig, run.module());
+}  // namespace
+
+void walkOnce(CheckRun& run, const WalkOrder& order) {
+  Session session(order.program, *order.rig, run.module(), order.host.options());
   if (!session.refusal().empty()) return run.fail(session.refusal());
-  session.setLocale(seed % 3 == 0 ? kJapanese : kEnglish);
-  Walk walk(session, rig, seed);
+  session.setLocale(order.seed % 3 == 0 ? kJapanese : kEnglish);
+  Walk walk(session, *order.rig, order.seed);
   std::string last;
-  for (int action = 0; action < kActions; ++action) {
+  for (int action = 0; action < order.actions; ++action) {
     run.at(whereIs(action, last));
     last = walk.act();
     run.cases(1);
@@ -41,12 +42,16 @@ void walkOnce(CheckRun& run, Program program, const Rig& rig, std::uint64_t seed
   run.judge(session.end());
 }
 
+namespace {
+
 void walks(CheckRun& run, Program program) {
   const Rig rig = lizardRig(run.file(""));
   const Rig japanese = japaneseRig(run.file(""));
   const std::size_t count = run.shareOf(kWalks / 2);
   for (std::size_t i = 0; i < count; ++i) {
-    if (run.step(i, "walk " + std::to_string(i))) walkOnce(run, program, i % 2 == 0 ? rig : japanese, run.seed() * 1000 + i);
+    if (run.step(i, "walk " + std::to_string(i))) {
+      walkOnce(run, {.program = program, .rig = i % 2 == 0 ? &rig : &japanese, .seed = run.seed() * 1000 + i});
+    }
   }
 }
 
