@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <locale>
 #include <regex>
 #include <utility>
 #include <vector>
@@ -266,7 +267,11 @@ class CBoundedText {
 }  // namespace
 
 struct CRegexReplacement::Matcher {
-  explicit Matcher(const std::string& pattern) : regex(pattern, std::regex::ECMAScript) {}
+  // What counts as a letter must not depend on the locale that somebody set in the host's process.
+  explicit Matcher(const std::string& pattern) {
+    regex.imbue(std::locale::classic());
+    regex.assign(pattern, std::regex::ECMAScript);
+  }
 
   std::regex regex;
   Watch watch;

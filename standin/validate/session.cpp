@@ -22,6 +22,7 @@ Rig lizardRig(const std::string& folder) { return rigOf(makeDemoRig(), folder + 
 Rig japaneseRig(const std::string& folder) { return rigOf(makeJapaneseRig(), folder + "/人形.lwo"); }
 
 Session::Session(Program program, const Rig& rig, const std::string& module, const HostOptions& host) : path_(module) {
+  if (host.program.commaLocale) locale_.emplace();
   if (program == Program::Modeler) {
     modeler_ = std::make_unique<ModelerHost>(host.modeler);
     panels().options = host.panels;

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "standin/core/comma_locale.h"
 #include "standin/core/module_file.h"
 #include "standin/layout/layout_host.h"
 #include "standin/modeler/modeler_host.h"
@@ -62,6 +63,7 @@ class Session {
   std::string end();
 
  private:
+  std::optional<CommaLocale> locale_;
   std::unique_ptr<ModelerHost> modeler_;
   std::unique_ptr<LayoutHost> layout_;
   ModuleFile module_;

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "standin/core/options.h"
 #include "standin/layout/options.h"
 #include "standin/modeler/options.h"
 #include "standin/panels/options.h"
@@ -20,6 +21,7 @@ namespace standin {
 
 // A whole host, as far as hosts may differ.
 struct HostOptions {
+  ProgramOptions program;
   PanelOptions panels;
   ModelerOptions modeler;
   LayoutOptions layout;
@@ -39,6 +41,7 @@ struct HostVariant {
 };
 
 // The rows of each area, in the order in which they are printed.
+std::span<const HostVariant> programVariants();
 std::span<const HostVariant> panelVariants();
 std::span<const HostVariant> modelerVariants();
 std::span<const HostVariant> layoutVariants();
