@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::size_t kExpectedPolygons = 1024;
 constexpr int kKeepSelection = 0;  // the last argument of done
+constexpr std::uint32_t kTypeUnknown = 0;
 
 MeshEditOp* begunEdit(int mode) {
   MeshEditOp* const edit = modelerCommand().editBegin(0, 0, 0, mode);
@@ -105,6 +106,12 @@ PolygonIds CMeshEdit::scan(int layers) {
 }
 
 bool CMeshEdit::isSkelegon(PolygonId polygon) const { return edit_->polyType(edit_->state, polygon) == kTypeBone; }
+
+std::uint32_t CMeshEdit::type(PolygonId polygon) {
+  const std::uint32_t type = edit_->polyType(edit_->state, polygon);
+  if (type == kTypeUnknown) fail(kEditBadArguments, "polyType() !");
+  return type;
+}
 
 const EDPolygonInfo& CMeshEdit::info(PolygonId polygon) {
   const EDPolygonInfo* const record = edit_->polyInfo(edit_->state, polygon);

@@ -49,6 +49,9 @@ class CMeshEdit {
   // Every polygon of a layer choice, of any type, in the host's order.
   PolygonIds scan(int layers);
   bool isSkelegon(PolygonId polygon) const;
+  // The polygon's type. Fails with "polyType() !" when the host tells none: for where a skelegon must not be taken for
+  // something else.
+  std::uint32_t type(PolygonId polygon);
   // The host's record, good until the next call into the host. Fails with "polyInfo() !" when there is none.
   const EDPolygonInfo& info(PolygonId polygon);
   // Changes of this edit need not show.

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace mst {
@@ -18,13 +19,19 @@ lw::TagTypes typesToRead() {
   return types;
 }
 
-// Without the writes to polygons that the user deleted, or whose object was closed, since the panel saw them. The host must
-// not be asked about those.
-TagWrites writesToLiving(const TagWrites& writes, const lw::PolygonIds& living) {
-  const std::unordered_set<lw::PolygonId> known(living.begin(), living.end());
+// Without the writes to polygons that the user deleted, or whose object was closed, since the panel saw them: the host must
+// not be asked about those. Their identifiers may even name other polygons by now; what is no skelegon is left out too.
+TagWrites writesToLiving(lw::CMeshEdit& edit, const TagWrites& writes) {
+  const lw::PolygonIds there = edit.scan(lw::kLayersAll);
+  const std::unordered_set<lw::PolygonId> known(there.begin(), there.end());
+  std::unordered_map<lw::PolygonId, bool> living;
+  for (const lw::PolygonId polygon : writes.polygons) {
+    const auto [entry, isNew] = living.try_emplace(polygon);
+    if (isNew) entry->second = known.count(polygon) != 0 && edit.type(polygon) == lw::kTypeBone;
+  }
   TagWrites kept;
   for (std::size_t i = 0; i < writes.polygons.size(); ++i) {
-    if (known.count(writes.polygons[i]) != 0) kept.add(writes.polygons[i], writes.types[i], writes.values[i]);
+    if (living[writes.polygons[i]]) kept.add(writes.polygons[i], writes.types[i], writes.values[i]);
   }
   return kept;
 }
@@ -101,7 +108,7 @@ std::string_view colourName(int colourIndex) {
 void applyWrites(const TagWrites& writes) {
   if (writes.empty()) return;
   lw::CMeshEdit edit(lw::kEditForTags);
-  const TagWrites living = writesToLiving(writes, edit.scan(lw::kLayersAll));
+  const TagWrites living = writesToLiving(edit, writes);
   lw::WritePolygonTags(edit, living.polygons, living.types, living.values);
   edit.done();
 }

@@ -87,8 +87,8 @@ TagWrites writesForControllerPreset(PanelSkelegons skelegons, ControllerGroup gr
 // Removes every setting of these polygons. Name, weight map and colour, which have tags of the host's, stay.
 TagWrites writesForReset(const lw::PolygonIds& polygons);
 
-// Makes the writes in one mesh edit; no edit at all when there is nothing to write. Polygons that are no longer in the
-// current object are left out. Throws CBaseEx; nothing is written then.
+// Makes the writes in one mesh edit; no edit at all when there is nothing to write. What is no longer a skelegon of the
+// current object is left out. Throws CBaseEx; nothing is written then.
 void applyWrites(const TagWrites& writes);
 
 // Stores a control's value.

@@ -14,9 +14,8 @@ namespace {
 constexpr std::size_t kMixtures = 50;
 constexpr int kActions = 200;
 
-void playOn(CheckRun& run, const HostChoice& host, std::uint64_t seed) {
-  const Rig rig = seed % 2 == 0 ? lizardRig(run.file("")) : japaneseRig(run.file(""));
-  for (const Trip& trip : allTrips()) {
+void goOn(CheckRun& run, const HostChoice& host, const Rig& rig, std::span<const Trip> trips) {
+  for (const Trip& trip : trips) {
     run.at(trip.name);
     TripOrder order;
     order.module = run.module();
@@ -27,6 +26,12 @@ void playOn(CheckRun& run, const HostChoice& host, std::uint64_t seed) {
     for (const std::string& trouble : report.troubles) run.fail(std::string(trip.name) + ": " + trouble);
     for (const std::string& rule : report.broken) run.fail(std::string(trip.name) + ": " + rule);
   }
+}
+
+void playOn(CheckRun& run, const HostChoice& host, std::uint64_t seed) {
+  const Rig rig = seed % 2 == 0 ? lizardRig(run.file("")) : japaneseRig(run.file(""));
+  goOn(run, host, rig, allTrips());
+  goOn(run, host, rig, meshTrips());
   for (const Program program : {Program::Modeler, Program::Layout}) {
     walkOnce(run, {.program = program, .rig = &rig, .seed = seed, .actions = kActions, .host = host});
   }

@@ -183,6 +183,38 @@ TEST_F(PropertyStore, SkelegonsOfAClosedObjectAreLeftOut) {
   EXPECT_EQ(mesh.storedTag("Hips", copyTag(Slot::Strength)), std::nullopt);
 }
 
+// Hosts whose identifiers are addresses give that of a deleted skelegon to what is made next.
+class PropertyStoreOfUsedIdentifiers : public PropertyStore {
+ protected:
+  PropertyStoreOfUsedIdentifiers() { standin::modelerSession()->handles.useAgain(); }
+
+  const standin::MeshPolygon& faceInPlaceOf(const std::string& name) {
+    const lw::PolygonId gone = mesh.id(name);
+    mesh.host.deleteSkelegons({name});
+    const auto& points = mesh.object->points();
+    const standin::MeshPolygon& face = mesh.object->addFace(0, {points[0].id, points[1].id, points[2].id});
+    EXPECT_EQ(face.id, gone);
+    return face;
+  }
+};
+
+TEST_F(PropertyStoreOfUsedIdentifiers, AFaceInTheSkelegonsPlaceGetsNoTags) {
+  const auto skelegons = scanned({"Hips", "Chest"});
+  const standin::MeshPolygon& face = faceInPlaceOf("Chest");
+  mst::WriteSlotValue(skelegons, Slot::Strength, "50.000000");
+  EXPECT_EQ(mesh.storedTag("Hips", copyTag(Slot::Strength)), "50.000000");
+  EXPECT_EQ(face.tag(copyTag(Slot::Strength)), "");
+}
+
+// A host that does not tell the type of a living skelegon must not make it look like a face.
+TEST_F(PropertyStore, ARefusedTypeWritesNothing) {
+  const auto skelegons = scanned({"Hips", "Chest"});
+  standin::witness().refuseNext("MeshEditOp::polyType");
+  EXPECT_EQ(thrownBy([&] { mst::WriteSlotValue(skelegons, Slot::Strength, "50.000000"); }), "polyType() !");
+  EXPECT_EQ(mesh.storedTag("Hips", copyTag(Slot::Strength)), std::nullopt);
+  EXPECT_EQ(mesh.storedTag("Chest", copyTag(Slot::Strength)), std::nullopt);
+}
+
 TEST_F(PropertyStore, WithoutAnObjectTheWriteFailsAndIsThrown) {
   const auto skelegons = scanned({"Hips"});
   mesh.host.closeAll();
@@ -202,8 +234,8 @@ TEST(PropertyStoreFailures, WhateverFailsAllOfAChangeIsThereOrNothing) {
       EXPECT_NE(skelegon->tag(lw::kTagPart), "Same");
     }
   };
-  // Begin, scan, a record for each of the two, two tags for each, done.
-  EXPECT_EQ(refuseEach(rename, nothingIsRenamed, select), 9U);
+  // Begin, scan, the type of each of the two, a record for each, two tags for each, done.
+  EXPECT_EQ(refuseEach(rename, nothingIsRenamed, select), 11U);
 }
 
 TEST(PropertyStoreFailures, AFailedReadIsThrown) {
