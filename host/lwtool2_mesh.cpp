@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cassert>
-#include <unordered_set>
+#include <utility>
 
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_eval.h"
@@ -95,23 +95,47 @@ void CMeshEdit::fail(int error, const char* message) {
   throwReported(message);
 }
 
+void CMeshEdit::failOf(int error, const std::exception_ptr& failure) {
+  if (failure) {
+    end(error);
+    std::rethrow_exception(failure);
+  }
+  if (error != kEditNoError) fail(error, "fastPolyScan() !");
+}
+
 PolygonIds CMeshEdit::scan(int layers) {
   PolygonScan scan(host(), layers);
-  if (scan.failure) {
-    end(scan.error);
-    std::rethrow_exception(scan.failure);
-  }
-  if (scan.error != kEditNoError) fail(scan.error, "fastPolyScan() !");
+  failOf(scan.error, scan.failure);
   return std::move(scan.found);
 }
 
-bool CMeshEdit::isSkelegon(PolygonId polygon) const { return edit_->polyType(edit_->state, polygon) == kTypeBone; }
-
-std::uint32_t CMeshEdit::type(PolygonId polygon) {
-  const std::uint32_t type = edit_->polyType(edit_->state, polygon);
-  if (type == kTypeUnknown) fail(kEditBadArguments, "polyType() !");
-  return type;
+// Beside a large mesh the polygons in question are few: they are looked for in the scan, which keeps no list of the others
+// and asks nothing.
+void CMeshEdit::search(int layers, PolygonSet& missing) {
+  // Nothing in it can throw.
+  const FastPolygonScan strike = [](void* user, PolygonId polygon) noexcept {
+    static_cast<PolygonSet*>(user)->erase(polygon);
+    return static_cast<int>(kEditNoError);
+  };
+  failOf(edit_->fastPolyScan(edit_->state, strike, &missing, layers, 0), nullptr);
 }
+
+PolygonSet CMeshEdit::skelegonsAmong(const PolygonIds& polygons) {
+  PolygonSet missing(polygons.begin(), polygons.end());
+  PolygonSet skelegons;
+  search(kLayersForeground, missing);
+  if (!missing.empty()) search(kLayersAll, missing);
+  for (const PolygonId polygon : polygons) {
+    if (skelegons.count(polygon) != 0 || missing.count(polygon) != 0) continue;
+    const std::uint32_t type = edit_->polyType(edit_->state, polygon);
+    // A skelegon whose type the host does not tell must not be left out of what is done to the others.
+    if (type == kTypeUnknown) fail(kEditBadArguments, "polyType() !");
+    (type == kTypeBone ? skelegons : missing).insert(polygon);
+  }
+  return skelegons;
+}
+
+bool CMeshEdit::isSkelegon(PolygonId polygon) const { return edit_->polyType(edit_->state, polygon) == kTypeBone; }
 
 const EDPolygonInfo& CMeshEdit::info(PolygonId polygon) {
   const EDPolygonInfo* const record = edit_->polyInfo(edit_->state, polygon);
@@ -153,7 +177,7 @@ PolygonIds CollectSelectedSkelegons() { return collect(kEditSeesSelection, kLaye
 void SelectSkelegons(const PolygonIds& polygons) {
   CMeshEdit edit(kEditForSelecting);
   // What a panel remembers may be gone by now; the host must not be asked about such polygons.
-  std::unordered_set<PolygonId> selectable;
+  PolygonSet selectable;
   for (const PolygonId polygon : edit.scan(kLayersForeground)) {
     if (!edit.isSkelegon(polygon)) continue;
     const int flags = edit.info(polygon).flags;
@@ -176,6 +200,13 @@ TagTexts SkelegonNames(const PolygonIds& polygons) {
   }
   edit.done();
   return names;
+}
+
+bool IsLivingSkelegon(PolygonId polygon) {
+  CMeshEdit edit(kEditForTags);
+  const bool isLiving = edit.skelegonsAmong({polygon}).count(polygon) != 0 && kNotDeleted.fits(edit.info(polygon).flags);
+  edit.done();
+  return isLiving;
 }
 
 TagTexts ReadPolygonTags(const PolygonIds& polygons, const TagTypes& types) {

@@ -7,9 +7,11 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <optional>
 #include <span>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "host/lightwave.h"
@@ -17,6 +19,7 @@
 namespace lw {
 
 using PolygonIds = std::vector<PolygonId>;
+using PolygonSet = std::unordered_set<PolygonId>;
 using TagTypes = std::vector<std::uint32_t>;
 using TagTexts = std::vector<std::string>;
 
@@ -48,10 +51,10 @@ class CMeshEdit {
 
   // Every polygon of a layer choice, of any type, in the host's order.
   PolygonIds scan(int layers);
+  // Which of these are skelegons of the current object; deleted ones may be among them. They may be identifiers that name
+  // nothing, or something else, by now.
+  PolygonSet skelegonsAmong(const PolygonIds& polygons);
   bool isSkelegon(PolygonId polygon) const;
-  // The polygon's type. Fails with "polyType() !" when the host tells none: for where a skelegon must not be taken for
-  // something else.
-  std::uint32_t type(PolygonId polygon);
   // The host's record, good until the next call into the host. Fails with "polyInfo() !" when there is none.
   const EDPolygonInfo& info(PolygonId polygon);
   // Changes of this edit need not show.
@@ -63,6 +66,9 @@ class CMeshEdit {
 
  private:
   void end(int error);
+  // Fails as a scan does.
+  void failOf(int error, const std::exception_ptr& failure);
+  void search(int layers, PolygonSet& missing);
 
   MeshEditOp* edit_;
 };
@@ -93,6 +99,9 @@ void SelectSkelegons(const PolygonIds& polygons);
 // Names in the order of `polygons`: "Bone" for a skelegon without a name tag, empty for one whose name is empty, and empty
 // for what is no skelegon.
 TagTexts SkelegonNames(const PolygonIds& polygons);
+
+// True for a skelegon of the current object that is not deleted, in any layer.
+bool IsLivingSkelegon(PolygonId polygon);
 
 // Tag texts in the order of `polygons`, polygon and type at the same index; empty where there is no such tag or the polygon
 // is deleted. `types` must be as long as `polygons`.

@@ -1,6 +1,5 @@
 #include "modeler/MST_CSkgPropPanel.h"
 
-#include <algorithm>
 #include <unordered_map>
 #include <utility>
 
@@ -24,11 +23,7 @@ bool objectIsLoaded() { return lw::stateQuery().object() != nullptr; }
 // Without an object there is nothing to scan, and the host begins no edit.
 std::vector<PanelSkelegon> scan() { return objectIsLoaded() ? ScanPanelSkelegons() : std::vector<PanelSkelegon>(); }
 
-bool isInObject(lw::PolygonId polygon) {
-  if (!objectIsLoaded()) return false;
-  const lw::PolygonIds living = lw::CollectSkelegons();
-  return std::find(living.begin(), living.end(), polygon) != living.end();
-}
+bool isInObject(lw::PolygonId polygon) { return objectIsLoaded() && lw::IsLivingSkelegon(polygon); }
 
 void append(TagWrites& writes, const TagWrites& more) {
   for (std::size_t i = 0; i < more.polygons.size(); ++i) writes.add(more.polygons[i], more.types[i], more.values[i]);

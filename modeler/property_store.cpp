@@ -2,8 +2,6 @@
 
 #include <array>
 #include <charconv>
-#include <unordered_map>
-#include <unordered_set>
 
 namespace mst {
 namespace {
@@ -22,16 +20,10 @@ lw::TagTypes typesToRead() {
 // Without the writes to polygons that the user deleted, or whose object was closed, since the panel saw them: the host must
 // not be asked about those. Their identifiers may even name other polygons by now; what is no skelegon is left out too.
 TagWrites writesToLiving(lw::CMeshEdit& edit, const TagWrites& writes) {
-  const lw::PolygonIds there = edit.scan(lw::kLayersAll);
-  const std::unordered_set<lw::PolygonId> known(there.begin(), there.end());
-  std::unordered_map<lw::PolygonId, bool> living;
-  for (const lw::PolygonId polygon : writes.polygons) {
-    const auto [entry, isNew] = living.try_emplace(polygon);
-    if (isNew) entry->second = known.count(polygon) != 0 && edit.type(polygon) == lw::kTypeBone;
-  }
+  const lw::PolygonSet living = edit.skelegonsAmong(writes.polygons);
   TagWrites kept;
   for (std::size_t i = 0; i < writes.polygons.size(); ++i) {
-    if (living[writes.polygons[i]]) kept.add(writes.polygons[i], writes.types[i], writes.values[i]);
+    if (living.count(writes.polygons[i]) != 0) kept.add(writes.polygons[i], writes.types[i], writes.values[i]);
   }
   return kept;
 }

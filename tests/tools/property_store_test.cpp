@@ -206,6 +206,35 @@ TEST_F(PropertyStoreOfUsedIdentifiers, AFaceInTheSkelegonsPlaceGetsNoTags) {
   EXPECT_EQ(face.tag(copyTag(Slot::Strength)), "");
 }
 
+// --- looking for the skelegons that are written to, beside all the others -----------------------------------------------------
+
+TEST_F(PropertyStore, AWriteLooksThroughTheForegroundOnly) {
+  mst::WriteSlotValue(scanned({"Hips", "Tail"}), Slot::Strength, "50.000000");
+  EXPECT_EQ(mesh.host.edits().back().scans, std::vector<int>({lw::kLayersForeground}));
+}
+
+TEST_F(PropertyStore, AWriteLooksThroughAllLayersWhereOneIsHiddenByNow) {
+  const auto skelegons = scanned({"Hips", "Tail"});
+  mesh.host.showLayers({1});
+  mst::WriteSlotValue(skelegons, Slot::Strength, "50.000000");
+  EXPECT_EQ(mesh.host.edits().back().scans, std::vector<int>({lw::kLayersForeground, lw::kLayersAll}));
+  EXPECT_EQ(mesh.storedTag("Hips", copyTag(Slot::Strength)), "50.000000");
+}
+
+// A million faces beside the skelegons must cost nothing but the scan itself.
+TEST_F(PropertyStore, AWriteAsksNothingAboutOtherPolygons) {
+  const auto skelegons = scanned({"Hips"});
+  const auto callsOfAWrite = [&] {
+    const std::uint64_t before = standin::witness().calls();
+    mst::WriteSlotValue(skelegons, Slot::Strength, "50.000000");
+    return standin::witness().calls() - before;
+  };
+  const std::uint64_t calls = callsOfAWrite();
+  const auto& points = mesh.object->points();
+  for (int face = 0; face < 20; ++face) mesh.object->addFace(0, {points[0].id, points[1].id, points[2].id});
+  EXPECT_EQ(callsOfAWrite(), calls);
+}
+
 // A host that does not tell the type of a living skelegon must not make it look like a face.
 TEST_F(PropertyStore, ARefusedTypeWritesNothing) {
   const auto skelegons = scanned({"Hips", "Chest"});
