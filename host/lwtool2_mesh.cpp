@@ -15,7 +15,6 @@ namespace {
 
 constexpr std::size_t kExpectedPolygons = 1024;
 constexpr int kKeepSelection = 0;  // the last argument of done
-constexpr std::uint32_t kTypeUnknown = 0;
 
 MeshEditOp* begunEdit(int mode) {
   MeshEditOp* const edit = modelerCommand().editBegin(0, 0, 0, mode);
@@ -50,9 +49,11 @@ class CPresence {
 
 PolygonIds collect(int mode, int layers, FlagRule rule) {
   CMeshEdit edit(mode);
-  PolygonIds polygons = edit.scan(layers);
-  std::erase_if(polygons,
-                [&](PolygonId polygon) { return !edit.isSkelegon(polygon) || !rule.fits(edit.info(polygon).flags); });
+  PolygonIds polygons;
+  edit.forEachSkelegon(layers, [&](PolygonId polygon) {
+    if (rule.fits(edit.info(polygon).flags)) polygons.push_back(polygon);
+    return true;
+  });
   edit.done();
   return polygons;
 }
@@ -103,10 +104,10 @@ void CMeshEdit::failOf(int error, const std::exception_ptr& failure) {
   if (error != kEditNoError) fail(error, "fastPolyScan() !");
 }
 
-PolygonIds CMeshEdit::scan(int layers) {
-  PolygonScan scan(host(), layers);
-  failOf(scan.error, scan.failure);
-  return std::move(scan.found);
+void CMeshEdit::forEachSkelegon(int layers, const std::function<bool(PolygonId)>& action) {
+  const CSkelegonWalk walk(host(), layers);
+  failOf(walk.error(), walk.failure());
+  walk.forEach(action);
 }
 
 // Beside a large mesh the polygons in question are few: they are looked for in the scan, which keeps no list of the others
@@ -123,8 +124,18 @@ void CMeshEdit::search(int layers, PolygonSet& missing) {
 PolygonSet CMeshEdit::skelegonsAmong(const PolygonIds& polygons) {
   PolygonSet missing(polygons.begin(), polygons.end());
   PolygonSet skelegons;
-  search(kLayersForeground, missing);
-  if (!missing.empty()) search(kLayersAll, missing);
+  const auto known = [](int layers) { return foundSkelegons().in(layers); };
+  constexpr std::array<int, 2> kChoices = {kLayersForeground, kLayersAll};  // the second only for what is not in the first
+  for (const int layers : kChoices) {
+    if (known(layers) == nullptr) continue;
+    for (const PolygonId polygon : *known(layers)) {
+      if (missing.erase(polygon) != 0) skelegons.insert(polygon);
+    }
+  }
+  for (const int layers : kChoices) {
+    const bool isNews = known(layers) == nullptr && known(kLayersAll) == nullptr;
+    if (isNews && !missing.empty()) search(layers, missing);
+  }
   for (const PolygonId polygon : polygons) {
     if (skelegons.count(polygon) != 0 || missing.count(polygon) != 0) continue;
     const std::uint32_t type = edit_->polyType(edit_->state, polygon);
@@ -178,12 +189,12 @@ void SelectSkelegons(const PolygonIds& polygons) {
   CMeshEdit edit(kEditForSelecting);
   // What a panel remembers may be gone by now; the host must not be asked about such polygons.
   PolygonSet selectable;
-  for (const PolygonId polygon : edit.scan(kLayersForeground)) {
-    if (!edit.isSkelegon(polygon)) continue;
+  edit.forEachSkelegon(kLayersForeground, [&](PolygonId polygon) {
     const int flags = edit.info(polygon).flags;
     if (kNotDeleted.fits(flags)) selectable.insert(polygon);
     if (kSelectedNotDeleted.fits(flags)) edit.select(polygon, false);
-  }
+    return true;
+  });
   for (const PolygonId polygon : polygons) {
     if (selectable.count(polygon) != 0) edit.select(polygon, true);
   }
@@ -250,16 +261,16 @@ SkelegonInfo skelegonInfo(const MeshEditOp& edit, const EDPolygonInfo& record, s
 }  // namespace
 
 std::vector<SkelegonInfo> ScanSkelegons(int layers, ReportSource source, std::span<const std::uint32_t> tagTypes) {
+  foundSkelegons().shareWithForeground();
   CMeshEdit edit(kEditSeesSelection);
   std::vector<SkelegonInfo> skelegons;
   bool isComplete = true;
-  for (const PolygonId polygon : edit.scan(layers)) {
-    if (!edit.isSkelegon(polygon)) continue;
+  edit.forEachSkelegon(layers, [&](PolygonId polygon) {
     const EDPolygonInfo* const record = edit.host().polyInfo(edit.host().state, polygon);
     isComplete = record != nullptr;
-    if (!isComplete) break;
-    if (kNotDeleted.fits(record->flags)) skelegons.push_back(skelegonInfo(edit.host(), *record, tagTypes));
-  }
+    if (isComplete && kNotDeleted.fits(record->flags)) skelegons.push_back(skelegonInfo(edit.host(), *record, tagTypes));
+    return isComplete;
+  });
   edit.done();
   if (!isComplete) ReportError(source.file, source.line, "polyInfo() returned NULL !");
   return skelegons;

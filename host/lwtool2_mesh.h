@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -49,8 +50,9 @@ class CMeshEdit {
   // Ends the edit with an error code, reports and throws CBaseEx.
   [[noreturn]] void fail(int error, const char* message);
 
-  // Every polygon of a layer choice, of any type, in the host's order.
-  PolygonIds scan(int layers);
+  // Calls `action` for each skelegon of a layer choice in the host's order, until it answers false. Fails with
+  // "fastPolyScan() !".
+  void forEachSkelegon(int layers, const std::function<bool(PolygonId)>& action);
   // Which of these are skelegons of the current object; deleted ones may be among them. They may be identifiers that name
   // nothing, or something else, by now.
   PolygonSet skelegonsAmong(const PolygonIds& polygons);

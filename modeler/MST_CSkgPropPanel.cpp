@@ -6,6 +6,7 @@
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_eval.h"
 #include "host/lwtool2_globals.h"
+#include "host/lwtool2_messages.h"
 #include "modeler/property_layout.h"
 #include "modeler/property_sections.h"
 #include "modeler/tools.h"
@@ -261,7 +262,7 @@ void CSkgPropPanel::preset(Controller controller) {
 }
 
 void CSkgPropPanel::reset(const char* question, bool all) {
-  if (lw::messages().yesNo(kPropertyName, question, "") == 0) return;
+  if (!lw::AskYesNo(kPropertyName, question)) return;
   const lw::PolygonIds everyone = all && objectIsLoaded() ? lw::CollectSkelegons() : lw::PolygonIds();
   applyWrites(writesForReset(all ? everyone : selected()));
   reload();
