@@ -16,6 +16,8 @@ struct ModelerOptions {
   bool unnamedLayerIsEmpty = false;  // the name of a layer without one is empty, not null
   bool unnamedMapIsEmpty = false;    // the name of a vertex map without one is empty, not null
   bool layerSwitchDeselects = true;  // what lies in a layer that leaves the foreground is deselected
+
+  bool operator==(const ModelerOptions&) const = default;
 };
 
 }  // namespace standin

@@ -2,11 +2,12 @@
 #include <iostream>
 #include <memory>
 
-#include "standin/layout/layout_host.h"
 #include "standin/panels/panel.h"
+#include "standin/program/host_option.h"
 #include "standin/program/rig_tool_support.h"
 #include "standin/program/rig_tools.h"
 #include "standin/rigs/report.h"
+#include "standin/variants/played_host.h"
 
 namespace standin {
 namespace {
@@ -14,6 +15,7 @@ namespace {
 struct CommandsOptions {
   std::string file;
   std::string module;
+  HostWords host;
   std::string language = "en";
   bool noSkelegons = false;
   bool noPivot = false;
@@ -52,7 +54,7 @@ void print(const std::vector<rigs::SentCommand>& commands) {
 
 int run(const CommandsOptions& options) {
   return exitCodeOf([&] {
-    LayoutHost host;
+    PlayedLayout host(options.host.options());
     host.setLocale(localeOf(options.language));
     std::string why;
     const std::vector<Item*> items = host.loadObject(options.file, &why);
@@ -79,6 +81,7 @@ void addCommandsCommand(CLI::App& app, int& result) {
   const auto options = std::make_shared<CommandsOptions>();
   command->add_option("file", options->file, "Object file")->required();
   command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
+  addHostOption(*command, options->host);
   command->add_option("--lang", options->language, "Language of Layout")->check(CLI::IsMember({"en", "ja"}));
   command->add_flag("--no-skelegons", options->noSkelegons, "Switch the option for making bones off");
   command->add_flag("--no-pivot", options->noPivot, "Switch the option for recording the pivot rotation off");

@@ -3,11 +3,12 @@
 #include <CLI/CLI.hpp>
 #include <iostream>
 
-#include "standin/layout/layout_host.h"
 #include "standin/layout/report.h"
 #include "standin/panels/text.h"
+#include "standin/program/host_option.h"
 #include "standin/program/shipped_rigs.h"
 #include "standin/program/support.h"
+#include "standin/variants/played_host.h"
 
 namespace standin {
 namespace {
@@ -15,6 +16,7 @@ namespace {
 struct ConvertOptions {
   std::vector<std::string> files;
   std::string module;
+  HostWords host;
   std::string language = "en";
   bool shipped = false;
   bool transcript = false;
@@ -34,7 +36,7 @@ void runTool(LayoutHost& host, ModuleFile& module, const ConvertOptions& options
 
 void convertFile(const std::string& file, const ConvertOptions& options) {
   std::cout << "== " << fileNameOf(file) << std::endl;
-  LayoutHost host;
+  PlayedLayout host(options.host.options());
   host.setLocale(localeOf(options.language));
   std::string why;
   const std::vector<Item*> items = host.loadObject(file, &why);
@@ -78,6 +80,7 @@ void addConvertCommand(CLI::App& app, int& result) {
   const auto options = std::make_shared<ConvertOptions>();
   command->add_option("files", options->files, "Object files");
   command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
+  addHostOption(*command, options->host);
   command->add_option("--lang", options->language, "Language of the panel")->check(CLI::IsMember({"en", "ja"}));
   command->add_flag("--shipped", options->shipped, "Convert the rigs that come with the program first");
   command->add_flag("--transcript", options->transcript, "Show every command");

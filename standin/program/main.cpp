@@ -4,6 +4,7 @@
 
 #include "standin/program/convert.h"
 #include "standin/program/desk.h"
+#include "standin/program/hosts.h"
 #include "standin/program/pictures.h"
 #include "standin/program/rename.h"
 #include "standin/program/rig_tools.h"
@@ -17,10 +18,10 @@ namespace {
 
 // In the order of the help.
 constexpr void (*kCommands[])(CLI::App&, int&) = {
-    &standin::addConvertCommand,  &standin::addTripCommand, &standin::addPanelsCommand, &standin::addRenameCommand,
-    &standin::addPicturesCommand, &standin::addDeskCommand, &standin::addRigsCommand,   &standin::addInspectCommand,
-    &standin::addCommandsCommand, &standin::addDiffCommand, &standin::addExportCommand, &standin::addImportCommand,
-    &standin::addValidateCommand,
+    &standin::addConvertCommand,  &standin::addTripCommand,  &standin::addPanelsCommand, &standin::addRenameCommand,
+    &standin::addPicturesCommand, &standin::addDeskCommand,  &standin::addRigsCommand,   &standin::addInspectCommand,
+    &standin::addCommandsCommand, &standin::addDiffCommand,  &standin::addExportCommand, &standin::addImportCommand,
+    &standin::addValidateCommand, &standin::addHostsCommand,
 };
 
 }  // namespace

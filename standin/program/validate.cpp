@@ -8,6 +8,7 @@
 
 #include "standin/core/program_folder.h"
 #include "standin/objectfile/file_bytes.h"
+#include "standin/program/host_option.h"
 #include "standin/program/support.h"
 #include "standin/validate/check_run.h"
 #include "standin/validate/report.h"
@@ -22,6 +23,7 @@ constexpr int kNothingToCheck = 2;
 
 struct ValidateOptions {
   std::string module;
+  HostWords host;
   std::string levels = "1-6";
   std::vector<std::string> only;
   std::string report;
@@ -92,11 +94,13 @@ int validateModule(const ValidateOptions& options) {
   order.folder = folder.path();
   order.seed = options.seed;
   order.share = options.quick ? std::min(options.share, kQuickShare) : options.share;
+  order.host = options.host.choice();
   order.jobs = std::max(1U, options.jobs);
   order.limit = std::chrono::seconds(options.limit);
   order.told = [](const v::CheckResult& result) { std::cout << v::resultText(result) << std::flush; };
   const std::vector<v::CheckResult> results = v::runChecks(order);
-  const v::ReportHead head{order.module, v::thisBuild(), today(), order.seed, order.share};
+  const std::string host = order.host == HostChoice() ? std::string() : order.host.text();
+  const v::ReportHead head{order.module, v::thisBuild(), today(), order.seed, order.share, host};
   const std::string text = v::reportText(head, results);
   std::cout << text.substr(text.rfind("\n\n") + 1);
   if (!options.report.empty()) writeReports(options.report, head, results);
@@ -116,6 +120,7 @@ void addHiddenCommand(CLI::App& app, int& result) {
   CLI::App* const command = app.add_subcommand("validate-check", "Run a single check in this process");
   command->group("");
   const auto order = std::make_shared<v::Order>();
+  const auto host = std::make_shared<HostWords>();
   command->add_option("--check", order->check)->required();
   command->add_option("--module", order->module)->required();
   command->add_option("--folder", order->folder)->required();
@@ -123,7 +128,11 @@ void addHiddenCommand(CLI::App& app, int& result) {
   command->add_option("--seed", order->seed);
   command->add_option("--share", order->share);
   command->add_option("--from", order->from);
-  command->callback([order, &result] { result = v::runCheckHere(*order); });
+  addHostOption(*command, *host);
+  command->callback([order, host, &result] {
+    order->host = host->choice();
+    result = v::runCheckHere(*order);
+  });
 }
 
 }  // namespace
@@ -134,6 +143,7 @@ void addValidateCommand(CLI::App& app, int& result) {
   command->add_option("module", options->module, "The module's file (the one beside this program by default)");
   command->add_option("--level", options->levels, "The ladder up to a level, or a range: 4, 7-9")->capture_default_str();
   command->add_option("--only", options->only, "Only these checks, by name");
+  addHostOption(*command, options->host);
   command->add_option("--seed", options->seed, "Of everything random")->capture_default_str();
   command->add_option("--report", options->report, "Write report.txt and report.html into this folder");
   command->add_option("--share", options->share, "Do only this share of the long checks of levels 7 to 11")
@@ -147,7 +157,7 @@ void addValidateCommand(CLI::App& app, int& result) {
   command->footer(
       "Exit code 0: sound; 1: something was found; 2: nothing could be checked.\n\n"
       "Examples:\n  varnel validate varnel.p\n  varnel validate varnel.p --level 11 --report report\n"
-      "  varnel validate --only walks --seed 7");
+      "  varnel validate --only walks --seed 7\n  varnel validate --level 5 --host new-bones=selected");
   command->callback([options, &result] { result = run(*options); });
   addHiddenCommand(app, result);
 }
