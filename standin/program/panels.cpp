@@ -1,5 +1,5 @@
-#include <CLI/CLI.hpp>
 #include <iostream>
+#include <memory>
 
 #include "standin/layout/layout_host.h"
 #include "standin/modeler/modeler_host.h"
@@ -7,8 +7,8 @@
 #include "standin/panels/geometry.h"
 #include "standin/panels/text.h"
 #include "standin/program/property_panel.h"
+#include "standin/program/subcommands.h"
 #include "standin/program/support.h"
-#include "standin/program/trip.h"
 
 namespace standin {
 namespace {
@@ -88,13 +88,19 @@ int run(const PanelsOptions& options) {
 
 }  // namespace
 
-void addPanelsCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("panels", "Show every page of the tools' panels as text");
+Command panelsCommand() {
   const auto options = std::make_shared<PanelsOptions>();
-  command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
-  command->add_option("--lang", options->languages, "Languages to show")->check(CLI::IsMember({"en", "ja"}));
-  command->footer("Example:\n  varnel panels --lang ja");
-  command->callback([options, &result] { result = run(*options); });
+  return {
+      .name = "panels",
+      .text = "Show every page of the tools' panels as text",
+      .options =
+          {
+              moduleOption(options->module),
+              languageOption(&options->languages, "Languages to show"),
+          },
+      .footer = "Example:\n  varnel panels --lang ja",
+      .run = [options] { return run(*options); },
+  };
 }
 
 }  // namespace standin
