@@ -1,7 +1,5 @@
 #include "standin/program/host_option.h"
 
-#include <CLI/CLI.hpp>
-
 #include "standin/program/support.h"
 
 namespace standin {
@@ -14,10 +12,11 @@ HostChoice HostWords::choice() const {
   return choice;
 }
 
-void addHostOption(CLI::App& command, HostWords& host) {
-  command.add_option("--host", host.words, "NAME=VALUE, a host that differs in this; \"varnel hosts\" lists them all")
-      ->allow_extra_args(false)  // what follows is no host any more
-      ->check([](const std::string& word) { return HostChoice().take(word); });
+CommandOption hostOption(HostWords& host) {
+  return {"--host",
+          &host.words,
+          "NAME=VALUE, a host that differs in this; \"varnel hosts\" lists them all",
+          {.isRepeated = true, .refusal = [](const std::string& word) { return HostChoice().take(word); }}};
 }
 
 }  // namespace standin

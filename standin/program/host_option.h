@@ -4,11 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "standin/program/command_line.h"
 #include "standin/variants/variants.h"
-
-namespace CLI {
-class App;
-}
 
 namespace standin {
 
@@ -20,7 +17,7 @@ struct HostWords {
   HostOptions options() const { return choice().options(); }
 };
 
-// Adds the option, which may be given several times. Words that are no host are refused with what there is.
-void addHostOption(CLI::App& command, HostWords& host);
+// May be given several times. Words that are no host are refused with what there is.
+CommandOption hostOption(HostWords& host);
 
 }  // namespace standin

@@ -1,13 +1,13 @@
-#include <CLI/CLI.hpp>
 #include <iostream>
+#include <memory>
 
 #include "standin/objectfile/sample_rigs.h"
 #include "standin/panels/geometry.h"
 #include "standin/panels/text.h"
 #include "standin/program/host_option.h"
 #include "standin/program/property_panel.h"
+#include "standin/program/subcommands.h"
 #include "standin/program/support.h"
-#include "standin/program/trip.h"
 #include "standin/variants/played_host.h"
 
 namespace standin {
@@ -89,14 +89,20 @@ int run(const PanelsOptions& options) {
 
 }  // namespace
 
-void addPanelsCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("panels", "Show every page of the tools' panels as text");
+Command panelsCommand() {
   const auto options = std::make_shared<PanelsOptions>();
-  command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
-  addHostOption(*command, options->host);
-  command->add_option("--lang", options->languages, "Languages to show")->check(CLI::IsMember({"en", "ja"}));
-  command->footer("Example:\n  varnel panels --lang ja");
-  command->callback([options, &result] { result = run(*options); });
+  return {
+      .name = "panels",
+      .text = "Show every page of the tools' panels as text",
+      .options =
+          {
+              moduleOption(options->module),
+              hostOption(options->host),
+              languageOption(&options->languages, "Languages to show"),
+          },
+      .footer = "Example:\n  varnel panels --lang ja",
+      .run = [options] { return run(*options); },
+  };
 }
 
 }  // namespace standin

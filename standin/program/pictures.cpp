@@ -1,13 +1,12 @@
-#include "standin/program/pictures.h"
-
-#include <CLI/CLI.hpp>
 #include <array>
 #include <functional>
 #include <iostream>
+#include <memory>
 
 #include "standin/objectfile/sample_rigs.h"
 #include "standin/program/host_option.h"
 #include "standin/program/property_panel.h"
+#include "standin/program/subcommands.h"
 #include "standin/program/support.h"
 #include "standin/variants/played_host.h"
 #include "standin/windows/desk_window.h"
@@ -189,17 +188,22 @@ int run(const PicturesOptions& options) {
 
 }  // namespace
 
-void addPicturesCommand(CLI::App& app, int& result) {
-  CLI::App* const command =
-      app.add_subcommand("pictures", "Write pictures of the tools' panels as real windows (Windows only)");
+Command picturesCommand() {
   const auto options = std::make_shared<PicturesOptions>();
-  command->add_option("folder", options->folder, "Where the pictures go");
-  command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
-  addHostOption(*command, options->host);
-  command->add_option("--lang", options->languages, "Languages to show")->check(CLI::IsMember({"en", "ja"}));
-  command->add_option("--only", options->only, "Tools to show");
-  command->footer("Example:\n  varnel pictures --lang ja build/pictures");
-  command->callback([options, &result] { result = run(*options); });
+  return {
+      .name = "pictures",
+      .text = "Write pictures of the tools' panels as real windows (Windows only)",
+      .options =
+          {
+              {"folder", &options->folder, "Where the pictures go"},
+              moduleOption(options->module),
+              hostOption(options->host),
+              languageOption(&options->languages, "Languages to show"),
+              {"--only", &options->only, "Tools to show"},
+          },
+      .footer = "Example:\n  varnel pictures --lang ja build/pictures",
+      .run = [options] { return run(*options); },
+  };
 }
 
 }  // namespace standin

@@ -1,6 +1,3 @@
-#include "standin/program/rename.h"
-
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <functional>
 #include <iostream>
@@ -10,6 +7,7 @@
 #include "standin/objectfile/sample_rigs.h"
 #include "standin/panels/metrics.h"
 #include "standin/program/host_option.h"
+#include "standin/program/subcommands.h"
 #include "standin/program/support.h"
 #include "standin/variants/played_host.h"
 
@@ -284,14 +282,20 @@ int run(const RenameOptions& options) {
 
 }  // namespace
 
-void addRenameCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("rename", "Show what the renamer does, as trees before and after");
+Command renameCommand() {
   const auto options = std::make_shared<RenameOptions>();
-  command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
-  addHostOption(*command, options->host);
-  command->add_option("--lang", options->language, "Language of the panel")->check(CLI::IsMember({"en", "ja"}));
-  command->footer("Example:\n  varnel rename --lang ja");
-  command->callback([options, &result] { result = run(*options); });
+  return {
+      .name = "rename",
+      .text = "Show what the renamer does, as trees before and after",
+      .options =
+          {
+              moduleOption(options->module),
+              hostOption(options->host),
+              languageOption(&options->language, "Language of the panel"),
+          },
+      .footer = "Example:\n  varnel rename --lang ja",
+      .run = [options] { return run(*options); },
+  };
 }
 
 }  // namespace standin

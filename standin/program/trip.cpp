@@ -1,12 +1,11 @@
-#include "standin/program/trip.h"
-
-#include <CLI/CLI.hpp>
 #include <iostream>
+#include <memory>
 
 #include "standin/layout/report.h"
 #include "standin/objectfile/sample_rigs.h"
 #include "standin/program/host_option.h"
 #include "standin/program/property_panel.h"
+#include "standin/program/subcommands.h"
 #include "standin/program/support.h"
 #include "standin/variants/played_host.h"
 
@@ -100,14 +99,20 @@ int run(const TripOptions& options) {
 
 }  // namespace
 
-void addTripCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("trip", "Follow one setting from the property panel to the bone");
+Command tripCommand() {
   const auto options = std::make_shared<TripOptions>();
-  command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
-  addHostOption(*command, options->host);
-  command->add_option("--lang", options->language, "Language of the panels")->check(CLI::IsMember({"en", "ja"}));
-  command->footer("Example:\n  varnel trip --lang ja");
-  command->callback([options, &result] { result = run(*options); });
+  return {
+      .name = "trip",
+      .text = "Follow one setting from the property panel to the bone",
+      .options =
+          {
+              moduleOption(options->module),
+              hostOption(options->host),
+              languageOption(&options->language, "Language of the panels"),
+          },
+      .footer = "Example:\n  varnel trip --lang ja",
+      .run = [options] { return run(*options); },
+  };
 }
 
 }  // namespace standin

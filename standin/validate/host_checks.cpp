@@ -71,6 +71,8 @@ void mixedHosts(CheckRun& run) {
 }
 
 constexpr std::array kChecks{
+    Check{"hosts-both", 11, "Every tool does its job where both programs differ in one thing",
+          [](CheckRun& run) { singleHosts(run, programVariants()); }},
     Check{"hosts-panels", 11, "Every tool does its job where panels differ in one thing",
           [](CheckRun& run) { singleHosts(run, panelVariants()); }},
     Check{"hosts-modeler", 11, "Every tool does its job where Modeler differs in one thing",

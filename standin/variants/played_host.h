@@ -1,6 +1,9 @@
-// Modeler or Layout on a chosen host: the program with its options, and the panel services with theirs.
+// Modeler or Layout on a chosen host: the program with its options, the panel services with theirs, and the process around them.
 #pragma once
 
+#include <optional>
+
+#include "standin/core/comma_locale.h"
 #include "standin/layout/layout_host.h"
 #include "standin/modeler/modeler_host.h"
 #include "standin/panels/panel.h"
@@ -8,14 +11,20 @@
 
 namespace standin {
 
-class PlayedModeler : public ModelerHost {
+// Throws std::runtime_error where the system cannot be such a host's.
+template <class Host, auto OptionsOfHost>
+class PlayedHost : public Host {
  public:
-  explicit PlayedModeler(const HostOptions& options) : ModelerHost(options.modeler) { panels().options = options.panels; }
+  explicit PlayedHost(const HostOptions& options) : Host(options.*OptionsOfHost) {
+    panels().options = options.panels;
+    if (options.program.commaLocale) locale_.emplace();
+  }
+
+ private:
+  std::optional<CommaLocale> locale_;
 };
 
-class PlayedLayout : public LayoutHost {
- public:
-  explicit PlayedLayout(const HostOptions& options) : LayoutHost(options.layout) { panels().options = options.panels; }
-};
+using PlayedModeler = PlayedHost<ModelerHost, &HostOptions::modeler>;
+using PlayedLayout = PlayedHost<LayoutHost, &HostOptions::layout>;
 
 }  // namespace standin

@@ -8,9 +8,10 @@ namespace standin {
 namespace {
 
 constexpr std::array kAreas{
-    VariantArea{"Panels", panelVariants},
-    VariantArea{"Modeler", modelerVariants},
-    VariantArea{"Layout", layoutVariants},
+    VariantArea{"both", "Both programs", programVariants},
+    VariantArea{"panels", "Panels", panelVariants},
+    VariantArea{"modeler", "Modeler", modelerVariants},
+    VariantArea{"layout", "Layout", layoutVariants},
 };
 
 template <class Things>

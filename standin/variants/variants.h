@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "standin/core/options.h"
 #include "standin/layout/options.h"
 #include "standin/modeler/options.h"
 #include "standin/panels/options.h"
@@ -20,6 +21,7 @@ namespace standin {
 
 // A whole host, as far as hosts may differ.
 struct HostOptions {
+  ProgramOptions program;
   PanelOptions panels;
   ModelerOptions modeler;
   LayoutOptions layout;
@@ -40,11 +42,13 @@ struct HostVariant {
   std::span<const VariantValue> values;  // the default first
 };
 
+std::span<const HostVariant> programVariants();
 std::span<const HostVariant> panelVariants();
 std::span<const HostVariant> modelerVariants();
 std::span<const HostVariant> layoutVariants();
 
 struct VariantArea {
+  const char* name;  // of the check "hosts-NAME", which plays its rows
   const char* heading;
   std::span<const HostVariant> (*rows)();
 };
