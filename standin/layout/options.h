@@ -21,6 +21,8 @@ struct LayoutOptions {
   std::string channelWithoutKeys;                 // motion channel that has no envelope
   bool decoyChannel = false;                      // the group below an item's group holds a channel "Position.X" as well
   std::uint64_t highIdBits = 0x7A5C000000000000;  // above the 32 bits of an item identifier that count
+
+  bool operator==(const LayoutOptions&) const = default;
 };
 
 }  // namespace standin

@@ -39,6 +39,8 @@ struct ModelerOptions {
   bool otherMapsBearNames = false;   // there are vertex maps of other types too, named like the skelegons
   bool objectsAreUnsaved = false;    // objects have never been saved, whatever they were opened from
   UnsavedFileName unsavedFileName = UnsavedFileName::Reference;
+
+  bool operator==(const ModelerOptions&) const = default;
 };
 
 }  // namespace standin
