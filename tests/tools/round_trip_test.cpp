@@ -2,7 +2,7 @@
 #include <map>
 
 #include "standin/layout/layout_host.h"
-#include "tests/tools/arrived.h"
+#include "standin/layout/arrived.h"
 #include "tests/tools/conversion_fixture.h"
 #include "tests/tools/convert_saved.h"
 #include "tests/tools/property_panel_fixture.h"
