@@ -71,6 +71,9 @@ constexpr std::array<FindingRow, kFindingKinds> kRows = {{
     {FindingKind::CommandTooLong, "command-too-long",
      "the command \"{other}\" with this text would have {number} bytes, more than can be sent: the whole conversion will end here",
      "このテキストを付けたコマンド「{other}」は {number} バイトになり、送れません: 変換全体がここで終わります"},
+    {FindingKind::PathTooLong, "path-too-long",
+     "the whole path of the file has {number} characters, more than the {other} that can be opened: the conversion will read the file that it read before instead, and this object will get no settings or those of that one",
+     "ファイルのパス全体が {number} 文字あり、開ける {other} 文字を超えています: 変換は代わりに前に読んだファイルを読み、このオブジェクトには設定が付かないか、そのファイルの設定が付きます"},
     {FindingKind::PathCodePage, "path-code-page",
      "the file name {text} has characters that code page {number} lacks: the file will not be found, and the conversion will end here",
      "ファイル名 {text} にコードページ {number} に無い文字があります: ファイルが見つからず、変換はここで終わります"},
@@ -157,6 +160,11 @@ class Search {
 
   void checkFile() {
     if (!lw::isObjectFileName(rig_.fileName)) add(FindingKind::FileExtension, inQuotes(rig_.fileName));
+    if (rig_.pathLength > kLongestPath) {
+      Finding& finding = add(FindingKind::PathTooLong);
+      finding.number = std::to_string(rig_.pathLength);
+      finding.other = std::to_string(kLongestPath);
+    }
     if (!codePage_.holds(rig_.fileName)) {
       add(FindingKind::PathCodePage, inQuotes(rig_.fileName)).number = std::to_string(codePage_.number());
     }
