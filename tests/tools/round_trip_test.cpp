@@ -1,6 +1,7 @@
 // Every setting on its whole way: changed in the panel by a person, stored in the object, saved, converted, on the bone.
 #include <map>
 
+#include "skelegon/slot_table.h"
 #include "standin/layout/layout_host.h"
 #include "tests/tools/arrived.h"
 #include "tests/tools/conversion_fixture.h"
@@ -17,7 +18,7 @@ constexpr const char* kSkelegon = "Tail_02";
 
 std::vector<Slot> shownSlots() {
   std::vector<Slot> slots;
-  for (const skg::SlotRow& row : skg::slotTable()) {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
     if (row.kind != skg::SlotKind::Reserved) slots.push_back(row.slot);
   }
   return slots;
