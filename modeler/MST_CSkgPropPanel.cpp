@@ -257,7 +257,7 @@ void CSkgPropPanel::fillLinkedNames(Slot slot) {
 
 void CSkgPropPanel::preset(Controller controller) {
   if (page_ != kControllersPage) return;
-  applyWrites(writesForControllerPreset(skelegons_, static_cast<ControllerGroup>(group_), controller));
+  applyWrites(writesForControllerPreset(skelegons_, static_cast<skg::MotionGroup>(group_), controller));
   reload();
 }
 

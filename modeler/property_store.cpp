@@ -1,3 +1,4 @@
+#include "skelegon/slot_table.h"
 #include "modeler/property_store.h"
 
 #include <array>
@@ -57,7 +58,7 @@ skg::SkelegonProperties ReadSkelegonProperties(lw::PolygonId polygon) {
     std::string& colour = properties[skg::Slot::Colour];
     if (colour.empty()) colour = std::move(stored.back());
   }
-  for (const skg::SlotRow& row : skg::slotTable()) {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
     std::string& text = properties[row.slot];
     if (text.empty()) text = row.defaultText;
   }

@@ -8,6 +8,7 @@
 
 #include "host/item_names.h"
 #include "skelegon/numbers.h"
+#include "skelegon/setting_groups.h"
 #include "standin/rigs/names_in_layout.h"
 #include "standin/rigs/text.h"
 #include "standin/rigs/values.h"
@@ -101,21 +102,6 @@ constexpr bool rowsStandInOrder() {
 static_assert(rowsStandInOrder());
 static_assert(static_cast<std::size_t>(FindingKind::TextMissing) + 1 == kFindingKinds);
 
-// The items that the conversion makes a null for when it does not find them, and those that it only looks up.
-constexpr Slot kHelpers[] = {
-    Slot::TargetItem,   Slot::PoleItem,  Slot::GoalObject,          Slot::PositionItem,
-    Slot::RotationItem, Slot::ScaleItem, Slot::InitialPositionItem,
-};
-constexpr Slot kParents[] = {
-    Slot::ParentItem,     Slot::TargetParent,   Slot::PoleParent,  Slot::GoalParent,
-    Slot::PositionParent, Slot::RotationParent, Slot::ScaleParent,
-};
-
-template <std::size_t Size>
-bool isOneOf(const Slot (&list)[Size], Slot slot) {
-  return std::find(std::begin(list), std::end(list), slot) != std::end(list);
-}
-
 class Search {
  public:
   Search(const Rig& rig, const CodePage& codePage) : rig_(rig), codePage_(codePage), found_(namesFound(rig)) {
@@ -123,7 +109,7 @@ class Search {
     for (const Skelegon& skelegon : rig.skelegons) {
       layersOfName_[skelegon.name].insert(skelegon.layer);
       for (const Setting& setting : allSettings()) {
-        const std::string* const text = isOneOf(kHelpers, setting.slot) ? skelegon.stored(setting) : nullptr;
+        const std::string* const text = skg::linkedItemOf(setting.slot) != nullptr ? skelegon.stored(setting) : nullptr;
         if (text != nullptr && !text->empty()) nulls_.insert(itemMeant(layerOf(skelegon), *text));
       }
     }
@@ -231,8 +217,8 @@ class Search {
     if (setting.kind == SlotKind::Colour) return checkColour(i, setting, text);
     if (text.empty()) return;
     if (setting.slot == Slot::WeightMap) checkCommand(i, setting, "BoneWeightMapName", text);
-    if (isOneOf(kHelpers, setting.slot)) checkHelper(i, setting, text);
-    if (isOneOf(kParents, setting.slot)) checkLookUp(i, setting, text, FindingKind::ParentMissing);
+    if (skg::linkedItemOf(setting.slot) != nullptr) checkHelper(i, setting, text);
+    if (skg::isParentName(setting.slot)) checkLookUp(i, setting, text, FindingKind::ParentMissing);
     if (setting.slot == Slot::UseBonesFromObject) checkLookUp(i, setting, text, FindingKind::BonesFromMissing);
   }
 

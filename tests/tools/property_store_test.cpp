@@ -1,4 +1,5 @@
 // Bone settings read from and written to the mesh, and the skelegon tree built from it.
+#include "skelegon/slot_table.h"
 #include "modeler/property_store.h"
 
 #include "modeler/skelegon_scan.h"
@@ -26,7 +27,7 @@ class PropertyStore : public MeshTest {
 
 TEST_F(PropertyStore, ASkelegonWithoutTagsHasEveryDefault) {
   const skg::SkelegonProperties properties = mst::ReadSkelegonProperties(mesh.unnamed());
-  for (const skg::SlotRow& row : skg::slotTable()) EXPECT_EQ(properties[row.slot], row.defaultText) << row.setting;
+  for (const skg::SlotRow& row : skg::kSlotTable) EXPECT_EQ(properties[row.slot], row.defaultText) << row.setting;
 }
 
 TEST_F(PropertyStore, NoSkelegonHasEveryDefaultAndAsksTheHostNothing) {
