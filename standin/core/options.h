@@ -5,6 +5,8 @@ namespace standin {
 
 struct ProgramOptions {
   bool commaLocale = false;  // numbers are formatted with a decimal comma in the host's process
+
+  bool operator==(const ProgramOptions&) const = default;
 };
 
 }  // namespace standin

@@ -201,7 +201,7 @@ int openPanel(Panel& panel, int flags) {
   if (panels().listener != nullptr) panels().listener->opened(panel);
   panels().callHook(panel, panel.openHook, "panel open hook");
   if (!isBlocking) return 1;
-  const int answer = panels().options.blocking ? panels().options.blocking(panel) : 0;
+  const int answer = panels().blocking ? panels().blocking(panel) : 0;
   closePanel(panel);
   return answer;
 }
