@@ -1,9 +1,11 @@
 #include <algorithm>
 #include <charconv>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <system_error>
 
+#include "standin/objectfile/file_bytes.h"
 #include "standin/program/rig_tool_support.h"
 #include "standin/program/subcommands.h"
 #include "standin/rigs/findings.h"
@@ -43,6 +45,7 @@ rigs::Inspected inspect(const std::string& path, const rigs::CodePage& codePage,
     return file;
   }
   file.rig = rigs::rigOf(*object, fileNameOf(path));
+  file.rig.pathLength = std::filesystem::absolute(pathFromUtf8(path)).u16string().size();
   file.findings = rigs::findingsOf(file.rig, codePage);
   std::erase_if(file.findings, [&](const rigs::Finding& finding) {
     const std::string id = rigs::findingTable()[static_cast<std::size_t>(finding.kind)].id;

@@ -28,9 +28,8 @@ constexpr std::array kLuggage{
     Luggage{"one layer in English", japaneseRig, kEnglish},
 };
 
-void playOn(CheckRun& run, const HostChoice& host, const Luggage& luggage, std::uint64_t seed) {
-  const Rig rig = luggage.rig(run.file(""));
-  for (const Trip& trip : allTrips()) {
+void goOn(CheckRun& run, const HostChoice& host, const Luggage& luggage, const Rig& rig, std::span<const Trip> trips) {
+  for (const Trip& trip : trips) {
     run.at(trip.name);
     TripOrder order;
     order.module = run.module();
@@ -42,6 +41,12 @@ void playOn(CheckRun& run, const HostChoice& host, const Luggage& luggage, std::
     for (const std::string& trouble : report.troubles) run.fail(std::string(trip.name) + ": " + trouble);
     for (const std::string& rule : report.broken) run.fail(std::string(trip.name) + ": " + rule);
   }
+}
+
+void playOn(CheckRun& run, const HostChoice& host, const Luggage& luggage, std::uint64_t seed) {
+  const Rig rig = luggage.rig(run.file(""));
+  goOn(run, host, luggage, rig, allTrips());
+  goOn(run, host, luggage, rig, meshTrips());
   const int actions = static_cast<int>(run.shareOf(kActions, kFewestActions));
   for (const Program program : {Program::Modeler, Program::Layout}) {
     walkOnce(

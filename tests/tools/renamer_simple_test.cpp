@@ -1,4 +1,5 @@
 // The five simple modes, through the panel, with and without the bone properties.
+#include "skelegon/slot_table.h"
 #include "tests/tools/renamer_fixture.h"
 
 namespace varnel::test {
@@ -142,7 +143,7 @@ void PrintTo(const ModeRow& row, std::ostream* out) { *out << "mode " << static_
 class EverySimpleMode : public testing::TestWithParam<ModeRow>, protected RenamerSession {
  protected:
   void storeInAllSlots(const char* text) {
-    for (const skg::SlotRow& row : skg::slotTable()) {
+    for (const skg::SlotRow& row : skg::kSlotTable) {
       if (row.slot != Slot::Name) store("Root", skg::plainSlotTagId(skg::indexOf(row.slot)), text);
     }
     store("Root", lw::kTagBoneWeight, text);

@@ -1,9 +1,10 @@
 // Every setting on its whole way: changed in the panel by a person, stored in the object, saved, converted, on the bone.
 #include <map>
 
+#include "skelegon/slot_table.h"
 #include "standin/core/comma_locale.h"
 #include "standin/layout/layout_host.h"
-#include "tests/tools/arrived.h"
+#include "standin/layout/arrived.h"
 #include "tests/tools/conversion_fixture.h"
 #include "tests/tools/convert_saved.h"
 #include "tests/tools/property_panel_fixture.h"
@@ -18,7 +19,7 @@ constexpr const char* kSkelegon = "Tail_02";
 
 std::vector<Slot> shownSlots() {
   std::vector<Slot> slots;
-  for (const skg::SlotRow& row : skg::slotTable()) {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
     if (row.kind != skg::SlotKind::Reserved) slots.push_back(row.slot);
   }
   return slots;
