@@ -331,10 +331,13 @@ void set(lw::LWControl* face, int attribute, lw::LWValue* value) {
 
 // Erasing fills where the control is with the panel's colour. A border around it keeps its lines.
 void coverOthers(const Control& erased) {
+  const Rectangle area = erased.whole();
   for (const auto& other : erased.panel->controls) {
-    if (other.get() == &erased || !other->isAlive || !other->whole().meets(erased.whole())) continue;
-    const bool isAround = other->is(ControlKind::Border) && other->whole().holds(erased.whole());
-    if (!isAround) other->isCovered = true;
+    const bool isSeen = other->isAlive && !other->isErased && !other->isCovered;
+    // Rows first: widths are those of texts, and take their time.
+    if (!isSeen || other->y >= area.bottom() || other->y + other->height() <= area.y) continue;
+    const bool isAround = other->is(ControlKind::Border) && other->whole().holds(area);
+    if (!isAround && other->whole().meets(area)) other->isCovered = true;
   }
 }
 
