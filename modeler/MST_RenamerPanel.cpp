@@ -7,6 +7,7 @@
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_eval.h"
 #include "host/lwtool2_globals.h"
+#include "host/lwtool2_messages.h"
 #include "host/raised_flag.h"
 #include "modeler/tools.h"
 
@@ -64,14 +65,13 @@ void RenamerPanel::build() {
 }
 
 void RenamerPanel::complain(const RenameResult& result) const {
-  const auto error = [](const char* text) { lw::messages().error(text, ""); };
   // A title stands before each text; the host's error message has no place for one.
   const auto text = [&](texts::RenamerMessage which) { return (*made_.messages)[static_cast<std::size_t>(which) + 1]; };
   switch (result.outcome) {
     case RenameOutcome::Renamed: break;
-    case RenameOutcome::NoSkelegons: return error(text(texts::RenamerMessage::NoSelection));
-    case RenameOutcome::DuplicatedNames: return error(text(texts::RenamerMessage::DuplicatedNames));
-    case RenameOutcome::InvalidPattern: return error(result.complaint.c_str());
+    case RenameOutcome::NoSkelegons: return lw::ShowError(text(texts::RenamerMessage::NoSelection));
+    case RenameOutcome::DuplicatedNames: return lw::ShowError(text(texts::RenamerMessage::DuplicatedNames));
+    case RenameOutcome::InvalidPattern: return lw::ShowError(result.complaint.c_str());
   }
 }
 

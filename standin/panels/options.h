@@ -3,11 +3,8 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 
 namespace standin {
-
-struct Panel;
 
 // The two ways in which mouse input over a panel reaches a module.
 enum class MouseDelivery {
@@ -40,26 +37,27 @@ struct PanelOptions {
   bool sizeNeedsResizable = true;  // an open panel takes a new size from the module only when opened resizable
   bool resizeHookOnSet = false;    // a size set by the module on an open panel calls the resize hook too
   OutsideIndex outsideIndex = OutsideIndex::Kept;
-  bool asksPopupsAnytime = false;       // custom popups are asked when they are made, set and drawn, for any index
-  bool eraseCovers = true;              // erasing a control paints over what lies where it is, until that is drawn again
-  bool movesRepaint = true;             // a control moved on an open panel is seen there at once; else when it is drawn
-  bool setsRepaint = true;              // a value set on an open panel is seen at once; else when the control is drawn
-  bool setsFireEvents = false;          // odd host: setting a value fires the control's event
-  bool repeatedChoiceFires = true;      // choosing the item that is chosen already is an event
-  bool ghostedFires = true;             // ghosted controls can still be used
-  bool drawBeforeOpenHolds = true;      // hiding a control of a closed panel still holds when the panel opens
-  bool copiesTexts = false;             // labels, titles and lists are copied instead of read when they are needed
-  bool terminatesTexts = false;         // a text that fills the caller's buffer is cut to leave room for the final zero
-  std::size_t longestText = 0;          // bytes that an edit field holds, others are dropped; 0: any number
-  bool firesAtEachLetter = false;       // typing fires at each letter instead of once at the end
-  bool slidersLimitTyped = true;        // least and greatest value hold for whole numbers typed beside a slider
-  bool limitsSetValues = false;         // and, where values are limited, for those that the module sets
-  bool rangesInValueUnit = false;       // least and greatest value are in the value's unit, radians for angles
-  bool limitsTypedValues = false;       // least and greatest value hold for typed percents, angles, distances and floats
-  bool wantsLookupFunction = true;      // the module must have written its lookup function before it creates a panel
-  int rowHeight = 20;                   // of controls of one row
-  int rightPadding = 0;                 // pixels of a control right of its hot area, so that width > label + hot width
-  std::function<int(Panel&)> blocking;  // plays the person in front of a blocking panel: 1 continue, 0 cancel
+  bool asksPopupsAnytime = false;   // custom popups are asked when they are made, set and drawn, for any index
+  bool eraseCovers = true;          // erasing a control paints over what lies where it is, until that is drawn again
+  bool movesRepaint = true;         // a control moved on an open panel is seen there at once; else when it is drawn
+  bool setsRepaint = true;          // a value set on an open panel is seen at once; else when the control is drawn
+  bool setsFireEvents = false;      // odd host: setting a value fires the control's event
+  bool repeatedChoiceFires = true;  // choosing the item that is chosen already is an event
+  bool ghostedFires = true;         // ghosted controls can still be used
+  bool drawBeforeOpenHolds = true;  // hiding a control of a closed panel still holds when the panel opens
+  bool copiesTexts = false;         // labels, titles and lists are copied instead of read when they are needed
+  bool terminatesTexts = false;     // a text that fills the caller's buffer is cut to leave room for the final zero
+  std::size_t longestText = 0;      // bytes that an edit field holds, others are dropped; 0: any number
+  bool firesAtEachLetter = false;   // typing fires at each letter instead of once at the end
+  bool slidersLimitTyped = true;    // least and greatest value hold for whole numbers typed beside a slider
+  bool limitsSetValues = false;     // and, where values are limited, for those that the module sets
+  bool rangesInValueUnit = false;   // least and greatest value are in the value's unit, radians for angles
+  bool limitsTypedValues = false;   // least and greatest value hold for typed percents, angles, distances and floats
+  bool wantsLookupFunction = true;  // the module must have written its lookup function before it creates a panel
+  int rowHeight = 20;               // of controls of one row
+  int rightPadding = 0;             // pixels of a control right of its hot area, so that width > label + hot width
+
+  bool operator==(const PanelOptions&) const = default;
 };
 
 }  // namespace standin

@@ -136,6 +136,7 @@ void Panels::reset() {
   due_.clear();
   options = PanelOptions();
   listener = nullptr;
+  blocking = nullptr;
 }
 
 std::vector<Panel*> Panels::all() const {

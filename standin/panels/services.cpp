@@ -216,7 +216,7 @@ int openPanel(Panel& panel, int flags) {
   if (when == OpenHook::Shown) callHook();
   if (when == OpenHook::Later) panels().hookIsDue(panel);
   if (!isBlocking) return panels().options.openAnswer;
-  const int answer = panels().options.blocking ? panels().options.blocking(panel) : 0;
+  const int answer = panels().blocking ? panels().blocking(panel) : 0;
   closePanel(panel);
   return answer;
 }
