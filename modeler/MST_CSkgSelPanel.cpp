@@ -53,28 +53,32 @@ CSkgSelPanel::~CSkgSelPanel() {
 // Opening and closing
 
 bool CSkgSelPanel::OpenSelectorPanel() {
-  if (isOpen_) {
+  if (life_.isOpen()) {
     form_->bringToFront();
     refresh();
     return true;
+  }
+  if (life_.mayBeOpen()) {
+    form_->close();
+    closed();
   }
   if (!form_) build();
   mouse_.reset();
   form_->layOut();
   fitView();
   rescan();
-  isOpen_ = form_->open();
-  return isOpen_;
+  life_.open([&] { return form_->open(); });
+  return life_.isOpen();
 }
 
 void CSkgSelPanel::build() {
   title_ = lw::FormatString("%s(%d.%d)%s", kSelectorName, VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR, " ");
-  form_.emplace(title_.c_str(), SelectorHooks{this, &OnTreeUsed, &OnDrawTree, &OnSync, &OnClosed, &OnMouseButton,
+  form_.emplace(title_.c_str(), SelectorHooks{this, &OnTreeUsed, &OnDrawTree, &OnSync, &OnOpened, &OnClosed, &OnMouseButton,
                                               &OnMouseMotion, &OnMouseWheel, &OnResized});
 }
 
 void CSkgSelPanel::closed() {
-  isOpen_ = false;
+  life_.closed();
   tree_.release();
   tree_.setNodes({});
 }
@@ -82,7 +86,7 @@ void CSkgSelPanel::closed() {
 void CSkgSelPanel::resized(int width, int height) {
   form_->layOut(width, height);
   fitView();
-  if (isOpen_) form_->redrawTree();
+  if (life_.mayBeOpen()) form_->redraw();  // the tree and what was moved with it
 }
 
 void CSkgSelPanel::fitView() { tree_.setView(form_->treeWidth(), form_->treeHeight()); }
@@ -146,7 +150,7 @@ void onPanel(void* user, Action&& action) {
 // Some hosts paint by the event too: one that tells nothing new of the mouse is taken for that.
 void CSkgSelPanel::OnTreeUsed(lw::LWControl* control, void* user) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    if (!panel.isOpen_ || !panel.form_->isTree(control)) return;
+    if (!panel.life_.mayBeOpen() || !panel.form_->isTree(control)) return;
     const MouseReport report = panel.form_->mouseOfEvent();
     const bool isNew = panel.act(panel.mouse_.any(MouseWay::ControlEvent, report), report);
     if (!isNew) panel.drawing_.draw(panel.tree_.picture());
@@ -162,17 +166,25 @@ void CSkgSelPanel::OnDrawTree(lw::LWControl* control, void* user, int mode) {
 
 void CSkgSelPanel::OnSync(lw::LWControl* control, void* user) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    if (panel.isOpen_ && panel.form_->isSync(control)) panel.refresh();
+    if (panel.life_.mayBeOpen() && panel.form_->isSync(control)) panel.refresh();
   });
 }
 
-void CSkgSelPanel::OnClosed(lw::PanelId /*panel*/, void* user) {
-  onPanel(user, [](CSkgSelPanel& panel) { panel.closed(); });
+void CSkgSelPanel::OnOpened(lw::PanelId id, void* user) {
+  onPanel(user, [&](CSkgSelPanel& panel) {
+    if (panel.isPanel(id)) panel.life_.opened();
+  });
+}
+
+void CSkgSelPanel::OnClosed(lw::PanelId id, void* user) {
+  onPanel(user, [&](CSkgSelPanel& panel) {
+    if (panel.isPanel(id)) panel.closed();
+  });
 }
 
 void CSkgSelPanel::OnMouseButton(lw::PanelId /*panel*/, void* user, int bits, int x, int y) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    if (!panel.isOpen_) return;
+    if (!panel.life_.mayBeOpen()) return;
     const MouseReport report = panel.form_->mouseOfHook(bits, x, y);
     panel.act(panel.mouse_.button(MouseWay::Hooks, report), report);
   });
@@ -180,7 +192,7 @@ void CSkgSelPanel::OnMouseButton(lw::PanelId /*panel*/, void* user, int bits, in
 
 void CSkgSelPanel::OnMouseMotion(lw::PanelId /*panel*/, void* user, int bits, int x, int y) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    if (!panel.isOpen_) return;
+    if (!panel.life_.mayBeOpen()) return;
     const MouseReport report = panel.form_->mouseOfHook(bits, x, y);
     panel.act(panel.mouse_.motion(MouseWay::Hooks, report), report);
   });
@@ -188,7 +200,7 @@ void CSkgSelPanel::OnMouseMotion(lw::PanelId /*panel*/, void* user, int bits, in
 
 void CSkgSelPanel::OnMouseWheel(lw::PanelId /*panel*/, void* user, int clicks, int /*x*/, int /*y*/) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    if (panel.isOpen_) panel.show(panel.tree_.wheel(clicks));
+    if (panel.life_.mayBeOpen()) panel.show(panel.tree_.wheel(clicks));
   });
 }
 
@@ -200,7 +212,7 @@ void CSkgSelPanel::OnResized(lw::PanelId /*panel*/, void* user, int width, int h
 
 void CSkgSelPanel::OnNews(void* user, PanelNews news) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    if (!panel.isOpen_) return;
+    if (!panel.life_.mayBeOpen()) return;
     switch (news) {
       case PanelNews::Refresh:
       case PanelNews::NamesChanged:

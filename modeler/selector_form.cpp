@@ -40,6 +40,7 @@ CSelectorForm::CSelectorForm(const char* title, const SelectorHooks& hooks) : pa
   sync_.onEvent(hooks.syncPressed);
 
   panel_.setUser(hooks.user);
+  panel_.onOpen(hooks.opened);
   panel_.onClose(hooks.closed);
   panel_.onMouse(hooks.mouseButton, hooks.mouseMotion, hooks.mouseWheel);
   panel_.onResize(hooks.resized);
@@ -48,7 +49,7 @@ CSelectorForm::CSelectorForm(const char* title, const SelectorHooks& hooks) : pa
   layOut(kSelectorWidth, kSelectorHeight);
 }
 
-bool CSelectorForm::open() const { return panel_.open(kOpenFlags) != 0; }
+int CSelectorForm::open() const { return panel_.open(kOpenFlags); }
 
 // A host may ignore the least size, but no control has less than a pixel.
 void CSelectorForm::layOut(int width, int height) const {

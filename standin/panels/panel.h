@@ -82,6 +82,10 @@ struct Control {
   bool scalesWithScreen = false;
   bool isAlive = true;
   bool wantsPaint = false;  // exposed or drawn since the last paint
+  // What the screen still lacks, until the control is drawn.
+  bool isCovered = false;            // painted over by the erasing of another one
+  bool isMisplaced = false;          // moved, and not drawn there yet
+  std::optional<std::string> stale;  // the value that it still shows
 
   lw::ControlEvent event = nullptr;
   lw::ControlDraw drawCallback = nullptr;
@@ -98,6 +102,11 @@ struct Control {
   int eventsFired = 0;
 
   bool is(ControlKind which) const { return kind->kind == which; }
+  // The screen shows the control as it is.
+  void isDrawn() {
+    isCovered = isMisplaced = false;
+    stale.reset();
+  }
   int labelWidth() const;
   int width() const;
   int height() const;
@@ -119,7 +128,13 @@ struct Control {
   std::string shown() const;
   // "ButtonControl "Run" of panel "Tool""
   std::string describe() const;
+
+ private:
+  std::string valueShown() const;
 };
+
+// Asks a custom popup for what a host may ask at any time: its count, and names inside and outside its list.
+void askAnything(const Control& popup);
 
 struct Panel {
   enum class State { Closed, Open, Closing };
@@ -182,7 +197,8 @@ struct Panel {
   Control* at(int index) const;
 };
 
-// True when a person sees the control: its panel is open, it is not erased, and it does not lie wholly outside the panel.
+// True when a person sees the control: its panel is open, it is neither erased nor painted over, it was drawn where it is, and
+// it does not lie wholly outside the panel.
 bool isVisible(const Control& control);
 
 // Told of what changes on the screen; a front that shows panels as windows implements it. The default does nothing.
@@ -236,6 +252,9 @@ class Panels {
   Control* createControl(Panel& panel, const KindRow& kind, const lw::LWPanControlDesc& description, const char* label);
   void destroy(Panel& panel);
   void destroy(Control& control);
+  // The host's next turn: the open hooks that are due.
+  void turn();
+  void hookIsDue(Panel& panel) { due_.push_back(panel.id); }
   // The record behind a handle of the module's; null when it is dead or was never handed out, with the reason in `why`.
   Panel* resolve(lw::PanelId id, std::string& why) const;
   Control* resolve(const lw::LWControl* face, std::string& why) const;
@@ -260,6 +279,7 @@ class Panels {
 
   std::vector<std::unique_ptr<Panel>> panels_;
   std::vector<std::string> notes_;
+  std::vector<lw::PanelId> due_;  // panels that were opened and wait for their open hook
 };
 
 Panels& panels();

@@ -98,7 +98,7 @@ int firstHeight(const Control& control) {
     case ControlKind::Border: return orElse(control.description.area.height, line);
     case ControlKind::OpenGL: return control.description.area.height;
     case ControlKind::Text: return std::max(1, static_cast<int>(control.lines().size())) * kTextHeight + 4;
-    default: return kRowHeight - 2 * kRowInset;
+    default: return panels().options.rowHeight - 2 * kRowInset;
   }
 }
 
@@ -133,6 +133,7 @@ void Panels::reset() {
   }
   panels_.clear();
   notes_.clear();
+  due_.clear();
   options = PanelOptions();
   listener = nullptr;
   blocking = nullptr;
@@ -207,6 +208,7 @@ Control* Panels::createControl(Panel& panel, const KindRow& kind, const lw::LWPa
   control.hotHeight = firstHeight(control);
   giveHandle(control);
   stack(panel, control);
+  if (options.asksPopupsAnytime) askAnything(control);
   return &control;
 }
 
@@ -288,6 +290,14 @@ void Panels::callHook(Panel& panel, lw::PanelHook hook, const char* name) {
   if (hook == nullptr) return;
   const Running running(panel);
   callModule(name, [&] { hook(panel.id, panel.user); });
+}
+
+void Panels::turn() {
+  for (const lw::PanelId id : std::exchange(due_, {})) {
+    std::string why;
+    Panel* const panel = resolve(id, why);
+    if (panel != nullptr && panel->isOpen()) callHook(*panel, panel->openHook, "panel open hook");
+  }
 }
 
 void Panels::callMouseHook(Panel& panel, lw::PanelMouseHook hook, const char* name, int bits) {

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "standin/core/witness.h"
+#include "standin/panels/limits.h"
 #include "standin/panels/metrics.h"
 #include "standin/panels/running.h"
 #include "standin/panels/services.h"
@@ -27,6 +28,7 @@ Done reachable(const Control* control) {
   if (!control->isAlive) return failed(name + " was destroyed");
   if (!control->panel->isOpen()) return failed(name + ": the panel is not open");
   if (control->isErased) return failed(name + " is hidden");
+  if (control->isCovered || control->isMisplaced) return failed(name + " is not seen: it was not drawn again");
   if (!control->panel->area().meets(control->hot())) return failed(name + " lies outside the panel");
   if (control->isGhosted && !panels().options.ghostedFires) return failed(name + " is ghosted");
   return {};
@@ -45,6 +47,7 @@ Done usablePanel(const Panel* panel) {
 }
 
 void fireChanged(Control& control) {
+  control.stale.reset();
   panels().changed(control);
   panels().fire(control);
 }
@@ -65,16 +68,6 @@ Done chooseItem(Control& list, int index) {
   return {};
 }
 
-bool isLimitedWhenTyped(const Control& field) {
-  if (field.rangeLeast == 0 && field.rangeGreatest == 0) return false;
-  return field.is(ControlKind::MiniSlider) || panels().options.limitsTypedValues;
-}
-
-double limited(const Control& field, double value) {
-  return std::clamp(value, valueOfShown(field.kind->kind, field.rangeLeast),
-                    valueOfShown(field.kind->kind, field.rangeGreatest));
-}
-
 int toInteger(double value) {
   constexpr double least = std::numeric_limits<int>::min();
   constexpr double greatest = std::numeric_limits<int>::max();
@@ -87,7 +80,10 @@ bool storeNumber(Control& field, double value) {
   return std::exchange(field.real, value) != value;
 }
 
-bool storeText(Control& field, std::string_view text) { return std::exchange(field.text, std::string(text)) != text; }
+bool storeText(Control& field, std::string_view text) {
+  const std::string held = heldText(text);
+  return std::exchange(field.text, held) != held;
+}
 
 Done reachableField(const Control* field) {
   if (Done done = reachable(field); !done) return done;
@@ -98,8 +94,31 @@ Done reachableField(const Control* field) {
 
 Done storeTyped(Control& field, double value) {
   if (!std::isfinite(value)) return failed(field.describe() + " takes no such number");
-  if (storeNumber(field, isLimitedWhenTyped(field) ? limited(field, value) : value)) fireChanged(field);
+  if (storeNumber(field, limitedWhenTyped(field, value))) fireChanged(field);
   return {};
+}
+
+// The whole text at once: what a field takes when it is left.
+Done typeWhole(Control& field, std::string_view text) {
+  if (field.kind->value == ValueForm::String) {
+    if (storeText(field, text)) fireChanged(field);
+    return {};
+  }
+  const std::optional<double> value = parseTyped(field.kind->kind, text);
+  if (!value) return failed(field.describe() + " does not take \"" + printable(text) + "\"");
+  return storeTyped(field, *value);
+}
+
+// Letter by letter into the emptied field. What is no number yet fires nothing.
+Done typeByLetters(Control& field, std::string_view text) {
+  std::string_view left = text;
+  while (!left.empty()) {
+    takePiece(left);
+    const Done done = typeWhole(field, text.substr(0, text.size() - left.size()));
+    if (!done && left.empty()) return done;
+    if (Done still = reachable(&field); !still) return failed("the typing was cut short: " + still.why);
+  }
+  return text.empty() ? typeWhole(field, text) : Done{};
 }
 
 double presentNumber(const Control& field) { return field.kind->value == ValueForm::Integer ? field.integer : field.real; }
@@ -193,13 +212,7 @@ Done choose(Control* list, std::string_view item) {
 
 Done type(Control* field, std::string_view text) {
   if (Done done = reachableField(field); !done) return done;
-  if (field->kind->value == ValueForm::String) {
-    if (storeText(*field, text)) fireChanged(*field);
-    return {};
-  }
-  const std::optional<double> value = parseTyped(field->kind->kind, text);
-  if (!value) return failed(field->describe() + " does not take \"" + printable(text) + "\"");
-  return storeTyped(*field, *value);
+  return panels().options.firesAtEachLetter ? typeByLetters(*field, text) : typeWhole(*field, text);
 }
 
 Done enter(Control* field, double shown) {
@@ -214,7 +227,7 @@ Done drag(Control* slider, double shown, int steps) {
   const double to = valueOfShown(slider->kind->kind, shown);
   for (int step = 1; step <= steps; ++step) {
     const double value = step == steps ? to : from + (to - from) * step / steps;
-    const bool changed = storeNumber(*slider, isLimitedWhenTyped(*slider) ? limited(*slider, value) : value);
+    const bool changed = storeNumber(*slider, limitedWhenTyped(*slider, value));
     if (changed) fireChanged(*slider);
     if (Done done = reachable(slider); !done) return failed("the drag was cut short: " + done.why);
   }

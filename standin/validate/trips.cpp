@@ -7,6 +7,7 @@
 #include "standin/validate/conversion_judge.h"
 #include "standin/validate/touch.h"
 #include "standin/validate/traveller.h"
+#include "standin/validate/tries.h"
 
 namespace standin::validate {
 namespace {
@@ -32,6 +33,9 @@ void useOneOfEachKind(Traveller& user, Panel& panel) {
   });
 }
 
+// What is looked at only where nothing is made to fail in between: those trips are played again for each call of the host's.
+bool isThorough(const TripOrder& order) { return !order.begin; }
+
 TripReport propertyTrip(const TripOrder& order) {
   Traveller user(order, Program::Modeler);
   Session& session = user.session();
@@ -51,6 +55,7 @@ TripReport propertyTrip(const TripOrder& order) {
              "the chosen falloff is stored");
   session.modeler()->select(chosen);
   if (panel != nullptr) useOneOfEachKind(user, *panel);
+  if (isThorough(order)) user.notes(tryProperty(session, order.language));
   user.end();
   user.judgeNextRun();
   return user.finish();
@@ -111,6 +116,7 @@ TripReport renamerTrip(const TripOrder& order) {
   session.layAnswer();
   user.does(person::press(control(kRun)));
   user.finds(named("Bone01_"), "registered skelegons get the base name");
+  if (isThorough(order) && panel != nullptr) user.notes(tryRenamer(session, order.language, *panel));
   user.end();
   user.judgeNextRun();
   return user.finish();
