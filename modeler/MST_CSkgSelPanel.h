@@ -26,6 +26,9 @@ class CSkgSelPanel {
   // refreshed instead. False when the host did not open it. Throws CBaseEx.
   bool OpenSelectorPanel();
 
+  // The module is about to go: gives OpenGL back what the drawing has of it. Calls nothing of the host.
+  void giveBack() { drawing_.giveFontBack(); }
+
  private:
   // The host's and the other panels' way in.
   static void OnTreeUsed(lw::LWControl* control, void* user);
@@ -47,7 +50,11 @@ class CSkgSelPanel {
   void rescan();
   void refresh();
 
-  bool act(MouseStep step, const MouseReport& report);
+  MouseReport placed(MouseReport report) const;
+  void act(MouseStep step, const MouseReport& report);
+  void press(const MouseReport& report);
+  void draw() { drawing_.draw(tree_.picture()); }
+  void askToPaint();
   void show(const TreeChange& change);
   void pushSelection();
 
@@ -57,6 +64,7 @@ class CSkgSelPanel {
   CTreeView tree_;
   CTreeDrawing drawing_;
   CMouseMerge mouse_;
+  bool isAskingToPaint_ = false;  // the host may paint at once
 };
 
 }  // namespace mst

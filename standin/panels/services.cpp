@@ -200,6 +200,7 @@ int openPanel(Panel& panel, int flags) {
   for (const auto& control : panel.controls) control->wantsPaint = control->isAlive;
   if (panels().listener != nullptr) panels().listener->opened(panel);
   panels().callHook(panel, panel.openHook, "panel open hook");
+  if (panels().options.resizeHookOnOpen) panels().callResizeHook(panel);
   if (!isBlocking) return 1;
   const int answer = panels().options.blocking ? panels().options.blocking(panel) : 0;
   closePanel(panel);

@@ -25,7 +25,7 @@ std::string tableOf(const char* heading, std::span<const HostVariant> rows) {
 std::span<const HostVariant* const> allVariants() {
   static const std::vector<const HostVariant*> all = [] {
     std::vector<const HostVariant*> joined;
-    for (const std::span<const HostVariant> area : {panelVariants(), modelerVariants(), layoutVariants()}) {
+    for (const std::span<const HostVariant> area : {panelVariants(), mouseVariants(), modelerVariants(), layoutVariants()}) {
       for (const HostVariant& row : area) joined.push_back(&row);
     }
     return joined;
@@ -78,8 +78,8 @@ std::vector<HostChoice> singleChoices() {
 }
 
 std::string variantsPage() {
-  return tableOf("Panels", panelVariants()) + "\n" + tableOf("Modeler", modelerVariants()) + "\n" +
-         tableOf("Layout", layoutVariants());
+  return tableOf("Panels", panelVariants()) + "\n" + tableOf("Mouse and drawing", mouseVariants()) + "\n" +
+         tableOf("Modeler", modelerVariants()) + "\n" + tableOf("Layout", layoutVariants());
 }
 
 }  // namespace standin

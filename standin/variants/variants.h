@@ -40,6 +40,7 @@ struct HostVariant {
 
 // The rows of each area, in the order in which they are printed.
 std::span<const HostVariant> panelVariants();
+std::span<const HostVariant> mouseVariants();
 std::span<const HostVariant> modelerVariants();
 std::span<const HostVariant> layoutVariants();
 // All of them, in that order.
