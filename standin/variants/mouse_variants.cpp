@@ -87,7 +87,8 @@ constexpr std::array kVariants{
         "documented are the hooks, which need flag 8, and the control's event; of what the event tells is not said: all, "
         "presses and releases, or presses only. With hooks-beside a press that a control hears reaches no hook",
         "takes each press once. Until the first release is heard, a long step with the button down counts as a press; the "
-        "first release shows such presses to have been moves and takes them back",
+        "first release shows such presses to have been moves and takes them back. Where the event tells of presses only and "
+        "paints too, a second press at the same pixel cannot be told from a paint and is taken for one",
         kMouse},
     HostVariant{"mouse-order", "Which call comes first where a press arrives in both ways", "not documented",
                 "knows the press by place and bits; later on counts presses by the hooks only", kFirst},
