@@ -101,7 +101,13 @@ inline constexpr std::uint32_t kTypeFace = fourCharacters('F', 'A', 'C', 'E');
 inline constexpr std::uint32_t kMapWeight = fourCharacters('W', 'G', 'H', 'T');
 
 enum ElementFlags : int { kElementSelected = 1, kElementDeleted = 2 };
-enum LayerChoice : int { kLayersPrimary = 0, kLayersForeground = 1, kLayersBackground = 2, kLayersAll = 4 };
+enum LayerChoice : int {
+  kLayersPrimary = 0,
+  kLayersForeground = 1,
+  kLayersBackground = 2,
+  kLayersAll = 4,
+  kLayersNonEmpty = 6,
+};
 enum EditMode : int { kEditAll = 0, kEditUser = 1, kEditDirect = 2, kEditSelecting = 0x8000 };
 enum EditError : int {
   kEditNoError = 0,

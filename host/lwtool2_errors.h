@@ -6,6 +6,8 @@
 #include <string>
 #include <utility>
 
+#include "host/host_call.h"
+
 #if defined(__MINGW32__)
 #define VARNEL_PRINTF(text, values) __attribute__((format(gnu_printf, text, values)))
 #elif defined(__GNUC__)
@@ -55,6 +57,7 @@ void ReportError(const char* file, int line, const char* format, ...) VARNEL_PRI
 // `onFailure`. These two are the module's only catches of everything.
 template <class Action, class Result>
 Result guarded(Action&& action, Result onFailure) noexcept {
+  const CHostCall call;
   try {
     return std::forward<Action>(action)();
   } catch (...) {

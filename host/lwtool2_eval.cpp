@@ -1,24 +1,13 @@
 #include "host/lwtool2_eval.h"
 
-#include <array>
 #include <cstdarg>
-#include <cstdio>
 
+#include "host/lwtool2_format.h"
 #include "host/lwtool2_globals.h"
 #include "host/platform.h"
 
 namespace lw {
 namespace {
-
-constexpr std::size_t kFormatBytes = 512;
-
-VARNEL_PRINTF(1, 0)
-std::string formatList(const char* format, std::va_list arguments) {
-  std::array<char, kFormatBytes> buffer;
-  const int length = std::vsnprintf(buffer.data(), buffer.size(), format, arguments);
-  if (static_cast<std::size_t>(length) >= buffer.size()) return {};  // a failure is negative, and so beyond it too
-  return std::string(buffer.data(), static_cast<std::size_t>(length));
-}
 
 // Layout reads commands in the narrow encoding of the system, while all texts here are UTF-8. A text that the code page
 // cannot hold goes as it stands: its bytes still tell different names apart.

@@ -7,8 +7,8 @@
 
 namespace lw {
 
-// printf-style formatting into 512 bytes with the closing zero. A longer result comes out empty, not cut: a cut name would
-// be another name.
+// printf-style formatting into 512 bytes with the closing zero, independent of the process's locale. A longer result comes out
+// empty, not cut: a cut name would be another name.
 std::string FormatString(const char* format, ...) VARNEL_PRINTF(1, 2);
 
 // Sends one command, UTF-8. Modeler: false when done, CEvalEx when refused. Layout: false when done, true when refused, which

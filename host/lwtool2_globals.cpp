@@ -152,6 +152,7 @@ const char* nameOf(Service service) { return kWanted[static_cast<std::size_t>(se
 
 // Stores what the host gives; a missing service leaves the slot as it was, since a panel that is still open may need it.
 bool acquire(Service service) {
+  if (state().global == nullptr) return false;  // an activation came without; panels of earlier ones may still be open
   void* const found = state().global(nameOf(service), kUseTransient);
   if (found == nullptr) return false;
   slot(service) = found;
@@ -210,11 +211,11 @@ void resetHostState() { state() = HostState(); }
 ModelerFunctions& modelerFunctions() { return state().modelerFunctions; }
 
 void AcquireModelerFunctions(ModelerFunctions& table, GlobalFunc global, const void* local) {
-  if (table.filled) return;
+  // Without a lookup function there is nothing to fill it with, and what is filled is kept for good.
+  if (table.filled || global == nullptr) return;
   table = ModelerFunctions{};
   table.filled = true;
   table.global = global;
-  if (global == nullptr) return;
   if (local != nullptr) {
     const auto& command = *static_cast<const LWModCommand*>(local);
     table.evaluate = command.evaluate;

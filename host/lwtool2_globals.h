@@ -79,6 +79,7 @@ struct ModelerFunctions {
   std::array<void*, 54> others{};  // in the order in which they are asked for; a missing one stays null
 };
 ModelerFunctions& modelerFunctions();
+// Without a lookup function nothing is filled.
 void AcquireModelerFunctions(ModelerFunctions& table, GlobalFunc global, const void* local);
 
 // Asks again for the services that describe one moment only. Throw CBaseEx, after reporting, when the host has none.

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cassert>
-#include <unordered_set>
+#include <utility>
 
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_eval.h"
@@ -49,9 +49,11 @@ class CPresence {
 
 PolygonIds collect(int mode, int layers, FlagRule rule) {
   CMeshEdit edit(mode);
-  PolygonIds polygons = edit.scan(layers);
-  std::erase_if(polygons,
-                [&](PolygonId polygon) { return !edit.isSkelegon(polygon) || !rule.fits(edit.info(polygon).flags); });
+  PolygonIds polygons;
+  edit.forEachSkelegon(layers, [&](PolygonId polygon) {
+    if (rule.fits(edit.info(polygon).flags)) polygons.push_back(polygon);
+    return true;
+  });
   edit.done();
   return polygons;
 }
@@ -94,14 +96,54 @@ void CMeshEdit::fail(int error, const char* message) {
   throwReported(message);
 }
 
-PolygonIds CMeshEdit::scan(int layers) {
-  PolygonScan scan(host(), layers);
-  if (scan.failure) {
-    end(scan.error);
-    std::rethrow_exception(scan.failure);
+void CMeshEdit::failOf(int error, const std::exception_ptr& failure) {
+  if (failure) {
+    end(error);
+    std::rethrow_exception(failure);
   }
-  if (scan.error != kEditNoError) fail(scan.error, "fastPolyScan() !");
-  return std::move(scan.found);
+  if (error != kEditNoError) fail(error, "fastPolyScan() !");
+}
+
+void CMeshEdit::forEachSkelegon(int layers, const std::function<bool(PolygonId)>& action) {
+  const CSkelegonWalk walk(host(), layers);
+  failOf(walk.error(), walk.failure());
+  walk.forEach(action);
+}
+
+// Beside a large mesh the polygons in question are few: they are looked for in the scan, which keeps no list of the others
+// and asks nothing.
+void CMeshEdit::search(int layers, PolygonSet& missing) {
+  // Nothing in it can throw.
+  const FastPolygonScan strike = [](void* user, PolygonId polygon) noexcept {
+    static_cast<PolygonSet*>(user)->erase(polygon);
+    return static_cast<int>(kEditNoError);
+  };
+  failOf(edit_->fastPolyScan(edit_->state, strike, &missing, layers, 0), nullptr);
+}
+
+PolygonSet CMeshEdit::skelegonsAmong(const PolygonIds& polygons) {
+  PolygonSet missing(polygons.begin(), polygons.end());
+  PolygonSet skelegons;
+  const auto known = [](int layers) { return foundSkelegons().in(layers); };
+  constexpr std::array<int, 2> kChoices = {kLayersForeground, kLayersAll};  // the second only for what is not in the first
+  for (const int layers : kChoices) {
+    if (known(layers) == nullptr) continue;
+    for (const PolygonId polygon : *known(layers)) {
+      if (missing.erase(polygon) != 0) skelegons.insert(polygon);
+    }
+  }
+  for (const int layers : kChoices) {
+    const bool isNews = known(layers) == nullptr && known(kLayersAll) == nullptr;
+    if (isNews && !missing.empty()) search(layers, missing);
+  }
+  for (const PolygonId polygon : polygons) {
+    if (skelegons.count(polygon) != 0 || missing.count(polygon) != 0) continue;
+    const std::uint32_t type = edit_->polyType(edit_->state, polygon);
+    // A skelegon whose type the host does not tell must not be left out of what is done to the others.
+    if (type == kTypeUnknown) fail(kEditBadArguments, "polyType() !");
+    (type == kTypeBone ? skelegons : missing).insert(polygon);
+  }
+  return skelegons;
 }
 
 bool CMeshEdit::isSkelegon(PolygonId polygon) const { return edit_->polyType(edit_->state, polygon) == kTypeBone; }
@@ -146,13 +188,13 @@ PolygonIds CollectSelectedSkelegons() { return collect(kEditSeesSelection, kLaye
 void SelectSkelegons(const PolygonIds& polygons) {
   CMeshEdit edit(kEditForSelecting);
   // What a panel remembers may be gone by now; the host must not be asked about such polygons.
-  std::unordered_set<PolygonId> selectable;
-  for (const PolygonId polygon : edit.scan(kLayersForeground)) {
-    if (!edit.isSkelegon(polygon)) continue;
+  PolygonSet selectable;
+  edit.forEachSkelegon(kLayersForeground, [&](PolygonId polygon) {
     const int flags = edit.info(polygon).flags;
     if (kNotDeleted.fits(flags)) selectable.insert(polygon);
     if (kSelectedNotDeleted.fits(flags)) edit.select(polygon, false);
-  }
+    return true;
+  });
   for (const PolygonId polygon : polygons) {
     if (selectable.count(polygon) != 0) edit.select(polygon, true);
   }
@@ -169,6 +211,13 @@ TagTexts SkelegonNames(const PolygonIds& polygons) {
   }
   edit.done();
   return names;
+}
+
+bool IsLivingSkelegon(PolygonId polygon) {
+  CMeshEdit edit(kEditForTags);
+  const bool isLiving = edit.skelegonsAmong({polygon}).count(polygon) != 0 && kNotDeleted.fits(edit.info(polygon).flags);
+  edit.done();
+  return isLiving;
 }
 
 TagTexts ReadPolygonTags(const PolygonIds& polygons, const TagTypes& types) {
@@ -212,16 +261,16 @@ SkelegonInfo skelegonInfo(const MeshEditOp& edit, const EDPolygonInfo& record, s
 }  // namespace
 
 std::vector<SkelegonInfo> ScanSkelegons(int layers, ReportSource source, std::span<const std::uint32_t> tagTypes) {
+  foundSkelegons().shareWithForeground();
   CMeshEdit edit(kEditSeesSelection);
   std::vector<SkelegonInfo> skelegons;
   bool isComplete = true;
-  for (const PolygonId polygon : edit.scan(layers)) {
-    if (!edit.isSkelegon(polygon)) continue;
+  edit.forEachSkelegon(layers, [&](PolygonId polygon) {
     const EDPolygonInfo* const record = edit.host().polyInfo(edit.host().state, polygon);
     isComplete = record != nullptr;
-    if (!isComplete) break;
-    if (kNotDeleted.fits(record->flags)) skelegons.push_back(skelegonInfo(edit.host(), *record, tagTypes));
-  }
+    if (isComplete && kNotDeleted.fits(record->flags)) skelegons.push_back(skelegonInfo(edit.host(), *record, tagTypes));
+    return isComplete;
+  });
   edit.done();
   if (!isComplete) ReportError(source.file, source.line, "polyInfo() returned NULL !");
   return skelegons;

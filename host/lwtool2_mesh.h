@@ -7,9 +7,12 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "host/lightwave.h"
@@ -17,6 +20,7 @@
 namespace lw {
 
 using PolygonIds = std::vector<PolygonId>;
+using PolygonSet = std::unordered_set<PolygonId>;
 using TagTypes = std::vector<std::uint32_t>;
 using TagTexts = std::vector<std::string>;
 
@@ -46,8 +50,12 @@ class CMeshEdit {
   // Ends the edit with an error code, reports and throws CBaseEx.
   [[noreturn]] void fail(int error, const char* message);
 
-  // Every polygon of a layer choice, of any type, in the host's order.
-  PolygonIds scan(int layers);
+  // Calls `action` for each skelegon of a layer choice in the host's order, until it answers false. Fails with
+  // "fastPolyScan() !".
+  void forEachSkelegon(int layers, const std::function<bool(PolygonId)>& action);
+  // Which of these are skelegons of the current object; deleted ones may be among them. They may be identifiers that name
+  // nothing, or something else, by now.
+  PolygonSet skelegonsAmong(const PolygonIds& polygons);
   bool isSkelegon(PolygonId polygon) const;
   // The host's record, good until the next call into the host. Fails with "polyInfo() !" when there is none.
   const EDPolygonInfo& info(PolygonId polygon);
@@ -60,6 +68,9 @@ class CMeshEdit {
 
  private:
   void end(int error);
+  // Fails as a scan does.
+  void failOf(int error, const std::exception_ptr& failure);
+  void search(int layers, PolygonSet& missing);
 
   MeshEditOp* edit_;
 };
@@ -90,6 +101,9 @@ void SelectSkelegons(const PolygonIds& polygons);
 // Names in the order of `polygons`: "Bone" for a skelegon without a name tag, empty for one whose name is empty, and empty
 // for what is no skelegon.
 TagTexts SkelegonNames(const PolygonIds& polygons);
+
+// True for a skelegon of the current object that is not deleted, in any layer.
+bool IsLivingSkelegon(PolygonId polygon);
 
 // Tag texts in the order of `polygons`, polygon and type at the same index; empty where there is no such tag or the polygon
 // is deleted. `types` must be as long as `polygons`.

@@ -11,15 +11,16 @@ namespace {
 
 PolygonIds collectInRecord(CEditRecord& record, int layers, FlagRule rule) {
   const MeshEditOp& edit = *record.edit;
-  PolygonScan scan(edit, layers);
-  record.error = scan.error;
-  if (scan.error != kEditNoError) return {};  // half of the skelegons would pass for all of them
-  std::erase_if(scan.found, [&](PolygonId polygon) {
-    if (edit.polyType(edit.state, polygon) != kTypeBone) return true;
+  const CSkelegonWalk walk(edit, layers);
+  record.error = walk.error();
+  if (record.error != kEditNoError) return {};  // half of the skelegons would pass for all of them
+  PolygonIds kept;
+  walk.forEach([&](PolygonId polygon) {
     const EDPolygonInfo* const info = edit.polyInfo(edit.state, polygon);
-    return info == nullptr || !rule.fits(info->flags);
+    if (info != nullptr && rule.fits(info->flags)) kept.push_back(polygon);
+    return true;
   });
-  return std::move(scan.found);
+  return kept;
 }
 
 }  // namespace

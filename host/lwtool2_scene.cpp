@@ -29,6 +29,7 @@ ChannelId findChannel(GroupId group, const std::string& pathOfGroup, const std::
   return nullptr;
 }
 
+// Null, after a report, for a channel that has none.
 EnvelopeId envelopeOf(ItemId item, const char* pathName) {
   const GroupId group = itemInfo().chanGroup(item);
   // A null group would mean the root of all channels, which are not this item's.
@@ -36,8 +37,43 @@ EnvelopeId envelopeOf(ItemId item, const char* pathName) {
   if (group != nullptr) channel = findChannel(group, {}, pathName);
   if (channel == nullptr) throwReported(FormatString("getChannelByPathName() returned NULL !(%s)", pathName));
   const EnvelopeId envelope = channelInfo().channelEnvelope(channel);
-  if (envelope == nullptr) throwReported(FormatString("channelEnvelope() returned NULL !(%s)", pathName));
+  if (envelope == nullptr) ReportStatusError(FormatString("channelEnvelope() returned NULL !(%s)", pathName));
   return envelope;
+}
+
+// A new key at the current time. What a host answers where a key stands already is not documented: one that makes none there is
+// given the value for the key that it has. Whatever comes of it, the run goes on.
+void addKey(EnvelopeId envelope, double value) {
+  RefreshTimeInfo();
+  const double now = timeInfo().time;
+  const LWEnvelopeFuncs& keys = envelopes();
+  if (keys.createKey(envelope, now, value) != nullptr) return;
+  const KeyId there = keys.findKey(envelope, now);
+  if (there != nullptr) keys.keySet(envelope, there, kKeyValue, &value);
+}
+
+// Shows every item to `visit`, in the order in which names are looked up, until it answers true: the item at which it did.
+template <class Visit>
+ItemId firstItem(Visit visit) {
+  const LWItemInfo& items = itemInfo();
+  for (ItemId object = items.first(kItemObject, nullptr); object != nullptr; object = items.next(object)) {
+    if (visit(object)) return object;
+    for (ItemId bone = items.first(kItemBone, object); bone != nullptr; bone = items.next(bone)) {
+      if (visit(bone)) return bone;
+    }
+  }
+  for (const int type : {kItemLight, kItemCamera}) {
+    for (ItemId item = items.first(type, nullptr); item != nullptr; item = items.next(item)) {
+      if (visit(item)) return item;
+    }
+  }
+  return nullptr;
+}
+
+// Without a copy of the name: a search asks this of every item.
+bool isNamed(ItemId item, const std::string& name) {
+  const char* const now = itemInfo().name(item);
+  return now != nullptr && name == now;
 }
 
 }  // namespace
@@ -60,17 +96,21 @@ std::string SplitItemName(ItemId item, int group) { return splitItemName(itemNam
 unsigned commandId(ItemId item) { return static_cast<unsigned>(reinterpret_cast<std::uintptr_t>(item)); }
 
 ItemId CSceneItems::FindItemByName(const std::string& name) {
-  if (!walked_) walk();
-  const auto found = first_.find(name);
-  return found == first_.end() ? nullptr : found->second;
+  const bool isFresh = !walked_;
+  if (isFresh) walk();
+  const auto kept = first_.find(name);
+  if (kept != first_.end() && (isFresh || isNamed(kept->second, name))) return kept->second;
+  if (isFresh) return nullptr;
+  const ItemId found = firstItem([&](ItemId item) { return isNamed(item, name); });
+  if (found != nullptr) first_.insert_or_assign(name, found);
+  return found;
 }
 
 void CSceneItems::added(ItemId item, const std::string& name) {
   if (!walked_) return;
   // Under another name than the one asked for, or beside an item of that name, the new item may change more than its own
   // entry: the host counts items of equal name, and where it puts a new one among the others is its own affair.
-  const std::string given = itemName(item);
-  const bool alone = given == name && first_.count(name) == 0;
+  const bool alone = isNamed(item, name) && first_.count(name) == 0;
   if (alone) {
     first_.emplace(name, item);
   } else {
@@ -80,18 +120,12 @@ void CSceneItems::added(ItemId item, const std::string& name) {
 
 void CSceneItems::walk() {
   first_.clear();
-  const LWItemInfo& items = itemInfo();
-  for (ItemId object = items.first(kItemObject, nullptr); object != nullptr; object = items.next(object)) {
-    enter(object);
-    for (ItemId bone = items.first(kItemBone, object); bone != nullptr; bone = items.next(bone)) enter(bone);
-  }
-  for (const int type : {kItemLight, kItemCamera}) {
-    for (ItemId item = items.first(type, nullptr); item != nullptr; item = items.next(item)) enter(item);
-  }
+  firstItem([this](ItemId item) {
+    first_.emplace(itemName(item), item);
+    return false;
+  });
   walked_ = true;
 }
-
-void CSceneItems::enter(ItemId item) { first_.emplace(itemName(item), item); }
 
 Selection SaveSelection() {
   RefreshInterfaceInfo();
@@ -122,17 +156,13 @@ CSavedSelection::~CSavedSelection() {
 
 void SetChannelValue(ItemId item, const char* pathName, double value) {
   const EnvelopeId envelope = envelopeOf(item, pathName);
+  if (envelope == nullptr) return;
   const LWEnvelopeFuncs& keys = envelopes();
   const KeyId first = keys.nextKey(envelope, nullptr);
   const bool onlyKey = first != nullptr && keys.nextKey(envelope, first) == nullptr;
-  if (onlyKey) {
-    if (keys.keySet(envelope, first, kKeyValue, &value) == 0)
-      throw ex::CBaseEx(FormatString("g_envf->keySet() !(%s)", pathName));
-    return;
-  }
-  RefreshTimeInfo();
-  if (keys.createKey(envelope, timeInfo().time, value) == nullptr) {
-    throw ex::CBaseEx(FormatString("g_envf->createKey() !(%s)", pathName));
+  if (!onlyKey) return addKey(envelope, value);
+  if (keys.keySet(envelope, first, kKeyValue, &value) == 0) {
+    throw ex::CBaseEx(FormatString("g_envf->keySet() !(%s)", pathName));
   }
 }
 

@@ -1,7 +1,9 @@
 #include "layout/CFileStream.h"
 
+#include <algorithm>
 #include <cstring>
 #include <fstream>
+#include <locale>
 #include <utility>
 
 namespace lwp::st {
@@ -18,6 +20,15 @@ std::streamoff lengthOf(std::ifstream& file) {
 
 }  // namespace
 
+bool readInBlocks(std::istream& file, std::span<std::byte> bytes, std::size_t perRead) {
+  while (!bytes.empty()) {
+    const std::span<std::byte> block = bytes.first(std::min(perRead, bytes.size()));
+    if (!file.read(reinterpret_cast<char*>(block.data()), static_cast<std::streamsize>(block.size()))) return false;
+    bytes = bytes.subspan(block.size());
+  }
+  return true;
+}
+
 CFileStream::CFileStream(std::span<const std::byte> bytes)
     : bytes_(bytes.size() <= kLongestFile ? bytes : std::span<const std::byte>()) {}
 
@@ -26,14 +37,16 @@ bool CFileStream::load(const std::string& narrowPath) {
   bytes_ = {};
   position_ = 0;
 
-  std::ifstream file(narrowPath, std::ios::binary);
+  std::ifstream file;
+  file.imbue(std::locale::classic());  // a locale set in the host's process may convert what is read
+  file.open(narrowPath, std::ios::binary);
   if (!file) return false;
   const std::streamoff length = lengthOf(file);
   if (length < 0 || static_cast<std::uintmax_t>(length) > kLongestFile) return false;
 
   const auto size = static_cast<std::size_t>(length);
   auto bytes = std::make_unique_for_overwrite<std::byte[]>(size);
-  if (!file.read(reinterpret_cast<char*>(bytes.get()), length)) return false;
+  if (!readInBlocks(file, std::span(bytes.get(), size))) return false;
   file_ = std::move(bytes);
   bytes_ = {file_.get(), size};
   return true;

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iosfwd>
 #include <limits>
 #include <memory>
 #include <span>
@@ -13,6 +14,12 @@
 #include "layout/big_endian.h"
 
 namespace lwp::st {
+
+// Bytes that one read asks for. Windows counts those of a read with 31 bits and refuses more.
+inline constexpr std::size_t kBytesPerRead = 67'108'864;
+
+// Fills 'bytes' from where the file stands, with at most 'perRead' bytes in each read. False when the file has fewer.
+bool readInBlocks(std::istream& file, std::span<std::byte> bytes, std::size_t perRead = kBytesPerRead);
 
 class CFileStream {
  public:

@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <iterator>
+#include <limits>
+#include <optional>
 #include <string_view>
 
 #include "host/lwtool2_eval.h"
@@ -23,6 +26,12 @@ bool selectItem(lw::ItemId item) {
   lw::RefreshInterfaceInfo();
   return sent;
 }
+
+// The line to report of what failed; none when everything was sent.
+using Failure = std::optional<int>;
+constexpr int kNoReport = 0;
+
+Failure unlessSent(bool sent, int line) { return sent ? Failure() : Failure(line); }
 
 // The state of one bone while its commands are sent: read once, then brought up to date by what is sent, so that a toggle
 // goes out only when the wanted state differs.
@@ -50,13 +59,13 @@ class BoneRun {
   bool sendAll() {
     for (const BoneCommand& command : boneCommands()) {
       if (!isDue(command)) continue;
-      if (!send(command)) {
-        if (command.line != 0) lw::ReportError(kSource, command.line, "");
+      if (const Failure failure = send(command)) {
+        if (*failure != kNoReport) lw::ReportError(kSource, *failure, "");
         return false;
       }
       if (command.slot == Slot::GoalObject) goal_ = lw::itemInfo().goal(bone_);
-      // Read back, since the host may keep another objective than the one it was told.
-      if (command.slot == Slot::Objective) objective_ = lw::itemInfo().goalObjective(bone_);
+      // What was sent counts from here on, deliberately, also where the host keeps another objective.
+      if (command.slot == Slot::Objective) objective_ = integer(Slot::Objective);
     }
     return true;
   }
@@ -68,12 +77,14 @@ class BoneRun {
   bool followsIKParent() const;
   bool alignsToPath() const;
 
-  bool send(const BoneCommand& command);
+  Failure send(const BoneCommand& command);
+  bool sendInteger(const BoneCommand& command) const;
   bool sendToggle(const BoneCommand& command);
-  bool sendItem(const BoneCommand& command);
-  bool sendWeightMap(const BoneCommand& command) const;
+  Failure sendItem(const BoneCommand& command);
+  Failure sendWeightMap(const BoneCommand& command) const;
   bool sendColour(const BoneCommand& command) const;
-  bool sendAxis(std::size_t index);
+  Failure sendAxis(std::size_t index);
+  bool sendAxisLimit(const AxisRow& row);
 
   unsigned& word(FlagWord which) { return which == FlagWord::Bone ? flags_ : itemFlags_; }
   const std::string& text(Slot slot) const { return properties_[slot]; }
@@ -89,7 +100,7 @@ class BoneRun {
   std::array<unsigned, std::size(kMotionParams)> limits_{};
   std::array<int, 9> controllers_{};  // as sent, by axis row
   lw::ItemId goal_ = nullptr;
-  unsigned objective_ = 0;
+  int objective_ = 0;
   bool hasWeightMap_ = false;
 };
 
@@ -142,23 +153,32 @@ bool BoneRun::alignsToPath() const {
   return ((kinds[0] | kinds[1] | kinds[2]) & kAlignBit) != 0;
 }
 
-bool BoneRun::send(const BoneCommand& command) {
+Failure BoneRun::send(const BoneCommand& command) {
+  const auto orLine = [&](bool sent) { return unlessSent(sent, command.line); };
   switch (command.sends) {
-    case Sends::Integer: return EvalF("%s %d", command.name, integer(command.slot) + command.offset);
-    case Sends::Switch: return EvalF("%s %d", command.name, properties_.isOn(command.slot) ? 1 : 0);
-    case Sends::Real: return EvalF("%s %.10f", command.name, real(command.slot) * command.factor);
+    case Sends::Integer: return orLine(sendInteger(command));
+    case Sends::Switch: return orLine(EvalF("%s %d", command.name, properties_.isOn(command.slot) ? 1 : 0));
+    case Sends::Real: return orLine(EvalF("%s %.10f", command.name, real(command.slot) * command.factor));
     case Sends::TwoReals:
-      return EvalF("%s %.10f %.10f", command.name, real(command.slot) * command.factor,
-                   real(command.second) * command.factor);
-    case Sends::Toggle: return sendToggle(command);
+      return orLine(
+          EvalF("%s %.10f %.10f", command.name, real(command.slot) * command.factor, real(command.second) * command.factor));
+    case Sends::Toggle: return orLine(sendToggle(command));
     case Sends::WeightMap: return sendWeightMap(command);
     case Sends::FoundItem:
     case Sends::ItemOrNull:
     case Sends::ItemUnchecked: return sendItem(command);
     case Sends::AxisGroup: return sendAxis(command.axis);
-    case Sends::Colour: return sendColour(command);
+    case Sends::Colour: return orLine(sendColour(command));
   }
-  return false;
+  return command.line;
+}
+
+// The sum stays at the end of its range as the number does when it is read: a text beyond 32 bits is the greatest number.
+bool BoneRun::sendInteger(const BoneCommand& command) const {
+  constexpr std::int64_t kLeast = std::numeric_limits<int>::min();
+  constexpr std::int64_t kGreatest = std::numeric_limits<int>::max();
+  const std::int64_t sum = std::int64_t{integer(command.slot)} + command.offset;
+  return EvalF("%s %d", command.name, static_cast<int>(std::clamp(sum, kLeast, kGreatest)));
 }
 
 bool BoneRun::sendToggle(const BoneCommand& command) {
@@ -170,18 +190,19 @@ bool BoneRun::sendToggle(const BoneCommand& command) {
   return true;
 }
 
-bool BoneRun::sendItem(const BoneCommand& command) {
+Failure BoneRun::sendItem(const BoneCommand& command) {
   const std::string& name = text(command.slot);
   const lw::ItemId item = command.sends == Sends::FoundItem
                               ? scene_.FindItemByName(name)
                               : FindOrCreateNull(scene_, name, bone_, command.matchRotation, command.matchScale);
-  if (item == nullptr && command.sends != Sends::ItemUnchecked) return false;
-  return EvalF("%s 0x%x", command.name, lw::commandId(item));
+  if (item == nullptr && command.sends != Sends::ItemUnchecked) return command.line;
+  return unlessSent(EvalF("%s 0x%x", command.name, lw::commandId(item)), command.secondLine);
 }
 
-bool BoneRun::sendWeightMap(const BoneCommand& command) const {
+Failure BoneRun::sendWeightMap(const BoneCommand& command) const {
   const std::string& map = text(command.slot);
-  return EvalF("%s %s", command.name, map.empty() ? "(none)" : map.c_str());
+  if (map.empty()) return unlessSent(EvalF("%s (none)", command.name), command.line);
+  return unlessSent(EvalF("%s %s", command.name, map.c_str()), command.secondLine);
 }
 
 bool BoneRun::sendColour(const BoneCommand& command) const {
@@ -189,37 +210,38 @@ bool BoneRun::sendColour(const BoneCommand& command) const {
   return index == skg::kModelerColourIndex || EvalF("%s %d", command.name, index);
 }
 
-bool BoneRun::sendAxis(std::size_t index) {
+Failure BoneRun::sendAxis(std::size_t index) {
   constexpr int kInverseKinematics = 3;
   constexpr int kSameAsItem = 6;
   const AxisRow& row = axisRows()[index];
-  unsigned& limits = limits_[row.group];
 
   const int controller = integer(row.controller);
   controllers_[index] = controller;
-  if (!EvalF("%sController %d", row.axis, controller)) return false;
+  if (!EvalF("%sController %d", row.axis, controller)) return row.lines[kController];
 
-  const bool wanted = properties_.isOn(row.limits);
-  if (wanted != ((limits & row.limitBit) != 0)) {
-    if (EvalF("Limit%s", row.axis)) {
-      limits ^= row.limitBit;
-    } else if (row.limitLine != 0) {
-      lw::ReportError(kSource, row.limitLine, "");
-    } else {
-      return false;
-    }
+  if (!sendAxisLimit(row)) {
+    if (!row.limitMayFail) return row.lines[kLimit];
+    lw::ReportError(kSource, row.lines[kLimit], "");
   }
-  if ((limits & row.limitBit) != 0 &&
+  if ((limits_[row.group] & row.limitBit) != 0 &&
       !EvalF("%sLimits %.10f %.10f", row.axis, real(row.least) * row.limitFactor, real(row.greatest) * row.limitFactor)) {
-    return false;
+    return row.lines[kLimits];
   }
-  if (controllers_[row.followGate] == kSameAsItem &&
-      !(EvalF("%sFollow %d", row.axis, integer(row.follow)) &&
-        EvalF("%sTransform %.10f %.10f", row.axis, real(row.factor), real(row.offset)))) {
-    return false;
+  if (controllers_[row.followGate] == kSameAsItem) {
+    if (!EvalF("%sFollow %d", row.axis, integer(row.follow))) return row.lines[kFollow];
+    if (!EvalF("%sTransform %.10f %.10f", row.axis, real(row.factor), real(row.offset))) return row.lines[kTransform];
   }
   const bool stiff = controller == kInverseKinematics || controller == kSameAsItem;
-  return !stiff || EvalF("%sStiffness %.10f", row.axis, real(row.stiffness));
+  return unlessSent(!stiff || EvalF("%sStiffness %.10f", row.axis, real(row.stiffness)), row.lines[kStiffness]);
+}
+
+// The switch of the limits, where it is not as wanted.
+bool BoneRun::sendAxisLimit(const AxisRow& row) {
+  unsigned& limits = limits_[row.group];
+  if (properties_.isOn(row.limits) == ((limits & row.limitBit) != 0)) return true;
+  if (!EvalF("Limit%s", row.axis)) return false;
+  limits ^= row.limitBit;
+  return true;
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -262,14 +284,25 @@ bool parentTo(lw::ItemId child, lw::ItemId parent) {
   return selectItem(child) && EvalF("RefreshNow") && EvalF("ParentItem 0x%x", lw::commandId(parent));
 }
 
-// Asks Layout for a null and gives back the item it selected for it; null when Layout refused or selected nothing new.
-lw::ItemId addNull(const std::string& name, const lw::Selection& before) {
+// Asks Layout for a null; of the name that the scene has no item of, or of any for an empty one. Null when Layout refused, or
+// selects nothing.
+lw::ItemId addNull(lw::CSceneItems& scene, const std::string& missingName, const lw::Selection& before) {
+  const std::string name(missingName.empty() ? std::string_view("Null") : missingName);
   // Eval, not EvalF: only a null that was really made may be moved. The name is a text, never a format.
-  if (lw::Eval(lw::FormatString("AddNull %s", name.c_str()))) return nullptr;
-  const lw::Selection after = lw::SaveSelection();
-  if (after.empty()) return nullptr;
-  const bool wasThere = std::find(before.begin(), before.end(), after.front()) != before.end();
-  return wasThere ? nullptr : after.front();
+  const bool refused = lw::Eval(lw::FormatString("AddNull %s", name.c_str()));
+  const lw::Selection after = refused ? lw::Selection() : lw::SaveSelection();
+  const auto made = std::find_if(after.begin(), after.end(), [&](lw::ItemId item) {
+    return std::find(before.begin(), before.end(), item) == before.end();
+  });
+  if (made != after.end()) {
+    scene.added(*made, name);
+    return *made;
+  }
+  // What the scene holds now is not known.
+  scene.forget();
+  // A host that leaves the selection as it was does not show the null that it made: the first selected item is the bone still,
+  // which must not be taken for it. It is the item of the name that was missing.
+  return after.empty() || missingName.empty() ? nullptr : scene.FindItemByName(name);
 }
 
 }  // namespace
@@ -319,13 +352,11 @@ lw::ItemId FindOrCreateNull(lw::CSceneItems& scene, const std::string& name, lw:
     if (found != nullptr) return found;
   }
   const lw::CSavedSelection selection;
-  const std::string nullName(name.empty() ? std::string_view("Null") : name);
-  const lw::ItemId made = addNull(nullName, selection.items());
+  const lw::ItemId made = addNull(scene, name, selection.items());
   if (made == nullptr) {
     lw::ReportError(kSource, 273, "%s", "createNull() !");
     return nullptr;
   }
-  scene.added(made, nullName);
   if (!MatchTransform(made, reference, matchRotation, matchScale)) lw::ReportError(kSource, 269, "%s", "matchTransform() !");
   return made;
 }

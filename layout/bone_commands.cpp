@@ -17,28 +17,29 @@ enum AxisIndex : std::size_t { X, Y, Z, H, P, B, SX, SY, SZ };
 constexpr AxisRow kAxes[] = {
     // clang-format off
     // axis group bit  limits     controller                limits                least              greatest           stiffness
-    //      follow                 factor                 offset                 gate  lines
+    //      follow                 factor                 offset                gate limit may fail
+    //                                                                                        lines; inside a group spaced as X's are
     {"X",  0, 0x1, 1,        Slot::XPositionController, Slot::XPositionLimits, Slot::XPositionMin, Slot::XPositionMax, Slot::XPositionStiffness,
-            Slot::XPositionFollow, Slot::XPositionFactor, Slot::XPositionOffset, X,  725, 0},
-    // A refused LimitY is reported and the sequence goes on, deliberately.
+            Slot::XPositionFollow, Slot::XPositionFactor, Slot::XPositionOffset,  X,  false, { 725,  731,  741,  747,  752,  758}},
+    // A LimitY that fails is reported and the sequence goes on, deliberately.
     {"Y",  0, 0x2, 1,        Slot::YPositionController, Slot::YPositionLimits, Slot::YPositionMin, Slot::YPositionMax, Slot::YPositionStiffness,
-            Slot::YPositionFollow, Slot::YPositionFactor, Slot::YPositionOffset, Y,  763, 770},
+            Slot::YPositionFollow, Slot::YPositionFactor, Slot::YPositionOffset,  Y,  true,  { 763,  770,  781,  787,  792,  798}},
     {"Z",  0, 0x4, 1,        Slot::ZPositionController, Slot::ZPositionLimits, Slot::ZPositionMin, Slot::ZPositionMax, Slot::ZPositionStiffness,
-            Slot::ZPositionFollow, Slot::ZPositionFactor, Slot::ZPositionOffset, Z,  803, 0},
+            Slot::ZPositionFollow, Slot::ZPositionFactor, Slot::ZPositionOffset,  Z,  false, { 803,  809,  819,  825,  830,  836}},
     // Only the limits of a rotation are turned into degrees; the transform goes as it is stored, deliberately.
     {"H",  1, 0x1, kDegrees, Slot::HeadingController,   Slot::HeadingLimits,   Slot::HeadingMin,   Slot::HeadingMax,   Slot::HeadingStiffness,
-            Slot::HeadingFollow,   Slot::HeadingFactor,   Slot::HeadingOffset,   H,  864, 0},
+            Slot::HeadingFollow,   Slot::HeadingFactor,   Slot::HeadingOffset,    H,  false, { 864,  870,  882,  888,  893,  899}},
     {"P",  1, 0x2, kDegrees, Slot::PitchController,     Slot::PitchLimits,     Slot::PitchMin,     Slot::PitchMax,     Slot::PitchStiffness,
-            Slot::PitchFollow,     Slot::PitchFactor,     Slot::PitchOffset,     P,  904, 0},
+            Slot::PitchFollow,     Slot::PitchFactor,     Slot::PitchOffset,      P,  false, { 904,  910,  922,  928,  933,  939}},
     {"B",  1, 0x4, kDegrees, Slot::BankController,      Slot::BankLimits,      Slot::BankMin,      Slot::BankMax,      Slot::BankStiffness,
-            Slot::BankFollow,      Slot::BankFactor,      Slot::BankOffset,      B,  944, 0},
+            Slot::BankFollow,      Slot::BankFactor,      Slot::BankOffset,       B,  false, { 944,  950,  962,  968,  973,  979}},
     {"SX", 2, 0x1, 1,        Slot::XScaleController,    Slot::XScaleLimits,    Slot::XScaleMin,    Slot::XScaleMax,    Slot::XScaleStiffness,
-            Slot::XScaleFollow,    Slot::XScaleFactor,    Slot::XScaleOffset,    SX, 1002, 0},
+            Slot::XScaleFollow,    Slot::XScaleFactor,    Slot::XScaleOffset,     SX, false, {1002, 1008, 1018, 1024, 1029, 1035}},
     {"SY", 2, 0x2, 1,        Slot::YScaleController,    Slot::YScaleLimits,    Slot::YScaleMin,    Slot::YScaleMax,    Slot::YScaleStiffness,
-            Slot::YScaleFollow,    Slot::YScaleFactor,    Slot::YScaleOffset,    SY, 1040, 0},
+            Slot::YScaleFollow,    Slot::YScaleFactor,    Slot::YScaleOffset,     SY, false, {1040, 1046, 1056, 1062, 1067, 1073}},
     // SZ follows by the controller of SY, not its own, deliberately: stored rigs count on it.
     {"SZ", 2, 0x4, 1,        Slot::ZScaleController,    Slot::ZScaleLimits,    Slot::ZScaleMin,    Slot::ZScaleMax,    Slot::ZScaleStiffness,
-            Slot::ZScaleFollow,    Slot::ZScaleFactor,    Slot::ZScaleOffset,    SY, 1078, 0},
+            Slot::ZScaleFollow,    Slot::ZScaleFactor,    Slot::ZScaleOffset,     SY, false, {1078, 1084, 1094, 1100, 1105, 1111}},
     // clang-format on
 };
 static_assert(std::size(kAxes) == SZ + 1);
@@ -71,21 +72,19 @@ constexpr BoneCommand updating(BoneCommand row, unsigned bit) {
   row.updates = bit;
   return row;
 }
-constexpr BoneCommand item(const char* name, Sends sends, Slot slot, bool matchRotation, bool matchScale, int line) {
+constexpr BoneCommand item(const char* name, Sends sends, Slot slot, bool matchRotation, bool matchScale, int line,
+                           int secondLine) {
   return {.name = name,
           .sends = sends,
           .slot = slot,
           .when = When::TextGiven,
           .matchRotation = matchRotation,
           .matchScale = matchScale,
-          .line = line};
+          .line = line,
+          .secondLine = secondLine};
 }
 constexpr BoneCommand axisGroup(AxisIndex axis) {
-  return {.name = kAxes[axis].axis,
-          .sends = Sends::AxisGroup,
-          .slot = kAxes[axis].controller,
-          .axis = axis,
-          .line = kAxes[axis].line};
+  return {.name = kAxes[axis].axis, .sends = Sends::AxisGroup, .slot = kAxes[axis].controller, .axis = axis};
 }
 
 constexpr FlagWord kBone = FlagWord::Bone;
@@ -93,14 +92,14 @@ constexpr FlagWord kItem = FlagWord::Item;
 
 constexpr BoneCommand kCommands[] = {
     // clang-format off
-    item("BoneSource", Sends::FoundItem, Slot::UseBonesFromObject, false, false, 342),
+    item("BoneSource", Sends::FoundItem, Slot::UseBonesFromObject, false, false, 342, 343),
     // The slot stores the choice from 0, the command counts from 1.
     {.name = "BoneFalloffType", .sends = Sends::Integer, .slot = Slot::FalloffType, .offset = 1, .line = 349},
     integer ("BoneMode",                Slot::BoneCalc,               353),
     integer ("NumLimitedBones",         Slot::LimitBoneNum,           357),
     switched("BoneType",                Slot::BoneType,               382),
     toggle  ("BoneActive",              Slot::BoneActive,             kBone, lw::kBoneActive,              389),
-    {.name = "BoneWeightMapName", .sends = Sends::WeightMap, .slot = Slot::WeightMap, .line = 398},
+    {.name = "BoneWeightMapName", .sends = Sends::WeightMap, .slot = Slot::WeightMap, .line = 398, .secondLine = 401},
     toggle  ("BoneWeightMapOnly",       Slot::WeightMapOnly,          kBone, lw::kBoneWeightMapOnly,       410, When::HasWeightMap),
     // Sent under the same name as the switch above, deliberately: there is no other command for it here.
     toggle  ("BoneWeightMapOnly",       Slot::WeightNormalization,    kBone, lw::kBoneWeightNormalization, 422, When::HasWeightMapAndOnly),
@@ -123,11 +122,11 @@ constexpr BoneCommand kCommands[] = {
     toggle  ("BoneTwist",               Slot::Twist,                  kBone, lw::kBoneTwist,               548, When::IsJoint),
     real    ("BoneTwistAmount",         Slot::TwistAmount,            kPercent, 557, When::IsTwistedJoint),
     real    ("ItemIconScale",           Slot::IconSize,               kPercent, 562),
-    item    ("TargetItem", Sends::ItemOrNull, Slot::TargetItem,       false, false, 568),
-    item    ("PoleItem",   Sends::ItemOrNull, Slot::PoleItem,         false, false, 577),
+    item    ("TargetItem", Sends::ItemOrNull, Slot::TargetItem,       false, false, 568, 569),
+    item    ("PoleItem",   Sends::ItemOrNull, Slot::PoleItem,         false, false, 577, 578),
     integer ("RotationOrder",           Slot::RotationOrder,          585),
     toggle  ("UnaffectedByIK",          Slot::UnaffectedByIK,         kItem, lw::kItemUnaffectedByIK,      592),
-    item    ("GoalItem",   Sends::ItemOrNull, Slot::GoalObject,       true,  false, 601),
+    item    ("GoalItem",   Sends::ItemOrNull, Slot::GoalObject,       true,  false, 601, 602),
     integer ("GoalObjective",           Slot::Objective,              609, When::HasGoal),
     integer ("IKInitialState",          Slot::IKInitialState,         615),
     integer ("IKInitialStateFrame",     Slot::IKInitialStateFrame,    621, When::StartsAtFrame),
@@ -144,17 +143,17 @@ constexpr BoneCommand kCommands[] = {
     toggle  ("KeepGoalWithinReach",     Slot::KeepGoalInReach,        kItem, lw::kItemKeepGoalInReach,     685, When::HasGoal),
     toggle  ("FullTimeIK",              Slot::FullTimeIK,             kItem, lw::kItemFullTimeIK,          695, When::HasGoal),
     integer ("PositionItemWorld",       Slot::PositionItemWorld,      702),
-    item    ("PositionItem", Sends::ItemOrNull, Slot::PositionItem,   false, false, 708),
+    item    ("PositionItem", Sends::ItemOrNull, Slot::PositionItem,   false, false, 708, 709),
     integer ("PositionItemBlendMethod", Slot::PositionBlendMethod,    715),
     real    ("PositionItemBlend",       Slot::PositionBlend,          kPercent, 720, When::HasPositionItem),
     axisGroup(X), axisGroup(Y), axisGroup(Z),
     integer ("RotationItemWorld",       Slot::RotationItemWorld,      841),
-    item    ("RotationItem", Sends::ItemOrNull, Slot::RotationItem,   true,  false, 847),
+    item    ("RotationItem", Sends::ItemOrNull, Slot::RotationItem,   true,  false, 847, 848),
     integer ("RotationItemBlendMethod", Slot::RotationBlendMethod,    854),
     real    ("RotationItemBlend",       Slot::RotationBlend,          kPercent, 859, When::HasRotationItem),
     axisGroup(H), axisGroup(P), axisGroup(B),
     // Sent whatever came of the null, deliberately.
-    item    ("ScaleItem",  Sends::ItemUnchecked, Slot::ScaleItem,     true,  true,  986),
+    item    ("ScaleItem",  Sends::ItemUnchecked, Slot::ScaleItem,     true,  true,  986, 986),
     integer ("ScaleItemBlendMethod",    Slot::ScaleBlendMethod,       992),
     real    ("ScaleItemBlend",          Slot::ScaleBlend,             kPercent, 997, When::HasScaleItem),
     axisGroup(SX), axisGroup(SY), axisGroup(SZ),
@@ -171,7 +170,7 @@ constexpr std::size_t kCommandsSharingARow = 1 + 2 + 2;
 
 constexpr std::size_t countedRows() {
   std::size_t rows = 0;
-  for (const BoneCommand& command : kCommands) rows += command.sends == Sends::AxisGroup ? kAxisCommands : 1;
+  for (const BoneCommand& command : kCommands) rows += command.sends == Sends::AxisGroup ? std::size_t{kAxisCommands} : 1;
   return rows - kCommandsSharingARow;
 }
 static_assert(countedRows() == kBoneCommandRows);

@@ -2,6 +2,7 @@
 // ST_bone_set_params walks it.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <span>
@@ -67,7 +68,12 @@ struct BoneCommand {
   bool matchScale = false;
   std::size_t axis = 0;  // of an axis group: the row
   int line = 0;          // reported when it fails; 0 = ends without a report
+  int secondLine = 0;    // of an item that is there, and of a weight map that has a name: the same for the command
 };
+
+// How many commands the table stands for when each axis group counts with its six.
+enum AxisCommand : std::size_t { kController, kLimit, kLimits, kFollow, kTransform, kStiffness, kAxisCommands };
+inline constexpr std::size_t kBoneCommandRows = 110;
 
 // One motion channel: controller, limits, follow and stiffness.
 struct AxisRow {
@@ -77,9 +83,9 @@ struct AxisRow {
   double limitFactor;
   skg::Slot controller, limits, least, greatest, stiffness;
   skg::Slot follow, factor, offset;
-  std::size_t followGate;  // the row whose controller decides whether follow and transform are sent
-  int line;                // reported when a command of the group fails, which ends the sequence
-  int limitLine;           // reported when the limit switch fails and the sequence goes on; 0 = that ends it too
+  std::size_t followGate;                // the row whose controller decides whether follow and transform are sent
+  bool limitMayFail;                     // the sequence goes on behind a limit switch that fails
+  std::array<int, kAxisCommands> lines;  // reported when a command of the group fails, by AxisCommand
 };
 
 // The motion groups: host parameter of each, in the order of AxisRow::group.
@@ -87,9 +93,5 @@ inline constexpr int kMotionParams[] = {lw::kParamPosition, lw::kParamRotation, 
 
 std::span<const BoneCommand> boneCommands();
 std::span<const AxisRow> axisRows();
-
-// How many commands the table stands for when each axis group counts with its six.
-inline constexpr std::size_t kAxisCommands = 6;
-inline constexpr std::size_t kBoneCommandRows = 110;
 
 }  // namespace lwp

@@ -63,26 +63,35 @@ struct ObjectNames {
   std::string object;
 };
 
-ObjectNames namesOf(lw::ItemId object) {
+// Whether the file's only layer goes by the name of the file, as Layout names its item.
+bool isNamedByFile(const st::ObjectFileData& data) { return data.layerCount() == 1 && data.layer(0).number() == 0; }
+
+// Whether the item holds the first layer of its file, or the only one. The host's number of that layer is 0, or 1 where it counts
+// from 1: a file that has no other layer tells which.
+bool holdsFirstLayer(lw::ItemId object, const st::ObjectFileData& data) {
+  const int loaded = lw::objectInfo().layerLoaded(object);
+  return loaded == 0 || (loaded == 1 && isNamedByFile(data));
+}
+
+ObjectNames namesOf(lw::ItemId object, const st::ObjectFileData& data) {
   ObjectNames names;
   names.layer = lw::SplitItemName(object, 2);
   names.object = lw::SplitItemName(object, 1);
   // Without a colon the item may be the only layer of its file, which Layout names after the file alone.
-  if (names.layer.empty() && lw::objectInfo().layerLoaded(object) == 0) {
+  if (names.layer.empty() && holdsFirstLayer(object, data)) {
     names.layer = lw::itemName(object);
     names.object = names.layer;
   }
   return names;
 }
 
-// The first layer of that name. The only layer of a file goes by the file's name when its number is 0, as Layout names its
-// item. `filePath` is the host's path, in UTF-8 as item names are: a narrow one may hold bytes that look like a backslash.
+// The first layer of that name. 'readPath' is the path of the file that was read, in UTF-8 as item names are. It is not always the
+// item's own: then the file is another one, and its only layer goes by the name of that.
 std::optional<st::ObjectLayer> layerNamed(const st::ObjectFileData& data, const std::string& name,
-                                          const std::string& filePath) {
-  const bool namedByFile = data.layerCount() == 1 && data.layer(0).number() == 0;
-  const std::string fileName = lw::fileBaseName(filePath);
+                                          const std::string& readPath) {
+  const std::string fileName = lw::fileBaseName(readPath);
   for (const st::ObjectLayer layer : data.layers()) {
-    if ((namedByFile ? fileName : layer.name()) == name) return layer;
+    if ((isNamedByFile(data) ? fileName : layer.name()) == name) return layer;
   }
   return std::nullopt;
 }
@@ -146,13 +155,13 @@ bool ConvertSkelegons(lw::ItemId object) {
 }
 
 bool ConvertObjectSkelegons(lw::CSceneItems& scene, NarrowPath& path, lw::ItemId object, bool recordPivot) {
-  const ObjectNames names = namesOf(object);
   const char* const hostPath = lw::objectInfo().filename(object);
-  const std::string filePath = hostPath == nullptr ? "" : hostPath;
+  const std::string ownPath = hostPath == nullptr ? "" : hostPath;
   st::ObjectFileData data;
-  if (!st::ReadObjectFile(data, path.ToNarrowPath(hostPath == nullptr ? nullptr : filePath.c_str()))) return false;
+  if (!st::ReadObjectFile(data, path.ToNarrowPath(hostPath == nullptr ? nullptr : ownPath.c_str()))) return false;
 
-  const std::optional<st::ObjectLayer> layer = layerNamed(data, names.layer, filePath);
+  const ObjectNames names = namesOf(object, data);
+  const std::optional<st::ObjectLayer> layer = layerNamed(data, names.layer, path.utf8());
   if (!layer) return true;
   applyToLayer(scene, data, *layer, names.object, recordPivot);
   lw::StatusProgress(1.0F, "%s", "Now setting bone properties...done.");

@@ -51,9 +51,6 @@ class FaceStore {
   std::uint32_t corners_ = 0;
 };
 
-// Below every point number; those have 24 bits.
-inline constexpr std::int32_t kNoPoint = -1;
-
 // Fills a store that was made for just these faces, from its start on. A sink of polygon lists; small, to be copied.
 class FaceFiller {
  public:
@@ -68,16 +65,10 @@ class FaceFiller {
     start_ += step_;
     *start_ = indices_;
   }
-  void addIndex(std::uint32_t point) {
-    *index_++ = point;
-    highestPoint = std::max(highestPoint, static_cast<std::int32_t>(point));
-  }
+  void addIndex(std::uint32_t point) { *index_++ = point; }
 
   // How many faces there are so far.
   std::uint32_t faces() const { return faces_; }
-
-  // The highest point number since it was set last.
-  std::int32_t highestPoint = kNoPoint;
 
  private:
   std::uint32_t* start_;

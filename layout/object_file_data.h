@@ -63,14 +63,15 @@ class ObjectLayer {
     return {store_->points.data() + record_->firstPoint, store_->points.data() + next().firstPoint};
   }
 
-  // FACE polygons: the numbers of their points, all below points().size().
+  // FACE polygons: the numbers of their points. A file may name points that the layer does not have, or has in no chunk that is
+  // read: who looks a number up in points() compares it with points().size() first.
   std::size_t faceCount() const { return next().firstFace - record_->firstFace; }
   std::span<const std::uint32_t> face(std::size_t at) const { return store_->faces[record_->firstFace + at]; }
   auto faces() const {
     return ListView(faceCount(), [layer = *this](std::size_t at) { return layer.face(at); });
   }
 
-  // BONE polygons. Their point numbers are below points().size(); their tags may name texts that the tag list lacks.
+  // BONE polygons. Of their point numbers the same holds; their tags may name texts that the tag list lacks.
   std::size_t skelegonCount() const { return next().firstSkelegon - record_->firstSkelegon; }
   SkelegonRecord skelegon(std::size_t at) const { return store_->skelegons[record_->firstSkelegon + at]; }
   auto skelegons() const {

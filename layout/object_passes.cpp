@@ -1,6 +1,5 @@
 #include "layout/object_passes.h"
 
-#include <algorithm>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -114,8 +113,9 @@ bool FillingPass::takeTagTexts(CFileStream body) {
 }
 
 bool FillingPass::takeLayer(CFileStream body) {
+  tags_.finish();
   LayerChunk layer;
-  if (!endLayer() || !readLayerChunk(body, layer)) return false;
+  if (!readLayerChunk(body, layer)) return false;
   const std::string name = nameOf(layer);
   LayerRecord& record = store_->layers.emplace_back(next_);
   record.pivot = layer.pivot;
@@ -155,19 +155,9 @@ bool FillingPass::takeSkelegonTags(std::uint32_t type, CFileStream body) {
   return true;
 }
 
-bool FillingPass::endLayer() {
+void FillingPass::finish() {
   tags_.finish();
-  if (store_->layers.empty()) return true;
-  const std::int64_t points = next_.firstPoint - store_->layers.back().firstPoint;
-  const std::int32_t highest = std::max(faces_.highestPoint, skelegons_.highestPoint);
-  faces_.highestPoint = skelegons_.highestPoint = kNoPoint;
-  return highest < points;
-}
-
-bool FillingPass::finish() {
-  if (!endLayer()) return false;
   store_->layers.push_back(next_);
-  return true;
 }
 
 }  // namespace lwp::st

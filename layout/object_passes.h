@@ -56,8 +56,7 @@ class TagCountingPass : public ObjectChunks {
   bool listsAscend_ = true;
 };
 
-// Takes the memory and puts everything in place. Refuses a polygon with a point that its layer does not have: points may
-// stand behind the polygons, so that shows at the end of the layer only.
+// Takes the memory and puts everything in place.
 class FillingPass : public ObjectChunks {
  public:
   FillingPass(ObjectStore& store, const ObjectCounts& counts, bool tagListsAscend);
@@ -70,11 +69,10 @@ class FillingPass : public ObjectChunks {
   bool takeSkelegonTags(std::uint32_t type, CFileStream body) override;
 
   // To be called when all chunks were taken.
-  bool finish();
+  void finish();
 
  private:
   static FaceStore& roomFor(ObjectStore& store, const ObjectCounts& counts);
-  bool endLayer();
 
   ObjectStore* store_;
   TagPlacing tags_;

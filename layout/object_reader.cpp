@@ -23,7 +23,9 @@ bool readObject(ObjectStore& store, std::span<const std::byte> chunks) {
   store.skelegons.layOut();
 
   FillingPass filling(store, counting.counts(), tagCounting.listsAscend());
-  return CLWOFileStream(chunks).readChunks(filling) && filling.finish();
+  if (!CLWOFileStream(chunks).readChunks(filling)) return false;
+  filling.finish();
+  return true;
 }
 
 bool readForm(ObjectFileData& data, CLWOFileStream& file, std::string path) {

@@ -6,7 +6,6 @@
 // refers to them.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -103,16 +102,10 @@ class SkelegonFiller {
     std::byte* last = words_ + (end - SkelegonStore::kWordsOfTag) * SkelegonStore::kBytesOfWord;
     reinterpret_cast<PolygonTag*>(last)->pointsOfSkelegon = static_cast<std::uint16_t>(points);
   }
-  void addIndex(std::uint32_t point) {
-    *point_++ = point;
-    highestPoint = std::max(highestPoint, static_cast<std::int32_t>(point));
-  }
+  void addIndex(std::uint32_t point) { *point_++ = point; }
 
   // How many skelegons there are so far.
   std::uint32_t skelegons() const { return skelegons_; }
-
-  // The highest point number since it was set last.
-  std::int32_t highestPoint = kNoPoint;
 
  private:
   std::uint32_t* ends_;

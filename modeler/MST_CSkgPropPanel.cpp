@@ -1,12 +1,12 @@
 #include "modeler/MST_CSkgPropPanel.h"
 
-#include <algorithm>
 #include <unordered_map>
 #include <utility>
 
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_eval.h"
 #include "host/lwtool2_globals.h"
+#include "host/lwtool2_messages.h"
 #include "modeler/property_layout.h"
 #include "modeler/property_sections.h"
 #include "modeler/tools.h"
@@ -24,11 +24,7 @@ bool objectIsLoaded() { return lw::stateQuery().object() != nullptr; }
 // Without an object there is nothing to scan, and the host begins no edit.
 std::vector<PanelSkelegon> scan() { return objectIsLoaded() ? ScanPanelSkelegons() : std::vector<PanelSkelegon>(); }
 
-bool isInObject(lw::PolygonId polygon) {
-  if (!objectIsLoaded()) return false;
-  const lw::PolygonIds living = lw::CollectSkelegons();
-  return std::find(living.begin(), living.end(), polygon) != living.end();
-}
+bool isInObject(lw::PolygonId polygon) { return objectIsLoaded() && lw::IsLivingSkelegon(polygon); }
 
 void append(TagWrites& writes, const TagWrites& more) {
   for (std::size_t i = 0; i < more.polygons.size(); ++i) writes.add(more.polygons[i], more.types[i], more.values[i]);
@@ -261,12 +257,12 @@ void CSkgPropPanel::fillLinkedNames(Slot slot) {
 
 void CSkgPropPanel::preset(Controller controller) {
   if (page_ != kControllersPage) return;
-  applyWrites(writesForControllerPreset(skelegons_, static_cast<ControllerGroup>(group_), controller));
+  applyWrites(writesForControllerPreset(skelegons_, static_cast<skg::MotionGroup>(group_), controller));
   reload();
 }
 
 void CSkgPropPanel::reset(const char* question, bool all) {
-  if (lw::messages().yesNo(kPropertyName, question, "") == 0) return;
+  if (!lw::AskYesNo(kPropertyName, question)) return;
   const lw::PolygonIds everyone = all && objectIsLoaded() ? lw::CollectSkelegons() : lw::PolygonIds();
   applyWrites(writesForReset(all ? everyone : selected()));
   reload();

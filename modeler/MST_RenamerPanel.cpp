@@ -5,6 +5,7 @@
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_eval.h"
 #include "host/lwtool2_globals.h"
+#include "host/lwtool2_messages.h"
 #include "modeler/tools.h"
 
 namespace mst {
@@ -28,9 +29,9 @@ const char* message(texts::RenamerMessage which) {
 void complain(const RenameResult& result) {
   switch (result.outcome) {
     case RenameOutcome::Renamed: break;
-    case RenameOutcome::NoSkelegons: return lw::messages().error(message(texts::RenamerMessage::NoSelection), "");
-    case RenameOutcome::DuplicatedNames: return lw::messages().error(message(texts::RenamerMessage::DuplicatedNames), "");
-    case RenameOutcome::InvalidPattern: return lw::messages().error(result.complaint.c_str(), "");
+    case RenameOutcome::NoSkelegons: return lw::ShowError(message(texts::RenamerMessage::NoSelection));
+    case RenameOutcome::DuplicatedNames: return lw::ShowError(message(texts::RenamerMessage::DuplicatedNames));
+    case RenameOutcome::InvalidPattern: return lw::ShowError(result.complaint.c_str());
   }
 }
 

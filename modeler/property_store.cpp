@@ -1,8 +1,8 @@
+#include "skelegon/slot_table.h"
 #include "modeler/property_store.h"
 
 #include <array>
 #include <charconv>
-#include <unordered_set>
 
 namespace mst {
 namespace {
@@ -18,13 +18,13 @@ lw::TagTypes typesToRead() {
   return types;
 }
 
-// Without the writes to polygons that the user deleted, or whose object was closed, since the panel saw them. The host must
-// not be asked about those.
-TagWrites writesToLiving(const TagWrites& writes, const lw::PolygonIds& living) {
-  const std::unordered_set<lw::PolygonId> known(living.begin(), living.end());
+// Without the writes to polygons that the user deleted, or whose object was closed, since the panel saw them: the host must
+// not be asked about those. Their identifiers may even name other polygons by now; what is no skelegon is left out too.
+TagWrites writesToLiving(lw::CMeshEdit& edit, const TagWrites& writes) {
+  const lw::PolygonSet living = edit.skelegonsAmong(writes.polygons);
   TagWrites kept;
   for (std::size_t i = 0; i < writes.polygons.size(); ++i) {
-    if (known.count(writes.polygons[i]) != 0) kept.add(writes.polygons[i], writes.types[i], writes.values[i]);
+    if (living.count(writes.polygons[i]) != 0) kept.add(writes.polygons[i], writes.types[i], writes.values[i]);
   }
   return kept;
 }
@@ -58,7 +58,7 @@ skg::SkelegonProperties ReadSkelegonProperties(lw::PolygonId polygon) {
     std::string& colour = properties[skg::Slot::Colour];
     if (colour.empty()) colour = std::move(stored.back());
   }
-  for (const skg::SlotRow& row : skg::slotTable()) {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
     std::string& text = properties[row.slot];
     if (text.empty()) text = row.defaultText;
   }
@@ -101,7 +101,7 @@ std::string_view colourName(int colourIndex) {
 void applyWrites(const TagWrites& writes) {
   if (writes.empty()) return;
   lw::CMeshEdit edit(lw::kEditForTags);
-  const TagWrites living = writesToLiving(writes, edit.scan(lw::kLayersAll));
+  const TagWrites living = writesToLiving(edit, writes);
   lw::WritePolygonTags(edit, living.polygons, living.types, living.values);
   edit.done();
 }

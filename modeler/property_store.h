@@ -13,6 +13,7 @@
 
 #include "host/lwtool2_mesh.h"
 #include "modeler/value_kind.h"
+#include "skelegon/setting_groups.h"
 #include "skelegon/slots.h"
 
 namespace mst {
@@ -74,21 +75,19 @@ TagWrites writesForColour(PanelSkelegons skelegons, int colourIndex);
 
 // A linked item's name: each skelegon's own name with the slot's suffix, if it has one ("_tar").
 TagWrites writesForLinkedNames(PanelSkelegons skelegons, skg::Slot slot);
-std::string_view linkedNameSuffix(skg::Slot slot);  // empty for a slot that has none
 
 // Each skelegon takes the weight map of its own name and becomes active; where there is none it becomes inactive.
 TagWrites writesForWeightMapsByName(PanelSkelegons skelegons, const std::vector<std::string>& mapNames);
 
 // One value for the three controllers of a group.
-enum class ControllerGroup { Position, Rotation, Scale };
 enum class Controller : int { KeyFrames = 0, InverseKinematics = 3, SameAsItem = 6 };
-TagWrites writesForControllerPreset(PanelSkelegons skelegons, ControllerGroup group, Controller controller);
+TagWrites writesForControllerPreset(PanelSkelegons skelegons, skg::MotionGroup group, Controller controller);
 
 // Removes every setting of these polygons. Name, weight map and colour, which have tags of the host's, stay.
 TagWrites writesForReset(const lw::PolygonIds& polygons);
 
-// Makes the writes in one mesh edit; no edit at all when there is nothing to write. Polygons that are no longer in the
-// current object are left out. Throws CBaseEx; nothing is written then.
+// Makes the writes in one mesh edit; no edit at all when there is nothing to write. What is no longer a skelegon of the
+// current object is left out. Throws CBaseEx; nothing is written then.
 void applyWrites(const TagWrites& writes);
 
 // Stores a control's value.

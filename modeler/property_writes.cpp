@@ -1,40 +1,17 @@
 // Which tags each action of the property panel writes. No host here.
 #include <algorithm>
-#include <array>
 #include <set>
 #include <string_view>
 #include <unordered_set>
 
 #include "modeler/property_store.h"
+#include "skelegon/setting_groups.h"
+#include "skelegon/slot_table.h"
 
 namespace mst {
 namespace {
 
 using skg::Slot;
-
-struct LinkedName {
-  Slot slot;
-  const char* suffix;
-};
-constexpr std::array<LinkedName, 7> kLinkedNames = {{
-    {Slot::TargetItem, "_tar"},
-    {Slot::PoleItem, "_pole"},
-    {Slot::GoalObject, "_goal"},
-    {Slot::PositionItem, "_pos"},
-    {Slot::RotationItem, "_rot"},
-    {Slot::ScaleItem, "_scl"},
-    {Slot::InitialPositionItem, "_initpos"},
-}};
-
-// By ControllerGroup.
-constexpr std::array<std::array<Slot, 3>, 3> kControllers = {{
-    {Slot::XPositionController, Slot::YPositionController, Slot::ZPositionController},
-    {Slot::HeadingController, Slot::PitchController, Slot::BankController},
-    {Slot::XScaleController, Slot::YScaleController, Slot::ZScaleController},
-}};
-
-// Settings of the whole object that a layer becomes in Layout.
-constexpr bool isObjectWide(Slot slot) { return slot >= Slot::UseBonesFromObject && slot <= Slot::LimitBoneNum; }
 
 // Colours whose word the host's own colour tag is never given, deliberately: it is blanked, and only the copy knows them.
 constexpr bool isKeptFromHost(std::string_view colour) { return colour == "DkCyn" || colour == "Cyan"; }
@@ -47,7 +24,7 @@ void forSelected(PanelSkelegons skelegons, Write&& write) {
 }
 
 lw::PolygonIds targetsOf(PanelSkelegons skelegons, Slot slot) {
-  if (!isObjectWide(slot)) return selectedPolygons(skelegons);
+  if (skg::rowOf(slot).scope != skg::Scope::Layer) return selectedPolygons(skelegons);
   std::set<int> layers;
   forSelected(skelegons, [&](const PanelSkelegon& selected) { layers.insert(selected.layer); });
   lw::PolygonIds polygons;
@@ -67,7 +44,7 @@ void TagWrites::add(lw::PolygonId polygon, std::uint32_t type, std::string_view 
 
 TagWrites writesForValue(PanelSkelegons skelegons, Slot slot, std::string_view text) {
   TagWrites writes;
-  if (skg::slotTable()[indexOf(slot)].kind == skg::SlotKind::Reserved) return writes;
+  if (skg::rowOf(slot).kind == skg::SlotKind::Reserved) return writes;
   const std::string_view stored = text == skg::SlotDefaults(slot) ? std::string_view() : text;
   for (const lw::PolygonId polygon : targetsOf(skelegons, slot)) writes.add(polygon, skg::SlotTagId(slot), stored);
   return writes;
@@ -93,18 +70,12 @@ TagWrites writesForColour(PanelSkelegons skelegons, int colourIndex) {
   return writes;
 }
 
-std::string_view linkedNameSuffix(Slot slot) {
-  const auto found = std::find_if(kLinkedNames.begin(), kLinkedNames.end(),
-                                  [slot](const LinkedName& linked) { return linked.slot == slot; });
-  return found == kLinkedNames.end() ? std::string_view() : found->suffix;
-}
-
 TagWrites writesForLinkedNames(PanelSkelegons skelegons, Slot slot) {
   TagWrites writes;
-  const std::string_view suffix = linkedNameSuffix(slot);
-  if (suffix.empty()) return writes;
+  const skg::LinkedItem* const item = skg::linkedItemOf(slot);
+  if (item == nullptr) return writes;
   forSelected(skelegons, [&](const PanelSkelegon& skelegon) {
-    writes.add(skelegon.polygon, skg::plainSlotTagId(indexOf(slot)), skelegon.name + std::string(suffix));
+    writes.add(skelegon.polygon, skg::plainSlotTagId(indexOf(slot)), skelegon.name + item->suffix);
   });
   return writes;
 }
@@ -121,12 +92,12 @@ TagWrites writesForWeightMapsByName(PanelSkelegons skelegons, const std::vector<
   return writes;
 }
 
-TagWrites writesForControllerPreset(PanelSkelegons skelegons, ControllerGroup group, Controller controller) {
+TagWrites writesForControllerPreset(PanelSkelegons skelegons, skg::MotionGroup group, Controller controller) {
   const std::string value = formatInteger(static_cast<int>(controller));  // stored even where it is the default
   TagWrites writes;
   forSelected(skelegons, [&](const PanelSkelegon& skelegon) {
-    for (const Slot slot : kControllers[static_cast<std::size_t>(group)]) {
-      writes.add(skelegon.polygon, skg::SlotTagId(slot), value);
+    for (const skg::AxisSettings& axis : skg::kAxes) {
+      if (axis.group == group) writes.add(skelegon.polygon, skg::SlotTagId(axis.controller), value);
     }
   });
   return writes;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <locale>
 #include <regex>
 #include <utility>
 #include <vector>
@@ -164,13 +165,18 @@ std::int64_t checkedCost(std::string_view pattern) {
 // ---------------------------------------------------------------------------------------------------------------------
 // The matcher, watched
 
-std::uintptr_t stackPointer() {
+// The address sanitizer may keep locals elsewhere than on the stack.
 #if defined(__GNUC__)
-  return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
+#define VARNEL_REAL_STACK __attribute__((no_sanitize("address")))
 #else
+#define VARNEL_REAL_STACK
+#endif
+
+// Roughly where the stack stands. Not by __builtin_frame_address: this compiler then tells Windows a wrong place for the xmm
+// registers that the function saved, and an exception that passes leaves the host with other ones.
+VARNEL_REAL_STACK std::uintptr_t stackPointer() {
   const volatile char here = 0;
   return reinterpret_cast<std::uintptr_t>(&here);
-#endif
 }
 
 struct Watch {
@@ -261,7 +267,11 @@ class CBoundedText {
 }  // namespace
 
 struct CRegexReplacement::Matcher {
-  explicit Matcher(const std::string& pattern) : regex(pattern, std::regex::ECMAScript) {}
+  // What counts as a letter must not depend on the locale that somebody set in the host's process.
+  explicit Matcher(const std::string& pattern) {
+    regex.imbue(std::locale::classic());
+    regex.assign(pattern, std::regex::ECMAScript);
+  }
 
   std::regex regex;
   Watch watch;

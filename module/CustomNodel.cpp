@@ -16,7 +16,11 @@ namespace {
 
 constexpr const char* kSource = "CustomNodel";
 
-bool fits(int version, int wanted, lw::GlobalFunc global) { return version == wanted && CheckHostVersion(global); }
+// A missing lookup function passes here, where it cannot be asked for the release: that is a missing service, which the
+// activation finds next.
+bool fits(int version, int wanted, lw::GlobalFunc global) {
+  return version == wanted && (global == nullptr || CheckHostVersion(global));
+}
 
 // Runs a tool. A run that throws has failed like one that answers 0; either way the failure is reported and the host told
 // that the command is done.

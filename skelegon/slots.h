@@ -62,16 +62,6 @@ enum class SlotKind {
   Colour,
 };
 
-struct SlotRow {
-  Slot slot;
-  SlotKind kind;
-  const char* defaultText;
-  const char* setting;  // the setting's English name, unique; empty for reserved slots
-};
-
-// Every slot, in slot order.
-const std::array<SlotRow, kSlotCount>& slotTable();
-
 constexpr std::size_t indexOf(Slot slot) { return static_cast<std::size_t>(slot); }
 
 // The default text of a slot. Compared and put in as exact text, never as a number.

@@ -13,6 +13,8 @@
 #include <utility>
 #include <vector>
 
+#include "standin/core/kept_registers.h"
+
 namespace standin {
 
 struct Fault {
@@ -99,7 +101,7 @@ class HostCall {
 };
 
 // Calls into the module. An exception that comes out is a fault: no exception may cross the host's interface.
-// Gives an empty optional (or false) in that case.
+// Gives an empty optional (or false) in that case. Registers that are not given back as they were are a fault as well.
 template <class F>
 auto callModule(const char* name, F&& call) {
   using Result = std::invoke_result_t<F>;
@@ -122,9 +124,13 @@ auto callModule(const char* name, F&& call) {
     witness().moduleRuns_ = false;
     witness().fault(name, "let an exception out into the host");
   };
+  const auto keepingRegisters = [name](auto&& inner) {
+    const std::string changed = changedRegistersOf(inner);
+    if (!changed.empty()) witness().fault(name, "gave back other values in " + changed);
+  };
   if constexpr (std::is_void_v<Result>) {
     try {
-      std::forward<F>(call)();
+      keepingRegisters(call);
       return true;
     } catch (...) {
       faulted();
@@ -132,7 +138,9 @@ auto callModule(const char* name, F&& call) {
     }
   } else {
     try {
-      return std::optional<Result>(std::forward<F>(call)());
+      std::optional<Result> result;
+      keepingRegisters([&] { result.emplace(call()); });
+      return result;
     } catch (...) {
       faulted();
       return std::optional<Result>();

@@ -81,7 +81,10 @@ CommandRow programSwitch(std::string name, bool LayoutState::*member) {
           CommandTarget::none,
           {{ArgumentKind::optionalInteger, 0, 1}},
           [member](LayoutState& state, Item*, const Arguments& arguments) -> Rejection {
-            state.*member = arguments[0].given ? arguments[0].integer != 0 : !(state.*member);
+            const SwitchArgument habit = state.scene.options().switchArgument;
+            if (arguments[0].given && habit == SwitchArgument::Refused) return "it takes no argument";
+            const bool isTaken = arguments[0].given && habit == SwitchArgument::Taken;
+            state.*member = isTaken ? arguments[0].integer != 0 : !(state.*member);
             return {};
           }};
 }
@@ -100,23 +103,29 @@ Rejection addToSelection(LayoutState& state, Item*, const Arguments& arguments) 
   return {};
 }
 
+void selectNew(Scene& scene, NewItems habit, const std::vector<Item*>& items) {
+  if (habit == NewItems::Left) return;
+  if (habit != NewItems::Added) scene.deselectAll();
+  if (habit == NewItems::Cleared) return;
+  for (Item* item : items) scene.addToSelection(*item);
+}
+
 Rejection addNull(LayoutState& state, Item*, const Arguments& arguments) {
-  Item& null = state.scene.addNull(arguments[0].text);
-  if (!state.scene.options().newNullSelected) return {};
-  state.scene.deselectAll();
-  state.scene.addToSelection(null);
+  Scene& scene = state.scene;
+  Item& null = scene.addNull(arguments[0].text);
+  if (scene.options().newNullBelowSelection && !scene.selection().empty()) scene.setParent(null, scene.selection().front());
+  selectNew(scene, scene.options().newNull, {&null});
   return {};
 }
 
 Rejection skelegonsToBones(LayoutState& state, Item* item, const Arguments&) {
-  if (item->skelegons.polygons.empty()) return "the object has no skelegons";
+  const LayoutOptions& options = state.scene.options();
+  if (skelegonSources(state.scene, *item).empty()) return options.noSkelegonsIsRefused ? "the object has no skelegons" : "";
   // The host tells how many bones it made, in a box that the user has to close.
   if (state.autoConfirm == 0) return std::string(kAsksUser) + "confirm the conversion";
   if (state.autoConfirm < 0) return "the conversion was not confirmed";
   const std::vector<Item*> bones = makeBonesOfSkelegons(state.scene, *item);
-  if (!state.scene.options().newBonesSelected) return {};
-  state.scene.deselectAll();
-  for (Item* bone : bones) state.scene.addToSelection(*bone);
+  selectNew(state.scene, options.newBones, bones);
   return {};
 }
 
@@ -137,7 +146,15 @@ Rejection statusMessage(LayoutState& state, Item*, const Arguments& arguments) {
 }
 
 Rejection parentItem(LayoutState& state, Item* item, const Arguments& arguments) {
-  return state.scene.setParent(*item, arguments[0].item) ? Rejection() : "an item cannot come to stand below itself";
+  Scene& scene = state.scene;
+  Item* const parent = arguments[0].item;
+  const Placement before = scene.placement(*item, state.time);
+  if (!scene.setParent(*item, parent)) return "an item cannot come to stand below itself";
+  if (scene.options().parentInPlace) scene.placeAt(*item, before, state.time);
+  if (scene.options().parentingReorders && item->kind == parent->kind && item->owner == parent->owner) {
+    scene.moveInList(*item, parent->placeInList + (item->placeInList > parent->placeInList ? 1 : 0));
+  }
+  return {};
 }
 
 Rejection rotationOrder(LayoutState& state, Item* item, const Arguments& arguments) {

@@ -51,7 +51,10 @@ Rejection run(LayoutState& state, std::string_view command) {
 bool runCommand(LayoutState& state, std::string_view command) {
   const Rejection why = run(state, command);
   state.transcript.add(outcome(command, why));
-  return why.empty();
+  if (!why.empty()) return false;
+  if (state.watch) state.watch(state, command);
+  if (const auto otherPlugin = state.scene.options().otherPlugin) otherPlugin(state.scene, command);
+  return true;
 }
 
 }  // namespace standin

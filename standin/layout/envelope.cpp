@@ -4,11 +4,6 @@
 #include <cmath>
 
 namespace standin {
-namespace {
-
-constexpr double kSameTime = 1e-6;
-
-}  // namespace
 
 Key* Envelope::byNumber(std::uint16_t number) {
   const auto found = std::find_if(keys_.begin(), keys_.end(), [&](const Key& key) { return key.number == number; });
@@ -16,8 +11,8 @@ Key* Envelope::byNumber(std::uint16_t number) {
 }
 
 Key* Envelope::at(double time) {
-  const auto found =
-      std::find_if(keys_.begin(), keys_.end(), [&](const Key& key) { return std::abs(key.time - time) < kSameTime; });
+  const auto found = std::find_if(keys_.begin(), keys_.end(),
+                                  [&](const Key& key) { return std::abs(key.time - time) <= habits_.tolerance; });
   return found == keys_.end() ? nullptr : &*found;
 }
 
@@ -31,11 +26,16 @@ Key* Envelope::before(const Key& key) {
   return place > 0 ? &keys_[place - 1] : nullptr;
 }
 
-Key& Envelope::create(double time, double value) {
-  if (Key* existing = at(time)) {
-    existing->value = value;
-    return *existing;
-  }
+Key* Envelope::create(double time, double value) {
+  Key* const existing = at(time);
+  if (existing == nullptr || habits_.same == KeyAtSameTime::Second) return &insert(time, value);
+  if (habits_.same == KeyAtSameTime::Refused) return nullptr;
+  existing->value = value;
+  return habits_.same == KeyAtSameTime::Changed ? existing : nullptr;
+}
+
+// Behind those at the same time.
+Key& Envelope::insert(double time, double value) {
   const auto place = std::find_if(keys_.begin(), keys_.end(), [&](const Key& key) { return key.time > time; });
   return *keys_.insert(place, Key{++lastNumber_, time, value});
 }
@@ -46,19 +46,20 @@ void Envelope::destroy(std::uint16_t number) {
 
 double Envelope::valueAt(double time) const {
   if (keys_.empty()) return resting_;
-  if (time <= keys_.front().time) return keys_.front().value;
-  if (time >= keys_.back().time) return keys_.back().value;
   const auto next = std::find_if(keys_.begin(), keys_.end(), [&](const Key& key) { return key.time > time; });
+  if (next == keys_.begin()) return keys_.front().value;
+  if (next == keys_.end()) return keys_.back().value;
   const Key& from = *(next - 1);
   const double part = (time - from.time) / (next->time - from.time);
   return from.value + (next->value - from.value) * part;
 }
 
 void Envelope::assign(double time, double value) {
-  if (keys_.size() == 1) {
-    keys_.front().value = value;
+  Key* const key = keys_.size() == 1 ? &keys_.front() : at(time);
+  if (key != nullptr) {
+    key->value = value;
   } else {
-    create(time, value);
+    insert(time, value);
   }
 }
 

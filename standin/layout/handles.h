@@ -1,6 +1,7 @@
 // Handles of channel groups, channels, envelopes and keys: numbers that say what they name and cannot be used as addresses.
 //
-// Each item has a group with its nine motion channels, and below it the group "IK" with two channels that have no envelope.
+// Each item has a group with its nine motion channels, and below it the group "IK" with two channels that have no envelope. By an
+// option the motion channels stand in three groups of their own below it.
 #pragma once
 
 #include <cstddef>
@@ -18,7 +19,8 @@ struct Handle {
 
 inline constexpr std::size_t kItemGroup = 0;
 inline constexpr std::size_t kIkGroup = 1;
-inline constexpr std::size_t kGroupCount = 2;
+inline constexpr std::size_t kMotionGroup = 2;  // the first of the three for position, rotation and scale
+inline constexpr std::size_t kGroupCount = 5;
 
 // Channels of the IK group follow the nine motion channels; the last one is there on demand only.
 inline constexpr std::size_t kChannelGoalStrength = 9;

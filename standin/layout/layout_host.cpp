@@ -51,7 +51,11 @@ void offerServices(LayoutHost& host) {
 
 }  // namespace
 
-LayoutHost::LayoutHost(const LayoutOptions& options) : state_(options) {
+LayoutHost::LayoutHost(const LayoutOptions& options)
+    : state_(options),
+      texts_(options.textLife),
+      interfaceRecords_(options.oneInterfaceRecord),
+      timeRecords_(options.oneTimeRecord) {
   theHost = this;
   witness().reset();
   globals().reset();
@@ -94,12 +98,13 @@ void* LayoutHost::freshInterfaceInfo() {
   InterfaceRecord& record = interfaceRecords_.next(&spoilInterfaceRecord);
   record.info = {};
   record.info.curTime = state_.time;
-  record.selection.clear();
-  for (const Item* item : scene().selection()) record.selection.push_back(scene().idOf(item));
-  record.selection.push_back(nullptr);
-  const bool none = scene().selection().empty() && scene().options().selectedItemsNullWhenEmpty;
-  record.info.selItems = none ? nullptr : record.selection.data();
-  record.info.generalFlags = (state_.ikEnabled ? 0x80U : 0U) | (state_.motionControllersEnabled ? 0x800U : 0U);
+  const LayoutOptions& options = scene().options();
+  record.selection = scene().selectionList();
+  const bool none = scene().selection().empty() && options.selectedItemsNullWhenEmpty;
+  const std::vector<lw::ItemId>& list = options.selectionFollows ? scene().followingList() : record.selection;
+  record.info.selItems = none ? nullptr : list.data();
+  record.info.generalFlags = (state_.ikEnabled ? 0x80U : 0U) | (state_.motionControllersEnabled ? 0x800U : 0U) |
+                             (options.parentInPlace ? 0x4U : 0U);
   fillInterfaceFunctions(record.info);
   return &record.info;
 }

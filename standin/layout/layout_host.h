@@ -31,9 +31,13 @@ inline constexpr std::uint32_t kLocaleJapanese = 0x411;
 template <class Record>
 class MomentRecords {
  public:
+  // `oneOnly`: it is one record, which is filled anew.
+  explicit MomentRecords(bool oneOnly) : oneOnly_(oneOnly) {}
+
   // The record to fill; `spoil` is called with the one before.
   template <class Spoil>
   Record& next(Spoil&& spoil) {
+    if (oneOnly_) return records_[current_];
     spoil(records_[current_]);
     current_ = (current_ + 1) % records_.size();
     return records_[current_];
@@ -42,6 +46,7 @@ class MomentRecords {
  private:
   std::array<Record, 64> records_{};
   std::size_t current_ = 0;
+  bool oneOnly_;
 };
 
 struct InterfaceRecord {

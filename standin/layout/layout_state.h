@@ -3,7 +3,9 @@
 
 #include <cstddef>
 #include <deque>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -26,6 +28,8 @@ struct LayoutState {
   std::size_t refreshes = 0;
   // The server plug-ins that this host has to apply to items.
   std::vector<AppliedServer> knownServers{{"CustomObjHandler", "LW_ItemShape"}};
+  // Looks on behind each command that was accepted, before another plug-in acts.
+  std::function<void(LayoutState&, std::string_view command)> watch;
   // Answers to the questions of the message service, in order. Without one the answer is cancel.
   std::deque<int> answers;
 };

@@ -6,7 +6,9 @@
 namespace standin {
 namespace {
 
-constexpr std::array<std::uint32_t, 4> kFirstNumber{0x10000000, 0x20000000, 0x30000000, 0x40000000};
+constexpr std::uint32_t kNumbersOfAKind = 0x10000000;
+constexpr std::uint32_t kSmallNumbersOfAKind = 0x100000;
+constexpr std::uint32_t kHighestBit = 0x80000000;
 // By kind of item.
 constexpr std::array<int, 4> kFreshVisibility{6, 1, 1, 1};
 constexpr std::array<int, 4> kFreshColour{10, 13, 9, 8};
@@ -35,7 +37,7 @@ Item& Scene::make(ItemKind kind, const std::string& name, Item* owner) {
   auto& ofKind = byKind_[kindIndex(kind)];
   item.kind = kind;
   item.serial = items_.size() - 1;
-  item.number = kFirstNumber[kindIndex(kind)] + static_cast<std::uint32_t>(ofKind.size());
+  item.number = firstNumber(kind) + static_cast<std::uint32_t>(ofKind.size());
   ofKind.push_back(&item);
   item.owner = owner;
   item.placeInList = listOf(item).size();
@@ -44,7 +46,7 @@ Item& Scene::make(ItemKind kind, const std::string& name, Item* owner) {
   item.settings.colour = freshColour(kind);
   for (std::size_t axis = 0; axis < kAxisCount; ++axis) {
     const double resting = axis < kAxisSX ? 0 : 1;
-    item.motion[axis] = Envelope(resting);
+    item.motion[axis] = Envelope(resting, {options_.keyAtSameTime, options_.keyTolerance});
     for (int key = 0; key < options_.keysOnNewItems; ++key) item.motion[axis].create(key, resting);
   }
   giveName(item, name);
@@ -129,6 +131,7 @@ void Scene::removeOne(Item& item) {
   if (item.selected) {
     item.selected = false;
     std::erase(selection_, &item);
+    selectionChanged();
   }
   moved(item);
   while (!item.children.empty()) {
@@ -140,11 +143,27 @@ void Scene::removeOne(Item& item) {
   auto& list = listOf(item);
   list.erase(list.begin() + static_cast<std::ptrdiff_t>(item.placeInList));
   for (std::size_t place = item.placeInList; place < list.size(); ++place) list[place]->placeInList = place;
+  dropName(item);
+  item.alive = false;
+  forget(item);
+}
+
+void Scene::dropName(Item& item) {
   auto& namesakes = *item.namesakes;
   namesakes.erase(namesakes.begin() + static_cast<std::ptrdiff_t>(item.ordinal));
   for (std::size_t place = item.ordinal; place < namesakes.size(); ++place) namesakes[place]->ordinal = place;
-  item.alive = false;
-  forget(item);
+}
+
+void Scene::rename(Item& item, const std::string& name) {
+  dropName(item);
+  giveName(item, name);
+}
+
+void Scene::moveInList(Item& item, std::size_t place) {
+  auto& list = listOf(item);
+  list.erase(list.begin() + static_cast<std::ptrdiff_t>(item.placeInList));
+  list.insert(list.begin() + static_cast<std::ptrdiff_t>(std::min(place, list.size())), &item);
+  for (std::size_t i = 0; i < list.size(); ++i) list[i]->placeInList = i;
 }
 
 void Scene::forget(const Item& gone) {
@@ -164,8 +183,11 @@ void Scene::forget(const Item& gone) {
 // Names and identifiers
 
 std::string Scene::nameOf(const Item& item) const {
-  if (item.namesakes->size() < 2) return item.givenName;
-  return item.givenName + " (" + std::to_string(item.ordinal + 1) + ")";
+  const Counters counters = options_.counters;
+  const bool isPlain = counters == Counters::All ? item.namesakes->size() < 2 : item.ordinal == 0;
+  if (isPlain || counters == Counters::None) return item.givenName;
+  const std::size_t number = counters == Counters::FromOne ? item.ordinal : item.ordinal + 1;
+  return item.givenName + " (" + std::to_string(number) + ")";
 }
 
 Item* Scene::find(std::string_view name) const {
@@ -196,10 +218,21 @@ lw::ItemId Scene::idOf(const Item* item) const {
   return reinterpret_cast<lw::ItemId>(options_.highIdBits | item->number);  // NOLINT(performance-no-int-to-ptr)
 }
 
+// Items of the kinds begin here and count up. No number is 0.
+std::uint32_t Scene::firstNumber(ItemKind kind) const {
+  const auto index = static_cast<std::uint32_t>(kind);
+  switch (options_.itemNumbers) {
+    case ItemNumbers::Small: return index * kSmallNumbersOfAKind + 1;
+    case ItemNumbers::High: return kHighestBit + index * kNumbersOfAKind;
+    default: return (index + 1) * kNumbersOfAKind;
+  }
+}
+
 Item* Scene::byNumber(std::uint32_t number) {
   for (std::size_t kind = 0; kind < byKind_.size(); ++kind) {
-    const std::uint32_t place = number - kFirstNumber[kind];
-    if (number >= kFirstNumber[kind] && place < byKind_[kind].size()) return byKind_[kind][place];
+    const std::uint32_t first = firstNumber(static_cast<ItemKind>(kind));
+    const std::uint32_t place = number - first;
+    if (number >= first && place < byKind_[kind].size()) return byKind_[kind][place];
   }
   return nullptr;
 }
@@ -258,7 +291,12 @@ Vec3 Scene::motionAt(const Item& item, Axis first, double time) {
   return {item.motion[first].valueAt(time), item.motion[first + 1].valueAt(time), item.motion[first + 2].valueAt(time)};
 }
 
-// A child's position counts from its parent's pivot, along the parent's axes.
+// A child's position counts along the parent's axes, from the parent's pivot or from its origin.
+Vec3 Scene::originOfChildren(const Item& parent) const {
+  const Vec3 pivot = options_.childFromOrigin ? parent.placement.axes * parent.pivot : Vec3{};
+  return parent.placement.position - pivot;
+}
+
 const Placement& Scene::placement(Item& item, double time) {
   std::vector<Item*> chain;
   for (Item* above = &item; above != nullptr; above = above->parent) {
@@ -272,7 +310,7 @@ const Placement& Scene::placement(Item& item, double time) {
                    rotation(motionAt(next, kAxisH, time), next.settings.order) * scaling(motionAt(next, kAxisSX, time));
     Vec3 position = motionAt(next, kAxisX, time);
     if (next.parent != nullptr) {
-      position = next.parent->placement.position + next.parent->placement.axes * position;
+      position = originOfChildren(*next.parent) + next.parent->placement.axes * position;
       axes = next.parent->placement.axes * axes;
     }
     next.placement = {axes, position};
@@ -282,9 +320,32 @@ const Placement& Scene::placement(Item& item, double time) {
   return item.placement;
 }
 
+void Scene::placeAt(Item& item, const Placement& wanted, double time) {
+  Matrix3 axes = wanted.axes;
+  Vec3 position = wanted.position;
+  if (item.parent != nullptr) {
+    const Matrix3 back = inverted(placement(*item.parent, time).axes);
+    axes = back * axes;
+    position = back * (position - originOfChildren(*item.parent));
+  }
+  for (std::size_t i = 0; i < 3; ++i) {
+    const double size = length(axes.columns[i]);
+    if (size > 0) axes.columns[i] = axes.columns[i] * (1 / size);
+    item.motion[kAxisSX + i].assign(time, size);
+    item.motion[kAxisX + i].assign(time, position[i]);
+  }
+  const Matrix3 pivot = transposed(rotation(item.pivotRotation, item.settings.order));
+  const Vec3 angles = anglesOf(pivot * axes, item.settings.order);
+  for (std::size_t i = 0; i < 3; ++i) item.motion[kAxisH + i].assign(time, angles[i]);
+  moved(item);
+}
+
 void Scene::recordPivotRotation(Item& item, double time) {
   const RotationOrder order = item.settings.order;
-  item.pivotRotation = anglesOf(rotation(item.pivotRotation, order) * rotation(motionAt(item, kAxisH, time), order), order);
+  const Vec3 angles = motionAt(item, kAxisH, time);
+  item.pivotRotation = options_.pivotRotationsAdd
+                           ? item.pivotRotation + angles
+                           : anglesOf(rotation(item.pivotRotation, order) * rotation(angles, order), order);
   for (const Axis axis : {kAxisH, kAxisP, kAxisB}) item.motion[axis].assign(time, 0);
   moved(item);
 }
@@ -295,12 +356,40 @@ void Scene::recordPivotRotation(Item& item, double time) {
 void Scene::deselectAll() {
   for (Item* item : selection_) item->selected = false;
   selection_.clear();
+  selectionChanged();
 }
 
 void Scene::addToSelection(Item& item) {
   if (item.selected) return;
   item.selected = true;
   selection_.push_back(&item);
+  selectionChanged();
+}
+
+std::vector<lw::ItemId> Scene::selectionList() const {
+  std::vector<const Item*> items(selection_.begin(), selection_.end());
+  if (options_.selectionOrder == SelectionOrder::NewestFirst) std::reverse(items.begin(), items.end());
+  if (options_.selectionOrder == SelectionOrder::AsInScene) {
+    std::sort(items.begin(), items.end(), [](const Item* a, const Item* b) { return a->serial < b->serial; });
+  }
+  std::vector<lw::ItemId> list;
+  for (const Item* item : items) list.push_back(idOf(item));
+  list.push_back(nullptr);
+  return list;
+}
+
+// The array has room for more than anybody selects, so it stays where it is.
+const std::vector<lw::ItemId>& Scene::followingList() {
+  constexpr std::size_t kRoom = 4096;
+  followingList_.reserve(kRoom);
+  selectionChanged();
+  return followingList_;
+}
+
+void Scene::selectionChanged() {
+  if (followingList_.capacity() == 0) return;  // nobody has asked for it
+  const std::vector<lw::ItemId> now = selectionList();
+  followingList_.assign(now.begin(), now.end());
 }
 
 }  // namespace standin

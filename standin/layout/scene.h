@@ -130,16 +130,26 @@ class Scene {
   // As byNumber, but the identifier must be right in all its bits.
   Item* byId(lw::ItemId id);
 
+  // As another plug-in may do: another name, another place among the items of its kind.
+  void rename(Item& item, const std::string& name);
+  void moveInList(Item& item, std::size_t place);
+
   // The local motion stays as it is, so the item moves in space. False when the item would come to stand below itself.
   bool setParent(Item& item, Item* parent);
   // Where the item is at a time. Good until the scene changes.
   const Placement& placement(Item& item, double time);
+  // Gives the item the motion by which it is there at a time.
+  void placeAt(Item& item, const Placement& wanted, double time);
   // The item's motion, pivot or order has changed.
   void moved(Item& item);
   // Adds the rotation to the pivot rotation and sets the rotation to 0, without turning the item.
   void recordPivotRotation(Item& item, double time);
 
   const std::vector<Item*>& selection() const { return selection_; }
+  // The identifiers of the selected items as the host lists them, with the null at the end.
+  std::vector<lw::ItemId> selectionList() const;
+  // The same in one array that later selections change.
+  const std::vector<lw::ItemId>& followingList();
   void deselectAll();
   void addToSelection(Item& item);
 
@@ -157,6 +167,10 @@ class Scene {
   void detach(Item& item);
   std::vector<Item*>& listOf(const Item& item);
   void removeOne(Item& item);
+  void dropName(Item& item);
+  Vec3 originOfChildren(const Item& parent) const;
+  std::uint32_t firstNumber(ItemKind kind) const;
+  void selectionChanged();
   void forget(const Item& gone);
   std::size_t fileIndex(const ObjectFile& file, const std::string& path);
 
@@ -168,6 +182,7 @@ class Scene {
   std::vector<LoadedFile> files_;
   std::vector<std::pair<std::uint32_t, std::string>> maps_;
   std::vector<Item*> selection_;
+  std::vector<lw::ItemId> followingList_;
 };
 
 // The name part of a path: after the last separator of either kind, before the last full stop.

@@ -1,5 +1,6 @@
 // "Channel Info 3" and the channel group of an item.
 #include <array>
+#include <string_view>
 
 #include "standin/core/gap_slots.h"
 #include "standin/layout/channel_services.h"
@@ -33,6 +34,20 @@ constexpr std::array<ChannelRow, kChannelCount> kChannels{{
     {"IKFKBlending", kPercent, kIkGroup},
     {"Position.X", kDistance, kIkGroup},
 }};
+
+constexpr std::array<const char*, kGroupCount> kGroupNames{"", "IK", "Position", "Rotation", "Scale"};
+
+bool areNested() { return currentScene().options().nestedChannels; }
+
+std::size_t groupOf(std::size_t channel) {
+  return areNested() && channel < kAxisCount ? kMotionGroup + channel / 3 : kChannels[channel].group;
+}
+
+// Without the part before the dot where that is the name of the channel's group.
+std::string_view nameOf(std::size_t channel) {
+  const std::string_view name = kChannels[channel].name;
+  return areNested() && channel < kAxisCount ? name.substr(name.find('.') + 1) : name;
+}
 
 bool isThere(std::size_t channel) {
   const LayoutOptions& options = currentScene().options();
@@ -80,8 +95,10 @@ lw::GroupId nextGroup(lw::GroupId parent, lw::GroupId previous) {
   if (previous != nullptr && (before.item != above.item || before.part == above.part)) {
     call.fault("the previous group is not below the parent");
   }
-  if (above.part != kItemGroup || previous != nullptr) return nullptr;
-  return toHandle<lw::GroupId>(HandleKind::group, {above.item, kIkGroup, 0});
+  const std::size_t next = previous == nullptr ? kIkGroup : before.part + 1;
+  const std::size_t end = areNested() ? kGroupCount : kMotionGroup;
+  if (above.part != kItemGroup || next >= end) return nullptr;
+  return toHandle<lw::GroupId>(HandleKind::group, {above.item, next, 0});
 }
 
 lw::ChannelId nextChannel(lw::GroupId group, lw::ChannelId previous) {
@@ -90,13 +107,13 @@ lw::ChannelId nextChannel(lw::GroupId group, lw::ChannelId previous) {
   Handle before;
   if (checkedGroup(call, group, in) == nullptr) return nullptr;
   if (previous != nullptr && checkedChannel(call, previous, before) == nullptr) return nullptr;
-  if (previous != nullptr && (before.item != in.item || kChannels[before.part].group != in.part)) {
+  if (previous != nullptr && (before.item != in.item || groupOf(before.part) != in.part)) {
     call.fault("the previous channel is not in the group");
     return nullptr;
   }
   if (call.refused()) return nullptr;
   for (std::size_t channel = previous == nullptr ? 0 : before.part + 1; channel < kChannelCount; ++channel) {
-    if (kChannels[channel].group != in.part || !isThere(channel)) continue;
+    if (groupOf(channel) != in.part || !isThere(channel)) continue;
     return toHandle<lw::ChannelId>(HandleKind::channel, {in.item, channel, 0});
   }
   return nullptr;
@@ -107,14 +124,14 @@ const char* groupName(lw::GroupId group) {
   Handle handle;
   const Item* item = checkedGroup(call, group, handle);
   if (item == nullptr || call.refused()) return nullptr;
-  return handle.part == kItemGroup ? giveText(currentScene().nameOf(*item)) : giveText("IK");
+  return handle.part == kItemGroup ? giveText(currentScene().nameOf(*item)) : giveText(kGroupNames[handle.part]);
 }
 
 const char* channelName(lw::ChannelId channel) {
   const HostCall call("LWChannelInfo::channelName");
   Handle handle;
   const Item* item = checkedChannel(call, channel, handle);
-  return item == nullptr || call.refused() ? nullptr : giveText(kChannels[handle.part].name);
+  return item == nullptr || call.refused() ? nullptr : giveText(nameOf(handle.part));
 }
 
 lw::GroupId groupParent(lw::GroupId group) {
@@ -130,7 +147,7 @@ lw::GroupId channelParent(lw::ChannelId channel) {
   Handle handle;
   const Item* item = checkedChannel(call, channel, handle);
   if (item == nullptr || call.refused()) return nullptr;
-  return toHandle<lw::GroupId>(HandleKind::group, {handle.item, kChannels[handle.part].group, 0});
+  return toHandle<lw::GroupId>(HandleKind::group, {handle.item, groupOf(handle.part), 0});
 }
 
 int channelType(lw::ChannelId channel) {
@@ -155,7 +172,8 @@ lw::EnvelopeId channelEnvelope(lw::ChannelId channel) {
   Handle handle;
   const Item* item = checkedChannel(call, channel, handle);
   if (item == nullptr || call.refused() || handle.part >= kAxisCount) return nullptr;
-  if (currentScene().options().channelWithoutKeys == kChannels[handle.part].name) return nullptr;
+  const std::string& without = currentScene().options().channelWithoutKeys;
+  if (!without.empty() && std::string_view(kChannels[handle.part].name).starts_with(without)) return nullptr;
   return toHandle<lw::EnvelopeId>(HandleKind::envelope, {handle.item, handle.part, 0});
 }
 

@@ -41,9 +41,9 @@ lw::KeyId createKey(lw::EnvelopeId id, double time, double value) {
   const HostCall call("LWEnvelopeFuncs::createKey");
   const OpenEnvelope open(call, id);
   if (open.item == nullptr || call.refused()) return nullptr;
-  Key& key = open.envelope->create(time, value);
+  const Key* key = open.envelope->create(time, value);
   currentScene().moved(*open.item);
-  return open.idOf(&key);
+  return open.idOf(key);
 }
 
 void destroyKey(lw::EnvelopeId id, lw::KeyId keyId) {

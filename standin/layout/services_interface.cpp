@@ -56,7 +56,10 @@ int command(const char* text) {
     state.transcript.add({EventKind::rejected, fromNarrow(text), kRefused, std::nullopt});
     return 0;
   }
-  return runCommand(state, fromNarrow(text)) ? 1 : 0;
+  const std::string utf8 = fromNarrow(text);
+  if (!runCommand(state, utf8)) return 0;
+  const LayoutOptions& options = currentScene().options();
+  return utf8.starts_with("StatusMsg") ? options.statusResult : options.acceptedResult;
 }
 
 // ---------------------------------------------------------------------------------------------------------------------

@@ -23,11 +23,20 @@ Item* checkedBone(const HostCall& call, lw::ItemId id) { return checkedItem(call
 constexpr unsigned kFlagFasterBones = 0x400;
 constexpr unsigned kFlagMorphedPositions = 0x800;
 
+const char* fileNameOfNull(const Item& null) {
+  switch (currentScene().options().nullFileName) {
+    case NoFileName::Empty: return giveText("");
+    case NoFileName::Blank: return giveText(" ");
+    case NoFileName::OwnName: return giveText(currentScene().nameOf(null));
+    default: return nullptr;
+  }
+}
+
 const char* fileName(lw::ItemId id) {
   const HostCall call("LWObjectInfo::filename");
   const Item* object = checkedObject(call, id);
   if (object == nullptr || call.refused()) return nullptr;
-  if (object->isNull()) return currentScene().options().nullFileNameIsEmpty ? giveText("") : nullptr;
+  if (object->isNull()) return fileNameOfNull(*object);
   return giveText(currentScene().files()[object->source->file].path);
 }
 

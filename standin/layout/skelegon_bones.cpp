@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <numeric>
 #include <unordered_map>
 #include <utility>
 
@@ -68,9 +69,10 @@ void place(Item& bone, const Item* parentBone) {
 }
 
 // The host's own tags of a skelegon: its weight map and its colour. A colour of another name leaves the bone's as it is.
-void takeTags(Item& bone, const ObjectPolygon& skelegon) {
+void takeTags(Item& bone, const ObjectPolygon& skelegon, bool withColour) {
   if (const std::string* map = skelegon.tag(lw::kTagBoneWeight)) bone.bone.weightMap = *map;
-  if (const std::string* colour = skelegon.tag(lw::kTagColour)) {
+  const std::string* colour = withColour ? skelegon.tag(lw::kTagColour) : nullptr;
+  if (colour != nullptr) {
     const auto found = std::find(kColourNames.begin(), kColourNames.end(), *colour);
     if (found != kColourNames.end()) bone.settings.colour = static_cast<int>(found - kColourNames.begin());
   }
@@ -81,10 +83,28 @@ std::string boneName(const ObjectPolygon& skelegon) {
   return tag == nullptr || tag->empty() ? "Bone" : *tag;
 }
 
-}  // namespace
+// The places of the skelegons in the order in which their bones are made.
+std::vector<std::size_t> orderOf(BoneOrder order, const std::vector<std::size_t>& parents) {
+  std::vector<std::size_t> places(parents.size());
+  std::iota(places.begin(), places.end(), std::size_t{0});
+  if (order == BoneOrder::Reversed) std::reverse(places.begin(), places.end());
+  if (order != BoneOrder::AsInTree) return places;
+  std::vector<std::vector<std::size_t>> below(parents.size());
+  std::vector<std::size_t> waiting;
+  for (std::size_t i = parents.size(); i-- > 0;) (parents[i] == kNone ? waiting : below[parents[i]]).push_back(i);
+  places.clear();
+  while (!waiting.empty()) {
+    const std::size_t next = waiting.back();
+    waiting.pop_back();
+    places.push_back(next);
+    waiting.insert(waiting.end(), below[next].begin(), below[next].end());
+  }
+  return places;
+}
 
-std::vector<Item*> makeBonesOfSkelegons(Scene& scene, Item& object) {
-  const SkelegonSource source = std::exchange(object.skelegons, {});
+std::vector<Item*> makeBonesOf(Scene& scene, Item& from, Item& object) {
+  const SkelegonSource source = from.skelegons;
+  if (!scene.options().skelegonsStay) from.skelegons = {};
   std::vector<ObjectPolygon> skelegons;
   for (const ObjectPolygon& polygon : source.polygons) {
     const auto known = [&](std::uint32_t point) { return point < source.points.size(); };
@@ -92,18 +112,39 @@ std::vector<Item*> makeBonesOfSkelegons(Scene& scene, Item& object) {
       skelegons.push_back(polygon);
   }
   const std::vector<std::size_t> parents = parentsByPoint(skelegons);
-  std::vector<Item*> bones;
-  bones.reserve(skelegons.size());
-  for (const ObjectPolygon& skelegon : skelegons) {
+  std::vector<Item*> bones(skelegons.size());
+  for (const std::size_t i : orderOf(scene.options().boneOrder, parents)) {
+    const ObjectPolygon& skelegon = skelegons[i];
     Item& bone = scene.addBone(object, boneName(skelegon));
     rest(bone, vector(source.points[skelegon.points[0]]), vector(source.points[skelegon.points[1]]));
-    takeTags(bone, skelegon);
-    bones.push_back(&bone);
+    takeTags(bone, skelegon, scene.options().bonesTakeColour);
+    bones[i] = &bone;
   }
   for (std::size_t i = 0; i < bones.size(); ++i) {
     Item* parent = parents[i] == kNone ? nullptr : bones[parents[i]];
     if (parent != nullptr) scene.setParent(*bones[i], parent);
     place(*bones[i], parent);
+  }
+  return bones;
+}
+
+}  // namespace
+
+std::vector<Item*> skelegonSources(Scene& scene, const Item& object) {
+  std::vector<Item*> sources;
+  for (Item* item : scene.objects()) {
+    const bool isOfTheFile = item->source && object.source && item->source->file == object.source->file;
+    const bool counts = item == &object || (scene.options().bonesOfWholeFile && isOfTheFile);
+    if (counts && !item->skelegons.polygons.empty()) sources.push_back(item);
+  }
+  return sources;
+}
+
+std::vector<Item*> makeBonesOfSkelegons(Scene& scene, Item& object) {
+  std::vector<Item*> bones;
+  for (Item* source : skelegonSources(scene, object)) {
+    const std::vector<Item*> more = makeBonesOf(scene, *source, object);
+    bones.insert(bones.end(), more.begin(), more.end());
   }
   return bones;
 }

@@ -12,7 +12,10 @@ inline constexpr std::array<const char*, 15> kColourNames{"Black",  "DkBlu", "Dk
                                                           "Purple", "Brown", "Gray",  "Blue",  "Green",
                                                           "Cyan",   "Red",   "Magen", "Orang", "White"};
 
-// Turns the object's skelegons into bones, in their order in the file, and uses them up: a second call makes none.
+// The items whose skelegons become bones of the object: the object itself where it has any, and by an option the others of its file.
+std::vector<Item*> skelegonSources(Scene& scene, const Item& object);
+
+// Turns these skelegons into bones and uses them up: a second call makes none. (Options say otherwise.)
 // Gives the new bones. Polygons that are not between two points of the layer are passed over.
 std::vector<Item*> makeBonesOfSkelegons(Scene& scene, Item& object);
 

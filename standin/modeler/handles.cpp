@@ -33,18 +33,45 @@ lw::PointId Handles::addPoint(ModelerObject& object, std::size_t place) {
 }
 
 lw::PolygonId Handles::addPolygon(ModelerObject& object, std::size_t place) {
+  while (!free_.empty()) {
+    const std::size_t last = free_.back();
+    free_.pop_back();
+    if (!polygons_[last].isFree) continue;
+    polygons_[last] = {&object, place};
+    return make<lw::PolygonId>(kPolygonKind, session_, last);
+  }
   polygons_.push_back({&object, place});
   return make<lw::PolygonId>(kPolygonKind, session_, polygons_.size() - 1);
+}
+
+void Handles::polygonGone(lw::PolygonId id) {
+  if (usesAgain_) setFree(static_cast<std::size_t>(find(id) - polygons_.data()));
+}
+
+lw::PolygonId Handles::polygonBack(lw::PolygonId id, ModelerObject& object, std::size_t place) {
+  Element& element = polygons_[static_cast<std::size_t>(find(id) - polygons_.data())];
+  if (element.object != &object || element.place != place) return addPolygon(object, place);
+  element.isFree = false;
+  return id;
+}
+
+void Handles::setFree(std::size_t place) {
+  if (polygons_[place].isFree) return;
+  polygons_[place].isFree = true;
+  free_.push_back(place);
 }
 
 const Handles::Element* Handles::find(lw::PointId id) const { return look(points_, kPointKind, session_, id); }
 const Handles::Element* Handles::find(lw::PolygonId id) const { return look(polygons_, kPolygonKind, session_, id); }
 
 void Handles::objectClosed(const ModelerObject& object) {
-  for (std::vector<Element>* list : {&points_, &polygons_}) {
-    for (Element& element : *list) {
-      if (element.object == &object) element.object = nullptr;
-    }
+  for (Element& point : points_) {
+    if (point.object == &object) point.object = nullptr;
+  }
+  for (std::size_t place = 0; place < polygons_.size(); ++place) {
+    if (polygons_[place].object != &object) continue;
+    polygons_[place].object = nullptr;
+    if (usesAgain_) setFree(place);
   }
 }
 

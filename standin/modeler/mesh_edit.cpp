@@ -34,7 +34,7 @@ lw::MeshEditOp* MeshEdits::begin(ModelerObject* object, int mode) {
   object_ = object;
   mode_ = mode;
   changes_.clear();
-  records_.push_back({mode, false, 0, 0, 0});
+  records_.push_back({mode, false, 0, 0, 0, {}});
   somethingSelected_ =
       object != nullptr && std::any_of(object->polygons().begin(), object->polygons().end(),
                                        [](const MeshPolygon& polygon) { return polygon.selected && !polygon.gone; });
@@ -78,17 +78,27 @@ void MeshEdits::end(int error, int after) {
         changes_.emplace_back(SelectionChange{const_cast<MeshPolygon*>(polygon), false, false});
       }
     }
-    object_->perform(std::move(changes_));
+    object_->perform(std::move(changes_), !maySelect() || modelerSession()->options.selectionIsStep);
   }
   changes_.clear();
   open_ = false;
   object_ = nullptr;
+  spoilRecords();
+}
+
+void MeshEdits::spoilRecords() {
   scribble(polygonRecord);
   scribble(pointRecord);
   recordPoints.expire();
   recordSurface.expire();
   lentPoints.expire();
 }
+
+void MeshEdits::callBegins() {
+  if (modelerSession()->options.recordsEndAtAnyCall) spoilRecords();
+}
+
+bool MeshEdits::refusesQuestions() const { return scans > 0 && modelerSession()->options.scansRefuseQuestions; }
 
 lw::MeshEditOp* beginMeshEdit(int pointBytes, int edgeBytes, int polygonBytes, int mode) {
   const ModelerCall call("LWModCommand::editBegin2");

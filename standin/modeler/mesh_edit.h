@@ -19,6 +19,7 @@ struct EditRecord {
   int error = 0;
   int after = 0;
   std::size_t changes = 0;  // calls that set a tag or a selection
+  std::vector<int> scans;   // layer choices of the scans, in order
 };
 
 class MeshEdits {
@@ -38,8 +39,11 @@ class MeshEdits {
 
   ModelerObject* object() const { return object_; }
   int selectionMode() const { return mode_ & ~lw::kEditSelecting; }
+  // Whether everything but ending the edit is refused now.
+  bool refusesQuestions() const;
   bool maySelect() const { return (mode_ & lw::kEditSelecting) != 0; }
   void buffer(MeshChange change);
+  void scanned(int layers) { records_.back().scans.push_back(layers); }
   const MeshStep& buffered() const { return changes_; }
 
   // Whether the polygon counts as selected in the open edit.
@@ -55,8 +59,12 @@ class MeshEdits {
   LentText scanSurface;
   int scans = 0;  // running now
 
+  // What the last call left to the module is spoilt, where records end so early.
+  void callBegins();
+
  private:
   lw::EditId stateOf(std::size_t number) const;
+  void spoilRecords();
 
   std::uint32_t session_;
   bool open_ = false;

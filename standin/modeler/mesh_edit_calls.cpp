@@ -18,7 +18,13 @@ constexpr int kKnownAfterFlags = 0xF;
 // Stands at the head of every function of an edit.
 class EditCall : public ModelerCall {
  public:
-  EditCall(const char* function, lw::EditId state) : ModelerCall(function), edits_(find(state)) {}
+  EditCall(const char* function, lw::EditId state) : ModelerCall(function), edits_(find(state)) {
+    if (edits_ != nullptr) edits_->callBegins();
+  }
+
+  // Also where the host refuses such a call on principle, not by way of trial.
+  bool refused() const { return ModelerCall::refused() || (edits_ != nullptr && edits_->refusesQuestions()); }
+  int refusal() const { return modelerSession()->options.refusalCode; }
 
   // Null, with a fault, when the state is not that of the open edit. A refused call still knows its edit.
   MeshEdits* edits() const { return edits_; }
@@ -28,7 +34,7 @@ class EditCall : public ModelerCall {
     const Handles::Element* element = modelerSession()->handles.find(id);
     if (!belongs(element, id == nullptr, "polygon")) return nullptr;
     const MeshPolygon& found = edits_->object()->polygon(id);
-    if (found.gone) {
+    if (found.gone && !modelerSession()->options.scansDeliverDeleted) {
       fault("was given a polygon that was deleted");
       return nullptr;
     }
@@ -38,7 +44,7 @@ class EditCall : public ModelerCall {
   // As polygon(), but a polygon that is flagged as deleted is a fault too: it is for functions that change something.
   MeshPolygon* changeablePolygon(lw::PolygonId id) const {
     MeshPolygon* found = polygon(id);
-    if (found != nullptr && found->deleted) {
+    if (found != nullptr && (found->deleted || found->gone)) {
       fault("was given a polygon that is flagged as deleted");
       return nullptr;
     }
@@ -79,7 +85,8 @@ class EditCall : public ModelerCall {
 };
 
 int flagsOf(const MeshEdits& edits, const MeshPolygon& polygon) {
-  return (edits.countsAsSelected(polygon) ? lw::kElementSelected : 0) | (polygon.deleted ? lw::kElementDeleted : 0);
+  return (edits.countsAsSelected(polygon) ? lw::kElementSelected : 0) |
+         (polygon.deleted || polygon.gone ? lw::kElementDeleted : 0);
 }
 
 void fillRecord(lw::EDPolygonInfo& record, LentPoints& points, LentText& surface, const MeshEdits& edits,
@@ -108,7 +115,7 @@ void done(lw::EditId state, int error, int after) {
   if (edits->scans > 0) call.fault("ended the edit within a scan");
   if ((after & ~kKnownAfterFlags) != 0) call.fault("was given unknown selection flags");
   // The one way in which this call can fail: nothing of the edit is kept.
-  edits->end(call.refused() ? static_cast<int>(lw::kEditNoMemory) : error, after);
+  edits->end(call.refused() ? call.refusal() : error, after);
 }
 
 // --- scans ---------------------------------------------------------------------------------------------------------------
@@ -121,16 +128,22 @@ std::vector<const MeshPolygon*> scanned(const EditCall& call, bool hasCallback, 
     call.fault("was given no callback");
     return {};
   }
-  result = lw::kEditNoMemory;
+  result = call.refusal();
   if (call.refused()) return {};
   result = lw::kEditNoError;
   const ModelerObject* object = call.edits()->object();
   if (object == nullptr) return {};
   const auto chosen = object->chosen(layers);
-  if (chosen) return object->scan(*chosen);
-  call.fault("was asked for the unknown layer choice " + std::to_string(layers));
-  result = lw::kEditBadLayer;
-  return {};
+  if (!chosen) {
+    call.fault("was asked for the unknown layer choice " + std::to_string(layers));
+    result = lw::kEditBadLayer;
+    return {};
+  }
+  call.edits()->scanned(layers);
+  const ModelerOptions& options = modelerSession()->options;
+  std::vector<const MeshPolygon*> polygons = object->scan(*chosen, options.scansDeliverDeleted);
+  if (options.newestFirst) std::reverse(polygons.begin(), polygons.end());
+  return polygons;
 }
 
 // Calls back for each polygon until a call answers with something else than 0. That answer is the scan's.
@@ -264,10 +277,11 @@ const char* polyTag(lw::EditId state, lw::PolygonId id, std::uint32_t type) {
   if (call.edits() == nullptr) return nullptr;
   const MeshPolygon* polygon = call.polygon(id);
   if (polygon == nullptr || call.refused()) return nullptr;
-  LentText& text = modelerSession()->text;
-  if (const TagChange* own = ownChange(*call.edits(), *polygon, type)) return own->after ? text.lend(*own->after) : nullptr;
   const std::string* stored = polygon->content.tag(type);
-  return stored == nullptr ? nullptr : text.lend(*stored);
+  if (const TagChange* own = ownChange(*call.edits(), *polygon, type)) stored = own->after ? &*own->after : nullptr;
+  LentText& text = modelerSession()->text;
+  if (stored != nullptr) return text.lend(*stored);
+  return modelerSession()->options.missingTagIsEmpty ? text.lend("") : nullptr;
 }
 
 int vMapExists(lw::EditId state, const char* name, std::uint32_t type) {
@@ -299,7 +313,7 @@ int polTag(lw::EditId state, lw::PolygonId id, std::uint32_t type, const char* t
     call.fault("was asked to remove a surface, which every polygon has");
     return lw::kEditBadSurface;
   }
-  if (call.refused()) return lw::kEditNoMemory;
+  if (call.refused()) return call.refusal();
   if (given && given->empty() && modelerSession()->options.emptyTagRemoves) given.reset();
   call.edits()->buffer(TagChange{polygon, type, std::nullopt, std::move(given)});
   return lw::kEditNoError;
@@ -314,7 +328,7 @@ int polSelect(lw::EditId state, lw::PolygonId id, int on) {
   }
   MeshPolygon* polygon = call.changeablePolygon(id);
   if (polygon == nullptr) return lw::kEditBadArguments;
-  if (call.refused()) return lw::kEditNoMemory;
+  if (call.refused()) return call.refusal();
   // Nothing outside the foreground can be selected; the call is no mistake, but does nothing.
   if (call.edits()->object()->layer(polygon->layer)->foreground) {
     call.edits()->buffer(SelectionChange{polygon, false, on != 0});

@@ -8,6 +8,9 @@
 namespace standin {
 namespace {
 
+constexpr std::uint32_t kMapTexture = lw::fourCharacters('T', 'X', 'U', 'V');
+constexpr std::uint32_t kMapMorph = lw::fourCharacters('M', 'O', 'R', 'F');
+
 ModelerSession* theSession = nullptr;
 std::uint32_t sessionCount = 0;
 
@@ -47,26 +50,24 @@ const std::vector<std::string>& presentOnly() {
   return names;
 }
 
-bool hasMap(const ModelerObject& object, const std::pair<std::uint32_t, std::string>& map) {
-  return std::any_of(object.layers().begin(), object.layers().end(), [&](const MeshLayer& layer) {
-    const std::vector<VertexMap>& maps = object.maps(layer);
-    return std::any_of(maps.begin(), maps.end(),
-                       [&](const VertexMap& m) { return m.type == map.first && m.name == map.second; });
-  });
-}
-
 }  // namespace
 
 ModelerSession* modelerSession() { return theSession; }
 void setModelerSession(ModelerSession* session) { theSession = session; }
 
 void ModelerSession::listMaps(const ModelerObject& object) {
-  for (const MeshLayer& layer : object.layers()) {
-    for (const VertexMap& map : object.maps(layer)) {
-      const std::pair entry(map.type, map.name);
-      if (std::find(maps.begin(), maps.end(), entry) == maps.end()) maps.push_back(entry);
+  if (options.otherMapsBearNames) {
+    for (const std::uint32_t type : {kMapTexture, kMapMorph}) {
+      for (const MeshPolygon* skelegon : object.skelegons()) listMap({type, skelegon->tag(lw::kTagBone)});
     }
   }
+  for (const MeshLayer& layer : object.layers()) {
+    for (const VertexMap& map : object.maps(layer)) listMap({map.type, map.name});
+  }
+}
+
+void ModelerSession::listMap(const std::pair<std::uint32_t, std::string>& map) {
+  if (std::find(maps.begin(), maps.end(), map) == maps.end()) maps.push_back(map);
 }
 
 ModelerCall::ModelerCall(const char* function) : HostCall(function), session_(modelerSession()) {
@@ -80,6 +81,7 @@ ModelerCall::ModelerCall(const char* function) : HostCall(function), session_(mo
 ModelerHost::ModelerHost(const ModelerOptions& options) : session_(++sessionCount) {
   const bool another = modelerSession() != nullptr;
   session_.options = options;
+  if (options.identifiersAreUsedAgain) session_.handles.useAgain();
   setModelerSession(&session_);
   witness().reset();
   if (another) witness().fault("stand-in", "a second Modeler was started while one runs");
@@ -135,7 +137,8 @@ Outcome<ModelerObject*> ModelerHost::open(const std::string& path) {
 
 ModelerObject& ModelerHost::add(ObjectFile file, const std::string& fileName) {
   const std::string reference = "Unnamed " + std::to_string(++session_.objectsMade);
-  session_.objects.push_back(std::make_unique<ModelerObject>(std::move(file), fileName, reference, session_.handles));
+  const std::string& savedAs = session_.options.objectsAreUnsaved ? std::string() : fileName;
+  session_.objects.push_back(std::make_unique<ModelerObject>(std::move(file), savedAs, reference, session_.handles));
   session_.currentObject = session_.objects.back().get();
   session_.listMaps(*session_.currentObject);
   return *session_.currentObject;
@@ -203,7 +206,7 @@ void ModelerHost::removeWeightMap(const std::string& name) {
   current()->removeMap(lw::kMapWeight, name);
   const std::pair entry(lw::kMapWeight, name);
   const bool used = std::any_of(session_.objects.begin(), session_.objects.end(),
-                                [&](const auto& object) { return hasMap(*object, entry); });
+                                [&](const auto& object) { return object->hasMap(entry); });
   if (!used) std::erase(session_.maps, entry);
 }
 

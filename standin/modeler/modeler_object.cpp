@@ -77,6 +77,14 @@ const MeshPolygon& ModelerObject::polygon(lw::PolygonId id) const { return polyg
 
 const std::vector<VertexMap>& ModelerObject::maps(const MeshLayer& layer) const { return file_.layers[layer.place].maps; }
 
+bool ModelerObject::hasMap(const std::pair<std::uint32_t, std::string>& map) const {
+  return std::any_of(layers_.begin(), layers_.end(), [&](const MeshLayer& layer) {
+    const std::vector<VertexMap>& all = maps(layer);
+    return std::any_of(all.begin(), all.end(),
+                       [&](const VertexMap& one) { return one.type == map.first && one.name == map.second; });
+  });
+}
+
 std::vector<const MeshPolygon*> ModelerObject::skelegons() const {
   std::vector<const MeshPolygon*> found;
   for (const MeshPolygon* polygon : scan(*chosen(lw::kLayersAll))) {
@@ -125,12 +133,18 @@ std::optional<std::vector<const MeshLayer*>> ModelerObject::chosen(int layerChoi
   return list;
 }
 
-std::vector<const MeshPolygon*> ModelerObject::scan(const std::vector<const MeshLayer*>& layers) const {
+bool ModelerObject::ownsItsIdentifier(const MeshPolygon& polygon) const {
+  const Handles::Element& element = *handles_.find(polygon.id);
+  return element.object == this && &polygons_[element.place] == &polygon;
+}
+
+std::vector<const MeshPolygon*> ModelerObject::scan(const std::vector<const MeshLayer*>& layers, bool withGone) const {
   std::vector<const MeshPolygon*> list;
   for (const MeshLayer* layer : layers) {
     for (const auto& group : groups_[layer->place]) {
       for (const std::size_t place : group) {
-        if (!polygons_[place].gone) list.push_back(&polygons_[place]);
+        const MeshPolygon& polygon = polygons_[place];
+        if (!polygon.gone || (withGone && ownsItsIdentifier(polygon))) list.push_back(&polygon);
       }
     }
   }
@@ -207,19 +221,29 @@ lw::PointId ModelerObject::addPoint(int layerNumber, std::array<double, 3> posit
 
 const MeshPolygon& ModelerObject::addSkelegon(int layerNumber, lw::PointId head, lw::PointId tail,
                                               const std::optional<std::string>& name) {
-  const MeshLayer& into = *layer(layerNumber);
-  const std::vector<lw::PointId>& numbers = layerPoints_[into.place];
   ObjectPolygon content;
-  for (const lw::PointId point : {head, tail}) {
-    content.points.push_back(static_cast<std::uint32_t>(std::find(numbers.begin(), numbers.end(), point) - numbers.begin()));
-  }
   content.setTag(kTagSurface, "Default");
   if (name) content.setTag(lw::kTagBone, *name);
+  return addPolygon(layerNumber, lw::kTypeBone, {head, tail}, std::move(content));
+}
+
+const MeshPolygon& ModelerObject::addFace(int layerNumber, const std::vector<lw::PointId>& points) {
+  ObjectPolygon content;
+  content.setTag(kTagSurface, "Default");
+  return addPolygon(layerNumber, lw::kTypeFace, points, std::move(content));
+}
+
+const MeshPolygon& ModelerObject::addPolygon(int layerNumber, std::uint32_t type, const std::vector<lw::PointId>& points,
+                                             ObjectPolygon content) {
+  const MeshLayer& into = *layer(layerNumber);
+  const std::vector<lw::PointId>& numbers = layerPoints_[into.place];
+  for (const lw::PointId point : points) {
+    content.points.push_back(static_cast<std::uint32_t>(std::find(numbers.begin(), numbers.end(), point) - numbers.begin()));
+  }
 
   std::vector<PolygonGroup>& groups = file_.layers[into.place].groups;
-  const PolygonGroup* group = &file_.layers[into.place].group(lw::kTypeBone);
-  MeshPolygon& polygon =
-      makePolygon(layerNumber, static_cast<std::size_t>(group - groups.data()), lw::kTypeBone, std::move(content));
+  const PolygonGroup* group = &file_.layers[into.place].group(type);
+  MeshPolygon& polygon = makePolygon(layerNumber, static_cast<std::size_t>(group - groups.data()), type, std::move(content));
   polygon.gone = true;
   perform({ExistenceChange{&polygon, false, true}});
   return polygon;
@@ -240,7 +264,7 @@ void ModelerObject::apply(const MeshChange& change, bool forward) {
   } else if (const auto* selection = std::get_if<SelectionChange>(&change)) {
     selection->polygon->selected = forward ? selection->after : selection->before;
   } else if (const auto* existence = std::get_if<ExistenceChange>(&change)) {
-    existence->polygon->gone = !(forward ? existence->after : existence->before);
+    setThere(*existence->polygon, forward ? existence->after : existence->before);
   } else if (const auto* removal = std::get_if<MapRemoval>(&change)) {
     std::vector<VertexMap>& maps = file_.layers[removal->layer].maps;
     const auto place = maps.begin() + static_cast<std::ptrdiff_t>(removal->position);
@@ -252,7 +276,14 @@ void ModelerObject::apply(const MeshChange& change, bool forward) {
   }
 }
 
-void ModelerObject::perform(MeshStep step) {
+void ModelerObject::setThere(MeshPolygon& polygon, bool there) {
+  polygon.gone = !there;
+  if (!there) return handles_.polygonGone(polygon.id);
+  const auto place = std::find_if(polygons_.begin(), polygons_.end(), [&](const MeshPolygon& p) { return &p == &polygon; });
+  polygon.id = handles_.polygonBack(polygon.id, *this, static_cast<std::size_t>(place - polygons_.begin()));
+}
+
+void ModelerObject::perform(MeshStep step, bool isStep) {
   MeshStep done;
   for (MeshChange& change : step) {
     // What was before is read here, in order: a later change of a step may meet what an earlier one made.
@@ -266,7 +297,7 @@ void ModelerObject::perform(MeshStep step) {
     apply(change, true);
     done.push_back(std::move(change));
   }
-  if (done.empty()) return;
+  if (done.empty() || !isStep) return;
   redo_.clear();
   if (groupDepth_ > 0 && groupHasStep_) {
     undo_.back().insert(undo_.back().end(), std::make_move_iterator(done.begin()), std::make_move_iterator(done.end()));

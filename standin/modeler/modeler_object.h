@@ -85,6 +85,7 @@ class ModelerObject {
   // The file name, or the reference name while the object was never saved.
   const std::string& name() const { return fileName_.empty() ? referenceName_ : fileName_; }
   const std::string& referenceName() const { return referenceName_; }
+  bool wasSaved() const { return !fileName_.empty(); }
   const std::vector<MeshLayer>& layers() const { return layers_; }  // by number
   // Null when there is no layer of that number.
   const MeshLayer* layer(int number) const;
@@ -98,11 +99,13 @@ class ModelerObject {
   // The first skelegon of that name that is there; null when there is none.
   const MeshPolygon* skelegon(std::string_view name) const;
   const std::vector<VertexMap>& maps(const MeshLayer& layer) const;
+  bool hasMap(const std::pair<std::uint32_t, std::string>& map) const;  // type and name
 
   // Layers of a layer choice, by number. Empty optional: no such choice.
   std::optional<std::vector<const MeshLayer*>> chosen(int layerChoice) const;
-  // Polygons of a layer choice in the order in which the program delivers them: by layer, then by age.
-  std::vector<const MeshPolygon*> scan(const std::vector<const MeshLayer*>& layers) const;
+  // Polygons of a layer choice in the order in which the program delivers them: by layer, then by age. On demand also those
+  // that are gone, as long as their identifiers are theirs.
+  std::vector<const MeshPolygon*> scan(const std::vector<const MeshLayer*>& layers, bool withGone = false) const;
   std::vector<const MeshPoint*> scanPoints(const std::vector<const MeshLayer*>& layers) const;
   // Number of the lowest foreground layer.
   int primaryLayer() const;
@@ -124,10 +127,11 @@ class ModelerObject {
   lw::PointId addPoint(int layer, std::array<double, 3> position);
   // Without a name the skelegon gets no name tag.
   const MeshPolygon& addSkelegon(int layer, lw::PointId head, lw::PointId tail, const std::optional<std::string>& name);
+  const MeshPolygon& addFace(int layer, const std::vector<lw::PointId>& points);
   void setTag(const MeshPolygon& polygon, std::uint32_t type, std::optional<std::string> text);
 
-  // Makes the changes that differ from what is; they become one step. Nothing to change: no step.
-  void perform(MeshStep step);
+  // Makes the changes that differ from what is; they become one step, or are none. Nothing to change: no step.
+  void perform(MeshStep step, bool isStep = true);
   bool undo();
   bool redo();
   std::size_t undoSteps() const { return undo_.size(); }
@@ -145,8 +149,12 @@ class ModelerObject {
   friend class ObjectLoader;
   MeshPolygon& own(const MeshPolygon& polygon) { return polygons_[handles_.find(polygon.id)->place]; }
   MeshPolygon& makePolygon(int layer, std::size_t group, std::uint32_t type, ObjectPolygon content);
+  const MeshPolygon& addPolygon(int layer, std::uint32_t type, const std::vector<lw::PointId>& points,
+                                ObjectPolygon content);
+  bool ownsItsIdentifier(const MeshPolygon& polygon) const;
   MeshPoint& makePoint(const MeshLayer& layer, const FilePoint& position);
   void apply(const MeshChange& change, bool forward);
+  void setThere(MeshPolygon& polygon, bool there);
 
   Handles& handles_;
   ObjectFile file_;  // as it was opened; polygons live in polygons_

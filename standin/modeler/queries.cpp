@@ -80,7 +80,10 @@ const ModelerObject* objectAt(const ModelerCall& call, int index) {
 const char* filename(int index) {
   const ModelerCall call("LWObjectFuncs::filename");
   const ModelerObject* object = objectAt(call, index);
-  return object == nullptr ? nullptr : modelerSession()->text.lend(object->name());
+  if (object == nullptr) return nullptr;
+  const UnsavedFileName unsaved = modelerSession()->options.unsavedFileName;
+  if (object->wasSaved() || unsaved == UnsavedFileName::Reference) return modelerSession()->text.lend(object->name());
+  return unsaved == UnsavedFileName::Null ? nullptr : modelerSession()->text.lend("");
 }
 
 int maxLayers(int index) {
@@ -114,8 +117,10 @@ const char* refName(int index) {
 
 std::vector<std::string> mapNames(const ModelerSession& session, std::uint32_t type) {
   std::vector<std::string> names;
-  for (const auto& [mapType, name] : session.maps) {
-    if (type == 0 || type == mapType) names.push_back(name);
+  for (const auto& map : session.maps) {
+    if (type != 0 && type != map.first) continue;
+    if (session.options.mapsAreTheObjects && (session.current() == nullptr || !session.current()->hasMap(map))) continue;
+    names.push_back(map.second);
   }
   return names;
 }

@@ -41,6 +41,7 @@ struct ModelerSession {
 
   ModelerObject* current() const { return currentObject; }
   void listMaps(const ModelerObject& object);
+  void listMap(const std::pair<std::uint32_t, std::string>& map);  // type and name
 };
 
 // Null while no Modeler runs.

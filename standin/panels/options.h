@@ -2,11 +2,7 @@
 // module's robustness switch single lines.
 #pragma once
 
-#include <functional>
-
 namespace standin {
-
-struct Panel;
 
 // The two ways in which mouse input over a panel reaches a module.
 enum class MouseDelivery {
@@ -63,7 +59,8 @@ struct PanelOptions {
   bool limitsTypedValues = false;       // least and greatest value hold for typed percents, angles, distances and floats
   bool wantsLookupFunction = true;      // the module must have written its lookup function before it creates a panel
   int rightPadding = 0;                 // pixels of a control right of its hot area, so that width > label + hot width
-  std::function<int(Panel&)> blocking;  // plays the person in front of a blocking panel: 1 continue, 0 cancel
+
+  bool operator==(const PanelOptions&) const = default;
 };
 
 }  // namespace standin

@@ -18,6 +18,8 @@
 
 namespace standin {
 
+struct Panel;
+
 struct Rectangle {
   int x = 0;
   int y = 0;
@@ -211,12 +213,14 @@ class PanelListener {
 class Panels {
  public:
   PanelOptions options;
-  PanelListener* listener = nullptr;  // not owned
+  PanelListener* listener = nullptr;    // not owned
+  std::function<int(Panel&)> blocking;  // plays the person in front of a blocking panel: 1 continue, 0 cancel
 
   Panels(const Panels&) = delete;
   Panels& operator=(const Panels&) = delete;
 
-  // Begins a session: destroys every record, puts the options back. Handles of the old session stay known as dead.
+  // Begins a session: destroys every record, puts the options back, lets listener and person go. Handles of the old session
+  // stay known as dead.
   void reset();
 
   // Living panels in order of creation.

@@ -135,6 +135,7 @@ void Panels::reset() {
   notes_.clear();
   options = PanelOptions();
   listener = nullptr;
+  blocking = nullptr;
 }
 
 std::vector<Panel*> Panels::all() const {

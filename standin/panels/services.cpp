@@ -202,7 +202,7 @@ int openPanel(Panel& panel, int flags) {
   panels().callHook(panel, panel.openHook, "panel open hook");
   if (panels().options.resizeHookOnOpen) panels().callResizeHook(panel);
   if (!isBlocking) return 1;
-  const int answer = panels().options.blocking ? panels().options.blocking(panel) : 0;
+  const int answer = panels().blocking ? panels().blocking(panel) : 0;
   closePanel(panel);
   return answer;
 }

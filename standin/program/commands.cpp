@@ -1,12 +1,12 @@
-#include <CLI/CLI.hpp>
 #include <iostream>
 #include <memory>
 
-#include "standin/layout/layout_host.h"
 #include "standin/panels/panel.h"
+#include "standin/program/host_option.h"
 #include "standin/program/rig_tool_support.h"
-#include "standin/program/rig_tools.h"
+#include "standin/program/subcommands.h"
 #include "standin/rigs/report.h"
+#include "standin/variants/played_host.h"
 
 namespace standin {
 namespace {
@@ -14,6 +14,7 @@ namespace {
 struct CommandsOptions {
   std::string file;
   std::string module;
+  HostWords host;
   std::string language = "en";
   bool noSkelegons = false;
   bool noPivot = false;
@@ -52,7 +53,7 @@ void print(const std::vector<rigs::SentCommand>& commands) {
 
 int run(const CommandsOptions& options) {
   return exitCodeOf([&] {
-    LayoutHost host;
+    PlayedLayout host(options.host.options());
     host.setLocale(localeOf(options.language));
     std::string why;
     const std::vector<Item*> items = host.loadObject(options.file, &why);
@@ -74,23 +75,30 @@ int run(const CommandsOptions& options) {
 
 }  // namespace
 
-void addCommandsCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("commands", "Print the commands that a conversion sends to Layout");
+Command commandsCommand() {
   const auto options = std::make_shared<CommandsOptions>();
-  command->add_option("file", options->file, "Object file")->required();
-  command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
-  command->add_option("--lang", options->language, "Language of Layout")->check(CLI::IsMember({"en", "ja"}));
-  command->add_flag("--no-skelegons", options->noSkelegons, "Switch the option for making bones off");
-  command->add_flag("--no-pivot", options->noPivot, "Switch the option for recording the pivot rotation off");
-  command->add_flag("--json", options->json, "Print JSON, with what became of each command");
-  command->footer(
-      "The module itself sends them, with every layer of the object selected, to the Layout that this program plays. "
-      "Commands\n"
-      "that Layout did not do are named on the error output. Exit codes: 0; 2 when there is nothing to show.\n"
-      "Examples:\n"
-      "  varnel commands biped.lwo\n"
-      "  varnel commands --no-pivot --json biped.lwo > commands.json");
-  command->callback([options, &result] { result = run(*options); });
+  return {
+      .name = "commands",
+      .text = "Print the commands that a conversion sends to Layout",
+      .options =
+          {
+              {"file", &options->file, "Object file", {.isRequired = true}},
+              moduleOption(options->module),
+              hostOption(options->host),
+              languageOption(&options->language, "Language of Layout"),
+              {"--no-skelegons", &options->noSkelegons, "Switch the option for making bones off"},
+              {"--no-pivot", &options->noPivot, "Switch the option for recording the pivot rotation off"},
+              {"--json", &options->json, "Print JSON, with what became of each command"},
+          },
+      .footer =
+          "The module itself sends them, with every layer of the object selected, to the Layout that this program plays. "
+          "Commands\n"
+          "that Layout did not do are named on the error output. Exit codes: 0; 2 when there is nothing to show.\n"
+          "Examples:\n"
+          "  varnel commands biped.lwo\n"
+          "  varnel commands --no-pivot --json biped.lwo > commands.json",
+      .run = [options] { return run(*options); },
+  };
 }
 
 }  // namespace standin

@@ -1,13 +1,13 @@
-#include "standin/program/convert.h"
-
-#include <CLI/CLI.hpp>
 #include <iostream>
+#include <memory>
 
-#include "standin/layout/layout_host.h"
 #include "standin/layout/report.h"
 #include "standin/panels/text.h"
+#include "standin/program/host_option.h"
 #include "standin/program/shipped_rigs.h"
+#include "standin/program/subcommands.h"
 #include "standin/program/support.h"
+#include "standin/variants/played_host.h"
 
 namespace standin {
 namespace {
@@ -15,6 +15,7 @@ namespace {
 struct ConvertOptions {
   std::vector<std::string> files;
   std::string module;
+  HostWords host;
   std::string language = "en";
   bool shipped = false;
   bool transcript = false;
@@ -34,7 +35,7 @@ void runTool(LayoutHost& host, ModuleFile& module, const ConvertOptions& options
 
 void convertFile(const std::string& file, const ConvertOptions& options) {
   std::cout << "== " << fileNameOf(file) << std::endl;
-  LayoutHost host;
+  PlayedLayout host(options.host.options());
   host.setLocale(localeOf(options.language));
   std::string why;
   const std::vector<Item*> items = host.loadObject(file, &why);
@@ -73,18 +74,25 @@ int run(const ConvertOptions& options) {
 
 }  // namespace
 
-void addConvertCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("convert", "Convert the skelegons of object files to bones, as in Layout");
+Command convertCommand() {
   const auto options = std::make_shared<ConvertOptions>();
-  command->add_option("files", options->files, "Object files");
-  command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
-  command->add_option("--lang", options->language, "Language of the panel")->check(CLI::IsMember({"en", "ja"}));
-  command->add_flag("--shipped", options->shipped, "Convert the rigs that come with the program first");
-  command->add_flag("--transcript", options->transcript, "Show every command");
-  command->add_flag("--no-skelegons", options->noSkelegons, "Switch the option for making bones off");
-  command->add_flag("--no-pivot", options->noPivot, "Switch the option for recording the pivot rotation off");
-  command->footer("Example:\n  varnel convert --lang ja biped.lwo");
-  command->callback([options, &result] { result = run(*options); });
+  return {
+      .name = "convert",
+      .text = "Convert the skelegons of object files to bones, as in Layout",
+      .options =
+          {
+              {"files", &options->files, "Object files"},
+              moduleOption(options->module),
+              hostOption(options->host),
+              languageOption(&options->language, "Language of the panel"),
+              {"--shipped", &options->shipped, "Convert the rigs that come with the program first"},
+              {"--transcript", &options->transcript, "Show every command"},
+              {"--no-skelegons", &options->noSkelegons, "Switch the option for making bones off"},
+              {"--no-pivot", &options->noPivot, "Switch the option for recording the pivot rotation off"},
+          },
+      .footer = "Example:\n  varnel convert --lang ja biped.lwo",
+      .run = [options] { return run(*options); },
+  };
 }
 
 }  // namespace standin

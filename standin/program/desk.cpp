@@ -1,9 +1,10 @@
-#include "standin/program/desk.h"
-
-#include <CLI/CLI.hpp>
+#include <memory>
 
 #include "standin/objectfile/sample_rigs.h"
+#include "standin/program/host_option.h"
+#include "standin/program/subcommands.h"
 #include "standin/program/support.h"
+#include "standin/variants/played_host.h"
 #include "standin/windows/desk_window.h"
 
 namespace standin {
@@ -12,6 +13,7 @@ namespace {
 struct DeskOptions {
   std::string file;
   std::string module;
+  HostWords host;
   std::string language = "en";
 };
 
@@ -28,7 +30,7 @@ void openObject(ModelerHost& host, const std::string& file) {
 
 int run(const DeskOptions& options) {
   return reporting([&] {
-    ModelerHost host;
+    PlayedModeler host(options.host.options());
     host.options().localeInfo = localeOf(options.language);
     openObject(host, options.file);
     ModuleFile module;
@@ -47,14 +49,21 @@ int run(const DeskOptions& options) {
 
 }  // namespace
 
-void addDeskCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("desk", "Open an object and use the tools in real windows (Windows only)");
+Command deskCommand() {
   const auto options = std::make_shared<DeskOptions>();
-  command->add_option("file", options->file, "Object file (a rig that comes with the program by default)");
-  command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
-  command->add_option("--lang", options->language, "Language of the panels")->check(CLI::IsMember({"en", "ja"}));
-  command->footer("Example:\n  varnel desk biped.lwo");
-  command->callback([options, &result] { result = run(*options); });
+  return {
+      .name = "desk",
+      .text = "Open an object and use the tools in real windows (Windows only)",
+      .options =
+          {
+              {"file", &options->file, "Object file (a rig that comes with the program by default)"},
+              moduleOption(options->module),
+              hostOption(options->host),
+              languageOption(&options->language, "Language of the panels"),
+          },
+      .footer = "Example:\n  varnel desk biped.lwo",
+      .run = [options] { return run(*options); },
+  };
 }
 
 }  // namespace standin

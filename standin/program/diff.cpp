@@ -1,9 +1,8 @@
-#include <CLI/CLI.hpp>
 #include <iostream>
 #include <memory>
 
 #include "standin/program/rig_tool_support.h"
-#include "standin/program/rig_tools.h"
+#include "standin/program/subcommands.h"
 #include "standin/rigs/difference.h"
 #include "standin/rigs/report.h"
 
@@ -38,22 +37,28 @@ int run(const DiffOptions& options) {
 
 }  // namespace
 
-void addDiffCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("diff", "Show what differs between two states of a rig");
+Command diffCommand() {
   const auto options = std::make_shared<DiffOptions>();
-  command->add_option("before", options->before, "Object file")->required();
-  command->add_option("after", options->after, "Object file")->required();
-  command->add_option("--lang", options->language, "Language of the settings' names")->check(CLI::IsMember({"en", "ja"}));
-  command->add_flag("--json", options->json, "Print JSON");
-  command->footer(
-      "Compared are the skelegons and what they store, not the mesh. Exit codes: 0 equal, 1 different, 2 trouble.\n"
-      "Examples:\n"
-      "  varnel diff biped-1.lwo biped-2.lwo\n"
-      "With git, as a difftool (git difftool -t varnel):\n"
-      "  git config difftool.varnel.cmd 'varnel diff \"$LOCAL\" \"$REMOTE\"'\n"
-      "and within git diff and git log, with a line \"*.lwo diff=varnel\" in .gitattributes:\n"
-      "  git config diff.varnel.textconv 'varnel export'");
-  command->callback([options, &result] { result = run(*options); });
+  return {
+      .name = "diff",
+      .text = "Show what differs between two states of a rig",
+      .options =
+          {
+              {"before", &options->before, "Object file", {.isRequired = true}},
+              {"after", &options->after, "Object file", {.isRequired = true}},
+              languageOption(&options->language, "Language of the settings' names"),
+              {"--json", &options->json, "Print JSON"},
+          },
+      .footer =
+          "Compared are the skelegons and what they store, not the mesh. Exit codes: 0 equal, 1 different, 2 trouble.\n"
+          "Examples:\n"
+          "  varnel diff biped-1.lwo biped-2.lwo\n"
+          "With git, as a difftool (git difftool -t varnel):\n"
+          "  git config difftool.varnel.cmd 'varnel diff \"$LOCAL\" \"$REMOTE\"'\n"
+          "and within git diff and git log, with a line \"*.lwo diff=varnel\" in .gitattributes:\n"
+          "  git config diff.varnel.textconv 'varnel export'",
+      .run = [options] { return run(*options); },
+  };
 }
 
 }  // namespace standin

@@ -1,12 +1,13 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <system_error>
 
+#include "standin/objectfile/file_bytes.h"
 #include "standin/program/rig_tool_support.h"
-#include "standin/program/rig_tools.h"
+#include "standin/program/subcommands.h"
 #include "standin/rigs/findings.h"
 #include "standin/rigs/report.h"
 
@@ -44,6 +45,7 @@ rigs::Inspected inspect(const std::string& path, const rigs::CodePage& codePage,
     return file;
   }
   file.rig = rigs::rigOf(*object, fileNameOf(path));
+  file.rig.pathLength = std::filesystem::absolute(pathFromUtf8(path)).u16string().size();
   file.findings = rigs::findingsOf(file.rig, codePage);
   std::erase_if(file.findings, [&](const rigs::Finding& finding) {
     const std::string id = rigs::findingTable()[static_cast<std::size_t>(finding.kind)].id;
@@ -88,28 +90,31 @@ std::vector<std::string> findingIds() {
 
 }  // namespace
 
-void addInspectCommand(CLI::App& app, int& result) {
-  CLI::App* const command =
-      app.add_subcommand("inspect", "Show what the skelegons of object files store, and what will go wrong");
+Command inspectCommand() {
   const auto options = std::make_shared<InspectOptions>();
-  command->add_option("files", options->files, "Object files")->required();
-  command->add_option("--lang", options->language, "Language of the settings' names")->check(CLI::IsMember({"en", "ja"}));
-  command->add_option(
-      "--code-page", options->codePage,
-      "Code page of the system that runs Layout: 932, 1252, ... or utf-8 (this system's on Windows, else 932)");
-  command->add_option("--ignore", options->ignored, "Kinds of findings to leave out")
-      ->check(CLI::IsMember(findingIds()))
-      ->delimiter(',');
-  command->add_flag("--all", options->all, "Show settings that are at their default and further tags too");
-  command->add_flag("--json", options->json, "Print JSON");
-  command->add_flag("--strict", options->strict, "Exit with 1 when there are findings");
-  command->footer(
-      "Shown is what differs from the defaults. Exit codes: 0; 1 with --strict and findings; 2 when a file cannot be read.\n"
-      "Examples:\n"
-      "  varnel inspect biped.lwo\n"
-      "  varnel inspect --lang ja --all biped.lwo\n"
-      "  varnel inspect --strict --ignore becomes-null rigs/*.lwo");
-  command->callback([options, &result] { result = run(*options); });
+  return {
+      .name = "inspect",
+      .text = "Show what the skelegons of object files store, and what will go wrong",
+      .options =
+          {
+              {"files", &options->files, "Object files", {.isRequired = true}},
+              languageOption(&options->language, "Language of the settings' names"),
+              {"--code-page", &options->codePage,
+               "Code page of the system that runs Layout: 932, 1252, ... or utf-8 (this system's on Windows, else 932)"},
+              {"--ignore", &options->ignored, "Kinds of findings to leave out", {.choices = findingIds(), .separator = ','}},
+              {"--all", &options->all, "Show settings that are at their default and further tags too"},
+              {"--json", &options->json, "Print JSON"},
+              {"--strict", &options->strict, "Exit with 1 when there are findings"},
+          },
+      .footer =
+          "Shown is what differs from the defaults. Exit codes: 0; 1 with --strict and findings; 2 when a file cannot be "
+          "read.\n"
+          "Examples:\n"
+          "  varnel inspect biped.lwo\n"
+          "  varnel inspect --lang ja --all biped.lwo\n"
+          "  varnel inspect --strict --ignore becomes-null rigs/*.lwo",
+      .run = [options] { return run(*options); },
+  };
 }
 
 }  // namespace standin

@@ -1,20 +1,21 @@
-#include <CLI/CLI.hpp>
 #include <iostream>
+#include <memory>
 
-#include "standin/layout/layout_host.h"
-#include "standin/modeler/modeler_host.h"
 #include "standin/objectfile/sample_rigs.h"
 #include "standin/panels/geometry.h"
 #include "standin/panels/text.h"
+#include "standin/program/host_option.h"
 #include "standin/program/property_panel.h"
+#include "standin/program/subcommands.h"
 #include "standin/program/support.h"
-#include "standin/program/trip.h"
+#include "standin/variants/played_host.h"
 
 namespace standin {
 namespace {
 
 struct PanelsOptions {
   std::string module;
+  HostWords host;
   std::vector<std::string> languages = {"en", "ja"};
 };
 
@@ -28,7 +29,7 @@ void show(const std::string& heading, const Panel& panel) {
 // Shows one of Modeler's tools with a skelegon of the demonstration's rig selected.
 void showInModeler(const PanelsOptions& options, const std::string& language, const char* tool,
                    void (*showPages)(Panel& panel, const std::string& language)) {
-  ModelerHost host;
+  PlayedModeler host(options.host.options());
   host.options().localeInfo = localeOf(language);
   host.add(makeDemoRig(), "lizard.lwo");
   host.showLayers({0, 1});
@@ -67,7 +68,7 @@ void showRenamer(Panel& panel, const std::string& language) {
 }
 
 void showConversionPanel(const PanelsOptions& options, const std::string& language) {
-  LayoutHost host;
+  PlayedLayout host(options.host.options());
   host.setLocale(localeOf(language));
   ModuleFile module;
   loadModule(module, options.module);
@@ -88,13 +89,20 @@ int run(const PanelsOptions& options) {
 
 }  // namespace
 
-void addPanelsCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("panels", "Show every page of the tools' panels as text");
+Command panelsCommand() {
   const auto options = std::make_shared<PanelsOptions>();
-  command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
-  command->add_option("--lang", options->languages, "Languages to show")->check(CLI::IsMember({"en", "ja"}));
-  command->footer("Example:\n  varnel panels --lang ja");
-  command->callback([options, &result] { result = run(*options); });
+  return {
+      .name = "panels",
+      .text = "Show every page of the tools' panels as text",
+      .options =
+          {
+              moduleOption(options->module),
+              hostOption(options->host),
+              languageOption(&options->languages, "Languages to show"),
+          },
+      .footer = "Example:\n  varnel panels --lang ja",
+      .run = [options] { return run(*options); },
+  };
 }
 
 }  // namespace standin

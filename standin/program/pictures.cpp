@@ -1,15 +1,14 @@
-#include "standin/program/pictures.h"
-
-#include <CLI/CLI.hpp>
 #include <array>
 #include <functional>
 #include <iostream>
+#include <memory>
 
-#include "standin/layout/layout_host.h"
-#include "standin/modeler/modeler_host.h"
 #include "standin/objectfile/sample_rigs.h"
+#include "standin/program/host_option.h"
 #include "standin/program/property_panel.h"
+#include "standin/program/subcommands.h"
 #include "standin/program/support.h"
+#include "standin/variants/played_host.h"
 #include "standin/windows/desk_window.h"
 #include "standin/windows/driver.h"
 
@@ -19,6 +18,7 @@ namespace {
 struct PicturesOptions {
   std::string folder = "pictures";
   std::string module;
+  HostWords host;
   std::vector<std::string> languages = {"en", "ja"};
   std::vector<std::string> only;
 };
@@ -30,6 +30,7 @@ class Album {
 
   const std::string& language() const { return language_; }
   const std::string& module() const { return options_.module; }
+  HostOptions host() const { return options_.host.options(); }
 
   void take(Driver& driver, const Panel& panel, const std::string& tool, const std::string& name) const {
     keep(driver.picture(panel), tool, name);
@@ -57,7 +58,7 @@ struct Workplace {
 
 template <class Action>
 void inModeler(const Album& album, const std::vector<std::string>& selected, Action&& action) {
-  ModelerHost host;
+  PlayedModeler host(album.host());
   host.options().localeInfo = localeOf(album.language());
   host.add(makeDemoRig(), "lizard.lwo");
   host.showLayers({0, 1});
@@ -92,7 +93,7 @@ void takePropertyPanel(const Album& album) {
 }
 
 void takeConversionPanel(const Album& album) {
-  LayoutHost host;
+  PlayedLayout host(album.host());
   host.setLocale(localeOf(album.language()));
   ModuleFile module;
   loadModule(module, album.module());
@@ -187,16 +188,22 @@ int run(const PicturesOptions& options) {
 
 }  // namespace
 
-void addPicturesCommand(CLI::App& app, int& result) {
-  CLI::App* const command =
-      app.add_subcommand("pictures", "Write pictures of the tools' panels as real windows (Windows only)");
+Command picturesCommand() {
   const auto options = std::make_shared<PicturesOptions>();
-  command->add_option("folder", options->folder, "Where the pictures go");
-  command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
-  command->add_option("--lang", options->languages, "Languages to show")->check(CLI::IsMember({"en", "ja"}));
-  command->add_option("--only", options->only, "Tools to show");
-  command->footer("Example:\n  varnel pictures --lang ja build/pictures");
-  command->callback([options, &result] { result = run(*options); });
+  return {
+      .name = "pictures",
+      .text = "Write pictures of the tools' panels as real windows (Windows only)",
+      .options =
+          {
+              {"folder", &options->folder, "Where the pictures go"},
+              moduleOption(options->module),
+              hostOption(options->host),
+              languageOption(&options->languages, "Languages to show"),
+              {"--only", &options->only, "Tools to show"},
+          },
+      .footer = "Example:\n  varnel pictures --lang ja build/pictures",
+      .run = [options] { return run(*options); },
+  };
 }
 
 }  // namespace standin

@@ -1,16 +1,15 @@
-#include "standin/program/rename.h"
-
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <functional>
 #include <iostream>
 #include <memory>
 
-#include "standin/modeler/modeler_host.h"
 #include "standin/objectfile/rig_builder.h"
 #include "standin/objectfile/sample_rigs.h"
 #include "standin/panels/metrics.h"
+#include "standin/program/host_option.h"
+#include "standin/program/subcommands.h"
 #include "standin/program/support.h"
+#include "standin/variants/played_host.h"
 
 namespace standin {
 namespace {
@@ -41,6 +40,7 @@ enum Target { kSelection, kRegistration, kRegistrationAndChildren, kAll };
 
 struct RenameOptions {
   std::string module;
+  HostWords host;
   std::string language = "en";
 };
 
@@ -105,7 +105,7 @@ void printTrees(const std::vector<std::string>& before, const std::vector<std::s
 
 class Rigger {
  public:
-  Rigger(const RenameOptions& options, ObjectFile rig) {
+  Rigger(const RenameOptions& options, ObjectFile rig) : host(options.host.options()) {
     host.options().localeInfo = localeOf(options.language);
     ModelerObject& object = host.add(std::move(rig), "rig.lwo");
     std::vector<int> layers;
@@ -144,7 +144,7 @@ class Rigger {
 
   void leave() { endSession(module_); }
 
-  ModelerHost host;
+  PlayedModeler host;
 
  private:
   Control* control(Place place) const { return panel_->at(place); }
@@ -282,13 +282,20 @@ int run(const RenameOptions& options) {
 
 }  // namespace
 
-void addRenameCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("rename", "Show what the renamer does, as trees before and after");
+Command renameCommand() {
   const auto options = std::make_shared<RenameOptions>();
-  command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
-  command->add_option("--lang", options->language, "Language of the panel")->check(CLI::IsMember({"en", "ja"}));
-  command->footer("Example:\n  varnel rename --lang ja");
-  command->callback([options, &result] { result = run(*options); });
+  return {
+      .name = "rename",
+      .text = "Show what the renamer does, as trees before and after",
+      .options =
+          {
+              moduleOption(options->module),
+              hostOption(options->host),
+              languageOption(&options->language, "Language of the panel"),
+          },
+      .footer = "Example:\n  varnel rename --lang ja",
+      .run = [options] { return run(*options); },
+  };
 }
 
 }  // namespace standin

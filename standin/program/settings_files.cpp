@@ -1,12 +1,11 @@
 // The subcommands export and import.
-#include <CLI/CLI.hpp>
 #include <iostream>
 #include <memory>
 
 #include "standin/objectfile/file_bytes.h"
 #include "standin/program/replace_file.h"
 #include "standin/program/rig_tool_support.h"
-#include "standin/program/rig_tools.h"
+#include "standin/program/subcommands.h"
 #include "standin/rigs/settings_json.h"
 
 namespace standin {
@@ -59,36 +58,49 @@ int runImport(const ImportOptions& options) {
 
 }  // namespace
 
-void addExportCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("export", "Write the stored settings of a rig as JSON");
+Command exportCommand() {
   const auto options = std::make_shared<ExportOptions>();
-  command->add_option("file", options->file, "Object file")->required();
-  command->add_option("-o,--output", options->out, "File to write, which must not exist (the standard output by default)");
-  command->footer(
-      "Listed is what each skelegon stores, by layer and name. The same rig always gives the same text, whatever its file "
-      "is\n"
-      "called, so that it serves version control as a textconv. Exit codes: 0; 2 trouble.\n"
-      "Examples:\n"
-      "  varnel export biped.lwo\n"
-      "  varnel export biped.lwo -o biped.json");
-  command->callback([options, &result] { result = runExport(*options); });
+  return {
+      .name = "export",
+      .text = "Write the stored settings of a rig as JSON",
+      .options =
+          {
+              {"file", &options->file, "Object file", {.isRequired = true}},
+              {"-o,--output", &options->out, "File to write, which must not exist (the standard output by default)"},
+          },
+      .footer =
+          "Listed is what each skelegon stores, by layer and name. The same rig always gives the same text, whatever its "
+          "file "
+          "is\n"
+          "called, so that it serves version control as a textconv. Exit codes: 0; 2 trouble.\n"
+          "Examples:\n"
+          "  varnel export biped.lwo\n"
+          "  varnel export biped.lwo -o biped.json",
+      .run = [options] { return runExport(*options); },
+  };
 }
 
-void addImportCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("import", "Put settings from JSON into a rig");
+Command importCommand() {
   const auto options = std::make_shared<ImportOptions>();
-  command->add_option("file", options->file, "Object file")->required();
-  command->add_option("json", options->json, "Settings, as export writes them")->required();
-  auto* const out = command->add_option("-o,--output", options->out, "Object file to write, which must not exist");
-  command->add_flag("--in-place", options->inPlace, "Write over the object file")->excludes(out);
-  command->footer(
-      "Every skelegon that the JSON names gets exactly the settings that stand there; the others stay as they are. Only "
-      "tags are\n"
-      "written. JSON that is not understood whole is refused, and nothing is written. Exit codes: 0; 2 trouble.\n"
-      "Examples:\n"
-      "  varnel import biped.lwo biped.json -o biped-2.lwo\n"
-      "  varnel import biped.lwo biped.json --in-place");
-  command->callback([options, &result] { result = runImport(*options); });
+  return {
+      .name = "import",
+      .text = "Put settings from JSON into a rig",
+      .options =
+          {
+              {"file", &options->file, "Object file", {.isRequired = true}},
+              {"json", &options->json, "Settings, as export writes them", {.isRequired = true}},
+              {"-o,--output", &options->out, "Object file to write, which must not exist"},
+              {"--in-place", &options->inPlace, "Write over the object file", {.excludes = "--output"}},
+          },
+      .footer =
+          "Every skelegon that the JSON names gets exactly the settings that stand there; the others stay as they are. Only "
+          "tags are\n"
+          "written. JSON that is not understood whole is refused, and nothing is written. Exit codes: 0; 2 trouble.\n"
+          "Examples:\n"
+          "  varnel import biped.lwo biped.json -o biped-2.lwo\n"
+          "  varnel import biped.lwo biped.json --in-place",
+      .run = [options] { return runImport(*options); },
+  };
 }
 
 }  // namespace standin

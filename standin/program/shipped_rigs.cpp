@@ -2,8 +2,10 @@
 
 #include <array>
 #include <iostream>
+#include <memory>
 
 #include "standin/objectfile/sample_rigs.h"
+#include "standin/program/subcommands.h"
 #include "standin/program/support.h"
 
 namespace standin {
@@ -40,12 +42,18 @@ std::vector<std::string> writeShippedRigs(const std::string& folder) {
   return paths;
 }
 
-void addRigsCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("rigs", "Write the rigs that come with the program into a folder");
+Command rigsCommand() {
   const auto folder = std::make_shared<std::string>();
-  command->add_option("folder", *folder, "Where to; it is made when it is not there")->required();
-  command->footer("Example:\n  varnel rigs my-rigs");
-  command->callback([folder, &result] { result = run(*folder); });
+  return {
+      .name = "rigs",
+      .text = "Write the rigs that come with the program into a folder",
+      .options =
+          {
+              {"folder", folder.get(), "Where to; it is made when it is not there", {.isRequired = true}},
+          },
+      .footer = "Example:\n  varnel rigs my-rigs",
+      .run = [folder] { return run(*folder); },
+  };
 }
 
 }  // namespace standin

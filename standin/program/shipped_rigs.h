@@ -1,7 +1,6 @@
-// The rigs that come with the program, and the subcommand that writes them as files.
+// The rigs that come with the program.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <string>
 #include <vector>
 
@@ -9,7 +8,5 @@ namespace standin {
 
 // Writes the rigs into a folder that exists; their paths. Throws Trouble.
 std::vector<std::string> writeShippedRigs(const std::string& folder);
-
-void addRigsCommand(CLI::App& app, int& result);
 
 }  // namespace standin

@@ -18,9 +18,6 @@ struct Trouble {
   std::string why;
 };
 
-// The program's answer to a command line that it cannot take.
-inline constexpr int kWrongUsage = 2;
-
 std::filesystem::path pathOf(const std::string& utf8);
 std::string utf8Of(const std::filesystem::path& path);
 std::string fileNameOf(const std::string& path);

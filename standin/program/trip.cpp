@@ -1,14 +1,13 @@
-#include "standin/program/trip.h"
-
-#include <CLI/CLI.hpp>
 #include <iostream>
+#include <memory>
 
-#include "standin/layout/layout_host.h"
 #include "standin/layout/report.h"
-#include "standin/modeler/modeler_host.h"
 #include "standin/objectfile/sample_rigs.h"
+#include "standin/program/host_option.h"
 #include "standin/program/property_panel.h"
+#include "standin/program/subcommands.h"
 #include "standin/program/support.h"
+#include "standin/variants/played_host.h"
 
 namespace standin {
 namespace {
@@ -18,6 +17,7 @@ constexpr std::uint8_t kFalloffSetting = 13;
 
 struct TripOptions {
   std::string module;
+  HostWords host;
   std::string language = "en";
 };
 
@@ -37,7 +37,7 @@ std::string storedFalloff(const ModelerHost& host) {
 
 // In Modeler: picks the skelegon, chooses in the panel and saves.
 void inModeler(const TripOptions& options, const std::string& path, Steps& steps) {
-  ModelerHost host;
+  PlayedModeler host(options.host.options());
   host.options().localeInfo = localeOf(options.language);
   steps.say("Modeler opens " + fileNameOf(path));
   const auto object = host.open(path);
@@ -64,7 +64,7 @@ void inModeler(const TripOptions& options, const std::string& path, Steps& steps
 
 // In Layout: loads the object, runs the conversion, looks at the bone.
 void inLayout(const TripOptions& options, const std::string& path, Steps& steps) {
-  LayoutHost host;
+  PlayedLayout host(options.host.options());
   host.setLocale(localeOf(options.language));
   steps.say("Layout loads " + fileNameOf(path));
   std::string why;
@@ -99,13 +99,20 @@ int run(const TripOptions& options) {
 
 }  // namespace
 
-void addTripCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("trip", "Follow one setting from the property panel to the bone");
+Command tripCommand() {
   const auto options = std::make_shared<TripOptions>();
-  command->add_option("--module", options->module, "The module's file (the one beside this program by default)");
-  command->add_option("--lang", options->language, "Language of the panels")->check(CLI::IsMember({"en", "ja"}));
-  command->footer("Example:\n  varnel trip --lang ja");
-  command->callback([options, &result] { result = run(*options); });
+  return {
+      .name = "trip",
+      .text = "Follow one setting from the property panel to the bone",
+      .options =
+          {
+              moduleOption(options->module),
+              hostOption(options->host),
+              languageOption(&options->language, "Language of the panels"),
+          },
+      .footer = "Example:\n  varnel trip --lang ja",
+      .run = [options] { return run(*options); },
+  };
 }
 
 }  // namespace standin

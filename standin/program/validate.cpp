@@ -1,13 +1,13 @@
-#include "standin/program/validate.h"
-
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <ctime>
 #include <iostream>
+#include <memory>
 #include <thread>
 
 #include "standin/core/program_folder.h"
 #include "standin/objectfile/file_bytes.h"
+#include "standin/program/host_option.h"
+#include "standin/program/subcommands.h"
 #include "standin/program/support.h"
 #include "standin/validate/check_run.h"
 #include "standin/validate/report.h"
@@ -22,6 +22,7 @@ constexpr int kNothingToCheck = 2;
 
 struct ValidateOptions {
   std::string module;
+  HostWords host;
   std::string levels = "1-6";
   std::vector<std::string> only;
   std::string report;
@@ -92,11 +93,13 @@ int validateModule(const ValidateOptions& options) {
   order.folder = folder.path();
   order.seed = options.seed;
   order.share = options.quick ? std::min(options.share, kQuickShare) : options.share;
+  order.host = options.host.choice();
   order.jobs = std::max(1U, options.jobs);
   order.limit = std::chrono::seconds(options.limit);
   order.told = [](const v::CheckResult& result) { std::cout << v::resultText(result) << std::flush; };
   const std::vector<v::CheckResult> results = v::runChecks(order);
-  const v::ReportHead head{order.module, v::thisBuild(), today(), order.seed, order.share};
+  const std::string host = order.host == HostChoice() ? std::string() : order.host.text();
+  const v::ReportHead head{order.module, v::thisBuild(), today(), order.seed, order.share, host};
   const std::string text = v::reportText(head, results);
   std::cout << text.substr(text.rfind("\n\n") + 1);
   if (!options.report.empty()) writeReports(options.report, head, results);
@@ -112,44 +115,65 @@ int run(const ValidateOptions& options) {
   }
 }
 
-void addHiddenCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("validate-check", "Run a single check in this process");
-  command->group("");
-  const auto order = std::make_shared<v::Order>();
-  command->add_option("--check", order->check)->required();
-  command->add_option("--module", order->module)->required();
-  command->add_option("--folder", order->folder)->required();
-  command->add_option("--log", order->log)->required();
-  command->add_option("--seed", order->seed);
-  command->add_option("--share", order->share);
-  command->add_option("--from", order->from);
-  command->callback([order, &result] { result = v::runCheckHere(*order); });
-}
-
 }  // namespace
 
-void addValidateCommand(CLI::App& app, int& result) {
-  CLI::App* const command = app.add_subcommand("validate", "Check a module's file on a ladder of eleven levels");
+Command validateCommand() {
   const auto options = std::make_shared<ValidateOptions>();
-  command->add_option("module", options->module, "The module's file (the one beside this program by default)");
-  command->add_option("--level", options->levels, "The ladder up to a level, or a range: 4, 7-9")->capture_default_str();
-  command->add_option("--only", options->only, "Only these checks, by name");
-  command->add_option("--seed", options->seed, "Of everything random")->capture_default_str();
-  command->add_option("--report", options->report, "Write report.txt and report.html into this folder");
-  command->add_option("--share", options->share, "Do only this share of the long checks of levels 7 to 11")
-      ->check(CLI::Range(0.0001, 1.0));
-  command->add_flag("--quick", options->quick, "Short forms of levels 7 to 11");
-  command->add_option("--limit", options->limit, "Seconds without a sign of life after which a check hangs")
-      ->capture_default_str()
-      ->check(CLI::Range(1, 3600));
-  command->add_option("--jobs", options->jobs, "Processes at the same time")->check(CLI::Range(1, 64));
-  command->add_flag("--list", options->list, "Only name the checks");
-  command->footer(
-      "Exit code 0: sound; 1: something was found; 2: nothing could be checked.\n\n"
-      "Examples:\n  varnel validate varnel.p\n  varnel validate varnel.p --level 11 --report report\n"
-      "  varnel validate --only walks --seed 7");
-  command->callback([options, &result] { result = run(*options); });
-  addHiddenCommand(app, result);
+  return {
+      .name = "validate",
+      .text = "Check a module's file on a ladder of eleven levels",
+      .options =
+          {
+              {"module", &options->module, "The module's file (the one beside this program by default)"},
+              {"--level", &options->levels, "The ladder up to a level, or a range: 4, 7-9", {.showsDefault = true}},
+              {"--only", &options->only, "Only these checks, by name"},
+              hostOption(options->host),
+              {"--seed", &options->seed, "Of everything random", {.showsDefault = true}},
+              {"--report", &options->report, "Write report.txt and report.html into this folder"},
+              {"--share",
+               &options->share,
+               "Do only this share of the long checks of levels 7 to 11",
+               {.range = {{0.0001, 1.0}}}},
+              {"--quick", &options->quick, "Short forms of levels 7 to 11"},
+              {"--limit",
+               &options->limit,
+               "Seconds without a sign of life after which a check hangs",
+               {.showsDefault = true, .range = {{1, 3600}}}},
+              {"--jobs", &options->jobs, "Processes at the same time", {.range = {{1, 64}}}},
+              {"--list", &options->list, "Only name the checks"},
+          },
+      .footer =
+          "Exit code 0: sound; 1: something was found; 2: nothing could be checked.\n\n"
+          "Examples:\n  varnel validate varnel.p\n  varnel validate varnel.p --level 11 --report report\n"
+          "  varnel validate --only walks --seed 7\n  varnel validate --level 5 --host new-bones=selected",
+      .run = [options] { return run(*options); },
+  };
+}
+
+Command validateCheckCommand() {
+  const auto order = std::make_shared<v::Order>();
+  const auto host = std::make_shared<HostWords>();
+  return {
+      .name = "validate-check",
+      .text = "Run a single check in this process",
+      .options =
+          {
+              {"--check", &order->check, {}, {.isRequired = true}},
+              {"--module", &order->module, {}, {.isRequired = true}},
+              {"--folder", &order->folder, {}, {.isRequired = true}},
+              {"--log", &order->log, {}, {.isRequired = true}},
+              {"--seed", &order->seed},
+              {"--share", &order->share},
+              {"--from", &order->from},
+              hostOption(*host),
+          },
+      .run =
+          [order, host] {
+            order->host = host->choice();
+            return v::runCheckHere(*order);
+          },
+      .isHidden = true,
+  };
 }
 
 }  // namespace standin

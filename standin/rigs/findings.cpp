@@ -8,6 +8,7 @@
 
 #include "host/item_names.h"
 #include "skelegon/numbers.h"
+#include "skelegon/setting_groups.h"
 #include "standin/rigs/names_in_layout.h"
 #include "standin/rigs/text.h"
 #include "standin/rigs/values.h"
@@ -71,6 +72,9 @@ constexpr std::array<FindingRow, kFindingKinds> kRows = {{
     {FindingKind::CommandTooLong, "command-too-long",
      "the command \"{other}\" with this text would have {number} bytes, more than can be sent: the whole conversion will end here",
      "このテキストを付けたコマンド「{other}」は {number} バイトになり、送れません: 変換全体がここで終わります"},
+    {FindingKind::PathTooLong, "path-too-long",
+     "the whole path of the file has {number} characters, more than the {other} that can be opened: the conversion will read the file that it read before instead, and this object will get no settings or those of that one",
+     "ファイルのパス全体が {number} 文字あり、開ける {other} 文字を超えています: 変換は代わりに前に読んだファイルを読み、このオブジェクトには設定が付かないか、そのファイルの設定が付きます"},
     {FindingKind::PathCodePage, "path-code-page",
      "the file name {text} has characters that code page {number} lacks: the file will not be found, and the conversion will end here",
      "ファイル名 {text} にコードページ {number} に無い文字があります: ファイルが見つからず、変換はここで終わります"},
@@ -98,21 +102,6 @@ constexpr bool rowsStandInOrder() {
 static_assert(rowsStandInOrder());
 static_assert(static_cast<std::size_t>(FindingKind::TextMissing) + 1 == kFindingKinds);
 
-// The items that the conversion makes a null for when it does not find them, and those that it only looks up.
-constexpr Slot kHelpers[] = {
-    Slot::TargetItem,   Slot::PoleItem,  Slot::GoalObject,          Slot::PositionItem,
-    Slot::RotationItem, Slot::ScaleItem, Slot::InitialPositionItem,
-};
-constexpr Slot kParents[] = {
-    Slot::ParentItem,     Slot::TargetParent,   Slot::PoleParent,  Slot::GoalParent,
-    Slot::PositionParent, Slot::RotationParent, Slot::ScaleParent,
-};
-
-template <std::size_t Size>
-bool isOneOf(const Slot (&list)[Size], Slot slot) {
-  return std::find(std::begin(list), std::end(list), slot) != std::end(list);
-}
-
 class Search {
  public:
   Search(const Rig& rig, const CodePage& codePage) : rig_(rig), codePage_(codePage), found_(namesFound(rig)) {
@@ -120,7 +109,7 @@ class Search {
     for (const Skelegon& skelegon : rig.skelegons) {
       layersOfName_[skelegon.name].insert(skelegon.layer);
       for (const Setting& setting : allSettings()) {
-        const std::string* const text = isOneOf(kHelpers, setting.slot) ? skelegon.stored(setting) : nullptr;
+        const std::string* const text = skg::linkedItemOf(setting.slot) != nullptr ? skelegon.stored(setting) : nullptr;
         if (text != nullptr && !text->empty()) nulls_.insert(itemMeant(layerOf(skelegon), *text));
       }
     }
@@ -157,6 +146,11 @@ class Search {
 
   void checkFile() {
     if (!lw::isObjectFileName(rig_.fileName)) add(FindingKind::FileExtension, inQuotes(rig_.fileName));
+    if (rig_.pathLength > kLongestPath) {
+      Finding& finding = add(FindingKind::PathTooLong);
+      finding.number = std::to_string(rig_.pathLength);
+      finding.other = std::to_string(kLongestPath);
+    }
     if (!codePage_.holds(rig_.fileName)) {
       add(FindingKind::PathCodePage, inQuotes(rig_.fileName)).number = std::to_string(codePage_.number());
     }
@@ -223,8 +217,8 @@ class Search {
     if (setting.kind == SlotKind::Colour) return checkColour(i, setting, text);
     if (text.empty()) return;
     if (setting.slot == Slot::WeightMap) checkCommand(i, setting, "BoneWeightMapName", text);
-    if (isOneOf(kHelpers, setting.slot)) checkHelper(i, setting, text);
-    if (isOneOf(kParents, setting.slot)) checkLookUp(i, setting, text, FindingKind::ParentMissing);
+    if (skg::linkedItemOf(setting.slot) != nullptr) checkHelper(i, setting, text);
+    if (skg::isParentName(setting.slot)) checkLookUp(i, setting, text, FindingKind::ParentMissing);
     if (setting.slot == Slot::UseBonesFromObject) checkLookUp(i, setting, text, FindingKind::BonesFromMissing);
   }
 

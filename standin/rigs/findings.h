@@ -30,13 +30,14 @@ enum class FindingKind : std::size_t {
   NumberUnreadable,
   NumberPartly,
   CommandTooLong,
+  PathTooLong,
   PathCodePage,
   CommandCodePage,
   UnknownSlot,
   TagRepeated,
   TextMissing,
 };
-inline constexpr std::size_t kFindingKinds = 22;
+inline constexpr std::size_t kFindingKinds = 23;
 
 struct FindingRow {
   FindingKind kind;
@@ -68,5 +69,8 @@ std::string sentenceOf(const Finding& finding, Language language);
 
 // The longest command that the module formats, in bytes. What is longer comes out empty, and an empty command ends the run.
 inline constexpr std::size_t kLongestCommand = 511;
+
+// The longest path that the module opens, in units of UTF-16. For a longer one it opens the one before.
+inline constexpr std::size_t kLongestPath = 259;
 
 }  // namespace standin::rigs

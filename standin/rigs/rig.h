@@ -43,7 +43,8 @@ struct Layer {
 };
 
 struct Rig {
-  std::string fileName;  // without its folder
+  std::string fileName;        // without its folder
+  std::size_t pathLength = 0;  // of the whole path, in units of UTF-16; 0 where it is not known
   std::vector<Layer> layers;
   std::vector<Skelegon> skelegons;
 };

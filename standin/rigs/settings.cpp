@@ -1,4 +1,5 @@
 #include "standin/rigs/settings.h"
+#include "skelegon/slot_table.h"
 
 #include <algorithm>
 #include <map>
@@ -34,13 +35,13 @@ std::string labelOf(Slot slot, Language language) {
 // How many settings show this Japanese label.
 std::size_t labelCount(const std::string& label) {
   const auto shows = [&](const skg::SlotRow& row) { return labelOf(row.slot, Language::Japanese) == label; };
-  return static_cast<std::size_t>(std::count_if(skg::slotTable().begin(), skg::slotTable().end(), shows));
+  return static_cast<std::size_t>(std::count_if(skg::kSlotTable.begin(), skg::kSlotTable.end(), shows));
 }
 
 // The Japanese label of the setting that an English name means: "X Pos Limits", or the beginning of one, "X Position".
 std::string ownerLabel(std::string_view english) {
   for (const bool whole : {true, false}) {
-    for (const skg::SlotRow& row : skg::slotTable()) {
+    for (const skg::SlotRow& row : skg::kSlotTable) {
       const std::string_view name = row.setting;
       const bool begins = name.starts_with(english) && name.size() > english.size() && name[english.size()] == ' ';
       if (whole ? name == english : begins) {
@@ -73,10 +74,9 @@ std::string japaneseName(const skg::SlotRow& row) {
 }
 
 // The entries of the panel's list, without the code that makes the host draw a swatch.
-std::vector<std::string> choicesOf(Slot slot, Language language) {
-  const std::optional<std::size_t> control = mst::controlOf(slot);
-  if (!control || !mst::controlTable()[*control].choices) return {};
-  const auto list = static_cast<std::size_t>(*mst::controlTable()[*control].choices);
+std::vector<std::string> choicesOf(const skg::SlotRow& row, Language language) {
+  if (!row.choices) return {};
+  const auto list = static_cast<std::size_t>(*row.choices);
   std::vector<std::string> choices;
   for (texts::Choices entry = texts::propertyChoices()[list].in(language); *entry != nullptr; ++entry) {
     const std::string text = *entry;
@@ -92,13 +92,13 @@ Setting settingOf(const skg::SlotRow& row) {
           row.defaultText,
           row.setting,
           japaneseName(row),
-          choicesOf(row.slot, Language::English),
-          choicesOf(row.slot, Language::Japanese)};
+          choicesOf(row, Language::English),
+          choicesOf(row, Language::Japanese)};
 }
 
 std::vector<Setting> makeSettings() {
   std::vector<Setting> all;
-  for (const skg::SlotRow& row : skg::slotTable()) {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
     if (row.kind == SlotKind::Reserved || row.slot == Slot::Name) continue;
     all.push_back(settingOf(row));
     if (row.slot != Slot::Colour) continue;

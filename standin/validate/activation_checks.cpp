@@ -36,7 +36,7 @@ void withEachTool(CheckRun& run, Act&& act) {
   const Rig rig = lizardRig(run.file(""));
   for (std::size_t i = 0; i < kTools.size(); ++i) {
     if (!run.step(i, kTools[i].server)) continue;
-    Session session(kTools[i].program, rig, run.module());
+    Session session(kTools[i].program, rig, run.module(), run.host().options());
     run.judge(session.refusal());
     if (session.refusal().empty()) act(session, kTools[i]);
     run.judge(session.end());
@@ -128,13 +128,13 @@ void withheld(CheckRun& run) {
   for (const Tool& tool : kTools) {
     std::set<std::string> names;
     {
-      Session session(tool.program, rig, run.module());
+      Session session(tool.program, rig, run.module(), run.host().options());
       if (!session.refusal().empty()) return run.fail(session.refusal());
       names = servicesToWithhold(session, tool);
     }
     for (const std::string& name : names) {
       if (!run.step(n++, std::string(tool.server) + " without " + name)) continue;
-      Session session(tool.program, rig, run.module());
+      Session session(tool.program, rig, run.module(), run.host().options());
       globals().withhold(name);
       run.injected();
       const int wanted = name == "Product Info"   ? lw::kActivationBadVersion
@@ -154,7 +154,7 @@ void nullLookups(CheckRun& run) {
   std::uint64_t n = 0;
   for (const Tool& tool : kTools) {
     for (std::uint64_t lookup = 1;; ++lookup) {
-      Session session(tool.program, rig, run.module());
+      Session session(tool.program, rig, run.module(), run.host().options());
       if (!session.refusal().empty()) return run.fail(session.refusal());
       const bool wanted = run.step(n++, std::string(tool.server) + ", lookup " + std::to_string(lookup));
       // The lookups come first, before an activation calls anything else.
@@ -176,7 +176,7 @@ void goneWhileOpen(CheckRun& run) {
   const Rig rig = lizardRig(run.file(""));
   for (std::size_t i = 0; i < kTools.size(); ++i) {
     if (!run.step(i, kTools[i].server)) continue;
-    Session session(kTools[i].program, rig, run.module());
+    Session session(kTools[i].program, rig, run.module(), run.host().options());
     Panel* const panel = session.open(kTools[i]);
     if (panel == nullptr) continue;
     for (const std::string& name : std::set<std::string>(globals().asked().begin(), globals().asked().end())) {

@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "standin/variants/variants.h"
+
 namespace standin::validate {
 
 // What the runner asks of a check's process.
@@ -19,6 +21,7 @@ struct Order {
   std::string log;         // where to tell
   std::uint64_t seed = 1;  // of everything random
   double share = 1;        // of the long checks, above 0 up to 1
+  HostChoice host = {};    // where everything is played
   std::uint64_t from = 0;  // the first step to do: those before are done, or ended the process before this one
 };
 
@@ -35,6 +38,7 @@ class CheckRun {
 
   const std::string& module() const { return order_.module; }
   std::uint64_t seed() const { return order_.seed; }
+  const HostChoice& host() const { return order_.host; }
   std::uint64_t from() const { return order_.from; }
   // A path in the folder for files.
   std::string file(std::string_view name) const { return order_.folder + "/" + std::string(name); }

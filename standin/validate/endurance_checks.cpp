@@ -75,7 +75,7 @@ void bringToRest(Session& session, const Rig& rig) {
 void actions(CheckRun& run) {
   if (const char* const why = memory::whyUnwatched()) return run.skip(why);
   const Rig rig = lizardRig(run.file(""));
-  Session session(Program::Modeler, rig, run.module());
+  Session session(Program::Modeler, rig, run.module(), run.host().options());
   if (!session.refusal().empty()) return run.fail(session.refusal());
   Walk walk(session, rig, run.seed());
   Flatness flatness(run);
@@ -97,7 +97,7 @@ void actions(CheckRun& run) {
 void conversions(CheckRun& run) {
   if (const char* const why = memory::whyUnwatched()) return run.skip(why);
   const Rig rig = lizardRig(run.file(""));
-  Session session(Program::Layout, rig, run.module());
+  Session session(Program::Layout, rig, run.module(), run.host().options());
   if (!session.refusal().empty()) return run.fail(session.refusal());
   LayoutHost& host = *session.layout();
   host.state().transcript.record(false);

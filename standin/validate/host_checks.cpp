@@ -12,45 +12,78 @@ namespace standin::validate {
 namespace {
 
 constexpr std::size_t kMixtures = 50;
-constexpr int kActions = 200;
+constexpr std::size_t kActions = 300;
+constexpr std::size_t kFewestActions = 60;
 
-void playOn(CheckRun& run, const HostChoice& host, std::uint64_t seed) {
-  const Rig rig = seed % 2 == 0 ? lizardRig(run.file("")) : japaneseRig(run.file(""));
-  for (const Trip& trip : allTrips()) {
+// What is brought to a host, and in which language: some things differ only with wide characters, or with several layers.
+struct Luggage {
+  const char* what;
+  Rig (*rig)(const std::string& folder);
+  std::uint32_t language;
+};
+constexpr std::array kLuggage{
+    Luggage{"two layers in English", lizardRig, kEnglish},
+    Luggage{"one layer in Japanese", japaneseRig, kJapanese},
+    Luggage{"two layers in Japanese", lizardRig, kJapanese},
+    Luggage{"one layer in English", japaneseRig, kEnglish},
+};
+
+void goOn(CheckRun& run, const HostChoice& host, const Luggage& luggage, const Rig& rig, std::span<const Trip> trips) {
+  for (const Trip& trip : trips) {
     run.at(trip.name);
     TripOrder order;
     order.module = run.module();
     order.rig = &rig;
+    order.language = luggage.language;
     order.host = host;
     const TripReport report = trip.go(order);
     run.cases(1);
     for (const std::string& trouble : report.troubles) run.fail(std::string(trip.name) + ": " + trouble);
     for (const std::string& rule : report.broken) run.fail(std::string(trip.name) + ": " + rule);
   }
+}
+
+void playOn(CheckRun& run, const HostChoice& host, const Luggage& luggage, std::uint64_t seed) {
+  const Rig rig = luggage.rig(run.file(""));
+  goOn(run, host, luggage, rig, allTrips());
+  goOn(run, host, luggage, rig, meshTrips());
+  const int actions = static_cast<int>(run.shareOf(kActions, kFewestActions));
   for (const Program program : {Program::Modeler, Program::Layout}) {
-    walkOnce(run, {.program = program, .rig = &rig, .seed = seed, .actions = kActions, .host = host});
+    walkOnce(
+        run,
+        {.program = program, .rig = &rig, .seed = seed, .actions = actions, .host = host, .language = luggage.language});
   }
 }
 
-void singleHosts(CheckRun& run) {
-  const std::vector<HostChoice> choices = singleChoices();
-  // The short form leaves none out: each is a host that may be.
-  for (std::size_t i = 0; i < choices.size(); ++i) {
-    if (run.step(i, choices[i].text())) playOn(run, choices[i], run.seed() * 1000 + i);
+// The n-th host with all that can be brought to it, a step each. The short form leaves out no host: it brings less to each.
+void playAll(CheckRun& run, const HostChoice& host, std::size_t n) {
+  const std::size_t count = run.shareOf(kLuggage.size());
+  for (std::size_t i = 0; i < count; ++i) {
+    const Luggage& luggage = kLuggage[(n + i) % kLuggage.size()];
+    const std::uint64_t step = n * kLuggage.size() + i;
+    if (run.step(step, host.text() + ", " + luggage.what)) playOn(run, host, luggage, run.seed() * 1000 + step);
   }
+}
+
+void singleHosts(CheckRun& run, std::span<const HostVariant> rows) {
+  const std::vector<HostChoice> choices = singleChoices(rows, run.host());
+  for (std::size_t i = 0; i < choices.size(); ++i) playAll(run, choices[i], i);
 }
 
 void mixedHosts(CheckRun& run) {
   const std::size_t count = run.shareOf(kMixtures);
-  for (std::size_t i = 0; i < count; ++i) {
-    const std::uint64_t seed = run.seed() * 1000 + i;
-    const HostChoice host = HostChoice::mixture(seed);
-    if (run.step(i, host.text())) playOn(run, host, seed);
-  }
+  for (std::size_t i = 0; i < count; ++i) playAll(run, HostChoice::mixture(run.seed() * 1000 + i, run.host()), i);
 }
 
 constexpr std::array kChecks{
-    Check{"hosts", 11, "Every tool does its job on each host that differs in one thing", singleHosts},
+    Check{"hosts-both", 11, "Every tool does its job where both programs differ in one thing",
+          [](CheckRun& run) { singleHosts(run, programVariants()); }},
+    Check{"hosts-panels", 11, "Every tool does its job where panels differ in one thing",
+          [](CheckRun& run) { singleHosts(run, panelVariants()); }},
+    Check{"hosts-modeler", 11, "Every tool does its job where Modeler differs in one thing",
+          [](CheckRun& run) { singleHosts(run, modelerVariants()); }},
+    Check{"hosts-layout", 11, "Every tool does its job where Layout differs in one thing",
+          [](CheckRun& run) { singleHosts(run, layoutVariants()); }},
     Check{"hosts-mixed", 11, "Every tool does its job on hosts that differ in many things", mixedHosts},
 };
 

@@ -43,7 +43,7 @@ void useEverything(CheckRun& run, Session& session, Program program, const std::
 // Both programs with the rig loaded.
 void useRig(CheckRun& run, const Rig& rig, const std::string* type = nullptr) {
   for (const Program program : {Program::Modeler, Program::Layout}) {
-    Session session(program, rig, run.module());
+    Session session(program, rig, run.module(), run.host().options());
     if (!session.refusal().empty()) return run.fail(session.refusal());
     if (session.modeler() != nullptr) {
       const auto skelegons = session.modeler()->current()->skelegons();
@@ -93,7 +93,7 @@ void settings(CheckRun& run) {
 // A file that was sound when Layout loaded it and is not when the module reads it.
 void convertDamaged(CheckRun& run, const std::function<void(const std::string& path)>& damage) {
   const Rig rig = lizardRig(run.file(""));
-  Session session(Program::Layout, rig, run.module());
+  Session session(Program::Layout, rig, run.module(), run.host().options());
   if (!session.refusal().empty()) return run.fail(session.refusal());
   Panel* const panel = session.open(kConversion);
   if (panel == nullptr) return run.fail("the conversion panel does not open");

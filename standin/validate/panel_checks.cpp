@@ -48,7 +48,7 @@ void withEachPanel(CheckRun& run, std::uint64_t& n, const std::string& where, Ac
   for (const Tool& tool : kTools) {
     for (const std::uint32_t language : kLanguages) {
       if (!run.step(n++, std::string(tool.server) + " in " + languageName(language) + where)) continue;
-      Session session(tool.program, rig, run.module());
+      Session session(tool.program, rig, run.module(), run.host().options());
       session.setLocale(language);
       act(session, tool);
       run.judge(session.end());

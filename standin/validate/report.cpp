@@ -58,6 +58,7 @@ std::string findingText(const Finding& finding) {
 
 std::string headText(const ReportHead& head) {
   std::string text = "module  " + head.module + "\nhost    " + head.build + "\nseed    " + std::to_string(head.seed) + "\n";
+  if (!head.host.empty()) text += "on      " + head.host + "\n";
   if (head.share < 1) {
     char share[32];
     std::snprintf(share, sizeof share, "%g", head.share);

@@ -14,6 +14,7 @@ struct ReportHead {
   std::string date;   // may be empty
   std::uint64_t seed = 1;
   double share = 1;
+  std::string host = {};  // where it was played; empty for the default host
 };
 
 // True when nothing failed, crashed or hung.

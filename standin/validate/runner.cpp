@@ -123,11 +123,23 @@ class CheckKeeper {
     const std::string log = base + ".log";
     const std::string output = base + ".out";
     std::ofstream(pathFromUtf8(log), std::ios::binary).flush();
-    ChildProcess process(
-        order_.program,
-        {"validate-check", "--check", result_.check->name, "--module", order_.module, "--folder", folder, "--log", log,
-         "--seed", std::to_string(order_.seed), "--share", std::to_string(order_.share), "--from", std::to_string(from)},
-        output);
+    std::vector<std::string> words{"validate-check",
+                                   "--check",
+                                   result_.check->name,
+                                   "--module",
+                                   order_.module,
+                                   "--folder",
+                                   folder,
+                                   "--log",
+                                   log,
+                                   "--seed",
+                                   std::to_string(order_.seed),
+                                   "--share",
+                                   std::to_string(order_.share),
+                                   "--from",
+                                   std::to_string(from)};
+    for (const std::string& word : order_.host.words()) words.insert(words.end(), {"--host", word});
+    ChildProcess process(order_.program, words, output);
     if (!process.why().empty()) {
       add({Verdict::crash, std::nullopt, {}, process.why()});
       return std::nullopt;

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "standin/validate/check.h"
+#include "standin/variants/variants.h"
 
 namespace standin::validate {
 
@@ -44,6 +45,7 @@ struct RunOrder {
   std::vector<std::string> only;  // names of checks; empty: all of the levels
   std::uint64_t seed = 1;
   double share = 1;
+  HostChoice host = {};            // where everything is played
   unsigned jobs = 1;               // processes at the same time
   int mostDeaths = 20;             // crashes and hangs of one check before it is given up
   std::chrono::seconds limit{30};  // for a process without a sign of life

@@ -23,15 +23,13 @@ Rig japaneseRig(const std::string& folder) { return rigOf(makeJapaneseRig(), fol
 
 Session::Session(Program program, const Rig& rig, const std::string& module, const HostOptions& host) : path_(module) {
   if (program == Program::Modeler) {
-    modeler_ = std::make_unique<ModelerHost>(host.modeler);
-    panels().options = host.panels;
+    modeler_ = std::make_unique<PlayedModeler>(host);
     const ModelerObject& object = modeler_->add(rig.object, rig.path);
     std::vector<int> layers;
     for (const MeshLayer& layer : object.layers()) layers.push_back(layer.number);
     modeler_->showLayers(layers);
   } else {
-    layout_ = std::make_unique<LayoutHost>(host.layout);
-    panels().options = host.panels;
+    layout_ = std::make_unique<PlayedLayout>(host);
     layout_->select(layout_->scene().addObject(rig.object, rig.path));
   }
   refusal_ = module_.load(path_);

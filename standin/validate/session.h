@@ -6,11 +6,9 @@
 #include <string>
 
 #include "standin/core/module_file.h"
-#include "standin/layout/layout_host.h"
-#include "standin/modeler/modeler_host.h"
 #include "standin/panels/panel.h"
 #include "standin/validate/tools.h"
-#include "standin/variants/variants.h"
+#include "standin/variants/played_host.h"
 
 namespace standin::validate {
 
@@ -62,8 +60,8 @@ class Session {
   std::string end();
 
  private:
-  std::unique_ptr<ModelerHost> modeler_;
-  std::unique_ptr<LayoutHost> layout_;
+  std::unique_ptr<PlayedModeler> modeler_;
+  std::unique_ptr<PlayedLayout> layout_;
   ModuleFile module_;
   std::string path_;
   std::string refusal_;

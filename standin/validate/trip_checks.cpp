@@ -34,6 +34,7 @@ void undisturbed(CheckRun& run, std::string_view name) {
       }
       TripOrder order;
       order.module = run.module();
+      order.host = run.host();
       order.rig = &rig;
       order.language = language;
       const TripReport report = trip.go(order);
@@ -61,6 +62,7 @@ void disturbed(CheckRun& run, std::string_view name, const Disturber& disturber,
     if (!run.step(n, "")) continue;
     TripOrder order;
     order.module = run.module();
+    order.host = run.host();
     order.rig = &rig;
     bool happened = false;
     std::string what;

@@ -2,14 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
-#include <sstream>
-#include <tuple>
-#include <utility>
 
-#include "standin/core/witness.h"
 #include "standin/panels/person.h"
+#include "standin/validate/conversion_judge.h"
 #include "standin/validate/touch.h"
+#include "standin/validate/traveller.h"
 #include "standin/validate/tree_user.h"
 
 namespace standin::validate {
@@ -17,114 +14,10 @@ namespace {
 
 constexpr std::uint8_t kFalloffSetting = 13;
 constexpr int kInverseDistance4 = 2;  // place in the list
-
-// A trip under way. Whatever its user cannot do is noted and the trip goes on.
-class Traveller {
- public:
-  explicit Traveller(const TripOrder& order, Program program)
-      : order_(order), session_(program, *order.rig, order.module, order.host.options()) {
-    session_.setLocale(order.language);
-    if (!session_.refusal().empty()) report_.broken.push_back(session_.refusal());
-  }
-
-  Session& session() { return session_; }
-  bool isReady() const { return report_.broken.empty(); }
-
-  void begin() const {
-    if (order_.begin) order_.begin();
-  }
-  void end() {
-    refused_ = witness().refusedFunction();
-    if (order_.end) order_.end();
-    for (Panel* panel : panels().open()) panels().paintWanted(*panel);
-  }
-
-  // A call that gives nothing back was dropped: no module can know, so the panel may be wrong until it is made anew.
-  bool wasDeceived() const {
-    constexpr std::array kSilent{"control set", "control get", "control draw", "panel set", "panel get", "panel draw"};
-    return std::find(kSilent.begin(), kSilent.end(), refused_) != kSilent.end();
-  }
-
-  void does(const Done& done) {
-    if (!done) report_.troubles.push_back(done.why);
-  }
-  void finds(bool isSo, const std::string& what) {
-    if (!isSo) report_.troubles.push_back("not so: " + what);
-  }
-  void mustHold(bool holds, const std::string& rule) {
-    if (!holds) report_.broken.push_back("broken: " + rule);
-  }
-
-  TripReport finish() {
-    if (session_.modeler() != nullptr) {
-      const auto& edits = session_.modeler()->edits();
-      mustHold(std::all_of(edits.begin(), edits.end(), [](const EditRecord& edit) { return edit.done; }),
-               "every mesh edit is ended");
-    }
-    if (const std::string complaints = notOfDeception(session_.end()); !complaints.empty()) {
-      report_.broken.push_back(complaints);
-    }
-    return std::move(report_);
-  }
-
- private:
-  // Complaints without the one that only says that the dropped call was dropped.
-  std::string notOfDeception(const std::string& complaints) const {
-    if (!wasDeceived()) return complaints;
-    std::string kept;
-    std::istringstream lines(complaints);
-    for (std::string line; std::getline(lines, line);) {
-      if (line.find("user data was never set") == std::string::npos) kept += line + '\n';
-    }
-    return kept;
-  }
-
-  const TripOrder& order_;
-  Session session_;
-  TripReport report_;
-  std::string refused_;
-};
-
-std::vector<std::string> skelegonNames(Session& session, std::size_t most) {
-  std::vector<std::string> names;
-  for (const MeshPolygon* polygon : session.modeler()->current()->skelegons()) {
-    if (names.size() < most) names.push_back(polygon->tag(lw::kTagBone));
-  }
-  return names;
-}
-
-// Everything that is stored on the skelegons, and which are selected.
-std::string meshText(Session& session) {
-  std::string text;
-  for (const MeshPolygon* polygon : session.modeler()->current()->skelegons()) {
-    text += polygon->selected ? "selected\n" : "\n";
-    for (const PolygonTag& tag : polygon->content.tags) text += std::to_string(tag.type) + '=' + tag.text + '\n';
-  }
-  return text;
-}
-
-// What a freshly loaded module shows for the mesh as it is. It depends on nothing else but the host, so it is kept.
-const std::string& freshView(Session& session, const TripOrder& order) {
-  static std::map<std::string, std::string> views;
-  const std::string key = order.host.text() + '\n' + std::to_string(order.language) + '\n' + meshText(session);
-  if (const auto found = views.find(key); found != views.end()) return found->second;
-  std::string view;
-  if (session.reload()) {
-    if (Panel* const panel = session.open(kProperty)) view = everythingShown(*panel);
-  }
-  return views[key] = view;
-}
-
-// The first difference of two texts, line by line.
-std::string firstDifference(const std::string& one, const std::string& other) {
-  std::size_t from = 0;
-  std::size_t at = 0;
-  for (; at < one.size() && at < other.size() && one[at] == other[at]; ++at) {
-    if (one[at] == '\n') from = at + 1;
-  }
-  const auto line = [&](const std::string& text) { return text.substr(from, text.find('\n', from) - from); };
-  return '"' + line(one) + "\" instead of \"" + line(other) + '"';
-}
+// Places in the property panel, in order of creation.
+constexpr int kSkelegonName = 7;
+constexpr int kWeightMapChooser = 16;
+constexpr int kStrength = 20;
 
 // On each page the first control of each kind that can be seen.
 void useOneOfEachKind(Traveller& user, Panel& panel) {
@@ -138,20 +31,6 @@ void useOneOfEachKind(Traveller& user, Panel& panel) {
       user.does(touch(*control, 3));
     }
   });
-}
-
-// Whatever failed, the next run of the property tool shows what is stored, as a module that was never disturbed does.
-void judgeNextRun(Traveller& user, const TripOrder& order) {
-  Session& session = user.session();
-  if (user.wasDeceived()) user.mustHold(session.reload(), "the module can be loaded again");
-  user.mustHold(session.activate(kProperty) == lw::kActivationOk, "the next activation of the property tool succeeds");
-  Panel* const panel = panels().find(kProperty.server);
-  const bool isOpen = panel != nullptr && panel->isOpen();
-  user.mustHold(isOpen, "the next run of the property tool opens its panel");
-  if (!isOpen) return;
-  const std::string shown = everythingShown(*panel);
-  const std::string& expected = freshView(session, order);
-  user.mustHold(shown == expected, "panels show what is stored: " + firstDifference(shown, expected));
 }
 
 TripReport propertyTrip(const TripOrder& order) {
@@ -174,7 +53,7 @@ TripReport propertyTrip(const TripOrder& order) {
   session.modeler()->select(chosen);
   if (panel != nullptr) useOneOfEachKind(user, *panel);
   user.end();
-  judgeNextRun(user, order);
+  user.judgeNextRun();
   return user.finish();
 }
 
@@ -234,7 +113,7 @@ TripReport renamerTrip(const TripOrder& order) {
   user.does(person::press(control(kRun)));
   user.finds(named("Bone01_"), "registered skelegons get the base name");
   user.end();
-  judgeNextRun(user, order);
+  user.judgeNextRun();
   return user.finish();
 }
 
@@ -268,7 +147,7 @@ TripReport selectorTrip(const TripOrder& order) {
     for (const std::string& trouble : tree.troubles()) user.finds(false, trouble);
   }
   user.end();
-  judgeNextRun(user, order);
+  user.judgeNextRun();
   return user.finish();
 }
 
@@ -291,32 +170,50 @@ bool allSwitchedBack(const LayoutState& state) {
   return state.ikEnabled && state.motionControllersEnabled && state.deformationsEnabled && state.autoConfirm == 0;
 }
 
+// Commands that the host did not do. A switch that it refuses to take an argument for is its own affair.
+std::string refusedInVain(const LayoutHost& host) {
+  const bool refusesSwitches = host.scene().options().switchArgument == SwitchArgument::Refused;
+  for (const Event& event : host.transcript().events()) {
+    const bool failed = event.kind == EventKind::rejected || event.kind == EventKind::asked;
+    if (failed && !(refusesSwitches && isSwitch(event.text))) return event.text + " (" + event.why + ")";
+  }
+  return {};
+}
+
+bool isSameSelection(const std::vector<Item*>& one, const std::vector<Item*>& other) {
+  return one.size() == other.size() && std::is_permutation(one.begin(), one.end(), other.begin());
+}
+
 TripReport conversionTrip(const TripOrder& order) {
   Traveller user(order, Program::Layout);
   Session& session = user.session();
   if (!user.isReady()) return user.finish();
   LayoutHost& host = *session.layout();
-  const std::vector<Item*> selected = host.scene().selection();
+  // Beside the objects some items that there is nothing to convert of.
+  std::vector<Item*> selected = host.scene().selection();
+  selected.push_back(&host.scene().addNull("Bystander"));
+  selected.push_back(&host.scene().addLight("Bystander"));
+  selected.push_back(&host.scene().addCamera("Bystander"));
+  host.select(selected);
+  const ConversionJudge judge(host, *order.rig);
   user.begin();
   Panel* panel = session.open(kConversion);
   user.finds(panel != nullptr, "the conversion panel opens");
   if (panel != nullptr) user.does(person::press(panel->find(ControlKind::Button, 0)));
   user.end();
-  user.finds(host.transcript().count(EventKind::rejected) + host.transcript().count(EventKind::asked) == 0,
-             "every command is accepted");
-  user.finds(std::is_permutation(selected.begin(), selected.end(), host.scene().selection().begin(),
-                                 host.scene().selection().end()),
-             "the selection is as it was");
-  const bool hasBones = std::any_of(selected.begin(), selected.end(), [](const Item* item) { return !item->bones.empty(); });
-  user.finds(hasBones, "bones were made");
+  const std::string inVain = refusedInVain(host);
+  user.finds(inVain.empty(), "every command is accepted: " + inVain);
+  user.finds(isSameSelection(selected, host.scene().selection()), "the selection is as it was");
+  for (const std::string& wrong : judge.verdict()) user.finds(false, wrong);
   // A switch whose own command was refused stays where it is.
   const std::string refused = refusedCommand(host.transcript());
   if (!isSwitch(refused)) user.mustHold(allSwitchedBack(host.state()), "everything is switched on again");
-  // The next run, with nothing in its way, works.
-  host.select(selected);
-  panel = session.open(kConversion);
-  user.mustHold(panel != nullptr, "the next run of the conversion opens its panel");
-  if (panel != nullptr) {
+  // The next run, with nothing in its way, works. So does one with nothing selected.
+  for (const std::vector<Item*>& next : {selected, std::vector<Item*>()}) {
+    host.select(next);
+    panel = session.open(kConversion);
+    user.mustHold(panel != nullptr, "the next run of the conversion opens its panel");
+    if (panel == nullptr) continue;
     user.mustHold(person::press(panel->find(ControlKind::Button, 0)).ok, "the next conversion can be run");
     user.mustHold(allSwitchedBack(host.state()), "everything is switched on after the next conversion");
   }
@@ -327,6 +224,7 @@ TripReport conversionTrip(const TripOrder& order) {
 TripReport typicalTrip(const TripOrder& order) {
   TripReport report;
   std::string chosen;
+  std::string map;
   const std::string saved = order.rig->path + ".trip.lwo";
   {
     Traveller user(order, Program::Modeler);
@@ -340,6 +238,12 @@ TripReport typicalTrip(const TripOrder& order) {
     if (panel != nullptr) {
       user.does(person::choose(panel->find(ControlKind::TabChoice, 0), 0));
       user.does(person::choose(panel->find(ControlKind::Popup, 0), kInverseDistance4));
+      chosen = "Neck_01";
+      user.does(person::type(panel->at(kSkelegonName), chosen));
+      user.does(person::choose(panel->find(ControlKind::TabChoice, 0), 1));
+      user.does(person::choose(panel->at(kWeightMapChooser), 1));
+      user.does(person::enter(panel->at(kStrength), 40));
+      map = host.weightMaps().front();
     }
     user.finds(!host.saveAs(saved).has_value(), "the object can be saved");
     report = user.finish();
@@ -360,6 +264,8 @@ TripReport typicalTrip(const TripOrder& order) {
   const Item* const bone = user.session().layout()->scene().find(chosen);
   user.finds(bone != nullptr && bone->kind == ItemKind::bone, "the skelegon became a bone");
   user.finds(bone != nullptr && bone->bone.falloff == kInverseDistance4, "the bone has the falloff that was chosen");
+  user.finds(bone != nullptr && bone->bone.weightMap == map, "the bone has the weight map that was chosen");
+  user.finds(bone != nullptr && bone->bone.strength == 0.4, "the bone has the strength that was entered");
   TripReport second = user.finish();
   report.troubles.insert(report.troubles.end(), second.troubles.begin(), second.troubles.end());
   report.broken.insert(report.broken.end(), second.broken.begin(), second.broken.end());

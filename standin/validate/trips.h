@@ -33,6 +33,9 @@ struct Trip {
   TripReport (*go)(const TripOrder&);
 };
 
+// Each tool used from its opening to its end.
 std::span<const Trip> allTrips();
+// What meets the mesh meanwhile: deletions, closed objects, layers, refusals.
+std::span<const Trip> meshTrips();
 
 }  // namespace standin::validate

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <random>
 #include <string>
 
@@ -18,6 +19,7 @@ struct WalkOrder {
   std::uint64_t seed = 1;
   int actions = 1000;
   HostChoice host = {};
+  std::optional<std::uint32_t> language = {};  // one by the seed when it is not given
 };
 // Fails the run with the first thing that was wrong, and ends there.
 void walkOnce(CheckRun& run, const WalkOrder& order);

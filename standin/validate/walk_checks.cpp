@@ -27,7 +27,7 @@ std::string whereIs(int action, const std::string& last) {
 void walkOnce(CheckRun& run, const WalkOrder& order) {
   Session session(order.program, *order.rig, run.module(), order.host.options());
   if (!session.refusal().empty()) return run.fail(session.refusal());
-  session.setLocale(order.seed % 3 == 0 ? kJapanese : kEnglish);
+  session.setLocale(order.language.value_or(order.seed % 3 == 0 ? kJapanese : kEnglish));
   Walk walk(session, *order.rig, order.seed);
   std::string last;
   for (int action = 0; action < order.actions; ++action) {
@@ -50,7 +50,9 @@ void walks(CheckRun& run, Program program) {
   const std::size_t count = run.shareOf(kWalks / 2);
   for (std::size_t i = 0; i < count; ++i) {
     if (run.step(i, "walk " + std::to_string(i))) {
-      walkOnce(run, {.program = program, .rig = i % 2 == 0 ? &rig : &japanese, .seed = run.seed() * 1000 + i});
+      walkOnce(
+          run,
+          {.program = program, .rig = i % 2 == 0 ? &rig : &japanese, .seed = run.seed() * 1000 + i, .host = run.host()});
     }
   }
 }

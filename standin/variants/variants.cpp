@@ -1,20 +1,34 @@
 #include "standin/variants/variants.h"
 
 #include <algorithm>
+#include <array>
 #include <random>
 
 namespace standin {
 namespace {
 
-std::string tableOf(const char* heading, std::span<const HostVariant> rows) {
-  std::string text = std::string("## ") + heading +
+constexpr std::array kAreas{
+    VariantArea{"both", "Both programs", programVariants},    VariantArea{"panels", "Panels", panelVariants},
+    VariantArea{"mouse", "Mouse and drawing", mouseVariants}, VariantArea{"modeler", "Modeler", modelerVariants},
+    VariantArea{"layout", "Layout", layoutVariants},
+};
+
+template <class Things>
+std::string joined(const Things& things, std::string_view between, std::string_view around = {}) {
+  std::string text;
+  for (const auto& thing : things) {
+    text.append(text.empty() ? std::string_view() : between).append(around).append(thing.name).append(around);
+  }
+  return text;
+}
+
+std::string pageOf(const VariantArea& area) {
+  std::string text = std::string("### ") + area.heading +
                      "\n\n| variant | what may differ | values, the default first | why | what the module does |\n"
                      "| --- | --- | --- | --- | --- |\n";
-  for (const HostVariant& row : rows) {
+  for (const HostVariant& row : area.rows()) {
     text.append("| `").append(row.name).append("` | ").append(row.question).append(" | ");
-    for (const VariantValue& value : row.values) {
-      text.append(&value == row.values.data() ? "`" : ", `").append(value.name).append("`");
-    }
+    text.append(joined(row.values, ", ", "`"));
     text.append(" | ").append(row.why).append(" | ").append(row.module).append(" |\n");
   }
   return text;
@@ -22,33 +36,74 @@ std::string tableOf(const char* heading, std::span<const HostVariant> rows) {
 
 }  // namespace
 
+std::span<const VariantArea> variantAreas() { return kAreas; }
+
 std::span<const HostVariant* const> allVariants() {
   static const std::vector<const HostVariant*> all = [] {
-    std::vector<const HostVariant*> joined;
-    for (const std::span<const HostVariant> area : {panelVariants(), mouseVariants(), modelerVariants(), layoutVariants()}) {
-      for (const HostVariant& row : area) joined.push_back(&row);
+    std::vector<const HostVariant*> rows;
+    for (const VariantArea& area : kAreas) {
+      for (const HostVariant& row : area.rows()) rows.push_back(&row);
     }
-    return joined;
+    return rows;
   }();
   return all;
 }
 
-HostChoice HostChoice::mixture(std::uint64_t seed) {
+// --- a choice -------------------------------------------------------------------------------------------------------------
+
+HostChoice HostChoice::mixture(std::uint64_t seed, const HostChoice& settled) {
   std::mt19937_64 random(seed);
   HostChoice choice;
-  for (std::size_t i = 0; i < choice.picks_.size(); ++i) choice.picks_[i] = random() % allVariants()[i]->values.size();
+  for (std::size_t i = 0; i < choice.picks_.size(); ++i) {
+    const std::size_t pick = random() % allVariants()[i]->values.size();
+    choice.picks_[i] = settled.picks_[i] == 0 ? pick : settled.picks_[i];
+  }
   return choice;
 }
 
-bool HostChoice::choose(std::string_view variant, std::string_view value) {
+namespace {
+
+// The index of the first thing of that name; the number of things when there is none.
+template <class Things>
+std::size_t placeOf(const Things& things, std::string_view name) {
+  const auto found = std::find_if(things.begin(), things.end(), [&](const auto& one) { return one.name == name; });
+  return static_cast<std::size_t>(found - things.begin());
+}
+
+std::size_t rowNamed(std::string_view name) {
   const auto all = allVariants();
-  const auto row = std::find_if(all.begin(), all.end(), [&](const HostVariant* one) { return one->name == variant; });
-  if (row == all.end()) return false;
-  const auto values = (*row)->values;
-  const auto picked = std::find_if(values.begin(), values.end(), [&](const VariantValue& one) { return one.name == value; });
-  if (picked == values.end()) return false;
-  picks_[static_cast<std::size_t>(row - all.begin())] = static_cast<std::size_t>(picked - values.begin());
+  const auto found = std::find_if(all.begin(), all.end(), [&](const HostVariant* row) { return row->name == name; });
+  return static_cast<std::size_t>(found - all.begin());
+}
+
+std::string allNames() {
+  std::string names;
+  for (const HostVariant* row : allVariants()) names.append(names.empty() ? "" : ", ").append(row->name);
+  return names;
+}
+
+}  // namespace
+
+bool HostChoice::choose(std::string_view variant, std::string_view value) {
+  const std::size_t row = rowNamed(variant);
+  if (row == allVariants().size()) return false;
+  const auto values = allVariants()[row]->values;
+  const std::size_t pick = placeOf(values, value);
+  if (pick == values.size()) return false;
+  picks_[row] = pick;
   return true;
+}
+
+std::string HostChoice::take(std::string_view word) {
+  const std::size_t sign = word.find('=');
+  const std::string text(word);
+  if (sign == std::string_view::npos) return "\"" + text + "\" is no NAME=VALUE; the names are " + allNames();
+  const std::string_view name = word.substr(0, sign);
+  const std::size_t row = rowNamed(name);
+  if (row == allVariants().size()) return "hosts do not differ in \"" + std::string(name) + "\"; they do in " + allNames();
+  if (choose(name, word.substr(sign + 1))) return {};
+  return "\"" + text + "\" is no host; the values of " + std::string(name) + " are " +
+         joined(allVariants()[row]->values, ", ");
 }
 
 HostOptions HostChoice::options() const {
@@ -57,29 +112,52 @@ HostOptions HostChoice::options() const {
   return options;
 }
 
-std::string HostChoice::text() const {
-  std::string text;
+std::vector<std::string> HostChoice::words() const {
+  std::vector<std::string> words;
   for (std::size_t i = 0; i < picks_.size(); ++i) {
     const HostVariant& row = *allVariants()[i];
-    if (picks_[i] == 0) continue;
-    text.append(text.empty() ? "" : " ").append(row.name).append("=").append(row.values[picks_[i]].name);
+    if (picks_[i] != 0) words.push_back(std::string(row.name) + "=" + row.values[picks_[i]].name);
   }
+  return words;
+}
+
+std::string HostChoice::text() const {
+  std::string text;
+  for (const std::string& word : words()) text.append(text.empty() ? "" : " ").append(word);
   return text.empty() ? "the default host" : text;
 }
 
-std::vector<HostChoice> singleChoices() {
+std::vector<HostChoice> singleChoices(std::span<const HostVariant> rows, const HostChoice& base) {
   std::vector<HostChoice> choices;
-  for (const HostVariant* row : allVariants()) {
-    for (const VariantValue& value : row->values.subspan(1)) {
-      if (!choices.emplace_back().choose(row->name, value.name)) choices.pop_back();
+  for (const HostVariant& row : rows) {
+    const std::size_t place = rowNamed(row.name);
+    for (std::size_t pick = 0; pick < row.values.size(); ++pick) {
+      if (pick == base.picks_[place]) continue;
+      choices.push_back(base);
+      choices.back().picks_[place] = pick;
     }
   }
   return choices;
 }
 
+// --- the table ------------------------------------------------------------------------------------------------------------
+
+std::string variantsText() {
+  std::string text;
+  for (const VariantArea& area : kAreas) {
+    text.append(text.empty() ? "" : "\n").append(area.heading).append("\n");
+    for (const HostVariant& row : area.rows()) {
+      text.append("  ").append(row.name).append("  ").append(joined(row.values, ", ")).append("\n      ");
+      text.append(row.question).append("\n");
+    }
+  }
+  return text;
+}
+
 std::string variantsPage() {
-  return tableOf("Panels", panelVariants()) + "\n" + tableOf("Mouse and drawing", mouseVariants()) + "\n" +
-         tableOf("Modeler", modelerVariants()) + "\n" + tableOf("Layout", layoutVariants());
+  std::string text;
+  for (const VariantArea& area : kAreas) text.append(text.empty() ? "" : "\n").append(pageOf(area));
+  return text;
 }
 
 }  // namespace standin

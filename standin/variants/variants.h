@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "standin/core/options.h"
 #include "standin/layout/options.h"
 #include "standin/modeler/options.h"
 #include "standin/panels/options.h"
@@ -20,9 +21,12 @@ namespace standin {
 
 // A whole host, as far as hosts may differ.
 struct HostOptions {
+  ProgramOptions program;
   PanelOptions panels;
   ModelerOptions modeler;
   LayoutOptions layout;
+
+  bool operator==(const HostOptions&) const = default;
 };
 
 struct VariantValue {
@@ -38,12 +42,20 @@ struct HostVariant {
   std::span<const VariantValue> values;  // the default first
 };
 
-// The rows of each area, in the order in which they are printed.
+std::span<const HostVariant> programVariants();
 std::span<const HostVariant> panelVariants();
 std::span<const HostVariant> mouseVariants();
 std::span<const HostVariant> modelerVariants();
 std::span<const HostVariant> layoutVariants();
-// All of them, in that order.
+
+struct VariantArea {
+  const char* name;  // of the check "hosts-NAME", which plays its rows
+  const char* heading;
+  std::span<const HostVariant> (*rows)();
+};
+// In the order in which they are printed.
+std::span<const VariantArea> variantAreas();
+// The rows of all areas, in that order.
 std::span<const HostVariant* const> allVariants();
 
 // One value for each variant.
@@ -51,23 +63,32 @@ class HostChoice {
  public:
   // The default of each.
   HostChoice() : picks_(allVariants().size(), 0) {}
-  // A value of each by chance; the same for the same seed.
-  static HostChoice mixture(std::uint64_t seed);
+  // A value of each by chance, the same for the same seed; but what another choice has settled stays.
+  static HostChoice mixture(std::uint64_t seed, const HostChoice& settled = {});
 
   // False when there is no such variant or value.
   [[nodiscard]] bool choose(std::string_view variant, std::string_view value);
+  // Takes "open-answer=0". Gives a sentence with what there is when that cannot be taken, else nothing.
+  [[nodiscard]] std::string take(std::string_view word);
+
   HostOptions options() const;
-  // What differs from the defaults, "open-answer=0 mouse=control"; "the default host" when nothing does.
+  // What differs from the defaults, as words that take() takes.
+  std::vector<std::string> words() const;
+  // The same as one text: "open-answer=0 mouse=control"; "the default host" when nothing differs.
   std::string text() const;
+  bool operator==(const HostChoice&) const = default;
 
  private:
+  friend std::vector<HostChoice> singleChoices(std::span<const HostVariant> rows, const HostChoice& base);
+
   std::vector<std::size_t> picks_;
 };
 
-// Each variant with each value but its default, alone.
-std::vector<HostChoice> singleChoices();
+// The hosts that differ from the base in one of the rows: each row with each value that the base does not have.
+std::vector<HostChoice> singleChoices(std::span<const HostVariant> rows, const HostChoice& base = {});
 
-// The tables of docs/stand-in.md, in Markdown.
+// The table for people at a terminal, and for the documents (in Markdown).
+std::string variantsText();
 std::string variantsPage();
 
 }  // namespace standin

@@ -42,7 +42,7 @@ std::vector<HWND> disableAllBut(HWND window) {
 WindowsFront::WindowsFront() {
   useCommonControls();
   panels().listener = this;
-  panels().options.blocking = [this](Panel& panel) { return runBlocking(panel); };
+  panels().blocking = [this](Panel& panel) { return runBlocking(panel); };
   for (Panel* panel : panels().open()) opened(*panel);
 }
 
@@ -51,7 +51,7 @@ WindowsFront::~WindowsFront() {
   left_.clear();
   if (panels().listener != this) return;
   panels().listener = nullptr;
-  panels().options.blocking = nullptr;
+  panels().blocking = nullptr;
 }
 
 PanelWindow* WindowsFront::windowOf(const Panel& panel) const {

@@ -220,9 +220,22 @@ TEST_F(InModeler, WithoutALookupFunctionNothingIsAcquired) {
   EXPECT_FALSE(AcquireHostGlobals(Program::Modeler, nullptr, &command));
   ModelerFunctions functions;
   AcquireModelerFunctions(functions, nullptr, &command);
-  EXPECT_TRUE(functions.filled);
+  EXPECT_FALSE(functions.filled);
   EXPECT_EQ(functions.evaluate, nullptr);
   EXPECT_EQ(functions.editBegin, nullptr);
+}
+
+TEST_F(InModeler, TheLargerTableIsFilledAfterAnActivationWithoutALookupFunction) {
+  ModelerFunctions functions;
+  AcquireModelerFunctions(functions, nullptr, &command);
+  AcquireModelerFunctions(functions, standin::Globals::lookup(), &command);
+  EXPECT_EQ(functions.evaluate, command.evaluate);
+  EXPECT_EQ(functions.global, standin::Globals::lookup());
+}
+
+TEST_F(InLayout, InterfaceDataWithoutALookupFunctionAreAFailureOfTheHost) {
+  EXPECT_FALSE(AcquireHostGlobals(Program::Layout, nullptr, nullptr));
+  EXPECT_THROW(RefreshInterfaceInfo(), ex::CBaseEx);
 }
 
 TEST_F(InModeler, LoadersLeaveTheirListsAsLongAsTheyAre) {

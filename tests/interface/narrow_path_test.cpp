@@ -27,6 +27,17 @@ TEST(ToNarrowPath, LeavesThePathBeforeForOneThatIsTooLong) {
     EXPECT_EQ(path.ToNarrowPath(pathOf(units).c_str()), "before.lwo") << units;
 }
 
+// Names are taken from the UTF-8 form, so that has to be of the same path.
+TEST(ToNarrowPath, KeepsTheUtf8FormOfThePathThatItGives) {
+  NarrowPath path;
+  path.ToNarrowPath("ソ/before.lwo");
+  EXPECT_EQ(path.utf8(), "ソ/before.lwo");
+  path.ToNarrowPath(pathOf(260).c_str());
+  EXPECT_EQ(path.utf8(), "ソ/before.lwo");
+  path.ToNarrowPath(nullptr);
+  EXPECT_EQ(path.utf8(), "");
+}
+
 TEST(ToNarrowPath, CountsUnitsNotBytes) {
   NarrowPath path;
   std::string japanese;

@@ -34,7 +34,8 @@ inline constexpr const char* kFaultVariable = "VARNEL_FAULT";
   row(CrashesAtLongText,      "crashes-at-long-text")                                              \
   row(HangsAtPercent,         "hangs-at-percent")         /* a text with "%n"                   */ \
   row(CrashesAtDamagedFile,   "crashes-at-damaged-file")  /* of four bytes                      */ \
-  row(LeaksMemory,            "leaks-memory")             /* at each event                      */
+  row(LeaksMemory,            "leaks-memory")             /* at each event                      */ \
+  row(GivesUpAtNestedEvents,  "gives-up-at-nested-events") /* hears nothing any more after one  */
 // clang-format on
 
 #define VARNEL_FAULT_ENUMERATOR(name, word) name,

@@ -323,7 +323,7 @@ TEST(AddNull, MakesNamesAndSelectsANull) {
 
 TEST(AddNull, KeepsTheSelectionWhereTheHostDoesNotSelectNewNulls) {
   LayoutOptions options;
-  options.newNullSelected = false;
+  options.newNull = NewItems::Left;
   LayoutSession session(options);
   session.send("AddNull Foot");
   EXPECT_EQ(session.interfaceInfo()->selItems[0], nullptr);

@@ -239,7 +239,7 @@ TEST(ObjectInfo, GivesFileAndLayer) {
 
 TEST(ObjectInfo, OfANullHasAnEmptyFileNameWhereTheHostGivesOne) {
   LayoutOptions options;
-  options.nullFileNameIsEmpty = true;
+  options.nullFileName = NoFileName::Empty;
   LayoutSession session(options);
   EXPECT_STREQ(session.objects()->filename(session.id(session.scene().addNull("A"))), "");
 }

@@ -234,7 +234,7 @@ TEST_F(PanelLife, AnOpenPanelIsFoundBeforeAClosedOne) {
 
 TEST_F(PanelLife, ABlockingPanelGivesThePersonsAnswerAndIsClosedAfterwards) {
   const lw::PanelId panel = make();
-  panels().options.blocking = [](Panel& shown) { return shown.isOpen() ? 1 : -1; };
+  panels().blocking = [](Panel& shown) { return shown.isOpen() ? 1 : -1; };
   EXPECT_EQ(1, services->open(panel, lw::kOpenBlocking));
   EXPECT_FALSE(isOpenNow(panel));
 }

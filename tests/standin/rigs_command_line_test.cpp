@@ -1,14 +1,13 @@
 // The subcommands as they are typed: what they print, what they write and their exit codes.
 #include <gmock/gmock.h>
 
-#include <CLI/CLI.hpp>
 #include <fstream>
 #include <iostream>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
 #include "standin/program/replace_file.h"
-#include "standin/program/rig_tools.h"
+#include "standin/program/subcommands.h"
 #include "standin/program/support.h"
 #include "tests/standin/rigs_fixture.h"
 
@@ -38,23 +37,12 @@ class RigCommandLine : public testing::Test {
  protected:
   // Runs "varnel WORDS"; the exit code.
   int run(std::vector<std::string> words) {
-    CLI::App app{"", "varnel"};
-    app.require_subcommand(1);
-    app.allow_windows_style_options(false);
-    int result = 0;
-    addInspectCommand(app, result);
-    addCommandsCommand(app, result);
-    addDiffCommand(app, result);
-    addExportCommand(app, result);
-    addImportCommand(app, result);
-    std::reverse(words.begin(), words.end());
+    const Program program{
+        .commands = {inspectCommand(), commandsCommand(), diffCommand(), exportCommand(), importCommand()},
+    };
     const Caught out(std::cout);
     const Caught error(std::cerr);
-    try {
-      app.parse(words);
-    } catch (const CLI::ParseError& refused) {
-      result = app.exit(refused);
-    }
+    const int result = runCommandLine(program, std::move(words));
     out_ = out.text();
     error_ = error.text();
     return result;

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "layout/narrow_path.h"
 #include "standin/layout/layout_host.h"
 #include "standin/objectfile/chunk_records.h"
 #include "standin/rigs/names_in_layout.h"
@@ -179,6 +180,16 @@ TEST_F(Findings, TheNameOfANullCountsWithTheObjectsName) {
   EXPECT_THAT(found(sound.rig()), ElementsAre("becomes-null Rig / Hand / Goal Object"));
   sound.set(sound.hand, 55, "[file]:" + std::string(left - 3, 'x'));
   EXPECT_THAT(found(sound.rig()), testing::Contains("command-too-long Rig / Hand / Goal Object"));
+}
+
+TEST_F(Findings, APathThatIsTooLongIsNotOpened) {
+  static_assert(kLongestPath == lwp::kPathBufferUnits - 1);
+  Rig rig = sound.rig();
+  rig.pathLength = kLongestPath;
+  EXPECT_THAT(found(rig), IsEmpty());
+  rig.pathLength = kLongestPath + 1;
+  EXPECT_THAT(found(rig), ElementsAre("path-too-long"));
+  EXPECT_THAT(sentence(rig), HasSubstr("has 260 characters, more than the 259"));
 }
 
 TEST_F(Findings, AFileNameOutsideTheCodePageIsNotFound) {

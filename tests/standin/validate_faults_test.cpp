@@ -1,5 +1,6 @@
 // Every level can fail: each fault of the bad module is found by its check, with the right verdict and words.
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 #include <ostream>
 
@@ -44,6 +45,7 @@ constexpr Expectation kExpectations[] = {
     {BadFault::CrashesAtLongText,     9, "hostile-texts",     Verdict::crash, "64 KB"},
     {BadFault::HangsAtPercent,        9, "hostile-texts",     Verdict::hang,  "percent signs"},
     {BadFault::CrashesAtDamagedFile,  9, "damaged-objects",   Verdict::crash, "four bytes"},
+    {BadFault::GivesUpAtNestedEvents, 11, "hosts-panels",     Verdict::fail,  "sets=fire"},
 #ifndef _WIN32  // where a module's memory can be watched
     {BadFault::ThrowsWithoutMemory,   7, "memory-conversion", Verdict::fail,  "let an exception out into the host"},
     {BadFault::CrashesWithoutMemory,  7, "memory-conversion", Verdict::crash, ""},
@@ -79,6 +81,37 @@ INSTANTIATE_TEST_SUITE_P(Faults, BadModule, testing::ValuesIn(kExpectations), []
   std::erase(name, '-');
   return name;
 });
+
+// The default host never fires an event while another one runs, so no other level and no other host finds this fault.
+TEST_F(Validation, NamesTheHostOnWhichAModuleFails) {
+  choose(BadFault::GivesUpAtNestedEvents);
+  for (const CheckResult& result :
+       runChecks(orderOf(sampleModule("bad_module"), {"trip-property", "trip-renamer", "hosts-panels", "hosts-modeler"}))) {
+    const bool isFound = std::strcmp(result.check->name, "hosts-panels") == 0;
+    EXPECT_STREQ(nameOf(result.verdict), isFound ? "fail" : "pass") << result.check->name;
+    for (const Finding& finding : result.findings) {
+      EXPECT_TRUE(finding.where.starts_with("sets=fire, ")) << finding.where << ": " << finding.what;
+    }
+  }
+}
+
+TEST_F(Validation, PassesTheRealModuleOnEveryHost) {
+  RunOrder order = orderOf(modulePath(), {});
+  order.firstLevel = order.lastLevel = 11;
+  for (const CheckResult& result : runChecks(order)) {
+    EXPECT_STREQ(nameOf(result.verdict), "pass") << result.check->name;
+    for (const Finding& finding : result.findings) ADD_FAILURE() << finding.where << ": " << finding.what;
+  }
+}
+
+// The bad module shows it: what it fails on this host only, it fails in every level that is played there.
+TEST_F(Validation, PlaysEveryLevelOnTheHostThatIsChosen) {
+  choose(BadFault::GivesUpAtNestedEvents);
+  RunOrder order = orderOf(sampleModule("bad_module"), {"trip-renamer"});
+  EXPECT_STREQ(nameOf(runChecks(order).at(0).verdict), "pass");
+  ASSERT_EQ(order.host.take("sets=fire"), "");
+  EXPECT_STREQ(nameOf(runChecks(order).at(0).verdict), "fail");
+}
 
 TEST(BadModules, FailOnEveryLevel) {
   for (int level = kFirstLevel; level <= kLastLevel; ++level) {

@@ -53,6 +53,34 @@ TEST_F(ValidateCommand, RefusesAMissingFile) {
   EXPECT_NE(output.find("there is no file"), std::string::npos) << output;
 }
 
+TEST_F(ValidateCommand, SplitsTheHostsByArea) {
+  EXPECT_EQ(varnel({"--list", "--level", "11-11"}), 0);
+  for (const VariantArea& area : variantAreas()) {
+    EXPECT_NE(output.find(std::string("hosts-") + area.name + "\n"), std::string::npos) << area.name;
+  }
+  EXPECT_NE(output.find("hosts-mixed\n"), std::string::npos) << output;
+}
+
+TEST_F(ValidateCommand, PlaysOnTheHostsThatAreNamed) {
+  EXPECT_EQ(varnel({"--host", "sets=fire", "--host", "new-bones=selected", modulePath(), "--only", "trip-typical",
+                    "--report", utf8Text(folder_ / "report")}),
+            0)
+      << output;
+  EXPECT_NE(readFileBytes(utf8Text(folder_ / "report" / "report.txt"))->find("on      sets=fire new-bones=selected"),
+            std::string::npos);
+}
+
+TEST_F(ValidateCommand, RefusesAnUnknownHostAndNamesThoseThatThereAre) {
+  EXPECT_EQ(varnel({modulePath(), "--host", "nonsense=1"}), 2);
+  EXPECT_NE(output.find("hosts do not differ in \"nonsense\""), std::string::npos) << output;
+  EXPECT_NE(output.find("new-bones"), std::string::npos) << output;
+}
+
+TEST_F(ValidateCommand, RefusesAnUnknownValueAndNamesThoseThatThereAre) {
+  EXPECT_EQ(varnel({modulePath(), "--host", "sets=nonsense"}), 2);
+  EXPECT_NE(output.find("the values of sets are silent, fire"), std::string::npos) << output;
+}
+
 TEST_F(ValidateCommand, ListsTheChecksOfALevel) {
   EXPECT_EQ(varnel({"--list", "--level", "3-3"}), 0);
   EXPECT_NE(output.find("withheld"), std::string::npos) << output;

@@ -31,6 +31,14 @@ TEST(ValidationReport, NamesCheckVerdictAndPlace) {
   EXPECT_TRUE(holds(text, "seed    77")) << text;
 }
 
+TEST(ValidationReport, NamesTheHostUnlessItIsTheDefault) {
+  ReportHead head = someHead();
+  EXPECT_FALSE(holds(reportText(head, {}), "on      "));
+  head.host = "sets=fire";
+  EXPECT_TRUE(holds(reportText(head, {}), "on      sets=fire\n"));
+  EXPECT_TRUE(holds(reportPage(head, {}), "on      sets=fire\n"));
+}
+
 TEST(ValidationReport, CountsByLevelAndInAll) {
   const std::string text = reportText(someHead(), twoResults());
   EXPECT_TRUE(holds(text, " 8 walks             0     0     1     0     0        40         7")) << text;

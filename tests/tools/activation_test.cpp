@@ -80,6 +80,37 @@ TEST_F(LayoutActivation, TellsThePanelServicesHowToLookUp) {
   EXPECT_EQ(panelServices()->globalFun, Globals::lookup());
 }
 
+// As the host would call it, but with nothing to look services up by.
+std::optional<int> activateWithoutLookup(ModuleFile& module, const char* server, int version, void* local) {
+  const lw::ServerRecord* const record = module.server(server);
+  if (record == nullptr) return std::nullopt;
+  return callModule(server, [&] { return record->activate(version, nullptr, local, nullptr); });
+}
+
+TEST_F(LayoutActivation, GivesTwoWithoutALookupFunction) {
+  EXPECT_EQ(activateWithoutLookup(module, kConversionTool, 7, nullptr), 2);
+  EXPECT_TRUE(globals().asked().empty());
+}
+
+TEST_F(LayoutActivation, LooksAtTheVersionBeforeTheLookupFunction) {
+  EXPECT_EQ(activateWithoutLookup(module, kConversionTool, 4, nullptr), 1);
+}
+
+TEST_F(LayoutActivation, ReportsARunOfItsPanelWhenALaterActivationBroughtNoLookupFunction) {
+  host.select(load(twoBones({{13, "2"}})));
+  Panel* const panel = openTool();
+  ASSERT_NE(panel, nullptr);
+  EXPECT_EQ(activateWithoutLookup(module, kConversionTool, 7, nullptr), 2);
+  ASSERT_TRUE(person::press(panel->find(ControlKind::Button, 0)));
+  EXPECT_TRUE(statusSays("*** ERROR: g_global( LWINTERFACEINFO_GLOBAL, GFUSE_TRANSIENT ) ***")) << host.transcript().text();
+}
+
+TEST_F(LayoutActivation, WorksAgainAfterAnActivationWithoutALookupFunction) {
+  EXPECT_EQ(activateWithoutLookup(module, kConversionTool, 7, nullptr), 2);
+  convert(load(twoBones({{13, "2"}})));
+  EXPECT_EQ(item("Bone").bone.falloff, 2);
+}
+
 TEST_F(LayoutActivation, ReportsARunThatMadeNoPanelAndIsDoneAllTheSame) {
   // The lookups come first; one call further on the panel is created.
   ASSERT_EQ(host.activate(module, kConversionTool), 0);
@@ -150,6 +181,21 @@ TEST_F(ModelerActivation, GivesTwoWithoutAnyOneOfItsServices) {
       }
     }
   }
+}
+
+TEST_F(ModelerActivation, GivesTwoWithoutALookupFunction) {
+  for (const char* const server : kModelerServers) {
+    EXPECT_EQ(activateWithoutLookup(module, server, 4, &command), 2) << server;
+    EXPECT_EQ(activateWithoutLookup(module, server, 7, &command), 1) << server;
+  }
+  EXPECT_TRUE(globals().asked().empty());
+}
+
+TEST_F(ModelerActivation, FillsTheLargerTableAfterAnActivationWithoutALookupFunction) {
+  EXPECT_EQ(activateWithoutLookup(module, "Orlo:SkelegonSelector", 4, &command), 2);
+  globals().withhold("LW Light Info 6");
+  EXPECT_EQ(module.activate("Orlo:SkelegonSelector", 4, &command), 2);
+  EXPECT_EQ(timesAsked("Texture Editor 3"), 1u);
 }
 
 TEST_F(ModelerActivation, GivesTwoWithoutAnyOneOfTheCommandsMembers) {

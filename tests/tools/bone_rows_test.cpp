@@ -361,6 +361,21 @@ TEST_F(BoneRows, ToggleNothingOnABoneThatIsAsWanted) {
   }
 }
 
+// Deliberately the number that was sent: this host keeps objective 0, for it does not know 7.
+TEST_F(BoneRows, JudgeSoftIKByTheObjectiveThatWasSent) {
+  convert(load(twoBones({{55, "goal"}, {56, "7"}, {62, "1"}, {63, "2"}})));
+  EXPECT_EQ(item("Bone").settings.ik.objective, 0);
+  EXPECT_FALSE(isSentInAnyForm(commandsOfSkelegon(1), "SoftIK"));
+  EXPECT_FALSE(isSentInAnyForm(commandsOfSkelegon(1), "SoftIKDistanceType"));
+}
+
+TEST_F(BoneRows, SendTheGreatestNumberForOneBeyond32Bits) {
+  convert(load(twoBones({{13, "99999999999"}, {16, "99999999999"}}, {{13, "-99999999999"}})));
+  EXPECT_TRUE(isSent(commandsOfSkelegon(1), "BoneFalloffType 2147483647"));
+  EXPECT_TRUE(isSent(commandsOfSkelegon(1), "BoneMode 2147483647"));
+  EXPECT_TRUE(isSent(commandsOfSkelegon(0), "BoneFalloffType -2147483647"));
+}
+
 TEST_F(BoneRows, NeedTheSourceObjectToBeThere) {
   convert(load(twoBones({{12, "nowhere"}})));
   EXPECT_TRUE(statusSays("bone_set_params(): !(Bone)")) << host.transcript().text();

@@ -4,6 +4,7 @@
 #include <tuple>
 
 #include "standin/core/globals.h"
+#include "standin/objectfile/file_bytes.h"
 #include "tests/tools/conversion_fixture.h"
 
 namespace standin {
@@ -11,6 +12,8 @@ namespace {
 
 class Conversion : public ConversionTest {
  protected:
+  explicit Conversion(const LayoutOptions& options = {}) : ConversionTest(options) {}
+
   // A rig of one chain in a layer of that number and name.
   static ObjectFile chainIn(std::uint16_t number, const std::string& layerName, const std::string& bone,
                             const StoredSettings& settings) {
@@ -102,6 +105,50 @@ TEST_F(Conversion, MatchesTheOnlyLayerZeroByTheFileName) {
 
 TEST_F(Conversion, MatchesTheOnlyLayerOfAnotherNumberByItsOwnName) {
   convert(load(chainIn(2, "Tail", "Bone", {{13, "2"}}), "arm.lwo"));
+  EXPECT_EQ(item("Bone").bone.falloff, 2);
+}
+
+// The number of the first layer is 0, or 1 where the host counts from 1.
+class LayersFromOne : public Conversion {
+ protected:
+  static LayoutOptions fromOne() {
+    LayoutOptions options;
+    options.layerBase = 1;
+    return options;
+  }
+  LayersFromOne() : Conversion(fromOne()) {}
+};
+
+TEST_F(LayersFromOne, AreMatchedByTheFileNameToo) {
+  convert(load(chainIn(0, "Anything", "Bone", {{13, "2"}, {52, "[file]:tar"}}), "arm.lwo"));
+  EXPECT_EQ(item("Bone").bone.falloff, 2);
+  EXPECT_TRUE(has("arm:tar"));
+}
+
+// Of such an object nothing is known, deliberately: the file that was read last is read again, and the object's own name is not
+// the name of that.
+TEST_F(Conversion, GivesNothingOfTheFileBeforeToAnObjectWhosePathIsTooLong) {
+  const std::vector<Item*> before = load(chainIn(0, "", "Bone", {{13, "2"}, {26, "1"}}), "before.lwo");
+  const std::string longPath = folder.file(std::string(260, 'p')) + "/after.lwo";
+  const std::vector<Item*> after = host.scene().addObject(chainIn(0, "", "Other", {}), longPath);
+  convert({before[0], after[0]});
+  EXPECT_EQ(countOf("BoneFalloffType"), 1u);
+  EXPECT_TRUE(statusSays("Orlo:SkelegonOptimize done."));
+}
+
+TEST_F(Conversion, StopsAtAPathThatIsTooLongWhenNothingWasReadBefore) {
+  convert(host.scene().addObject(chainIn(0, "", "Bone", {{13, "2"}}), folder.file(std::string(260, 'p')) + "/first.lwo"));
+  EXPECT_TRUE(statusSays("*** ERROR:  ***")) << host.transcript().text();
+}
+
+// What the host loaded is sound; what lies on the disk when it is converted has no chunk with points.
+TEST_F(Conversion, ReadsTheSettingsOfSkelegonsWhosePointsAreNotInTheFile) {
+  const std::vector<Item*> items = load(chainIn(0, "", "Bone", {{13, "2"}}));
+  const std::string path = folder.file("rig.lwo");
+  std::string bytes = *readFileBytes(path);
+  bytes.replace(bytes.find("PNTS"), 4, "XXXX");
+  ASSERT_FALSE(writeFileBytes(path, bytes).has_value());
+  convert(items);
   EXPECT_EQ(item("Bone").bone.falloff, 2);
 }
 

@@ -1,5 +1,7 @@
 // The nulls that a conversion makes for goals, targets and the like: where they are put, whose children they become, how they look.
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 #include "tests/tools/conversion_fixture.h"
 
@@ -224,21 +226,116 @@ TEST_F(HelperItems, GetNoShapeUnlessStoredSo) {
   EXPECT_TRUE(item("tar").settings.servers.empty());
 }
 
-class NullNotSelected : public HelperItems {
+// Hosts that leave the bone selected, alone or first, when they make a null: it must not be taken for the null.
+class NullNotSelected : public HelperItems, public testing::WithParamInterface<NewItems> {
  protected:
-  static LayoutOptions leftUnselected() {
+  static LayoutOptions withHabit() {
     LayoutOptions options;
-    options.newNullSelected = false;
+    options.newNull = GetParam();
     return options;
   }
-  NullNotSelected() : HelperItems(leftUnselected()) {}
+  NullNotSelected() : HelperItems(withHabit()) {}
 };
 
-// What is selected is still the bone then, and must not be taken for the null.
-TEST_F(NullNotSelected, IsReportedAndTheBoneIsNotMoved) {
+INSTANTIATE_TEST_SUITE_P(Habits, NullNotSelected, testing::Values(NewItems::Left, NewItems::Added));
+
+TEST_P(NullNotSelected, IsFoundAndPlacedAllTheSame) {
+  host.select(load(twoBones({{110, "scl"}, {52, "tar"}})));
+  run(/*makeBones=*/true, /*recordPivot=*/false);
+  EXPECT_FALSE(statusSays("*** ERROR: createNull() ! ***")) << host.transcript().text();
+  EXPECT_EQ(item("Bone").settings.target, &item("tar"));
+  EXPECT_EQ(item("Bone").settings.same[2].item, &item("scl"));
+  EXPECT_LT(worstDifference(placementOf("scl"), placementOf("Bone"), true), 1e-9);
+}
+
+TEST_P(NullNotSelected, LeavesTheBoneWhereItIs) {
   convert(load(twoBones({{110, "scl"}, {52, "tar"}})));
-  EXPECT_TRUE(statusSays("*** ERROR: createNull() ! ***")) << host.transcript().text();
   EXPECT_EQ(Scene::motionAt(item("Bone"), kAxisX, 0)[2], 1);
+}
+
+class NothingSelected : public HelperItems {
+ protected:
+  static LayoutOptions cleared() {
+    LayoutOptions options;
+    options.newNull = NewItems::Cleared;
+    return options;
+  }
+  NothingSelected() : HelperItems(cleared()) {}
+};
+
+// Deliberately, though the null can be found by its name: with nothing selected there counts as none made.
+TEST_F(NothingSelected, AfterANullIsReported) {
+  convert(load(twoBones({{52, "tar"}})));
+  EXPECT_TRUE(statusSays("*** ERROR: createNull() ! ***")) << host.transcript().text();
+}
+
+TEST_F(NothingSelected, AfterANullDoesNotHideItFromTheNextSearch) {
+  convert(load(twoBones({{52, "tar"}}, {{142, "tar"}})));  // the root's initial position item is only reported
+  EXPECT_EQ(countOf("AddNull tar"), 1u);
+  EXPECT_EQ(item("Bone").settings.target, &item("tar"));
+}
+
+// Another plug-in that does something once, behind the first command of that name.
+class OtherPlugin : public HelperItems {
+ protected:
+  using Deed = std::function<void(Scene&)>;
+  static inline std::string command;
+  static inline Deed deed;
+
+  static LayoutOptions withPlugin() {
+    LayoutOptions options;
+    options.otherPlugin = [](Scene& scene, std::string_view sent) {
+      if (!deed || !sent.starts_with(command)) return;
+      const Deed now = std::exchange(deed, nullptr);
+      now(scene);
+    };
+    return options;
+  }
+  OtherPlugin() : HelperItems(withPlugin()) {}
+
+  void convertWith(const StoredSettings& settings, const std::string& behind, Deed what) {
+    command = behind;
+    deed = std::move(what);
+    convert(load(twoBones(settings)));
+    EXPECT_FALSE(deed) << "never came to it";
+  }
+};
+
+TEST_F(OtherPlugin, ThatAddsAnItemSavesANull) {
+  convertWith({{52, "tar"}, {53, "pole"}}, "AddNull tar", [](Scene& scene) { scene.addNull("pole"); });
+  EXPECT_EQ(countOf("AddNull pole"), 0u);
+  EXPECT_EQ(item("Bone").settings.pole, &item("pole"));
+}
+
+TEST_F(OtherPlugin, ThatRenamesAnItemSavesANull) {
+  Item& carrier = host.scene().addNull("carrier");
+  convertWith({{52, "tar"}, {53, "pole"}}, "AddNull tar", [&](Scene& scene) { scene.rename(carrier, "pole"); });
+  EXPECT_EQ(countOf("AddNull"), 1u);
+  EXPECT_EQ(item("Bone").settings.pole, &carrier);
+}
+
+TEST_F(OtherPlugin, ThatTakesANameAwayCostsANull) {
+  Item& carrier = host.scene().addNull("pole");
+  convertWith({{52, "tar"}, {53, "pole"}}, "AddNull tar", [&](Scene& scene) { scene.rename(carrier, "carrier"); });
+  EXPECT_EQ(countOf("AddNull pole"), 1u);
+  EXPECT_NE(item("Bone").settings.pole, &carrier);
+}
+
+TEST_F(OtherPlugin, ThatAddsAParentInTimeIsNotOverlooked) {
+  convertWith({{52, "tar"}, {130, "late"}}, "TargetItem", [](Scene& scene) { scene.addNull("late"); });
+  EXPECT_EQ(item("tar").parent, &item("late"));
+}
+
+TEST_F(OtherPlugin, ThatSortsTheItemsChangesNothing) {
+  host.scene().addNull("first");
+  convertWith({{52, "tar"}, {53, "pole"}, {131, "first"}, {130, "Root"}}, "AddNull tar", [](Scene& scene) {
+    for (std::size_t i = 0; i < 3; ++i) scene.moveInList(*scene.objects().back(), 0);
+    Item& bone = *scene.find("Bone");
+    scene.moveInList(bone, 0);
+  });
+  EXPECT_EQ(item("Bone").settings.pole, &item("pole"));
+  EXPECT_EQ(item("pole").parent, &item("first"));
+  EXPECT_EQ(item("tar").parent, &item("Root"));
 }
 
 class ManyKeys : public HelperItems {

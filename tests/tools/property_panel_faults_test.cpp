@@ -1,6 +1,7 @@
 // The property panel on hosts that refuse calls or behave oddly.
 #include <functional>
 
+#include "skelegon/slot_table.h"
 #include "tests/tools/property_panel_fixture.h"
 
 namespace varnel::test {
@@ -11,7 +12,7 @@ namespace {
 
 TEST_F(PropertyPanel, SettingValuesWritesNothingWhereTheHostFiresEvents) {
   standin::panels().options.setsFireEvents = true;
-  for (const skg::SlotRow& row : skg::slotTable()) store("Hips", skg::plainSlotTagId(skg::indexOf(row.slot)), "odd text");
+  for (const skg::SlotRow& row : skg::kSlotTable) store("Hips", skg::plainSlotTagId(skg::indexOf(row.slot)), "odd text");
   const std::string before = everythingStored();
   openWith({"Hips", "Chest"});
   sync();

@@ -2,6 +2,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "skelegon/slot_table.h"
 #include "tests/tools/property_panel_fixture.h"
 
 namespace varnel::test {
@@ -9,11 +10,9 @@ namespace {
 
 using skg::SlotKind;
 
-const skg::SlotRow& rowOf(Slot slot) { return skg::slotTable()[skg::indexOf(slot)]; }
-
 std::vector<Slot> everySetting() {
   std::vector<Slot> slots;
-  for (const skg::SlotRow& row : skg::slotTable()) {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
     if (row.kind != SlotKind::Reserved && row.slot != Slot::Name) slots.push_back(row.slot);
   }
   return slots;

@@ -1,4 +1,5 @@
 // Bone settings read from and written to the mesh, and the skelegon tree built from it.
+#include "skelegon/slot_table.h"
 #include "modeler/property_store.h"
 
 #include "modeler/skelegon_scan.h"
@@ -26,7 +27,7 @@ class PropertyStore : public MeshTest {
 
 TEST_F(PropertyStore, ASkelegonWithoutTagsHasEveryDefault) {
   const skg::SkelegonProperties properties = mst::ReadSkelegonProperties(mesh.unnamed());
-  for (const skg::SlotRow& row : skg::slotTable()) EXPECT_EQ(properties[row.slot], row.defaultText) << row.setting;
+  for (const skg::SlotRow& row : skg::kSlotTable) EXPECT_EQ(properties[row.slot], row.defaultText) << row.setting;
 }
 
 TEST_F(PropertyStore, NoSkelegonHasEveryDefaultAndAsksTheHostNothing) {
@@ -183,6 +184,67 @@ TEST_F(PropertyStore, SkelegonsOfAClosedObjectAreLeftOut) {
   EXPECT_EQ(mesh.storedTag("Hips", copyTag(Slot::Strength)), std::nullopt);
 }
 
+// Hosts whose identifiers are addresses give that of a deleted skelegon to what is made next.
+class PropertyStoreOfUsedIdentifiers : public PropertyStore {
+ protected:
+  PropertyStoreOfUsedIdentifiers() { standin::modelerSession()->handles.useAgain(); }
+
+  const standin::MeshPolygon& faceInPlaceOf(const std::string& name) {
+    const lw::PolygonId gone = mesh.id(name);
+    mesh.host.deleteSkelegons({name});
+    const auto& points = mesh.object->points();
+    const standin::MeshPolygon& face = mesh.object->addFace(0, {points[0].id, points[1].id, points[2].id});
+    EXPECT_EQ(face.id, gone);
+    return face;
+  }
+};
+
+TEST_F(PropertyStoreOfUsedIdentifiers, AFaceInTheSkelegonsPlaceGetsNoTags) {
+  const auto skelegons = scanned({"Hips", "Chest"});
+  const standin::MeshPolygon& face = faceInPlaceOf("Chest");
+  mst::WriteSlotValue(skelegons, Slot::Strength, "50.000000");
+  EXPECT_EQ(mesh.storedTag("Hips", copyTag(Slot::Strength)), "50.000000");
+  EXPECT_EQ(face.tag(copyTag(Slot::Strength)), "");
+}
+
+// --- looking for the skelegons that are written to, beside all the others -----------------------------------------------------
+
+TEST_F(PropertyStore, AWriteLooksThroughTheForegroundOnly) {
+  mst::WriteSlotValue(scanned({"Hips", "Tail"}), Slot::Strength, "50.000000");
+  EXPECT_EQ(mesh.host.edits().back().scans, std::vector<int>({lw::kLayersForeground}));
+}
+
+TEST_F(PropertyStore, AWriteLooksThroughAllLayersWhereOneIsHiddenByNow) {
+  const auto skelegons = scanned({"Hips", "Tail"});
+  mesh.host.showLayers({1});
+  mst::WriteSlotValue(skelegons, Slot::Strength, "50.000000");
+  EXPECT_EQ(mesh.host.edits().back().scans, std::vector<int>({lw::kLayersForeground, lw::kLayersAll}));
+  EXPECT_EQ(mesh.storedTag("Hips", copyTag(Slot::Strength)), "50.000000");
+}
+
+// A million faces beside the skelegons must cost nothing but the scan itself.
+TEST_F(PropertyStore, AWriteAsksNothingAboutOtherPolygons) {
+  const auto skelegons = scanned({"Hips"});
+  const auto callsOfAWrite = [&] {
+    const std::uint64_t before = standin::witness().calls();
+    mst::WriteSlotValue(skelegons, Slot::Strength, "50.000000");
+    return standin::witness().calls() - before;
+  };
+  const std::uint64_t calls = callsOfAWrite();
+  const auto& points = mesh.object->points();
+  for (int face = 0; face < 20; ++face) mesh.object->addFace(0, {points[0].id, points[1].id, points[2].id});
+  EXPECT_EQ(callsOfAWrite(), calls);
+}
+
+// A host that does not tell the type of a living skelegon must not make it look like a face.
+TEST_F(PropertyStore, ARefusedTypeWritesNothing) {
+  const auto skelegons = scanned({"Hips", "Chest"});
+  standin::witness().refuseNext("MeshEditOp::polyType");
+  EXPECT_EQ(thrownBy([&] { mst::WriteSlotValue(skelegons, Slot::Strength, "50.000000"); }), "polyType() !");
+  EXPECT_EQ(mesh.storedTag("Hips", copyTag(Slot::Strength)), std::nullopt);
+  EXPECT_EQ(mesh.storedTag("Chest", copyTag(Slot::Strength)), std::nullopt);
+}
+
 TEST_F(PropertyStore, WithoutAnObjectTheWriteFailsAndIsThrown) {
   const auto skelegons = scanned({"Hips"});
   mesh.host.closeAll();
@@ -202,8 +264,8 @@ TEST(PropertyStoreFailures, WhateverFailsAllOfAChangeIsThereOrNothing) {
       EXPECT_NE(skelegon->tag(lw::kTagPart), "Same");
     }
   };
-  // Begin, scan, a record for each of the two, two tags for each, done.
-  EXPECT_EQ(refuseEach(rename, nothingIsRenamed, select), 9U);
+  // Begin, scan, the type of each of the two, a record for each, two tags for each, done.
+  EXPECT_EQ(refuseEach(rename, nothingIsRenamed, select), 11U);
 }
 
 TEST(PropertyStoreFailures, AFailedReadIsThrown) {

@@ -1,6 +1,7 @@
 // The advanced setting, through the panel: the name rule's switches, counters, orders, targets, tags and the overlap check.
 #include <array>
 
+#include "skelegon/slot_table.h"
 #include "tests/tools/renamer_fixture.h"
 
 namespace varnel::test {
@@ -449,7 +450,7 @@ TEST_F(Renamer, RenamesNameAndWeightMapUnlessToldOtherwise) {
 }
 
 TEST_F(Renamer, RenamesTheSixteenNamesOfOtherItems) {
-  for (const skg::SlotRow& row : skg::slotTable()) {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
     if (row.slot != Slot::Name) store("Root", skg::plainSlotTagId(skg::indexOf(row.slot)), "a_L_b");
   }
   host.select({"Root"});
@@ -460,7 +461,7 @@ TEST_F(Renamer, RenamesTheSixteenNamesOfOtherItems) {
   switchOn(Item::RegexOn);
   run();
   std::vector<std::size_t> renamed;
-  for (const skg::SlotRow& row : skg::slotTable()) {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
     const std::size_t slot = skg::indexOf(row.slot);
     if (stored("Root", skg::plainSlotTagId(slot)) == "a_R_b") renamed.push_back(slot);
   }

@@ -1,8 +1,10 @@
 // Every setting on its whole way: changed in the panel by a person, stored in the object, saved, converted, on the bone.
 #include <map>
 
+#include "skelegon/slot_table.h"
+#include "standin/core/comma_locale.h"
 #include "standin/layout/layout_host.h"
-#include "tests/tools/arrived.h"
+#include "standin/layout/arrived.h"
 #include "tests/tools/conversion_fixture.h"
 #include "tests/tools/convert_saved.h"
 #include "tests/tools/property_panel_fixture.h"
@@ -17,7 +19,7 @@ constexpr const char* kSkelegon = "Tail_02";
 
 std::vector<Slot> shownSlots() {
   std::vector<Slot> slots;
-  for (const skg::SlotRow& row : skg::slotTable()) {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
     if (row.kind != skg::SlotKind::Reserved) slots.push_back(row.slot);
   }
   return slots;
@@ -100,6 +102,8 @@ class RoundTrip : public testing::TestWithParam<Slot> {
     }
   }
 
+  void bringTheChangeToTheBone();
+
   // What the saved file holds of the skelegon, by slot.
   StoredBySlot storedIn(const std::string& path, const std::string& name) const {
     StoredBySlot stored;
@@ -125,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(Slots, RoundTrip, testing::ValuesIn(shownSlots()), [](c
   return "Slot" + std::to_string(skg::indexOf(info.param));
 });
 
-TEST_P(RoundTrip, BringsTheChangeToTheBone) {
+void RoundTrip::bringTheChangeToTheBone() {
   const standin::TestFolder folder;
   const std::string path = folder.file("rig.lwo");
   changeAndSave(path);
@@ -140,6 +144,19 @@ TEST_P(RoundTrip, BringsTheChangeToTheBone) {
   EXPECT_EQ(standin::arrivalOf(host.scene(), *bone, stored, slot()), Arrival::There)
       << "stored \"" << stored.at(slot()) << "\"";
 }
+
+TEST_P(RoundTrip, BringsTheChangeToTheBone) { bringTheChangeToTheBone(); }
+
+class RoundTripInACommaLocale : public RoundTrip {
+  standin::CommaLocale locale_;
+};
+
+// One of each kind of number.
+INSTANTIATE_TEST_SUITE_P(Slots, RoundTripInACommaLocale,
+                         testing::Values(Slot::LimitBoneNum, Slot::Strength, Slot::RangeMin, Slot::HeadingMin,
+                                         Slot::XPositionMin));
+
+TEST_P(RoundTripInACommaLocale, BringsTheChangeToTheBone) { bringTheChangeToTheBone(); }
 
 }  // namespace
 }  // namespace varnel::test

@@ -2,7 +2,7 @@
 #include <fstream>
 #include <nlohmann/json.hpp>
 
-#include "tests/tools/arrived.h"
+#include "standin/layout/arrived.h"
 #include "tests/tools/conversion_fixture.h"
 
 namespace standin {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cctype>
+#include <optional>
 #include <random>
 #include <set>
 
@@ -178,27 +179,28 @@ struct CommandOption {
   std::string option;
 };
 
-// Subcommands and their options as the sources add them; a command that the help hides is left out. What a command has more
-// names than one, counts once for each: "-o,--output".
+// The text in quotes behind `mark` where the line begins with it.
+std::optional<std::string> quotedAfter(const std::string& line, std::string_view mark) {
+  const std::size_t start = std::min(line.find_first_not_of(' '), line.size());
+  const std::size_t open = start + mark.size();
+  if (!std::string_view(line).substr(start).starts_with(mark) || line[open] != '"') return {};
+  return line.substr(open + 1, line.find('"', open + 1) - open - 1);
+}
+
+// Subcommands and their options as the tables of the sources list them; a command that the help hides is left out. What a command
+// has more names than one, counts once for each: "-o,--output".
 std::vector<CommandOption> commandOptions() {
   std::vector<CommandOption> found;
   for (const std::string& file : filesIn(repository() / "standin" / "program", ".cpp")) {
-    const std::string source = textOf(repository() / "standin" / "program" / file);
     std::string command;
-    for (std::size_t at = source.find("add_"); at != std::string::npos; at = source.find("add_", at + 1)) {
-      const std::string_view call = std::string_view(source).substr(at);
-      const bool isCommand = call.starts_with("add_subcommand(");
-      if (!isCommand && !call.starts_with("add_option(") && !call.starts_with("add_flag(")) continue;
-      const std::size_t open = source.find_first_not_of(" \n", source.find('(', at) + 1);
-      if (source[open] != '"') continue;  // the name is given to a function that serves several commands
-      std::string name = source.substr(open + 1, source.find('"', open + 1) - open - 1);
-      if (isCommand) {
-        command = name == "validate-check" ? "" : name;
+    for (const std::string& line : linesOf(textOf(repository() / "standin" / "program" / file))) {
+      if (const auto name = quotedAfter(line, ".name = ")) {
+        command = *name == "validate-check" ? "" : *name;
         if (!command.empty()) found.push_back({command, {}});
-        continue;
-      }
-      for (name += ','; !command.empty() && !name.empty(); name.erase(0, name.find(',') + 1)) {
-        found.push_back({command, name.substr(0, name.find(','))});
+      } else if (const auto row = quotedAfter(line, "{"); row && !command.empty()) {
+        for (std::string names = *row + ','; !names.empty(); names.erase(0, names.find(',') + 1)) {
+          found.push_back({command, names.substr(0, names.find(','))});
+        }
       }
     }
   }
@@ -209,7 +211,7 @@ bool explains(const std::string& section, const std::string& option) {
   return contains(section, "`" + option + "`") || contains(section, "`" + option + " ");
 }
 
-// The sources know the options of both systems; the help those that are added by functions for several commands too.
+// The sources know the options of both systems; the help those that functions make for several commands too.
 TEST(Manual, ExplainsEveryCommandAndOptionOfTheProgram) {
   const std::vector<CommandOption> options = commandOptions();
   EXPECT_GT(options.size(), 30u);  // the search works

@@ -212,6 +212,22 @@ TEST(ObjectReader, TakesPointsThatStandBehindTheirPolygons) {
   EXPECT_TRUE(reading.isSound);
 }
 
+// Deliberately: what a polygon is made of is of no interest to the conversion, only its tags are.
+TEST(ObjectReader, TakesPolygonsOfPointsThatTheirLayerDoesNotHave) {
+  const Reading reading(ObjectBytes()
+                            .layer(0, "a")
+                            .polygons("BONE", {{0, 1}, {1, 0xFFFFFF}})
+                            .layer(1, "b")
+                            .points(3)
+                            .polygons("BONE", {{1, 3}})
+                            .polygons("FACE", {{0, 1, 3}}));
+  ASSERT_TRUE(reading.isSound);
+  EXPECT_EQ(skelegonsOf(reading.data.layer(0)), (Lists{{0, 1}, {1, 0xFFFFFF}}));
+  EXPECT_EQ(skelegonsOf(reading.data.layer(1)), (Lists{{1, 3}}));
+  EXPECT_EQ(facesOf(reading.data.layer(1)), (Lists{{0, 1, 3}}));
+  EXPECT_EQ(reading.data.layer(1).points().size(), 3U);
+}
+
 TEST(ObjectReader, PassesOverPolygonsOfOtherTypesUnread) {
   const Reading reading(
       ObjectBytes().layer(0, "a").chunk("POLS", Bytes().id("CURV").u2(0x03FF).u1(1)).polygons("PTCH", {{99, 98}}));

@@ -1,8 +1,14 @@
 // The reading position and the primitives of a file stream.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <cwchar>
 #include <filesystem>
+#include <istream>
+#include <limits>
+#include <locale>
+#include <streambuf>
 
 #include "layout/CFileStream.h"
 #include "tests/unit/object_reader_fixture.h"
@@ -139,6 +145,83 @@ TEST(FileStream, LoadsNoFolder) {
   CFileStream stream;
   EXPECT_FALSE(stream.load(std::filesystem::temp_directory_path().string()));
   EXPECT_TRUE(stream.atEnd());
+}
+
+// A file that notes how much each read asks for, and refuses one for more than its system can take.
+class CountingFile : public std::streambuf {
+ public:
+  CountingFile(std::size_t size, std::streamsize most) : left_(size), most_(most) {}
+  std::vector<std::streamsize> asked;
+
+ protected:
+  std::streamsize xsgetn(char* to, std::streamsize count) override {
+    asked.push_back(count);
+    if (count > most_) return 0;
+    const auto given = std::min(left_, static_cast<std::size_t>(count));
+    std::fill_n(to, given, 'x');
+    left_ -= given;
+    return static_cast<std::streamsize>(given);
+  }
+
+ private:
+  std::size_t left_;
+  std::streamsize most_;
+};
+
+TEST(FileBlocks, AskForNoMoreThanABlockInEachRead) {
+  CountingFile counting(10, 4);
+  std::istream file(&counting);
+  std::vector<std::byte> bytes(10);
+  EXPECT_TRUE(readInBlocks(file, bytes, 4));
+  EXPECT_EQ(counting.asked, (std::vector<std::streamsize>{4, 4, 2}));
+  EXPECT_EQ(std::count(bytes.begin(), bytes.end(), std::byte{'x'}), 10);
+}
+
+TEST(FileBlocks, EndWithAWholeBlockWithoutAFurtherRead) {
+  CountingFile counting(8, 4);
+  std::istream file(&counting);
+  std::vector<std::byte> bytes(8);
+  EXPECT_TRUE(readInBlocks(file, bytes, 4));
+  EXPECT_EQ(counting.asked, (std::vector<std::streamsize>{4, 4}));
+}
+
+TEST(FileBlocks, FailWhereTheFileHasFewerBytes) {
+  CountingFile counting(9, 4);
+  std::istream file(&counting);
+  std::vector<std::byte> bytes(10);
+  EXPECT_FALSE(readInBlocks(file, bytes, 4));
+}
+
+TEST(FileBlocks, AreOfASizeThatEverySystemReads) {
+  EXPECT_LE(kBytesPerRead, static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max()));
+  CountingFile counting(kBytesPerRead + 1, static_cast<std::streamsize>(kBytesPerRead));
+  std::istream file(&counting);
+  std::vector<std::byte> bytes(kBytesPerRead + 1);
+  EXPECT_TRUE(readInBlocks(file, bytes));
+}
+
+// Converts what a file holds, as a locale may.
+class Changing : public std::codecvt<char, char, std::mbstate_t> {
+ protected:
+  bool do_always_noconv() const noexcept override { return false; }
+  result do_in(state_type&, const char* from, const char* fromEnd, const char*& fromNext, char* to, char* toEnd,
+               char*& toNext) const override {
+    for (; from != fromEnd && to != toEnd; ++from, ++to) *to = static_cast<char>(*from + 1);
+    fromNext = from;
+    toNext = to;
+    return from == fromEnd ? ok : partial;
+  }
+};
+
+TEST(FileStream, LoadsTheBytesAsTheyAreInAnyLocale) {
+  const Bytes bytes = Bytes().text("abc");
+  const TemporaryFile file(bytes.span());
+  const std::locale before = std::locale::global(std::locale(std::locale::classic(), new Changing));
+  CFileStream stream;
+  const bool loaded = stream.load(file.path());
+  std::locale::global(before);
+  ASSERT_TRUE(loaded);
+  EXPECT_EQ(std::vector(stream.rest().begin(), stream.rest().end()), bytes.bytes());
 }
 
 }  // namespace

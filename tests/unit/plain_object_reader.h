@@ -111,7 +111,6 @@ class PlainObjectReader {
       readChunk(chunk);
       at_ = next;
     }
-    for (const PlainLayer& layer : object_.layers) requirePoints(layer);
   }
 
   void readChunk(const std::string& chunk) {
@@ -163,14 +162,6 @@ class PlainObjectReader {
       require(skelegon < skelegons.size());
       skelegons[skelegon].tags.emplace_back(type, tag);
     }
-  }
-
-  static void requirePoints(const PlainLayer& layer) {
-    const auto requireAll = [&](const std::vector<std::uint32_t>& points) {
-      for (const std::uint32_t point : points) require(point < layer.points.size());
-    };
-    for (const auto& face : layer.faces) requireAll(face);
-    for (const auto& skelegon : layer.skelegons) requireAll(skelegon.points);
   }
 
   std::span<const std::byte> file_;

@@ -1,3 +1,4 @@
+#include "skelegon/slot_table.h"
 #include "modeler/property_controls.h"
 
 #include <gtest/gtest.h>
@@ -55,7 +56,7 @@ constexpr int kSlotOfControl[kControlCount] = {
 };
 // clang-format on
 
-const skg::SlotRow& settingOf(const ControlRow& row) { return skg::slotTable()[skg::indexOf(row.slot.value())]; }
+const skg::SlotRow& settingOf(const ControlRow& row) { return skg::kSlotTable[skg::indexOf(row.slot.value())]; }
 
 std::vector<ControlRow> valueControls() {
   std::vector<ControlRow> rows;
@@ -81,7 +82,7 @@ TEST(PropertyControls, ShowTheirSettings) {
 TEST(PropertyControls, ShowEverySettingButTheReservedOnesExactlyOnce) {
   std::multiset<Slot> shown = {Slot::Name};  // by the name field
   for (const ControlRow& row : valueControls()) shown.insert(*row.slot);
-  for (const skg::SlotRow& row : skg::slotTable()) {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
     EXPECT_EQ(shown.count(row.slot), row.kind == SlotKind::Reserved ? 0U : 1U) << skg::indexOf(row.slot);
   }
   EXPECT_EQ(shown.size(), 165U);

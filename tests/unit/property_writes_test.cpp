@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "modeler/property_store.h"
+#include "skelegon/slot_table.h"
 
 namespace mst {
 namespace {
@@ -76,7 +77,7 @@ TEST(WritesForValue, FourSlotsStoreEvenTheNumberOfTheirDefault) {
 
 TEST(WritesForValue, EveryOtherSlotDropsItsDefault) {
   const std::set<Slot> stubborn = {Slot::JointCompAmount, Slot::IKFKBlending, Slot::PathMaxSteps, Slot::YScaleMin};
-  for (const skg::SlotRow& row : skg::slotTable()) {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
     if (row.kind == skg::SlotKind::Reserved || stubborn.count(row.slot) != 0) continue;
     SCOPED_TRACE(row.setting);
     std::string shown = row.defaultText;
@@ -97,7 +98,7 @@ TEST(WritesForValue, ALinkedItemsColourModelerIsTheDefault) {
 }
 
 TEST(WritesForValue, ReservedSlotsAreNeverWritten) {
-  for (const skg::SlotRow& row : skg::slotTable()) {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
     if (row.kind != skg::SlotKind::Reserved) continue;
     EXPECT_TRUE(writesForValue(kChestSelected, row.slot, "1").empty()) << indexOf(row.slot);
   }
@@ -164,13 +165,13 @@ TEST(WritesForLinkedNames, GiveEachSkelegonItsOwnNameWithTheSuffix) {
 }
 
 TEST(WritesForLinkedNames, HaveASuffixForEachOfTheSevenItems) {
-  EXPECT_EQ(linkedNameSuffix(Slot::TargetItem), "_tar");
-  EXPECT_EQ(linkedNameSuffix(Slot::PoleItem), "_pole");
-  EXPECT_EQ(linkedNameSuffix(Slot::GoalObject), "_goal");
-  EXPECT_EQ(linkedNameSuffix(Slot::PositionItem), "_pos");
-  EXPECT_EQ(linkedNameSuffix(Slot::RotationItem), "_rot");
-  EXPECT_EQ(linkedNameSuffix(Slot::ScaleItem), "_scl");
-  EXPECT_EQ(linkedNameSuffix(Slot::InitialPositionItem), "_initpos");
+  EXPECT_STREQ(skg::linkedItemOf(Slot::TargetItem)->suffix, "_tar");
+  EXPECT_STREQ(skg::linkedItemOf(Slot::PoleItem)->suffix, "_pole");
+  EXPECT_STREQ(skg::linkedItemOf(Slot::GoalObject)->suffix, "_goal");
+  EXPECT_STREQ(skg::linkedItemOf(Slot::PositionItem)->suffix, "_pos");
+  EXPECT_STREQ(skg::linkedItemOf(Slot::RotationItem)->suffix, "_rot");
+  EXPECT_STREQ(skg::linkedItemOf(Slot::ScaleItem)->suffix, "_scl");
+  EXPECT_STREQ(skg::linkedItemOf(Slot::InitialPositionItem)->suffix, "_initpos");
 }
 
 TEST(WritesForLinkedNames, AreNoneForASlotWithoutSuffix) {
@@ -188,14 +189,14 @@ TEST(WritesForWeightMapsByName, ASkelegonWithoutOneBecomesInactive) {
 }
 
 TEST(WritesForControllerPreset, SetTheThreeControllersOfTheGroup) {
-  EXPECT_EQ(listed(writesForControllerPreset(kChestSelected, ControllerGroup::Position, Controller::InverseKinematics)),
+  EXPECT_EQ(listed(writesForControllerPreset(kChestSelected, skg::MotionGroup::Position, Controller::InverseKinematics)),
             (Writes{{2, 0x7367314C, "3"}, {2, 0x73673151, "3"}, {2, 0x73673156, "3"}}));
-  EXPECT_EQ(listed(writesForControllerPreset(kChestSelected, ControllerGroup::Rotation, Controller::SameAsItem)),
+  EXPECT_EQ(listed(writesForControllerPreset(kChestSelected, skg::MotionGroup::Rotation, Controller::SameAsItem)),
             (Writes{{2, 0x7367315F, "6"}, {2, 0x73673164, "6"}, {2, 0x73673169, "6"}}));
 }
 
 TEST(WritesForControllerPreset, KeyFrameWritesZero) {
-  EXPECT_EQ(listed(writesForControllerPreset(kChestSelected, ControllerGroup::Scale, Controller::KeyFrames)),
+  EXPECT_EQ(listed(writesForControllerPreset(kChestSelected, skg::MotionGroup::Scale, Controller::KeyFrames)),
             (Writes{{2, 0x73673171, "0"}, {2, 0x73673176, "0"}, {2, 0x7367317B, "0"}}));
 }
 

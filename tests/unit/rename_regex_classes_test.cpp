@@ -2,6 +2,9 @@
 // must neither stop at a sound one nor run past the end of a broken one.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <locale>
 #include <ostream>
 #include <regex>
 #include <string>
@@ -30,6 +33,30 @@ INSTANTIATE_TEST_SUITE_P(Forms, PatternClass,
 TEST_P(PatternClass, MatchesAsTheLibraryMatches) {
   EXPECT_EQ(mst::CRegexReplacement(GetParam().pattern, "-").replaced(GetParam().text), GetParam().expected);
   EXPECT_EQ(std::regex_replace(GetParam().text, std::regex(GetParam().pattern), "-"), GetParam().expected);
+}
+
+// Counts the bytes of a Japanese letter among the letters, as locales of one byte for each character do.
+class WideLetters : public std::ctype<char> {
+ public:
+  WideLetters() : std::ctype<char>(table().data()) {}
+
+ private:
+  static std::array<mask, table_size>& table() {
+    static std::array<mask, table_size> masks = [] {
+      std::array<mask, table_size> made{};
+      std::copy_n(classic_table(), table_size, made.begin());
+      for (const unsigned char letter : {0xE3, 0x81, 0x82}) made[letter] = static_cast<mask>(made[letter] | alpha);
+      return made;
+    }();
+    return masks;
+  }
+};
+
+TEST(PatternClassInAnotherLocale, HoldsTheSameCharacters) {
+  const std::locale before = std::locale::global(std::locale(std::locale::classic(), new WideLetters));
+  const std::string renamed = mst::CRegexReplacement("[[:alpha:]]", "-").replaced("aあ1");
+  std::locale::global(before);
+  EXPECT_EQ(renamed, "-あ1");
 }
 
 class BrokenPatternClass : public testing::TestWithParam<const char*> {};

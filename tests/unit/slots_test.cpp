@@ -1,3 +1,4 @@
+#include "skelegon/slot_table.h"
 #include "skelegon/slots.h"
 
 #include <gtest/gtest.h>
@@ -43,15 +44,15 @@ TEST(SlotTagId, IsUniqueForEverySlot) {
 
 TEST(SlotTable, Has187RowsOf22AreReserved) {
   std::size_t reserved = 0;
-  for (const SlotRow& row : slotTable()) reserved += row.kind == SlotKind::Reserved ? 1 : 0;
-  EXPECT_EQ(slotTable().size(), 187u);
+  for (const SlotRow& row : kSlotTable) reserved += row.kind == SlotKind::Reserved ? 1 : 0;
+  EXPECT_EQ(kSlotTable.size(), 187u);
   EXPECT_EQ(reserved, 22u);
 }
 
 TEST(SlotTable, NamesEverySettingOnce) {
   std::set<std::string> names;
   std::size_t named = 0;
-  for (const SlotRow& row : slotTable()) {
+  for (const SlotRow& row : kSlotTable) {
     if (row.kind == SlotKind::Reserved) continue;
     names.insert(row.setting);
     ++named;
@@ -102,7 +103,7 @@ TEST(BoneColour, IsOrangeForUnknownAndEmptyWords) {
 
 TEST(PropertiesFromFile, AreAllDefaultsWithoutTagsButForTheColour) {
   const SkelegonProperties properties = read({});
-  for (const SlotRow& row : slotTable()) {
+  for (const SlotRow& row : kSlotTable) {
     if (row.slot == Slot::Colour) continue;
     EXPECT_EQ(properties[row.slot], row.defaultText) << indexOf(row.slot);
   }

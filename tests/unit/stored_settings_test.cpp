@@ -10,6 +10,7 @@
 #include "layout/object_reader.h"
 #include "layout/stored_properties.h"
 #include "modeler/property_controls.h"
+#include "skelegon/slot_table.h"
 #include "skelegon/slots.h"
 #include "tests/unit/documents.h"
 
@@ -58,7 +59,7 @@ std::string rowOf(const skg::SlotRow& row) {
 }
 
 TEST(StoredSettings, AreDocumentedAsTheTableHasThem) {
-  for (const skg::SlotRow& row : skg::slotTable()) {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
     EXPECT_TRUE(contains(document(), "\n" + rowOf(row))) << "the document lacks: " << rowOf(row);
   }
 }
@@ -66,7 +67,7 @@ TEST(StoredSettings, AreDocumentedAsTheTableHasThem) {
 TEST(StoredSettings, LinkEachChoiceToItsList) {
   for (const mst::ControlRow& control : mst::controlTable()) {
     if (!control.slot || !control.choices) continue;
-    const std::string row = rowOf(skg::slotTable()[skg::indexOf(*control.slot)]);
+    const std::string row = rowOf(skg::kSlotTable[skg::indexOf(*control.slot)]);
     const std::size_t link = document().find("](#", document().find(row) + row.size());
     const std::size_t end = document().find('\n', document().find(row));
     EXPECT_LT(link, end) << row;
@@ -110,7 +111,7 @@ class StoredObject : public testing::TestWithParam<std::string> {
 
 json readingOf(const skg::SkelegonProperties& properties, const json& expected) {
   json reading{{"texts", json::object()}};
-  for (const skg::SlotRow& row : skg::slotTable()) {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
     const std::string& text = properties[row.slot];
     if (text != row.defaultText) reading["texts"][std::to_string(skg::indexOf(row.slot))] = text;
   }
@@ -127,7 +128,7 @@ json readingOf(const skg::SkelegonProperties& properties, const json& expected) 
 json withoutDefaults(json expected) {
   json texts = json::object();
   for (const auto& [number, text] : expected["texts"].items()) {
-    if (text != skg::slotTable()[std::stoul(number)].defaultText) texts[number] = text;
+    if (text != skg::kSlotTable[std::stoul(number)].defaultText) texts[number] = text;
   }
   expected["texts"] = texts;
   return expected;

@@ -1,4 +1,4 @@
-#include "tests/tools/arrived.h"
+#include "standin/layout/arrived.h"
 
 #include <array>
 #include <cmath>

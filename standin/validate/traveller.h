@@ -1,0 +1,49 @@
+// The user of a trip. Whatever they cannot do, or find wrong, is noted and the trip goes on.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "standin/panels/person.h"
+#include "standin/validate/trips.h"
+
+namespace standin::validate {
+
+class Traveller {
+ public:
+  Traveller(const TripOrder& order, Program program);
+
+  Session& session() { return session_; }
+  bool isReady() const { return report_.broken.empty(); }
+
+  void begin() const;
+  void end();
+
+  // A call that gives nothing back was dropped: no module can know, so the panel may be wrong until it is made anew.
+  bool wasDeceived() const;
+
+  void does(const Done& done);
+  void finds(bool isSo, const std::string& what);
+  void mustHold(bool holds, const std::string& rule);
+
+  // Whatever failed, the next run of the property tool shows what is stored, as a module that was never disturbed does.
+  void judgeNextRun();
+  TripReport finish();
+
+ private:
+  const std::string& freshView();
+  std::string notOfDeception(const std::string& complaints) const;
+
+  const TripOrder& order_;
+  Session session_;
+  TripReport report_;
+  std::string refused_;
+};
+
+// The first names of the skelegons, in scan order.
+std::vector<std::string> skelegonNames(Session& session, std::size_t most);
+
+// Everything that is stored on the skelegons, and which are selected.
+std::string meshText(Session& session);
+
+}  // namespace standin::validate
