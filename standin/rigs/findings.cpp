@@ -113,9 +113,9 @@ bool isOneOf(const Slot (&list)[Size], Slot slot) {
   return std::find(std::begin(list), std::end(list), slot) != std::end(list);
 }
 
-class Search {
+class FindingSearch {
  public:
-  Search(const Rig& rig, const CodePage& codePage) : rig_(rig), codePage_(codePage), found_(namesFound(rig)) {
+  FindingSearch(const Rig& rig, const CodePage& codePage) : rig_(rig), codePage_(codePage), found_(namesFound(rig)) {
     for (const Layer& layer : rig.layers) items_.insert(layer.itemName);
     for (const Skelegon& skelegon : rig.skelegons) {
       layersOfName_[skelegon.name].insert(skelegon.layer);
@@ -311,7 +311,7 @@ std::string filled(std::string_view pattern, const Finding& finding) {
 
 const std::array<FindingRow, kFindingKinds>& findingTable() { return kRows; }
 
-std::vector<Finding> findingsOf(const Rig& rig, const CodePage& codePage) { return Search(rig, codePage).all(); }
+std::vector<Finding> findingsOf(const Rig& rig, const CodePage& codePage) { return FindingSearch(rig, codePage).all(); }
 
 std::string placeOf(const Rig& rig, const Finding& finding, Language language) {
   if (!finding.layer) return {};

@@ -12,7 +12,7 @@ namespace standin::validate {
 namespace {
 
 constexpr std::size_t kMixtures = 50;
-constexpr int kActions = 200;
+constexpr int kActionsOfAWalk = 200;
 
 void playOn(CheckRun& run, const HostChoice& host, std::uint64_t seed) {
   const Rig rig = seed % 2 == 0 ? lizardRig(run.file("")) : japaneseRig(run.file(""));
@@ -28,7 +28,7 @@ void playOn(CheckRun& run, const HostChoice& host, std::uint64_t seed) {
     for (const std::string& rule : report.broken) run.fail(std::string(trip.name) + ": " + rule);
   }
   for (const Program program : {Program::Modeler, Program::Layout}) {
-    walkOnce(run, {.program = program, .rig = &rig, .seed = seed, .actions = kActions, .host = host});
+    walkOnce(run, {.program = program, .rig = &rig, .seed = seed, .actions = kActionsOfAWalk, .host = host});
   }
 }
 
@@ -49,13 +49,13 @@ void mixedHosts(CheckRun& run) {
   }
 }
 
-constexpr std::array kChecks{
+constexpr std::array kHostChecks{
     Check{"hosts", 11, "Every tool does its job on each host that differs in one thing", singleHosts},
     Check{"hosts-mixed", 11, "Every tool does its job on hosts that differ in many things", mixedHosts},
 };
 
 }  // namespace
 
-std::span<const Check> hostChecks() { return kChecks; }
+std::span<const Check> hostChecks() { return kHostChecks; }
 
 }  // namespace standin::validate

@@ -11,7 +11,7 @@ constexpr VariantValue kNewBones[]{
     {"selected", [](HostOptions& host) { host.layout.newBonesSelected = true; }},
 };
 
-constexpr std::array kVariants{
+constexpr std::array kLayoutVariants{
     HostVariant{"new-bones", "Whether SkelegonsToBones selects the new bones",
                 "the selection after the command is not documented", "selects each bone itself and restores the selection",
                 kNewBones},
@@ -19,6 +19,6 @@ constexpr std::array kVariants{
 
 }  // namespace
 
-std::span<const HostVariant> layoutVariants() { return kVariants; }
+std::span<const HostVariant> layoutVariants() { return kLayoutVariants; }
 
 }  // namespace standin

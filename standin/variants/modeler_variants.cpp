@@ -11,7 +11,7 @@ constexpr VariantValue kOwnChanges[]{
     {"seen", [](HostOptions& host) { host.modeler.editsShowOwnChanges = true; }},
 };
 
-constexpr std::array kVariants{
+constexpr std::array kModelerVariants{
     HostVariant{"own-changes", "Whether an edit shows its own changes before it is done",
                 "changes are documented as buffered; whether reads see the buffer is not",
                 "never reads back within the edit that writes", kOwnChanges},
@@ -19,6 +19,6 @@ constexpr std::array kVariants{
 
 }  // namespace
 
-std::span<const HostVariant> modelerVariants() { return kVariants; }
+std::span<const HostVariant> modelerVariants() { return kModelerVariants; }
 
 }  // namespace standin

@@ -20,7 +20,7 @@ constexpr VariantValue kSetsFire[]{
     {"fire", [](HostOptions& host) { host.panels.setsFireEvents = true; }},
 };
 
-constexpr std::array kVariants{
+constexpr std::array kPanelVariants{
     HostVariant{"mouse", "By which way mouse input over a panel arrives",
                 "both ways are documented: the panel's hooks, and the event of the control below the pointer",
                 "takes each press once, whichever way it comes", kMouse},
@@ -31,6 +31,6 @@ constexpr std::array kVariants{
 
 }  // namespace
 
-std::span<const HostVariant> panelVariants() { return kVariants; }
+std::span<const HostVariant> panelVariants() { return kPanelVariants; }
 
 }  // namespace standin
