@@ -12,6 +12,7 @@ namespace {
 constexpr int kWeightMapOnly = 29;
 constexpr int kWeightNormalization = 30;
 constexpr int kWeightMap = 28;
+constexpr int kParentItem = 51;
 constexpr int kColour = 129;
 constexpr int kSettings = 187;
 
@@ -89,11 +90,13 @@ void ConversionJudge::read(const ObjectLayer& layer, const std::string& objectNa
       if (name == nullptr || name->empty()) continue;
       Skelegon& skelegon = skelegons_.emplace_back();
       skelegon.name = *name;
+      skelegon.layer = layers_;
       for (const PolygonTag& tag : polygon.tags) {
         if (const int slot = slotOf(tag.type); slot >= 0) skelegon.stored[slot] = withObjectName(tag.text, objectName);
       }
     }
   }
+  ++layers_;
 }
 
 // A bone is told of a null that was made for it while it is selected, and before either is moved.
@@ -120,6 +123,9 @@ bool ConversionJudge::isOverridden(std::size_t at, int slot) const {
   const StoredBySlot& stored = skelegons_[at].stored;
   // Both switches go out under one name, so that the second undoes the first.
   if (slot == kWeightMapOnly && stored.count(kWeightNormalization) != 0) return true;
+  // Objects are converted in the order of the selection: a parent among the bones that come later is not found.
+  const bool isOtherOrder = host_.scene().options().selectionOrder != SelectionOrder::AsSelected;
+  if (isOtherOrder && slot == kParentItem && isInAnotherLayer(stored.at(slot), skelegons_[at].layer)) return true;
   const bool isLast = at + 1 == skelegons_.size();
   if (std::find(kOfTheObject.begin(), kOfTheObject.end(), slot) != kOfTheObject.end() && !isLast) return true;
   for (const HelperSlots& helper : kHelpers) {
@@ -135,6 +141,22 @@ bool ConversionJudge::isOverridden(std::size_t at, int slot) const {
   return false;
 }
 
+bool ConversionJudge::isInAnotherLayer(const std::string& name, std::size_t layer) const {
+  return std::any_of(skelegons_.begin(), skelegons_.end(),
+                     [&](const Skelegon& other) { return other.name == name && other.layer != layer; });
+}
+
+// Where a host makes the bones of the whole file for each of its layers, several have the name; one of them was the first of that
+// name when the settings were sent.
+Arrival ConversionJudge::arrival(const Skelegon& skelegon, int slot) const {
+  for (const Item& item : host_.scene().all()) {
+    if (item.kind != ItemKind::bone || host_.scene().nameOf(item) != skelegon.name) continue;
+    const Arrival come = arrivalOf(host_.scene(), item, skelegon.stored, slot);
+    if (come != Arrival::Missing) return come;
+  }
+  return Arrival::Missing;
+}
+
 std::vector<std::string> ConversionJudge::verdict() const {
   std::vector<std::string> wrong = wrong_;
   std::size_t there = 0;
@@ -146,9 +168,9 @@ std::vector<std::string> ConversionJudge::verdict() const {
       continue;
     }
     for (const auto& [slot, text] : skelegons_[i].stored) {
-      const Arrival arrival = arrivalOf(scene, *bone, skelegons_[i].stored, slot);
-      there += arrival == Arrival::There ? 1 : 0;
-      if (arrival != Arrival::Missing || isOverridden(i, slot)) continue;
+      const Arrival come = arrival(skelegons_[i], slot);
+      there += come == Arrival::There ? 1 : 0;
+      if (come != Arrival::Missing || isOverridden(i, slot)) continue;
       wrong.push_back("setting " + std::to_string(slot) + " of " + skelegons_[i].name + " is " + text);
     }
   }

@@ -26,15 +26,19 @@ class ConversionJudge {
  private:
   struct Skelegon {
     std::string name;
+    std::size_t layer = 0;  // in the order of the file
     StoredBySlot stored;
   };
 
   void read(const ObjectLayer& layer, const std::string& objectName);
   void look(LayoutState& state, std::string_view command);
   bool isOverridden(std::size_t skelegon, int slot) const;
+  bool isInAnotherLayer(const std::string& name, std::size_t layer) const;
+  Arrival arrival(const Skelegon& skelegon, int slot) const;
 
   LayoutHost& host_;
   std::vector<Skelegon> skelegons_;  // in the order of the file
+  std::size_t layers_ = 0;           // that were read
   std::set<const Item*> seen_;       // nulls that were there before, or that were judged
   std::size_t nulls_ = 0;            // that were judged
   std::vector<std::string> wrong_;

@@ -2,31 +2,12 @@
 #include <array>
 #include <utility>
 
+#include "standin/validate/panel_places.h"
 #include "standin/validate/touch.h"
 #include "standin/validate/tries.h"
 
 namespace standin::validate {
 namespace {
-
-constexpr std::uint8_t kFalloffSetting = 13;
-constexpr int kInverseDistance4 = 2;  // place in the list
-
-// Places in the property panel, in order of creation, and its last page.
-enum PropertyControl : std::uint8_t {
-  kPageTabs = 5,
-  kGroupTabs = 6,
-  kNameField = 7,
-  kFalloff = 10,
-  kMapField = 15,
-  kMapChooser = 16,
-  kStrength = 20,
-  kRangeGreatest = 24,
-  kParentField = 47,
-  kParentChooser = 48,
-  kXLeast = 103,
-  kHeadingLeast = 137
-};
-constexpr int kLastPage = 3;
 
 // The property panel in the hands of somebody who tries what hosts may differ in.
 class PropertyUser {
@@ -64,7 +45,7 @@ class PropertyUser {
   std::string stored(std::uint32_t type) const { return skelegon() == nullptr ? "no skelegon" : skelegon()->tag(type); }
   void show(int page, int group = 0) {
     user_.does(person::choose(at(kPageTabs), page));
-    if (page == kLastPage) user_.does(person::choose(at(kGroupTabs), group));
+    if (page == kControllersPage) user_.does(person::choose(at(kGroupTabs), group));
   }
   void isStored(std::uint32_t type, const std::string& text, const std::string& what) {
     user_.finds(stored(type) == text, what + ": \"" + stored(type) + "\" instead of \"" + text + '"');

@@ -1,13 +1,11 @@
 #include <algorithm>
 
+#include "standin/validate/panel_places.h"
 #include "standin/validate/touch.h"
 #include "standin/validate/tries.h"
 
 namespace standin::validate {
 namespace {
-
-// Places in the renamer's panel, in order of creation.
-enum RenamerControl { kMode = 0, kClear = 6, kBaseText = 9, kRun = 33 };
 
 // Letters of another script than the Latin one.
 bool isJapanese(const std::string& text) {

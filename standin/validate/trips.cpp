@@ -5,6 +5,7 @@
 
 #include "standin/panels/person.h"
 #include "standin/validate/conversion_judge.h"
+#include "standin/validate/panel_places.h"
 #include "standin/validate/touch.h"
 #include "standin/validate/traveller.h"
 #include "standin/validate/tree_user.h"
@@ -12,13 +13,6 @@
 
 namespace standin::validate {
 namespace {
-
-constexpr std::uint8_t kFalloffSetting = 13;
-constexpr int kInverseDistance4 = 2;  // place in the list
-// Places in the property panel, in order of creation.
-constexpr int kSkelegonName = 7;
-constexpr int kWeightMapChooser = 16;
-constexpr int kStrength = 20;
 
 // On each page the first control of each kind that can be seen.
 void useOneOfEachKind(Traveller& user, Panel& panel) {
@@ -63,20 +57,6 @@ TripReport propertyTrip(const TripOrder& order) {
 }
 
 // --- the renamer ----------------------------------------------------------------------------------------------------------
-
-// Places in the renamer's panel, in order of creation.
-enum RenamerControl {
-  kMode = 0,
-  kFirstText = 1,
-  kSecondText = 2,
-  kTarget = 3,
-  kAdd = 5,
-  kBaseName = 8,
-  kColumns = 20,
-  kRun = 33
-};
-enum RenamerMode { kChange, kPrefix, kSuffix, kReplace, kExpression, kAdvanced };
-constexpr int kRegistered = 1;  // target
 
 TripReport renamerTrip(const TripOrder& order) {
   Traveller user(order, Program::Modeler);
@@ -245,9 +225,9 @@ TripReport typicalTrip(const TripOrder& order) {
       user.does(person::choose(panel->find(ControlKind::TabChoice, 0), 0));
       user.does(person::choose(panel->find(ControlKind::Popup, 0), kInverseDistance4));
       chosen = "Neck_01";
-      user.does(person::type(panel->at(kSkelegonName), chosen));
+      user.does(person::type(panel->at(kNameField), chosen));
       user.does(person::choose(panel->find(ControlKind::TabChoice, 0), 1));
-      user.does(person::choose(panel->at(kWeightMapChooser), 1));
+      user.does(person::choose(panel->at(kMapChooser), 1));
       user.does(person::enter(panel->at(kStrength), 40));
       map = host.weightMaps().front();
     }

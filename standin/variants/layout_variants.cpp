@@ -99,7 +99,7 @@ constexpr VariantValue kAccepted[]{{"1"}, {"2", &with<&O::acceptedResult, 2>}, {
 constexpr VariantValue kStatus[]{{"1"}, {"0", &with<&O::statusResult, 0>}};
 constexpr VariantValue kInterfaceRecord[]{{"new"}, {"one", &with<&O::oneInterfaceRecord, true>}};
 constexpr VariantValue kTimeRecord[]{{"new"}, {"one", &with<&O::oneTimeRecord, true>}};
-constexpr VariantValue kTexts[]{{"until-next"},
+constexpr VariantValue kTextLife[]{{"until-next"},
                                 {"one-place", &with<&O::textLife, TextLife::OnePlace>},
                                 {"session", &with<&O::textLife, TextLife::Session>}};
 
@@ -218,7 +218,7 @@ constexpr std::array kLayoutVariants{
                 "documented to be asked for again; whether the old one changes is not", "asks anew for each time",
                 kTimeRecord},
     HostVariant{"layout-texts", "How long returned texts live", "documented nowhere; the first is the strictest",
-                "copies or compares each before its next call", kTexts},
+                "copies or compares each before its next call", kTextLife},
     HostVariant{"other-plugin", "What another plug-in does to the scene in answer to commands",
                 "plug-ins of the host are told of changes and may make their own",
                 "asks a kept item its name, and looks a missing name up in the scene", kOtherPlugin},

@@ -22,8 +22,11 @@ class RenamerLanguage : public Renamer {
     for (const mst::RenamerRow& row : mst::renamerTable()) {
       if (row.item == Item::Mode || row.kind == mst::RenamerKind::NumberInfo) continue;
       if (row.kind == mst::RenamerKind::Popup) choose(row.item, 2);
-      if (row.kind == mst::RenamerKind::Bool) EXPECT_TRUE(person::toggle(at(row.item)));
-      if (row.kind == mst::RenamerKind::Number) EXPECT_TRUE(person::enter(at(row.item), 4));
+      if (row.kind == mst::RenamerKind::Bool) {
+        EXPECT_TRUE(person::toggle(at(row.item)));
+      } else if (row.kind == mst::RenamerKind::Number) {
+        EXPECT_TRUE(person::enter(at(row.item), 4));
+      }
       if (row.kind == mst::RenamerKind::Edit && isVisible(row.item)) type(row.item, "typed 骨");
     }
   }
