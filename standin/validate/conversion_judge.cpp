@@ -127,7 +127,9 @@ bool ConversionJudge::isOverridden(std::size_t at, int slot) const {
   const bool isOtherOrder = host_.scene().options().selectionOrder != SelectionOrder::AsSelected;
   if (isOtherOrder && slot == kParentItem && isInAnotherLayer(stored.at(slot), skelegons_[at].layer)) return true;
   const bool isLast = at + 1 == skelegons_.size();
-  if (std::find(kOfTheObject.begin(), kOfTheObject.end(), slot) != kOfTheObject.end() && !isLast) return true;
+  if (std::find(kOfTheObject.begin(), kOfTheObject.end(), slot) != kOfTheObject.end() && (isOtherOrder || !isLast)) {
+    return true;
+  }
   for (const HelperSlots& helper : kHelpers) {
     if (std::find(helper.of.begin(), helper.of.end(), slot) == helper.of.end()) continue;
     const auto name = stored.find(helper.name);
