@@ -7,6 +7,7 @@
 #include "host/lwtool2_eval.h"
 #include "host/lwtool2_globals.h"
 #include "host/lwtool2_mesh.h"
+#include "host/raised_flag.h"
 #include "modeler/tools.h"
 #include "skelegon/slots.h"
 
@@ -63,7 +64,7 @@ bool CSkgSelPanel::OpenSelectorPanel() {
     closed();
   }
   if (!form_) build();
-  mouse_.reset();
+  mouse_.reset(form_->mouseOfControl());
   form_->layOut();
   fitView();
   rescan();
@@ -79,6 +80,7 @@ void CSkgSelPanel::build() {
 
 void CSkgSelPanel::closed() {
   life_.closed();
+  giveBack();
   tree_.release();
   tree_.setNodes({});
 }
@@ -86,7 +88,7 @@ void CSkgSelPanel::closed() {
 void CSkgSelPanel::resized(int width, int height) {
   form_->layOut(width, height);
   fitView();
-  if (life_.mayBeOpen()) form_->redraw();  // the tree and what was moved with it
+  if (life_.mayBeOpen()) askToPaint(Paint::Everything);  // the tree and what was moved with it
 }
 
 void CSkgSelPanel::fitView() { tree_.setView(form_->treeWidth(), form_->treeHeight()); }
@@ -102,26 +104,54 @@ void CSkgSelPanel::rescan() {
 
 void CSkgSelPanel::refresh() {
   rescan();
-  form_->redrawTree();
+  askToPaint();
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
 // What the user does
 
-// False when it was nothing.
-bool CSkgSelPanel::act(MouseStep step, const MouseReport& report) {
-  switch (step) {
-    case MouseStep::Press: show(tree_.press({report.x, report.y, report.bits, report.clicks})); return true;
-    case MouseStep::Move: show(tree_.drag(report.x, report.y)); return true;
-    case MouseStep::Release: tree_.release(); return true;
-    case MouseStep::Nothing: break;
-  }
-  return false;
+MouseReport CSkgSelPanel::placed(MouseReport report) const {
+  report.isOnDraggedBar = tree_.isOnDraggedBar(report.x, report.y);
+  return report;
 }
 
+void CSkgSelPanel::act(MouseStep step, const MouseReport& report) {
+  switch (step) {
+    case MouseStep::Press:
+      tree_.keepNothing();
+      press(report);
+      break;
+    case MouseStep::Guess:
+      tree_.keepForTakingBack();
+      press(report);
+      break;
+    case MouseStep::Move: show(tree_.drag(report.x, report.y)); break;
+    case MouseStep::Release:  // the only thing that some hosts tell of a drag
+      show(tree_.drag(report.x, report.y));
+      tree_.release();
+      break;
+    case MouseStep::LateRelease: tree_.release(); break;
+    case MouseStep::TakeBack: show(tree_.takeBack()); break;
+    case MouseStep::Nothing: break;
+  }
+}
+
+void CSkgSelPanel::press(const MouseReport& report) { show(tree_.press({report.x, report.y, report.bits, report.clicks})); }
+
 void CSkgSelPanel::show(const TreeChange& change) {
-  if (change.looks) form_->redrawTree();
+  if (change.looks) askToPaint();
   if (change.selection) pushSelection();
+}
+
+// A host may paint within this call, by the event too: that tells nothing of the mouse then.
+void CSkgSelPanel::askToPaint(Paint what) {
+  mouse_.askedToPaint();
+  const lw::CRaisedFlag asking(isAskingToPaint_);
+  if (what == Paint::Everything) {
+    form_->redraw();
+  } else {
+    form_->redrawTree();
+  }
 }
 
 // The host keeps what it can: of skelegons that are gone or not in the foreground any more it keeps none. The tree is then not
@@ -147,20 +177,26 @@ void onPanel(void* user, Action&& action) {
 
 }  // namespace
 
-// Some hosts paint by the event too: one that tells nothing new of the mouse is taken for that.
+// Some hosts paint by the event. Which calls do is not told, so each one draws, after it has done what the mouse asks for; the
+// drawing context is current in all of them.
 void CSkgSelPanel::OnTreeUsed(lw::LWControl* control, void* user) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    if (!panel.life_.mayBeOpen() || !panel.form_->isTree(control)) return;
-    const MouseReport report = panel.form_->mouseOfEvent();
-    const bool isNew = panel.act(panel.mouse_.any(MouseWay::ControlEvent, report), report);
-    if (!isNew) panel.drawing_.draw(panel.tree_.picture());
+    if (!panel.form_ || !panel.form_->isTree(control)) return;
+    if (panel.isAskingToPaint_) {
+      panel.mouse_.painted();
+    } else if (panel.life_.mayBeOpen()) {
+      const MouseReport report = panel.placed(panel.form_->mouseOfControl());
+      panel.act(panel.mouse_.event(report), report);
+    }
+    panel.draw();
   });
 }
 
 void CSkgSelPanel::OnDrawTree(lw::LWControl* control, void* user, int mode) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    const bool isDrawn = mode != lw::kDrawErase && panel.form_ && panel.form_->isTree(control);
-    if (isDrawn) panel.drawing_.draw(panel.tree_.picture());
+    if (mode == lw::kDrawErase || !panel.form_ || !panel.form_->isTree(control)) return;
+    panel.mouse_.painted();
+    panel.draw();
   });
 }
 
@@ -185,16 +221,16 @@ void CSkgSelPanel::OnClosed(lw::PanelId id, void* user) {
 void CSkgSelPanel::OnMouseButton(lw::PanelId /*panel*/, void* user, int bits, int x, int y) {
   onPanel(user, [&](CSkgSelPanel& panel) {
     if (!panel.life_.mayBeOpen()) return;
-    const MouseReport report = panel.form_->mouseOfHook(bits, x, y);
-    panel.act(panel.mouse_.button(MouseWay::Hooks, report), report);
+    const MouseReport report = panel.placed(panel.form_->mouseOfHook(bits, x, y));
+    panel.act(panel.mouse_.button(report), report);
   });
 }
 
 void CSkgSelPanel::OnMouseMotion(lw::PanelId /*panel*/, void* user, int bits, int x, int y) {
   onPanel(user, [&](CSkgSelPanel& panel) {
     if (!panel.life_.mayBeOpen()) return;
-    const MouseReport report = panel.form_->mouseOfHook(bits, x, y);
-    panel.act(panel.mouse_.motion(MouseWay::Hooks, report), report);
+    const MouseReport report = panel.placed(panel.form_->mouseOfHook(bits, x, y));
+    panel.act(panel.mouse_.motion(report), report);
   });
 }
 

@@ -28,6 +28,9 @@ class CSkgSelPanel {
   // refreshed instead. False when it is not known to be open then. Throws CBaseEx.
   bool OpenSelectorPanel();
 
+  // The module is about to go: gives OpenGL back what the drawing has of it. Calls nothing of the host.
+  void giveBack() { drawing_.giveFontBack(); }
+
  private:
   // The host's and the other panels' way in.
   static void OnTreeUsed(lw::LWControl* control, void* user);
@@ -51,7 +54,12 @@ class CSkgSelPanel {
   void rescan();
   void refresh();
 
-  bool act(MouseStep step, const MouseReport& report);
+  MouseReport placed(MouseReport report) const;
+  void act(MouseStep step, const MouseReport& report);
+  void press(const MouseReport& report);
+  void draw() { drawing_.draw(tree_.picture()); }
+  enum class Paint { Tree, Everything };
+  void askToPaint(Paint what = Paint::Tree);
   void show(const TreeChange& change);
   void pushSelection();
 
@@ -61,6 +69,7 @@ class CSkgSelPanel {
   CTreeView tree_;
   CTreeDrawing drawing_;
   CMouseMerge mouse_;
+  bool isAskingToPaint_ = false;  // the host may paint at once
 };
 
 }  // namespace mst

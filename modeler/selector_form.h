@@ -52,17 +52,20 @@ class CSelectorForm {
   void redrawTree() const { tree_.refresh(); }
   void redraw() const { panel_.redraw(); }
 
-  // The mouse as the host tells of it, from the tree's upper left corner: with what a hook got, and within the control's event.
+  // The mouse as the host tells of it, from the tree's upper left corner: with what a hook got, and as the control has it.
   MouseReport mouseOfHook(int bits, int x, int y) const;
-  MouseReport mouseOfEvent() const;
+  MouseReport mouseOfControl();
 
  private:
   MouseReport fromTree(int bits, int x, int y) const;
+  // Whether the control's mouse position counts from its own corner, as far as is known.
+  bool countsFromControl(int x, int y, int left, int top);
 
   lw::CPanel panel_;
   lw::CControl tree_;
   lw::CControl frame_;
   lw::CControl sync_;
+  bool countsFromControl_ = false;
 };
 
 }  // namespace mst

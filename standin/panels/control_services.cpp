@@ -162,8 +162,8 @@ int integerOf(const Control& control, int attribute) {
     case lw::kControlHotWidth: return control.hotWidth;
     case lw::kControlHotHeight: return control.hotHeight;
     case lw::kControlLabelWidth: return control.labelWidth();
-    case lw::kControlMouseX: return control.mouseX;
-    case lw::kControlMouseY: return control.mouseY;
+    case lw::kControlMouseX: return control.mouseX - (panels().options.mouseFromControl ? control.hot().x : 0);
+    case lw::kControlMouseY: return control.mouseY - (panels().options.mouseFromControl ? control.hot().y : 0);
     case lw::kControlFlags: return flagsOf(control);
     case lw::kControlMouseButton: return control.mouseButton;
     case lw::kControlClickCount: return control.clickCount;
@@ -363,6 +363,8 @@ void draw(lw::LWControl* face, int mode) {
   if (mode == lw::kDrawErase && control->panel->isOpen() && panels().options.eraseCovers) coverOthers(*control);
   if (panels().options.asksPopupsAnytime) askAnything(*control);
   if (panels().listener != nullptr) panels().listener->drawn(*control, mode);
+  const bool isArea = control->is(ControlKind::OpenGL);
+  if (isArea && control->wantsPaint && panels().options.paintsAtOnce) panels().paint(*control);
 }
 
 }  // namespace

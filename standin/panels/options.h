@@ -28,10 +28,44 @@ enum class OutsideIndex {
   Ignored,      // the list keeps the index that it had
 };
 
+// What of the mouse a control's event tells.
+enum class EventMouse {
+  All,      // presses, releases and the moves between
+  Buttons,  // presses and releases
+  Presses,
+};
+
+// How the click count of the mouse's last event comes about.
+enum class ClickCount {
+  ByPlace,   // in quick succession at one place
+  ByTime,    // in quick succession, wherever
+  Constant,  // always 1
+  Never,     // always 0
+};
+
+// Which callback of an "OpenGLControl" an exposure calls.
+enum class Painter { DrawCallback, EventCallback, Both };
+
+// Which hook tells of moves with a button down.
+enum class DragHook { Motion, Button };
+
 struct PanelOptions {
   MouseDelivery mouse = MouseDelivery::Both;
-  bool hooksNeedMouseFlag = true;  // panel mouse hooks are called only when opened with kOpenMouse
-  int openAnswer = 1;              // of `open` for a panel that was shown and does not block
+  EventMouse eventMouse = EventMouse::All;
+  bool eventBeforeHooks = false;         // where a press comes in both ways, the control's event comes first
+  bool hooksNeedMouseFlag = true;        // panel mouse hooks are called only when opened with kOpenMouse
+  bool hooksBesideControlsOnly = false;  // a press that a control hears does not reach the panel's hooks
+  DragHook dragHook = DragHook::Motion;
+  ClickCount clickCount = ClickCount::ByPlace;
+  bool wheelCountsDown = false;      // a positive count of the wheel is towards the bottom
+  bool mouseFromControl = false;     // a control's mouse position counts from its own corner, not the panel's
+  bool qualifiersAreOfTold = false;  // the panel's qualifiers are of the last mouse event that the module was told of
+  Painter painter = Painter::DrawCallback;
+  bool paintsAtOnce = false;      // a control that is to be painted again is painted within that call
+  bool contextInHooks = false;    // the drawing context of a panel's area is current in the panel's hooks, too
+  bool resizeHookOnOpen = false;  // opening a panel calls its resize hook
+
+  int openAnswer = 1;  // of `open` for a panel that was shown and does not block
   OpenHook openHook = OpenHook::Shown;
   bool closeCallsHook = true;      // `close` calls the close hook; else only the user's closing does
   bool sizeNeedsResizable = true;  // an open panel takes a new size from the module only when opened resizable

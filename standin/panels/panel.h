@@ -86,6 +86,8 @@ struct Control {
   bool isCovered = false;            // painted over by the erasing of another one
   bool isMisplaced = false;          // moved, and not drawn there yet
   std::optional<std::string> stale;  // the value that it still shows
+  bool isPainting = false;
+  int paints = 0;  // how often the host had it painted
 
   lw::ControlEvent event = nullptr;
   lw::ControlDraw drawCallback = nullptr;
@@ -162,7 +164,11 @@ struct Panel {
 
   int mouseX = 0;
   int mouseY = 0;
-  int qualifiers = 0;  // of the last mouse event, with the button bits
+  int qualifiers = 0;      // of the last mouse event, with the button bits
+  int toldQualifiers = 0;  // of the last one that the module was told of
+  int pressX = 0;          // of the last press, and how many there were at that place
+  int pressY = 0;
+  int pressCount = 0;
   Control* focus = nullptr;
   Control* mouseOwner = nullptr;  // the control in which a button was pressed and is still down
   int result = 0;
@@ -264,7 +270,7 @@ class Panels {
   void callHook(Panel& panel, lw::PanelHook hook, const char* name);
   void callMouseHook(Panel& panel, lw::PanelMouseHook hook, const char* name, int bits);
   void callResizeHook(Panel& panel);
-  // Calls the draw callback of one visible control; false when it has none or is not visible.
+  // Has the module paint one visible control, by the callback that the options name; false when it has none or is not visible.
   bool paint(Control& control);
   // Paints the controls that were exposed or drawn since their last paint. Gives their number.
   int paintWanted(Panel& panel);
@@ -276,6 +282,7 @@ class Panels {
  private:
   friend Panels& panels();
   Panels() = default;
+  static void callEvent(Control& control);
 
   std::vector<std::unique_ptr<Panel>> panels_;
   std::vector<std::string> notes_;

@@ -272,16 +272,19 @@ Control* Panels::resolve(const lw::LWControl* face, std::string& why) const {
   return control;
 }
 
+void Panels::callEvent(Control& control) {
+  callModule("control event callback", [&] { control.event(control.face, control.user); });
+}
+
 void Panels::fire(Control& control) {
   if (!control.isAlive || control.event == nullptr || control.isFiring) return;
   const Running running(*control.panel);
   control.isFiring = true;
   ++control.eventsFired;
-  const auto call = [&] { callModule("control event callback", [&] { control.event(control.face, control.user); }); };
   if (listener != nullptr && control.is(ControlKind::OpenGL)) {
-    listener->withContext(control, call);
+    listener->withContext(control, [&] { callEvent(control); });
   } else {
-    call();
+    callEvent(control);
   }
   control.isFiring = false;
 }
@@ -303,7 +306,13 @@ void Panels::turn() {
 void Panels::callMouseHook(Panel& panel, lw::PanelMouseHook hook, const char* name, int bits) {
   if (hook == nullptr) return;
   const Running running(panel);
-  callModule(name, [&] { hook(panel.id, panel.user, bits, panel.mouseX, panel.mouseY); });
+  const auto call = [&] { callModule(name, [&] { hook(panel.id, panel.user, bits, panel.mouseX, panel.mouseY); }); };
+  Control* const area = options.contextInHooks && listener != nullptr ? panel.find(ControlKind::OpenGL) : nullptr;
+  if (area != nullptr) {
+    listener->withContext(*area, call);
+  } else {
+    call();
+  }
 }
 
 void Panels::callResizeHook(Panel& panel) {
@@ -313,17 +322,26 @@ void Panels::callResizeHook(Panel& panel) {
 }
 
 bool Panels::paint(Control& control) {
-  if (!isVisible(control) || control.drawCallback == nullptr) return false;
+  const bool isArea = control.is(ControlKind::OpenGL);
+  const Painter painter = isArea ? options.painter : Painter::DrawCallback;
+  const bool draws = painter != Painter::EventCallback && control.drawCallback != nullptr;
+  const bool fires = painter != Painter::DrawCallback && control.event != nullptr;
+  if (!isVisible(control) || control.isPainting || (!draws && !fires)) return false;
   control.wantsPaint = false;
+  control.isPainting = true;
+  ++control.paints;
   const Running running(*control.panel);
   const auto call = [&] {
-    callModule("control draw callback", [&] { control.drawCallback(control.face, control.user, lw::kDrawRender); });
+    if (draws)
+      callModule("control draw callback", [&] { control.drawCallback(control.face, control.user, lw::kDrawRender); });
+    if (fires) callEvent(control);
   };
-  if (listener != nullptr && control.is(ControlKind::OpenGL)) {
+  if (listener != nullptr && isArea) {
     listener->withContext(control, call);
   } else {
     call();
   }
+  control.isPainting = false;
   return true;
 }
 

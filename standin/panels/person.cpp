@@ -10,6 +10,7 @@
 #include "standin/core/witness.h"
 #include "standin/panels/limits.h"
 #include "standin/panels/metrics.h"
+#include "standin/panels/mouse_delivery.h"
 #include "standin/panels/running.h"
 #include "standin/panels/services.h"
 #include "standin/panels/units.h"
@@ -123,45 +124,6 @@ Done typeByLetters(Control& field, std::string_view text) {
 
 double presentNumber(const Control& field) { return field.kind->value == ValueForm::Integer ? field.integer : field.real; }
 
-int buttonBits(MouseButton button) {
-  switch (button) {
-    case MouseButton::Left: return lw::kMouseLeft;
-    case MouseButton::Middle: return lw::kMouseMiddle;
-    case MouseButton::Right: return lw::kMouseRight;
-  }
-  return 0;
-}
-
-Control* areaAt(const Panel& panel, int x, int y) {
-  for (const auto& control : panel.controls) {
-    if (control->kind->handling == Handling::Mouse && isVisible(*control) && control->hot().holds(x, y))
-      return control.get();
-  }
-  return nullptr;
-}
-
-bool reachesHooks(const Panel& panel) {
-  if (panels().options.mouse == MouseDelivery::Control) return false;
-  return !panels().options.hooksNeedMouseFlag || (panel.openFlags & lw::kOpenMouse) != 0;
-}
-
-bool reachesControls() { return panels().options.mouse != MouseDelivery::Hooks; }
-
-void moveMouse(Panel& panel, int x, int y) {
-  panel.mouseX = x;
-  panel.mouseY = y;
-  if (panel.mouseOwner != nullptr) {
-    panel.mouseOwner->mouseX = x;
-    panel.mouseOwner->mouseY = y;
-  }
-}
-
-// One mouse event in the ways that the options choose; the hook comes first.
-void deliver(Panel& panel, lw::PanelMouseHook hook, const char* name) {
-  if (reachesHooks(panel)) panels().callMouseHook(panel, hook, name, panel.qualifiers);
-  if (panel.mouseOwner != nullptr && reachesControls() && isVisible(*panel.mouseOwner)) panels().fire(*panel.mouseOwner);
-}
-
 int within(int size, int least, int greatest) {
   if (greatest > 0) size = std::min(size, greatest);
   return std::max(size, std::max(least, 1));
@@ -242,9 +204,9 @@ Done mousePress(Panel* panel, int x, int y, MouseButton button, int qualifiers, 
   moveMouse(*panel, x, y);
   if (panel->mouseOwner != nullptr) {
     panel->mouseOwner->mouseButton = static_cast<int>(button);
-    panel->mouseOwner->clickCount = clicks;
+    panel->mouseOwner->clickCount = countedClicks(*panel, x, y, clicks);
   }
-  deliver(*panel, panel->mouseButtonHook, "panel mouse-button hook");
+  deliver(*panel, MouseDeed::Press);
   return {};
 }
 
@@ -253,7 +215,7 @@ Done mouseMove(Panel* panel, int x, int y) {
   moveMouse(*panel, x, y);
   const bool isDown = (panel->qualifiers & lw::kMouseDown) != 0;
   if (!isDown && (panel->openFlags & lw::kOpenMouseMotion) == 0) return {};  // passive motion has to be asked for
-  deliver(*panel, panel->mouseMoveHook, "panel mouse-move hook");
+  deliver(*panel, MouseDeed::Move);
   return {};
 }
 
@@ -262,7 +224,7 @@ Done mouseRelease(Panel* panel, int x, int y) {
   if ((panel->qualifiers & lw::kMouseDown) == 0) return failed("no mouse button is down");
   panel->qualifiers &= ~lw::kMouseDown;
   moveMouse(*panel, x, y);
-  deliver(*panel, panel->mouseButtonHook, "panel mouse-button hook");
+  deliver(*panel, MouseDeed::Release);
   panel->mouseOwner = nullptr;
   return {};
 }
@@ -276,7 +238,7 @@ Done wheel(Panel* panel, int x, int y, int notches) {
   if (Done done = usablePanel(panel); !done) return done;
   if (!panel->area().holds(x, y)) return failed("the wheel outside the panel does not reach it");
   moveMouse(*panel, x, y);
-  if (reachesHooks(*panel)) panels().callMouseHook(*panel, panel->mouseWheelHook, "panel mouse-wheel hook", notches);
+  deliverWheel(*panel, notches);
   return {};
 }
 

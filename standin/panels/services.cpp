@@ -215,6 +215,7 @@ int openPanel(Panel& panel, int flags) {
   if (panels().listener != nullptr) panels().listener->opened(panel);
   if (when == OpenHook::Shown) callHook();
   if (when == OpenHook::Later) panels().hookIsDue(panel);
+  if (panels().options.resizeHookOnOpen) panels().callResizeHook(panel);
   if (!isBlocking) return panels().options.openAnswer;
   const int answer = panels().blocking ? panels().blocking(panel) : 0;
   closePanel(panel);

@@ -3,6 +3,8 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <iostream>
+#include <stdexcept>
 #include <type_traits>
 
 namespace standin {
@@ -63,6 +65,10 @@ int runCommandLine(const Program& program, std::vector<std::string> words) {
     app.parse(words);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? 0 : kWrongUsage;
+  } catch (const std::runtime_error& error) {
+    // A host that this system cannot play.
+    std::cerr << "varnel: " << error.what() << "\n";
+    return kCannotBePlayed;
   }
   return result;
 }

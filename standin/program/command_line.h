@@ -13,6 +13,8 @@ namespace standin {
 
 // The answer to a command line that cannot be taken.
 inline constexpr int kWrongUsage = 2;
+// And to one that cannot be run on this system.
+inline constexpr int kCannotBePlayed = 2;
 
 // Where the words of an option go. A truth is a switch, which takes no word; a list takes as many words as there are.
 using OptionTarget = std::variant<bool*, int*, unsigned*, std::uint64_t*, double*, std::string*, std::vector<std::string>*>;

@@ -6,15 +6,6 @@
 namespace standin {
 namespace {
 
-constexpr VariantValue kMouse[]{
-    {"both"},
-    {"hooks",
-     [](HostOptions& host) {
-       host.panels.mouse = MouseDelivery::Hooks;
-       host.panels.hooksNeedMouseFlag = false;
-     }},
-    {"control", [](HostOptions& host) { host.panels.mouse = MouseDelivery::Control; }},
-};
 constexpr VariantValue kSetsFire[]{
     {"silent"},
     {"fire", [](HostOptions& host) { host.panels.setsFireEvents = true; }},
@@ -136,10 +127,7 @@ constexpr VariantValue kRows[]{
     {"22", [](HostOptions& host) { host.panels.rowHeight = 22; }},
 };
 
-constexpr std::array kVariants{
-    HostVariant{"mouse", "By which way mouse input over a panel arrives",
-                "both ways are documented: the panel's hooks, and the event of the control below the pointer",
-                "takes each press once, whichever way it comes", kMouse},
+constexpr std::array kPanelVariants{
     HostVariant{"sets", "Whether setting a value fires the control's event",
                 "samples call their own handler after a set, so it probably does not",
                 "ignores events while it sets values itself", kSetsFire},
@@ -222,6 +210,6 @@ constexpr std::array kVariants{
 
 }  // namespace
 
-std::span<const HostVariant> panelVariants() { return kVariants; }
+std::span<const HostVariant> panelVariants() { return kPanelVariants; }
 
 }  // namespace standin
