@@ -105,7 +105,7 @@ constexpr VariantValue kRangeUnit[]{
        host.panels.limitsTypedValues = true;
      }},
 };
-constexpr VariantValue kTexts[]{
+constexpr VariantValue kTextKeeping[]{
     {"read"},
     {"copied", [](HostOptions& host) { host.panels.copiesTexts = true; }},
 };
@@ -195,7 +195,7 @@ constexpr std::array kPanelVariants{
                 "gives ranges that are wide enough in either", kRangeUnit},
     HostVariant{"texts", "Whether labels, titles, lists and popup names are copied",
                 "not documented; reading them when needed asks more of the module", "keeps them alive as long as the panel",
-                kTexts},
+                kTextKeeping},
     HostVariant{"cut-texts", "Whether a text that fills the buffer ends with a zero",
                 "not documented; without it is what asks more of the module",
                 "keeps a byte of its own behind the buffer, and ends the text with a whole character", kCutTexts},
