@@ -50,9 +50,11 @@ GlCalls countingCalls() {
   gl.rasterPosition = count;
   gl.callList = count;
   gl.isList = countAndGive<std::uint8_t>;
+  gl.genLists = countAndGive<unsigned>;
   gl.deleteLists = count;
   gl.getError = [] { return 0U; };
   gl.currentDevice = []() -> void* { return &calls; };
+  gl.currentContext = []() -> void* { return &calls; };
   gl.selectFont = [](void*) { return SelectedFont{&calls, nullptr}; };
   gl.giveFontBack = [](void*, const SelectedFont&) {};
   gl.makeByteLists = countAndGive<bool>;

@@ -79,12 +79,15 @@ struct GlCalls {
   void (*rasterPosition)(double x, double y);
   void (*callList)(unsigned list);
   std::uint8_t (*isList)(unsigned list);
+  unsigned (*genLists)(int count);
   void (*deleteLists)(unsigned first, int count);
   unsigned (*getError)();
 
   // The system's own part.
   // The device context that is current for OpenGL, null when there is none.
   void* (*currentDevice)();
+  // The OpenGL context that is current, null when there is none.
+  void* (*currentContext)();
   // Makes the tree's font and selects it into the device context; 'font' is null when that failed. What it gives must go back
   // through giveFontBack, which selects what was selected before and deletes the font.
   SelectedFont (*selectFont)(void* device);

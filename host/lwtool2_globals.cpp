@@ -271,6 +271,7 @@ void loadLayoutStrings(GlobalFunc global) { state().layoutTexts = &texts::layout
 
 const PropertyTexts& propertyTexts() { return state().propertyTexts; }
 const RenamerTexts& renamerTexts() { return state().renamerTexts; }
-const char* layoutText(texts::LayoutText text) { return (*state().layoutTexts)[static_cast<std::size_t>(text)]; }
+const texts::LayoutTexts& layoutTexts() { return *state().layoutTexts; }
+const char* layoutText(texts::LayoutText text) { return layoutTexts()[static_cast<std::size_t>(text)]; }
 
 }  // namespace lw

@@ -131,6 +131,7 @@ void LoadRenamerStrings(GlobalFunc global);
 void loadLayoutStrings(GlobalFunc global);
 const PropertyTexts& propertyTexts();
 const RenamerTexts& renamerTexts();
+const texts::LayoutTexts& layoutTexts();
 const char* layoutText(texts::LayoutText text);
 
 }  // namespace lw

@@ -5,6 +5,7 @@
 
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_globals.h"
+#include "host/texts/whole_text.h"
 
 namespace lw {
 namespace {
@@ -39,6 +40,12 @@ LWPanControlDesc rangeDescription(int width, int least, int greatest) {
   range.range.max = greatest;
   return range;
 }
+
+constexpr int kWidestAngle = 36'000;  // degrees
+constexpr int kWidestPercent = 100'000;
+constexpr int kWidestNumber = 1'000'000;  // metres, or none
+
+LWPanControlDesc widestRange(int greatest) { return rangeDescription(0, -greatest, greatest); }
 
 LWValue integerValue(int value) {
   LWValue result;
@@ -80,11 +87,11 @@ std::string CControl::text() const {
   std::array<char, kLongestText + 1> buffer{};
   LWValue value = stringValue(buffer.data(), kLongestText);
   control_->get(control_, kControlValue, &value);
-  return buffer.data();
+  return std::string(texts::withoutCutCharacter(buffer.data()));
 }
 
 void CControl::setText(const std::string& text) const {
-  std::string copy = text;  // the host reads it only, through a pointer to char
+  std::string copy(texts::cutAtCharacter(text, kLongestText));  // the host only reads it, through a pointer to char
   LWValue value = stringValue(copy.data(), static_cast<int>(copy.size()) + 1);
   control_->set(control_, kControlValue, &value);
 }
@@ -199,13 +206,14 @@ CControl CPanel::addMiniSlider(const char* label, int fieldWidth, int least, int
   return add("MiniSliderControl", rangeDescription(fieldWidth, least, greatest), label);
 }
 
-// The ranges below are those that the host's own helpers fill in. They are the slider's, not limits of what can be typed.
-CControl CPanel::addAngle(const char* label) const { return add("AngleControl", rangeDescription(0, 0, 360), label); }
+// Whether the host holds typed numbers to these ranges is not documented, nor in which unit it takes them: so they are far wider
+// than what a rig needs, in whichever unit, and reach as far below zero.
+CControl CPanel::addAngle(const char* label) const { return add("AngleControl", widestRange(kWidestAngle), label); }
 CControl CPanel::addDistance(const char* label) const {
-  return add("MiniDistanceControl", rangeDescription(0, 0, 100), label);
+  return add("MiniDistanceControl", widestRange(kWidestNumber), label);
 }
-CControl CPanel::addFloat(const char* label) const { return add("MiniFloatControl", rangeDescription(0, 0, 100), label); }
-CControl CPanel::addPercent(const char* label) const { return add("PercentControl", rangeDescription(0, 0, 100), label); }
+CControl CPanel::addFloat(const char* label) const { return add("MiniFloatControl", widestRange(kWidestNumber), label); }
+CControl CPanel::addPercent(const char* label) const { return add("PercentControl", widestRange(kWidestPercent), label); }
 
 void CPanel::setSize(int width, int height) const {
   panels().set(panel_, kPanelWidth, &width);
@@ -237,6 +245,8 @@ void CPanel::bringToFront() const {
 
 void CPanel::setUser(void* user) const { panels().set(panel_, kPanelUserData, user); }
 
+void CPanel::onOpen(PanelHook hook) const { panels().set(panel_, kPanelOpenHook, reinterpret_cast<void*>(hook)); }
+
 void CPanel::onClose(PanelHook hook) const { panels().set(panel_, kPanelCloseHook, reinterpret_cast<void*>(hook)); }
 
 void CPanel::onMouse(PanelMouseHook button, PanelMouseHook motion, PanelMouseHook wheel) const {
@@ -248,5 +258,7 @@ void CPanel::onMouse(PanelMouseHook button, PanelMouseHook motion, PanelMouseHoo
 void CPanel::onResize(PanelResizeHook hook) const { panels().set(panel_, kPanelResizeHook, reinterpret_cast<void*>(hook)); }
 
 int CPanel::open(int flags) const { return panels().open(panel_, flags); }
+
+void CPanel::close() const { panels().close(panel_); }
 
 }  // namespace lw

@@ -23,10 +23,11 @@ class CControl {
   void setInteger(int value) const;
   double real() const;
   void setReal(double value) const;
-  std::string text() const;  // at most kLongestText bytes
+  // Texts longer than the limit are cut, and a host may hold fewer bytes yet: both end with a whole character.
+  std::string text() const;
   void setText(const std::string& text) const;
 
-  // What fits into the buffer that the host copies a text to.
+  // In bytes: what fits into the buffer that the host copies a text to.
   static constexpr int kLongestText = 4095;
 
   // A number that the host knows of the control, in pixels: place, size, label width.
@@ -95,14 +96,18 @@ class CPanel {
   // Paints everything again, as it is now.
   void redraw() const;
   void bringToFront() const;
-  // The user pointer reaches the panel's hooks. The close hook runs whenever the panel closes, by whose wish ever.
+  // The user pointer reaches the panel's hooks. They tell when the panel is shown, and when it closes by whose wish ever.
   void setUser(void* user) const;
+  void onOpen(PanelHook hook) const;
   void onClose(PanelHook hook) const;
   // Positions are relative to the panel. The wheel's bits are a signed count of clicks.
   void onMouse(PanelMouseHook button, PanelMouseHook motion, PanelMouseHook wheel) const;
   void onResize(PanelResizeHook hook) const;
-  // Shows the panel and returns at once, unless the flags say otherwise. What the host gives; it gives non-zero for success.
+  // Shows the panel and returns at once, unless the flags say otherwise. What the host answers then is not documented; see
+  // CPanelLife.
   int open(int flags) const;
+  void close() const;
+  bool is(PanelId panel) const { return panel_ == panel; }
 
   PanelId release();
 

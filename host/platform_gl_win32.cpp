@@ -20,6 +20,8 @@ constexpr DWORD kQuality = 4;
 
 void* currentDevice() { return wglGetCurrentDC(); }
 
+void* currentContext() { return wglGetCurrentContext(); }
+
 SelectedFont selectFont(void* device) {
   const HFONT font = CreateFontA(kFontHeight, kFontWidth, 0, 0, kFontWeight, FALSE, FALSE, FALSE, kJapanese,
                                  kOutputPrecision, 0, kQuality, 0, kFaceName);
@@ -74,9 +76,11 @@ const GlCalls* glCalls() {
       .rasterPosition = glRasterPos2d,
       .callList = glCallList,
       .isList = glIsList,
+      .genLists = glGenLists,
       .deleteLists = glDeleteLists,
       .getError = glGetError,
       .currentDevice = currentDevice,
+      .currentContext = currentContext,
       .selectFont = selectFont,
       .giveFontBack = giveFontBack,
       .makeByteLists = makeByteLists,

@@ -3,6 +3,7 @@
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_eval.h"
 #include "host/lwtool2_globals.h"
+#include "host/raised_flag.h"
 #include "layout/conversion.h"
 
 namespace lwp {
@@ -19,32 +20,64 @@ ConversionSettings* settingsOf(void* user) { return static_cast<ConversionSettin
 }  // namespace
 
 int CSkgConvPanel::OpenConversionPanel() {
-  if (settings_.panel == nullptr) build();
-  return lw::panels().open(settings_.panel, lw::kOpenNoButtons);
+  if (!life_.isOpen() && life_.mayBeOpen()) {
+    lw::panels().close(settings_.panel);
+    life_.closed();
+  }
+  const bool mayBeReplaced = !life_.mayBeOpen() && !settings_.isRunning;
+  if (settings_.panel == nullptr || (!isInPresentLanguage() && mayBeReplaced)) build();
+  return life_.open([&] { return lw::panels().open(settings_.panel, lw::kOpenNoButtons); });
 }
 
 void CSkgConvPanel::build() {
   ConversionSettings& s = settings_;
-  s.title = lw::FormatString("%s(%d.%d)%s", kOptimizeName, VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR, " ");
+  if (s.panel == nullptr) {
+    s.title = lw::FormatString("%s(%d.%d)%s", kOptimizeName, VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR, " ");
+  }
   lw::CPanel panel(s.title.c_str());
-  s.convertControl = panel.addBool(lw::layoutText(texts::LayoutText::ExecuteSkelegonToBone));
-  s.pivotControl = panel.addBool(lw::layoutText(texts::LayoutText::ExecuteRecordPivotRotation));
-  s.borderControl = panel.addBorder(250, 35);
-  s.runControl = panel.addButton(lw::layoutText(texts::LayoutText::Run), kRunButtonWidth);
+  const lw::CControl convert = panel.addBool(lw::layoutText(texts::LayoutText::ExecuteSkelegonToBone));
+  const lw::CControl pivot = panel.addBool(lw::layoutText(texts::LayoutText::ExecuteRecordPivotRotation));
+  const lw::CControl border = panel.addBorder(250, 35);
+  const lw::CControl run = panel.addButton(lw::layoutText(texts::LayoutText::Run), kRunButtonWidth);
 
-  s.convertControl.moveTo(10, 10);
-  s.pivotControl.moveTo(10, 30);
-  s.borderControl.moveTo(5, 65);
-  s.runControl.moveTo(kRunHotX - s.runControl.measure(lw::kControlLabelWidth), 70);
+  convert.moveTo(10, 10);
+  pivot.moveTo(10, 30);
+  border.moveTo(5, 65);
+  run.moveTo(kRunHotX - run.measure(lw::kControlLabelWidth), 70);
 
-  s.convertControl.setInteger(s.executeSkelegonToBone);
-  s.pivotControl.setInteger(s.recordPivotRotation);
-  for (const lw::CControl& control : {s.convertControl, s.pivotControl, s.borderControl, s.runControl}) control.setUser(&s);
-  s.convertControl.onEvent(&OnOptionChanged);
-  s.pivotControl.onEvent(&OnOptionChanged);
-  s.runControl.onEvent(&RunConversion);
+  convert.setInteger(s.executeSkelegonToBone);
+  pivot.setInteger(s.recordPivotRotation);
+  for (const lw::CControl& control : {convert, pivot, border, run}) control.setUser(&s);
+  convert.onEvent(&OnOptionChanged);
+  pivot.onEvent(&OnOptionChanged);
+  run.onEvent(&RunConversion);
+  panel.setUser(this);
+  panel.onOpen(&OnOpened);
+  panel.onClose(&OnClosed);
   panel.setSize(kPanelWidth, kPanelHeight);
+
+  // Only now: a panel that the host refused leaves the former one.
+  if (s.panel != nullptr) lw::panels().destroy(s.panel);
+  s.convertControl = convert;
+  s.pivotControl = pivot;
+  s.borderControl = border;
+  s.runControl = run;
   s.panel = panel.release();
+  madeOf_ = &lw::layoutTexts();
+}
+
+void CSkgConvPanel::OnOpened(lw::PanelId panel, void* user) {
+  lw::guarded([&] {
+    auto* const tool = static_cast<CSkgConvPanel*>(user);
+    if (tool != nullptr && tool->settings_.panel == panel) tool->life_.opened();
+  });
+}
+
+void CSkgConvPanel::OnClosed(lw::PanelId panel, void* user) {
+  lw::guarded([&] {
+    auto* const tool = static_cast<CSkgConvPanel*>(user);
+    if (tool != nullptr && tool->settings_.panel == panel) tool->life_.closed();
+  });
 }
 
 void CSkgConvPanel::OnOptionChanged(lw::LWControl* control, void* user) {
@@ -58,8 +91,9 @@ void CSkgConvPanel::OnOptionChanged(lw::LWControl* control, void* user) {
 
 void CSkgConvPanel::RunConversion(lw::LWControl* /*control*/, void* user) {
   lw::guarded([&] {
-    const ConversionSettings* const settings = settingsOf(user);
+    ConversionSettings* const settings = settingsOf(user);
     if (settings == nullptr) return;
+    const lw::CRaisedFlag running(settings->isRunning);
     convertSelection(settings->executeSkelegonToBone != 0, settings->recordPivotRotation != 0);
   });
 }

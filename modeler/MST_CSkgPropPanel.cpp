@@ -7,6 +7,7 @@
 #include "host/lwtool2_eval.h"
 #include "host/lwtool2_globals.h"
 #include "host/lwtool2_messages.h"
+#include "host/raised_flag.h"
 #include "modeler/property_layout.h"
 #include "modeler/property_sections.h"
 #include "modeler/tools.h"
@@ -55,31 +56,42 @@ CSkgPropPanel::~CSkgPropPanel() {
 // Opening and closing
 
 bool CSkgPropPanel::OpenPropertyPanel() {
-  if (isOpen_) {
-    form_->bringToFront();
-    reload();
-    return true;
-  }
-  build();
+  if (!isBusy_) build();  // while the host waits for an event of the panel's, it has to stay
   rescan();
   load();
-  isOpen_ = form_->open();
-  if (!isOpen_) return false;
-  // What was hidden before the panel was there need not stay so, and the host may have chosen a size of its own.
+  if (life_.isOpen()) {
+    form_->bringToFront();
+  } else {
+    life_.open([&] { return form_->open(); });
+  }
+  if (life_.mayBeOpen()) settle();
+  return life_.isOpen();
+}
+
+// Once the panel is on the screen. What was hidden before need not stay so, and the host may have chosen a size of its own.
+void CSkgPropPanel::settle() {
   form_->show(page_, group_, selected().size() == 1);
   form_->setSize(kPropertyWidth, kPropertyHeight);
   widthToggle_ = 1;
-  return true;
 }
 
 FormHooks CSkgPropPanel::hooks() {
-  FormHooks hooks{&OnUsed, {&OnCount, &OnName}, &OnClosed, this, {}};
+  FormHooks hooks{&OnUsed, {&OnCount, &OnName}, &OnOpened, &OnClosed, this, {}};
   for (std::size_t number = 0; number < kControlCount; ++number) hooks.controlUsers[number] = &links_[number];
   return hooks;
 }
 
-void CSkgPropPanel::build() {
+// The host destroys no open panel.
+void CSkgPropPanel::takeDown() {
+  if (life_.mayBeOpen()) {
+    form_->close();
+    closed();
+  }
   form_.reset();
+}
+
+void CSkgPropPanel::build() {
+  takeDown();
   choosers_.forgetTexts();
   title_ = lw::FormatString("%s(%d.%02d)%s", kPropertyName, VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR, " ");
   form_.emplace(title_.c_str(), lw::propertyTexts(), hooks());
@@ -89,7 +101,7 @@ void CSkgPropPanel::build() {
 }
 
 void CSkgPropPanel::closed() {
-  isOpen_ = false;
+  life_.closed();
   skelegons_.clear();
   layerNames_.clear();
   choosers_.clearLists();
@@ -131,6 +143,9 @@ void CSkgPropPanel::load() {
   const lw::PolygonIds polygons = selected();
   form_->showValues(ReadSkelegonProperties(polygons.empty() ? nullptr : polygons.front()));
   form_->setChoice(control::kNamePopup, 0);
+  for (const ControlRow& row : controlTable()) {
+    if (row.role == Role::WeightMaps || row.role == Role::ItemNames) rest(row.number);
+  }
   showPage();
 }
 
@@ -216,11 +231,25 @@ void CSkgPropPanel::writeValue(std::size_t number) {
   tell();
 }
 
-// The text of a chooser's choice. The chooser itself keeps none: it is a menu, so that the same entry can be chosen again.
+// The text of a chooser's choice.
 std::string CSkgPropPanel::takeChoice(std::size_t number) {
   const int index = form_->choice(number);
-  form_->setChoice(number, 0);
+  rest(number);
+  form_->refresh(number);
   return choosers_.chosen(listOf(number), index);
+}
+
+// Leaves a chooser on none of its entries: it is a menu, and hosts may fire only when the choice changes, so that an entry it
+// rests on could not be chosen. What a host makes of an index outside the list is not documented: where it holds indices to the
+// list, there is a blank entry to rest on.
+void CSkgPropPanel::rest(std::size_t number) {
+  const ChooserList list = listOf(number);
+  for (const int outside : {-1, choosers_.count(list)}) {
+    form_->setChoice(number, outside);
+    if (!choosers_.has(list, form_->choice(number))) return;
+  }
+  choosers_.endWithBlank(list);
+  form_->setChoice(number, choosers_.count(list) - 1);
 }
 
 // A map makes the bone active, none makes it inactive. Two settings, but one act of the user's and so one step to undo.
@@ -274,9 +303,11 @@ void CSkgPropPanel::reset(const char* question, bool all) {
 void CSkgPropPanel::OnUsed(lw::LWControl* control, void* user) {
   lw::guarded([&] {
     const auto* const link = static_cast<const ControlLink*>(user);
-    if (link == nullptr || !link->panel->isOpen_) return;
+    if (link == nullptr || !link->panel->life_.mayBeOpen()) return;
     const CPropertyForm& form = *link->panel->form_;
-    if (form.owns(link->number, control) && !form.isSetting()) link->panel->use(link->number);
+    if (!form.owns(link->number, control) || form.isSetting()) return;
+    const lw::CRaisedFlag busy(link->panel->isBusy_);
+    link->panel->use(link->number);
   });
 }
 
@@ -298,16 +329,24 @@ const char* CSkgPropPanel::OnName(void* user, int index) {
       "");
 }
 
-void CSkgPropPanel::OnClosed(lw::PanelId /*panel*/, void* user) {
+void CSkgPropPanel::OnOpened(lw::PanelId panel, void* user) {
   lw::guarded([&] {
-    if (user != nullptr) static_cast<CSkgPropPanel*>(user)->closed();
+    auto* const self = static_cast<CSkgPropPanel*>(user);
+    if (self != nullptr && self->isPanel(panel) && self->life_.opened()) self->settle();
+  });
+}
+
+void CSkgPropPanel::OnClosed(lw::PanelId panel, void* user) {
+  lw::guarded([&] {
+    auto* const self = static_cast<CSkgPropPanel*>(user);
+    if (self != nullptr && self->isPanel(panel)) self->closed();
   });
 }
 
 void CSkgPropPanel::OnNews(void* user, PanelNews news) {
   lw::guarded([&] {
     auto* const panel = static_cast<CSkgPropPanel*>(user);  // as it was entered
-    if (!panel->isOpen_) return;
+    if (!panel->life_.mayBeOpen()) return;
     switch (news) {
       case PanelNews::Refresh:
       case PanelNews::NamesChanged:

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "host/panel_life.h"
 #include "modeler/chooser_lists.h"
 #include "modeler/open_panels.h"
 #include "modeler/property_form.h"
@@ -27,7 +28,7 @@ class CSkgPropPanel {
   CSkgPropPanel& operator=(const CSkgPropPanel&) = delete;
 
   // The tool's run: makes the host panel anew, in the present language, and opens it without waiting for the user. A panel
-  // that is still open comes to the front and is refreshed instead. False when the host did not open it. Throws CBaseEx.
+  // that is still open is closed and replaced. False when it is not known to be open then. Throws CBaseEx.
   bool OpenPropertyPanel();
 
  private:
@@ -41,12 +42,16 @@ class CSkgPropPanel {
   static void OnUsed(lw::LWControl* control, void* link);
   static int OnCount(void* link);
   static const char* OnName(void* link, int index);
+  static void OnOpened(lw::PanelId panel, void* user);
   static void OnClosed(lw::PanelId panel, void* user);
   static void OnNews(void* panel, PanelNews news);
 
   FormHooks hooks();
   void build();
+  void takeDown();
+  void settle();
   void closed();
+  bool isPanel(lw::PanelId panel) const { return form_ && form_->is(panel); }
 
   // What the panel knows of the mesh.
   void rescan();
@@ -68,6 +73,7 @@ class CSkgPropPanel {
   void showSelected(int index);
   void writeValue(std::size_t number);
   std::string takeChoice(std::size_t number);
+  void rest(std::size_t number);
   void chooseWeightMap(std::size_t number);
   void chooseItem(std::size_t number);
   void fillWeightMaps();
@@ -78,7 +84,8 @@ class CSkgPropPanel {
   std::string title_;
   std::optional<CPropertyForm> form_;  // the panel of the last run, open or not
   std::array<ControlLink, kControlCount> links_;
-  bool isOpen_ = false;
+  lw::CPanelLife life_;
+  bool isBusy_ = false;  // a control's event is under way
 
   int page_ = 0;
   int group_ = 0;

@@ -7,6 +7,7 @@
 #include "host/lwtool2_eval.h"
 #include "host/lwtool2_globals.h"
 #include "host/lwtool2_mesh.h"
+#include "host/raised_flag.h"
 #include "modeler/tools.h"
 #include "skelegon/slots.h"
 
@@ -53,28 +54,33 @@ CSkgSelPanel::~CSkgSelPanel() {
 // Opening and closing
 
 bool CSkgSelPanel::OpenSelectorPanel() {
-  if (isOpen_) {
+  if (life_.isOpen()) {
     form_->bringToFront();
     refresh();
     return true;
   }
+  if (life_.mayBeOpen()) {
+    form_->close();
+    closed();
+  }
   if (!form_) build();
-  mouse_.reset();
+  mouse_.reset(form_->mouseOfControl());
   form_->layOut();
   fitView();
   rescan();
-  isOpen_ = form_->open();
-  return isOpen_;
+  life_.open([&] { return form_->open(); });
+  return life_.isOpen();
 }
 
 void CSkgSelPanel::build() {
   title_ = lw::FormatString("%s(%d.%d)%s", kSelectorName, VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR, " ");
-  form_.emplace(title_.c_str(), SelectorHooks{this, &OnTreeUsed, &OnDrawTree, &OnSync, &OnClosed, &OnMouseButton,
+  form_.emplace(title_.c_str(), SelectorHooks{this, &OnTreeUsed, &OnDrawTree, &OnSync, &OnOpened, &OnClosed, &OnMouseButton,
                                               &OnMouseMotion, &OnMouseWheel, &OnResized});
 }
 
 void CSkgSelPanel::closed() {
-  isOpen_ = false;
+  life_.closed();
+  giveBack();
   tree_.release();
   tree_.setNodes({});
 }
@@ -82,7 +88,7 @@ void CSkgSelPanel::closed() {
 void CSkgSelPanel::resized(int width, int height) {
   form_->layOut(width, height);
   fitView();
-  if (isOpen_) form_->redrawTree();
+  if (life_.mayBeOpen()) askToPaint(Paint::Everything);  // the tree and what was moved with it
 }
 
 void CSkgSelPanel::fitView() { tree_.setView(form_->treeWidth(), form_->treeHeight()); }
@@ -98,26 +104,54 @@ void CSkgSelPanel::rescan() {
 
 void CSkgSelPanel::refresh() {
   rescan();
-  form_->redrawTree();
+  askToPaint();
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
 // What the user does
 
-// False when it was nothing.
-bool CSkgSelPanel::act(MouseStep step, const MouseReport& report) {
-  switch (step) {
-    case MouseStep::Press: show(tree_.press({report.x, report.y, report.bits, report.clicks})); return true;
-    case MouseStep::Move: show(tree_.drag(report.x, report.y)); return true;
-    case MouseStep::Release: tree_.release(); return true;
-    case MouseStep::Nothing: break;
-  }
-  return false;
+MouseReport CSkgSelPanel::placed(MouseReport report) const {
+  report.isOnDraggedBar = tree_.isOnDraggedBar(report.x, report.y);
+  return report;
 }
 
+void CSkgSelPanel::act(MouseStep step, const MouseReport& report) {
+  switch (step) {
+    case MouseStep::Press:
+      tree_.keepNothing();
+      press(report);
+      break;
+    case MouseStep::Guess:
+      tree_.keepForTakingBack();
+      press(report);
+      break;
+    case MouseStep::Move: show(tree_.drag(report.x, report.y)); break;
+    case MouseStep::Release:  // the only thing that some hosts tell of a drag
+      show(tree_.drag(report.x, report.y));
+      tree_.release();
+      break;
+    case MouseStep::LateRelease: tree_.release(); break;
+    case MouseStep::TakeBack: show(tree_.takeBack()); break;
+    case MouseStep::Nothing: break;
+  }
+}
+
+void CSkgSelPanel::press(const MouseReport& report) { show(tree_.press({report.x, report.y, report.bits, report.clicks})); }
+
 void CSkgSelPanel::show(const TreeChange& change) {
-  if (change.looks) form_->redrawTree();
+  if (change.looks) askToPaint();
   if (change.selection) pushSelection();
+}
+
+// A host may paint within this call, by the event too: that tells nothing of the mouse then.
+void CSkgSelPanel::askToPaint(Paint what) {
+  mouse_.askedToPaint();
+  const lw::CRaisedFlag asking(isAskingToPaint_);
+  if (what == Paint::Everything) {
+    form_->redraw();
+  } else {
+    form_->redrawTree();
+  }
 }
 
 // The host keeps what it can: of skelegons that are gone or not in the foreground any more it keeps none. The tree is then not
@@ -143,52 +177,66 @@ void onPanel(void* user, Action&& action) {
 
 }  // namespace
 
-// Some hosts paint by the event too: one that tells nothing new of the mouse is taken for that.
+// Some hosts paint by the event. Which calls do is not told, so each one draws, after it has done what the mouse asks for; the
+// drawing context is current in all of them.
 void CSkgSelPanel::OnTreeUsed(lw::LWControl* control, void* user) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    if (!panel.isOpen_ || !panel.form_->isTree(control)) return;
-    const MouseReport report = panel.form_->mouseOfEvent();
-    const bool isNew = panel.act(panel.mouse_.any(MouseWay::ControlEvent, report), report);
-    if (!isNew) panel.drawing_.draw(panel.tree_.picture());
+    if (!panel.form_ || !panel.form_->isTree(control)) return;
+    if (panel.isAskingToPaint_) {
+      panel.mouse_.painted();
+    } else if (panel.life_.mayBeOpen()) {
+      const MouseReport report = panel.placed(panel.form_->mouseOfControl());
+      panel.act(panel.mouse_.event(report), report);
+    }
+    panel.draw();
   });
 }
 
 void CSkgSelPanel::OnDrawTree(lw::LWControl* control, void* user, int mode) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    const bool isDrawn = mode != lw::kDrawErase && panel.form_ && panel.form_->isTree(control);
-    if (isDrawn) panel.drawing_.draw(panel.tree_.picture());
+    if (mode == lw::kDrawErase || !panel.form_ || !panel.form_->isTree(control)) return;
+    panel.mouse_.painted();
+    panel.draw();
   });
 }
 
 void CSkgSelPanel::OnSync(lw::LWControl* control, void* user) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    if (panel.isOpen_ && panel.form_->isSync(control)) panel.refresh();
+    if (panel.life_.mayBeOpen() && panel.form_->isSync(control)) panel.refresh();
   });
 }
 
-void CSkgSelPanel::OnClosed(lw::PanelId /*panel*/, void* user) {
-  onPanel(user, [](CSkgSelPanel& panel) { panel.closed(); });
+void CSkgSelPanel::OnOpened(lw::PanelId id, void* user) {
+  onPanel(user, [&](CSkgSelPanel& panel) {
+    if (panel.isPanel(id)) panel.life_.opened();
+  });
+}
+
+void CSkgSelPanel::OnClosed(lw::PanelId id, void* user) {
+  onPanel(user, [&](CSkgSelPanel& panel) {
+    if (panel.isPanel(id)) panel.closed();
+  });
 }
 
 void CSkgSelPanel::OnMouseButton(lw::PanelId /*panel*/, void* user, int bits, int x, int y) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    if (!panel.isOpen_) return;
-    const MouseReport report = panel.form_->mouseOfHook(bits, x, y);
-    panel.act(panel.mouse_.button(MouseWay::Hooks, report), report);
+    if (!panel.life_.mayBeOpen()) return;
+    const MouseReport report = panel.placed(panel.form_->mouseOfHook(bits, x, y));
+    panel.act(panel.mouse_.button(report), report);
   });
 }
 
 void CSkgSelPanel::OnMouseMotion(lw::PanelId /*panel*/, void* user, int bits, int x, int y) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    if (!panel.isOpen_) return;
-    const MouseReport report = panel.form_->mouseOfHook(bits, x, y);
-    panel.act(panel.mouse_.motion(MouseWay::Hooks, report), report);
+    if (!panel.life_.mayBeOpen()) return;
+    const MouseReport report = panel.placed(panel.form_->mouseOfHook(bits, x, y));
+    panel.act(panel.mouse_.motion(report), report);
   });
 }
 
 void CSkgSelPanel::OnMouseWheel(lw::PanelId /*panel*/, void* user, int clicks, int /*x*/, int /*y*/) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    if (panel.isOpen_) panel.show(panel.tree_.wheel(clicks));
+    if (panel.life_.mayBeOpen()) panel.show(panel.tree_.wheel(clicks));
   });
 }
 
@@ -200,7 +248,7 @@ void CSkgSelPanel::OnResized(lw::PanelId /*panel*/, void* user, int width, int h
 
 void CSkgSelPanel::OnNews(void* user, PanelNews news) {
   onPanel(user, [&](CSkgSelPanel& panel) {
-    if (!panel.isOpen_) return;
+    if (!panel.life_.mayBeOpen()) return;
     switch (news) {
       case PanelNews::Refresh:
       case PanelNews::NamesChanged:

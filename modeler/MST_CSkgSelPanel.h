@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "host/panel_life.h"
 #include "modeler/mouse_merge.h"
 #include "modeler/open_panels.h"
 #include "modeler/selector_form.h"
@@ -13,7 +14,8 @@
 
 namespace mst {
 
-// One object for the module's lifetime, and one host panel that each run opens again.
+// One object for the module's lifetime, and one host panel that each run opens again. It has no text that depends on the host's
+// language, and so needs no other panel when that changes.
 class CSkgSelPanel {
  public:
   CSkgSelPanel();
@@ -23,14 +25,18 @@ class CSkgSelPanel {
   CSkgSelPanel& operator=(const CSkgSelPanel&) = delete;
 
   // The tool's run: opens the panel without waiting for the user. A panel that is still open comes to the front and is
-  // refreshed instead. False when the host did not open it. Throws CBaseEx.
+  // refreshed instead. False when it is not known to be open then. Throws CBaseEx.
   bool OpenSelectorPanel();
+
+  // The module is about to go: gives OpenGL back what the drawing has of it. Calls nothing of the host.
+  void giveBack() { drawing_.giveFontBack(); }
 
  private:
   // The host's and the other panels' way in.
   static void OnTreeUsed(lw::LWControl* control, void* user);
   static void OnDrawTree(lw::LWControl* control, void* user, int mode);
   static void OnSync(lw::LWControl* control, void* user);
+  static void OnOpened(lw::PanelId panel, void* user);
   static void OnClosed(lw::PanelId panel, void* user);
   static void OnMouseButton(lw::PanelId panel, void* user, int bits, int x, int y);
   static void OnMouseMotion(lw::PanelId panel, void* user, int bits, int x, int y);
@@ -42,21 +48,28 @@ class CSkgSelPanel {
   void closed();
   void resized(int width, int height);
   void fitView();
+  bool isPanel(lw::PanelId panel) const { return form_ && form_->is(panel); }
 
   // What the panel knows of the mesh.
   void rescan();
   void refresh();
 
-  bool act(MouseStep step, const MouseReport& report);
+  MouseReport placed(MouseReport report) const;
+  void act(MouseStep step, const MouseReport& report);
+  void press(const MouseReport& report);
+  void draw() { drawing_.draw(tree_.picture()); }
+  enum class Paint { Tree, Everything };
+  void askToPaint(Paint what = Paint::Tree);
   void show(const TreeChange& change);
   void pushSelection();
 
   std::string title_;
   std::optional<CSelectorForm> form_;
-  bool isOpen_ = false;
+  lw::CPanelLife life_;
   CTreeView tree_;
   CTreeDrawing drawing_;
   CMouseMerge mouse_;
+  bool isAskingToPaint_ = false;  // the host may paint at once
 };
 
 }  // namespace mst

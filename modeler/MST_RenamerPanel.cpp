@@ -1,11 +1,14 @@
 #include "modeler/MST_RenamerPanel.h"
 
+#include <optional>
 #include <unordered_set>
+#include <utility>
 
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_eval.h"
 #include "host/lwtool2_globals.h"
 #include "host/lwtool2_messages.h"
+#include "host/raised_flag.h"
 #include "modeler/tools.h"
 
 namespace mst {
@@ -21,20 +24,6 @@ bool usesChangeText(RenameMode mode) {
   return mode == RenameMode::Change || mode == RenameMode::Prefix || mode == RenameMode::Suffix;
 }
 
-const char* message(texts::RenamerMessage which) {
-  // A title stands before each text; the host's error message has no place for one.
-  return (*lw::renamerTexts().messages)[static_cast<std::size_t>(which) + 1];
-}
-
-void complain(const RenameResult& result) {
-  switch (result.outcome) {
-    case RenameOutcome::Renamed: break;
-    case RenameOutcome::NoSkelegons: return lw::ShowError(message(texts::RenamerMessage::NoSelection));
-    case RenameOutcome::DuplicatedNames: return lw::ShowError(message(texts::RenamerMessage::DuplicatedNames));
-    case RenameOutcome::InvalidPattern: return lw::ShowError(result.complaint.c_str());
-  }
-}
-
 }  // namespace
 
 RenamerPanel::RenamerPanel() { enterPanel(this, &OnNews); }
@@ -48,19 +37,42 @@ RenamerPanel::~RenamerPanel() {
 // Opening
 
 bool RenamerPanel::OpenRenamerPanel() {
-  if (isOpen_) {
+  if (life_.isOpen()) {
     form_->bringToFront();
     return true;
   }
-  if (!form_) build();
-  isOpen_ = form_->open();
-  if (isOpen_) form_->takeSize(mode_);  // the host may have chosen one of its own
-  return isOpen_;
+  if (life_.mayBeOpen()) {
+    form_->close();
+    life_.closed();
+  }
+  // A panel whose event the host is waiting for has to stay.
+  if (!form_ || (!isInPresentLanguage() && !isBusy_)) build();
+  life_.open([&] { return form_->open(); });
+  if (life_.mayBeOpen()) form_->takeSize(mode_);  // the host may have chosen one of its own
+  return life_.isOpen();
 }
 
 void RenamerPanel::build() {
-  title_ = lw::FormatString("%s(%d.%02d)%s", kRenamerName, VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR, " ");
-  form_.emplace(title_.c_str(), lw::renamerTexts(), RenamerHooks{&OnUsed, &OnClosed, this});
+  if (!form_) title_ = lw::FormatString("%s(%d.%02d)%s", kRenamerName, VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR, " ");
+  auto form =
+      std::make_unique<CRenamerForm>(title_.c_str(), lw::renamerTexts(), RenamerHooks{&OnUsed, &OnOpened, &OnClosed, this});
+  if (form_) {
+    form->takeValues(form_->values());
+    form->lookLike(mode_, false);
+  }
+  form_ = std::move(form);  // a panel that the host refused leaves the former one, with all that is in it
+  made_ = lw::renamerTexts();
+}
+
+void RenamerPanel::complain(const RenameResult& result) const {
+  // A title stands before each text; the host's error message has no place for one.
+  const auto text = [&](texts::RenamerMessage which) { return (*made_.messages)[static_cast<std::size_t>(which) + 1]; };
+  switch (result.outcome) {
+    case RenameOutcome::Renamed: break;
+    case RenameOutcome::NoSkelegons: return lw::ShowError(text(texts::RenamerMessage::NoSelection));
+    case RenameOutcome::DuplicatedNames: return lw::ShowError(text(texts::RenamerMessage::DuplicatedNames));
+    case RenameOutcome::InvalidPattern: return lw::ShowError(result.complaint.c_str());
+  }
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -86,15 +98,15 @@ void RenamerPanel::chooseMode() {
   if (mode == mode_) return;
   if (usesChangeText(mode_)) changeText_ = form_->text(RenamerItem::FirstText);
   mode_ = mode;
-  if (usesChangeText(mode)) form_->setText(RenamerItem::FirstText, changeText_, isOpen_);
+  if (usesChangeText(mode)) form_->setText(RenamerItem::FirstText, changeText_, life_.mayBeOpen());
   if (mode == RenameMode::Replace) showTexts(kReplaceFromDefault, kReplaceToDefault);
   if (mode == RenameMode::RegularExpression) showTexts(kRegexPatternDefault, kRegexFormatDefault);
-  form_->lookLike(mode, isOpen_);
+  form_->lookLike(mode, life_.mayBeOpen());
 }
 
 void RenamerPanel::showTexts(const char* first, const char* second) {
-  form_->setText(RenamerItem::FirstText, first, isOpen_);
-  form_->setText(RenamerItem::SecondText, second, isOpen_);
+  form_->setText(RenamerItem::FirstText, first, life_.mayBeOpen());
+  form_->setText(RenamerItem::SecondText, second, life_.mayBeOpen());
 }
 
 void RenamerPanel::add() {
@@ -111,7 +123,7 @@ void RenamerPanel::clear() {
 }
 
 void RenamerPanel::showRegistered() {
-  form_->setNumber(RenamerItem::RegisteredCount, static_cast<int>(registered_.size()), isOpen_);
+  form_->setNumber(RenamerItem::RegisteredCount, static_cast<int>(registered_.size()), life_.mayBeOpen());
 }
 
 // The others are told of an advanced run also when it failed, and of a simple one only when it did not, deliberately.
@@ -127,7 +139,7 @@ void RenamerPanel::run() {
     NotifyPanels(this, PanelNews::NamesChanged);
     if (withProperties) NotifyPanels(this, PanelNews::PropertiesChanged);
   }
-  if (done && isOpen_) form_->redraw();
+  if (done && life_.mayBeOpen()) form_->redraw();
 }
 
 RenameResult RenamerPanel::runPass(RenameMode mode) const {
@@ -142,20 +154,30 @@ RenameResult RenamerPanel::runPass(RenameMode mode) const {
 void RenamerPanel::OnUsed(lw::LWControl* control, void* user) {
   lw::guarded([&] {
     auto* const panel = static_cast<RenamerPanel*>(user);
-    if (panel != nullptr && panel->isOpen_ && !panel->form_->isSetting()) panel->use(control);
+    if (panel == nullptr || !panel->life_.mayBeOpen() || panel->form_->isSetting()) return;
+    const lw::CRaisedFlag busy(panel->isBusy_);
+    panel->use(control);
   });
 }
 
-void RenamerPanel::OnClosed(lw::PanelId /*panel*/, void* user) {
+void RenamerPanel::OnOpened(lw::PanelId panel, void* user) {
   lw::guarded([&] {
-    if (user != nullptr) static_cast<RenamerPanel*>(user)->isOpen_ = false;
+    auto* const self = static_cast<RenamerPanel*>(user);
+    if (self != nullptr && self->isPanel(panel) && self->life_.opened()) self->form_->takeSize(self->mode_);
+  });
+}
+
+void RenamerPanel::OnClosed(lw::PanelId panel, void* user) {
+  lw::guarded([&] {
+    auto* const self = static_cast<RenamerPanel*>(user);
+    if (self != nullptr && self->isPanel(panel)) self->life_.closed();
   });
 }
 
 void RenamerPanel::OnNews(void* user, PanelNews /*news*/) {
   lw::guarded([&] {
     auto* const panel = static_cast<RenamerPanel*>(user);  // as it was entered
-    if (panel->isOpen_) panel->showRegistered();
+    if (panel->life_.mayBeOpen()) panel->showRegistered();
   });
 }
 

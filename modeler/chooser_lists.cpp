@@ -39,9 +39,12 @@ void CChooserLists::clearLists() {
 void CChooserLists::forgetTexts() {
   clearLists();
   texts_.clear();
+  hasBlank_ = {};
 }
 
-int CChooserLists::count(ChooserList list) const { return static_cast<int>(lists_[indexOf(list)].size()); }
+int CChooserLists::count(ChooserList list) const {
+  return static_cast<int>(lists_[indexOf(list)].size()) + (hasBlank_[indexOf(list)] ? 1 : 0);
+}
 
 const char* CChooserLists::name(ChooserList list, int index) const {
   const Names& names = lists_[indexOf(list)];

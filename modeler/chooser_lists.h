@@ -28,10 +28,15 @@ class CChooserLists {
   // Only when the panel that may hold the texts is gone.
   void forgetTexts();
 
+  // From now on the list ends with a blank entry, for a host that lets a popup rest on an entry only. Until forgetTexts().
+  void endWithBlank(ChooserList list) { hasBlank_[static_cast<std::size_t>(list)] = true; }
+
+  // With the blank entry.
   int count(ChooserList list) const;
+  bool has(ChooserList list, int index) const { return index >= 0 && index < count(list); }
   // Empty for an index outside the list: the host asks for any.
   const char* name(ChooserList list, int index) const;
-  // What a choice fills in: empty for the first entry, "(none)", and outside the list.
+  // What a choice fills in: empty for the first entry, "(none)", for a blank one, and outside the list.
   std::string chosen(ChooserList list, int index) const;
 
  private:
@@ -39,6 +44,7 @@ class CChooserLists {
 
   std::unordered_set<std::string> texts_;  // elements stay where they are
   std::array<Names, 3> lists_;
+  std::array<bool, 3> hasBlank_{};
 };
 
 }  // namespace mst

@@ -1,50 +1,90 @@
-// The host may tell of the mouse in two ways: through the panel's hooks and through the control's event, or in both at once.
-// This makes one stream of presses, moves and releases of them, in which a press that came in both ways is one.
+// The host may tell of the mouse in two ways: through the panel's hooks and through the control's event, or in both at once; of
+// every press, move and release, or of presses only. This makes one stream of presses, moves and releases of them.
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <optional>
 
 namespace mst {
-
-enum class MouseWay : std::size_t { Hooks, ControlEvent };
 
 // One call of the host's about the mouse.
 struct MouseReport {
   int x = 0;
   int y = 0;
-  int bits = 0;    // the host's mouse bits
-  int clicks = 1;  // in quick succession
+  int bits = 0;                 // the host's mouse bits
+  int clicks = 1;               // in quick succession, as far as the host counts them
+  bool isInside = true;         // of the tree; a press that is not has nothing to do with it
+  bool isOnDraggedBar = false;  // in the strip of the scroll bar that is being dragged
 };
 
-enum class MouseStep { Nothing, Press, Move, Release };
+enum class MouseStep {
+  Nothing,
+  Press,
+  Guess,        // a press by all that is known so far; it may turn out to have been a move
+  Move,         // with the button down
+  Release,      // here and now
+  LateRelease,  // at some time before
+  TakeBack,     // a release that shows the guesses since the last press to have been moves
+};
+
+// What one way has told. A report with the button down that follows another one is a move where releases are told, and a press
+// where they are not. Until the first release is heard that is open: then a short step and one that no press can make are moves.
+class CMouseWay {
+ public:
+  bool isDown() const { return isDown_; }
+  bool repeatsLast(const MouseReport& report) const;
+  bool movesFromLast(const MouseReport& report) const;
+
+  // A report with the button down. One that repeats the last is a second press at the same place, or means nothing.
+  MouseStep down(const MouseReport& report, bool repeatsMeanNothing);
+  // One with no button down. `isTold` is false when the host may not have called because of the release.
+  MouseStep up(const MouseReport& report, bool isTold);
+  // Keeps a report to compare the next one with.
+  void note(const MouseReport& report);
+  void forgetButton() { isDown_ = false; }
+
+ private:
+  MouseStep downAgain(const MouseReport& report, bool repeatsMeanNothing) const;
+
+  bool isDown_ = false;
+  bool tellsReleases_ = false;
+  bool hasGuessed_ = false;  // since the last press that was certain
+  int clicks_ = 0;           // of the last press
+  MouseReport last_;
+};
 
 class CMouseMerge {
  public:
-  // Forgets what was pressed.
-  void reset() { *this = CMouseMerge(); }
+  // The panel is about to open: forgets all. `standing` is what the control tells of the mouse before anything has happened.
+  void reset(const MouseReport& standing = {});
 
-  // A call that is known to tell of a button.
-  MouseStep button(MouseWay way, const MouseReport& report);
-  // A call that is known to tell of motion.
-  MouseStep motion(MouseWay way, const MouseReport& report);
-  // A call that does not say what it tells of: a press when no button was down before.
-  MouseStep any(MouseWay way, const MouseReport& report);
+  // The panel's hooks for buttons and for motion.
+  MouseStep button(const MouseReport& report);
+  MouseStep motion(const MouseReport& report);
+  // The control's event, which does not say what it tells of. Some hosts paint by it, too.
+  MouseStep event(const MouseReport& report);
+
+  // The host was asked to paint the control; it has painted it by another call than the event.
+  void askedToPaint() { isPaintDue_ = true; }
+  void painted() {
+    isPaintDue_ = false;
+    hasJustPainted_ = true;
+  }
 
  private:
-  struct Way {
-    bool isDown = false;
-    int clicks = 0;                        // of the press that is down
-    std::optional<MouseReport> unmatched;  // the last press that the other way has not told of
-  };
+  MouseStep released(const MouseReport& report, bool isTold);
+  bool isNoPress(const MouseReport& report, bool mayBePaint) const;
+  MouseStep eventWithoutButton(const MouseReport& report);
+  MouseStep eventBesideHooks(const MouseReport& report);
 
-  Way& at(MouseWay way) { return ways_[static_cast<std::size_t>(way)]; }
-  Way& other(MouseWay way) { return ways_[1 - static_cast<std::size_t>(way)]; }
-  MouseStep press(MouseWay way, const MouseReport& report);
-  MouseStep release(MouseWay way);
-
-  std::array<Way, 2> ways_;
+  CMouseWay hooks_;
+  CMouseWay event_;
+  // Hooks say what they tell of. Once they have told of a press in the tree, presses of the event are not counted.
+  bool haveHooksPressed_ = false;
+  bool haveHooksMoved_ = false;
+  bool doesEventPaint_ = false;  // an event has come that told of no button, before and after none was down
+  bool isPaintDue_ = false;
+  bool hasJustPainted_ = false;             // nothing else was told since
+  std::optional<MouseReport> eventsPress_;  // the last one, before the hooks tell of one
 };
 
 }  // namespace mst

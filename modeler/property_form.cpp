@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/raised_flag.h"
 #include "modeler/property_layout.h"
 #include "modeler/property_sections.h"
 #include "modeler/property_store.h"
@@ -10,22 +11,22 @@
 namespace mst {
 namespace {
 
-// For as long as it lives, events are not the user's.
-class CSetting {
- public:
-  explicit CSetting(bool& flag) : flag_(flag) { flag_ = true; }
-  ~CSetting() { flag_ = false; }
-  CSetting(const CSetting&) = delete;
-  CSetting& operator=(const CSetting&) = delete;
-
- private:
-  bool& flag_;
-};
-
 // The host wants the width of an edit field in characters: fewer than fit, for the field is brought to its width anyway.
 int charactersIn(int width) {
   constexpr int kWidestCharacter = 8;
   return std::max(1, width / kWidestCharacter);
+}
+
+int entriesOf(texts::ChoiceList list) {
+  return static_cast<int>(texts::propertyChoices()[static_cast<std::size_t>(list)].count) - 1;  // without the null
+}
+
+// What a control shows of a stored number. An index outside its list, which a host may not bear, shows as the default; what is
+// stored stays, until the user chooses.
+int shownNumber(const ControlRow& row, int stored) {
+  if (row.kind == HostControl::Bool || row.kind == HostControl::BoolButton) return stored != 0 ? 1 : 0;
+  if (!row.choices || (stored >= 0 && stored < entriesOf(*row.choices))) return stored;
+  return skg::leadingInteger(skg::SlotDefaults(row.slot.value()));
 }
 
 // The field of a slider, which the host puts a handle beside.
@@ -41,6 +42,7 @@ CPropertyForm::CPropertyForm(const char* title, const lw::PropertyTexts& texts, 
     if (row.role != Role::Decoration) controls_[row.number].onEvent(hooks.used);
   }
   panel_.setUser(hooks.panelUser);
+  panel_.onOpen(hooks.opened);
   panel_.onClose(hooks.closed);
   panel_.setSize(kPropertyWidth, kPropertyHeight);
 }
@@ -76,21 +78,24 @@ void CPropertyForm::place(const ControlRow& row) const {
   control.moveTo(position.x, position.y);
 }
 
+// Erasing a control paints over whatever is where it was: all that go, go before the first one is shown.
 void CPropertyForm::show(int page, int group, bool nameCanBeEdited) const {
-  for (const ControlRow& row : controlTable()) {
-    bool visible = isShown(sectionOf(row.number), page, group);
-    if (row.role == Role::NameEdit) visible = nameCanBeEdited;
-    if (row.role == Role::NamePopup) visible = !nameCanBeEdited;
-    controls_[row.number].show(visible);
+  const auto isVisible = [&](const ControlRow& row) {
+    if (row.role == Role::NameEdit) return nameCanBeEdited;
+    if (row.role == Role::NamePopup) return !nameCanBeEdited;
+    return isShown(sectionOf(row.number), page, group);
+  };
+  for (const bool visible : {false, true}) {
+    for (const ControlRow& row : controlTable()) {
+      if (isVisible(row) == visible) controls_[row.number].show(visible);
+    }
   }
 }
-
-bool CPropertyForm::open() const { return panel_.open(lw::kOpenNoButtons) != 0; }
 
 void CPropertyForm::setValue(std::size_t number, const std::string& text) const {
   const lw::CControl& control = controls_[number];
   switch (ControlSlotMap(number).value) {
-    case ValueKind::Integer: control.setInteger(skg::leadingInteger(text)); break;
+    case ValueKind::Integer: control.setInteger(shownNumber(controlTable()[number], skg::leadingInteger(text))); break;
     case ValueKind::Real: control.setReal(skg::leadingReal(text)); break;
     case ValueKind::Text: control.setText(text); break;
     case ValueKind::Colour: control.setInteger(skg::colourIndex(text)); break;
@@ -99,7 +104,7 @@ void CPropertyForm::setValue(std::size_t number, const std::string& text) const 
 }
 
 void CPropertyForm::showValues(const skg::SkelegonProperties& properties) {
-  const CSetting setting(isSetting_);
+  const lw::CRaisedFlag setting(isSetting_);
   controls_[control::kNameEdit].setText(properties[skg::Slot::Name]);
   for (const ControlRow& row : controlTable()) {
     if (row.slot) setValue(row.number, properties[*row.slot]);
@@ -108,7 +113,7 @@ void CPropertyForm::showValues(const skg::SkelegonProperties& properties) {
 
 void CPropertyForm::showText(skg::Slot slot, const std::string& text) {
   const std::size_t number = controlOf(slot).value();
-  const CSetting setting(isSetting_);
+  const lw::CRaisedFlag setting(isSetting_);
   setValue(number, text);
   controls_[number].show(true);  // the host does not redraw a field by itself
 }
@@ -126,7 +131,7 @@ std::string CPropertyForm::storedText(std::size_t number) const {
 }
 
 void CPropertyForm::setChoice(std::size_t number, int index) {
-  const CSetting setting(isSetting_);
+  const lw::CRaisedFlag setting(isSetting_);
   controls_[number].setInteger(index);
 }
 

@@ -17,6 +17,7 @@ namespace mst {
 struct FormHooks {
   lw::ControlEvent used;     // a control was used
   lw::PopupFunctions lists;  // of custom popups
+  lw::PanelHook opened;
   lw::PanelHook closed;
   void* panelUser;
   std::array<void*, kControlCount> controlUsers;  // by control number
@@ -31,13 +32,16 @@ class CPropertyForm {
   void show(int page, int group, bool nameCanBeEdited) const;
   void setSize(int width, int height) const { panel_.setSize(width, height); }
   void bringToFront() const { panel_.bringToFront(); }
-  bool open() const;
+  int open() const { return panel_.open(lw::kOpenNoButtons); }
+  void close() const { panel_.close(); }
+  bool is(lw::PanelId panel) const { return panel_.is(panel); }
   // Leaves the host's panel to the host: for the module's end, when nothing of the host may be called any more.
   void abandon() { panel_.release(); }
 
   bool owns(std::size_t number, const lw::LWControl* control) const { return controls_[number].is(control); }
 
-  // The settings and the name in all value controls; unknown colours show as the orange entry.
+  // The settings and the name in all value controls. Unknown colours show as the orange entry, choices that are none of their
+  // list as the setting's default.
   void showValues(const skg::SkelegonProperties& properties);
   // A setting that has a control, in that control, which must be in sight.
   void showText(skg::Slot slot, const std::string& text);
@@ -45,6 +49,8 @@ class CPropertyForm {
   std::string storedText(std::size_t number) const;
   int choice(std::size_t number) const { return controls_[number].integer(); }
   void setChoice(std::size_t number, int index);
+  // Paints a control as it is now, in sight or not: the host does not by itself.
+  void refresh(std::size_t number) const { controls_[number].refresh(); }
 
   // True while the form sets values itself: an event that comes then is no wish of the user's.
   bool isSetting() const { return isSetting_; }

@@ -1,5 +1,5 @@
-#include "skelegon/slot_table.h"
 #include "modeler/property_store.h"
+#include "skelegon/slot_table.h"
 
 #include <array>
 #include <charconv>

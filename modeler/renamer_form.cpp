@@ -2,24 +2,26 @@
 
 #include <algorithm>
 
+#include "host/raised_flag.h"
+
 namespace mst {
 namespace {
-
-// For as long as it lives, events are not the user's.
-class CSettingValues {
- public:
-  explicit CSettingValues(bool& flag) : flag_(flag) { flag_ = true; }
-  ~CSettingValues() { flag_ = false; }
-  CSettingValues(const CSettingValues&) = delete;
-  CSettingValues& operator=(const CSettingValues&) = delete;
-
- private:
-  bool& flag_;
-};
 
 // What the user's use of a control does at once. All others are looked at when the user runs the tool.
 bool acts(RenamerItem item) {
   return item == RenamerItem::Mode || item == RenamerItem::Add || item == RenamerItem::Clear || item == RenamerItem::Run;
+}
+
+bool holdsNumber(RenamerKind kind) {
+  return kind == RenamerKind::Bool || kind == RenamerKind::Number || kind == RenamerKind::NumberInfo ||
+         kind == RenamerKind::Popup;
+}
+
+// Of a list, an index of one of its entries; of all others, any number.
+bool isChoice(const RenamerRow& row, int number) {
+  if (!row.choices) return true;
+  const unsigned entries = texts::renamerChoices()[static_cast<std::size_t>(*row.choices)].count - 1;  // without the null
+  return number >= 0 && static_cast<unsigned>(number) < entries;
 }
 
 }  // namespace
@@ -38,6 +40,7 @@ CRenamerForm::CRenamerForm(const char* title, const lw::RenamerTexts& texts, con
     homes_[i] = {controls_[i].measure(lw::kControlX), controls_[i].measure(lw::kControlY)};
   }
   panel_.setUser(hooks.user);
+  panel_.onOpen(hooks.opened);
   panel_.onClose(hooks.closed);
   panel_.setGreatestSize(kOutOfSight.x, kOutOfSight.y);
   lookLike(RenameMode::Change, false);
@@ -70,29 +73,49 @@ void CRenamerForm::placeAtHome() const {
   for (std::size_t i = 0; i < kRenamerItemCount; ++i) controls_[i].moveTo(homes[i].x, homes[i].y);
 }
 
-// The size can change while the panel is open only where it is resizable.
-bool CRenamerForm::open() const { return panel_.open(lw::kOpenNoButtons | lw::kOpenResizable) != 0; }
-
+// Where the panel is open, controls are erased before they move, or their pictures stay; and as erasing paints over whatever is
+// there, all of them before the first one is shown again.
 void CRenamerForm::lookLike(RenameMode mode, bool isOpen) const {
+  if (isOpen) showAll(false);
   for (const RenamerRow& row : renamerTable()) {
-    const lw::CControl& control = at(row.item);
     const RenamerPosition position = renamerPosition(row.item, mode, homes_[indexOf(row.item)]);
-    if (isOpen) control.show(false);  // or its picture stays where it was
-    control.moveTo(position.x, position.y);
-    if (isOpen) control.show(true);
+    at(row.item).moveTo(position.x, position.y);
   }
   takeSize(mode);
-  if (isOpen) redraw();
+  if (!isOpen) return;
+  showAll(true);
+  redraw();
+}
+
+void CRenamerForm::showAll(bool visible) const {
+  for (const lw::CControl& control : controls_) control.show(visible);
+}
+
+RenamerValues CRenamerForm::values() const {
+  RenamerValues values;
+  for (const RenamerRow& row : renamerTable()) {
+    if (holdsNumber(row.kind)) values.numbers[indexOf(row.item)] = number(row.item);
+    if (row.kind == RenamerKind::Edit) values.texts[indexOf(row.item)] = text(row.item);
+  }
+  return values;
+}
+
+void CRenamerForm::takeValues(const RenamerValues& values) {
+  for (const RenamerRow& row : renamerTable()) {
+    const std::size_t i = indexOf(row.item);
+    if (holdsNumber(row.kind) && isChoice(row, values.numbers[i])) setNumber(row.item, values.numbers[i], false);
+    if (row.kind == RenamerKind::Edit) setText(row.item, values.texts[i], false);
+  }
 }
 
 void CRenamerForm::setNumber(RenamerItem item, int number, bool isOpen) {
-  const CSettingValues setting(isSetting_);
+  const lw::CRaisedFlag setting(isSetting_);
   at(item).setInteger(number);
   if (isOpen) at(item).show(true);
 }
 
 void CRenamerForm::setText(RenamerItem item, const std::string& text, bool isOpen) {
-  const CSettingValues setting(isSetting_);
+  const lw::CRaisedFlag setting(isSetting_);
   at(item).setText(text);
   if (isOpen) at(item).show(true);
 }

@@ -16,8 +16,15 @@ namespace mst {
 // Whom the host calls, and with what, which must outlive the form.
 struct RenamerHooks {
   lw::ControlEvent used;  // the mode was chosen, or a button pressed
+  lw::PanelHook opened;
   lw::PanelHook closed;
   void* user;
+};
+
+// What all controls hold.
+struct RenamerValues {
+  std::array<int, kRenamerItemCount> numbers{};
+  std::array<std::string, kRenamerItemCount> texts;
 };
 
 class CRenamerForm {
@@ -28,7 +35,10 @@ class CRenamerForm {
   CRenamerForm(const CRenamerForm&) = delete;
   CRenamerForm& operator=(const CRenamerForm&) = delete;
 
-  bool open() const;
+  // Resizable, for only then the size can change while it is open.
+  int open() const { return panel_.open(lw::kOpenNoButtons | lw::kOpenResizable); }
+  void close() const { panel_.close(); }
+  bool is(lw::PanelId panel) const { return panel_.is(panel); }
   void bringToFront() const { panel_.bringToFront(); }
   void redraw() const { panel_.redraw(); }
   // Leaves the host's panel to the host: for the module's end, when nothing of the host may be called any more.
@@ -45,6 +55,10 @@ class CRenamerForm {
   void setNumber(RenamerItem item, int number, bool isOpen);
   void setText(RenamerItem item, const std::string& text, bool isOpen);
 
+  // For a panel that takes another one's place. Not while it is open.
+  RenamerValues values() const;
+  void takeValues(const RenamerValues& values);
+
   // What the controls of the advanced layout say.
   RenamerSettings settings() const;
 
@@ -56,6 +70,7 @@ class CRenamerForm {
 
   lw::CControl make(const RenamerRow& row, const lw::RenamerTexts& texts);
   void placeAtHome() const;
+  void showAll(bool visible) const;
   const lw::CControl& at(RenamerItem item) const { return controls_[indexOf(item)]; }
   bool isOn(RenamerItem item) const { return number(item) != 0; }
 

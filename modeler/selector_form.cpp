@@ -40,6 +40,7 @@ CSelectorForm::CSelectorForm(const char* title, const SelectorHooks& hooks) : pa
   sync_.onEvent(hooks.syncPressed);
 
   panel_.setUser(hooks.user);
+  panel_.onOpen(hooks.opened);
   panel_.onClose(hooks.closed);
   panel_.onMouse(hooks.mouseButton, hooks.mouseMotion, hooks.mouseWheel);
   panel_.onResize(hooks.resized);
@@ -48,7 +49,7 @@ CSelectorForm::CSelectorForm(const char* title, const SelectorHooks& hooks) : pa
   layOut(kSelectorWidth, kSelectorHeight);
 }
 
-bool CSelectorForm::open() const { return panel_.open(kOpenFlags) != 0; }
+int CSelectorForm::open() const { return panel_.open(kOpenFlags); }
 
 // A host may ignore the least size, but no control has less than a pixel.
 void CSelectorForm::layOut(int width, int height) const {
@@ -68,17 +69,37 @@ void CSelectorForm::layOut() const {
 }
 
 MouseReport CSelectorForm::fromTree(int bits, int x, int y) const {
-  return {x - tree_.measure(lw::kControlHotX), y - tree_.measure(lw::kControlHotY), bits,
-          tree_.measure(lw::kControlClickCount)};
+  MouseReport report;
+  report.x = x;
+  report.y = y;
+  report.bits = bits;
+  report.clicks = tree_.measure(lw::kControlClickCount);
+  report.isInside = x >= 0 && y >= 0 && x < treeWidth() && y < treeHeight();
+  return report;
 }
 
-MouseReport CSelectorForm::mouseOfHook(int bits, int x, int y) const { return fromTree(bits, x, y); }
+MouseReport CSelectorForm::mouseOfHook(int bits, int x, int y) const {
+  return fromTree(bits, x - tree_.measure(lw::kControlHotX), y - tree_.measure(lw::kControlHotY));
+}
 
-MouseReport CSelectorForm::mouseOfEvent() const {
+MouseReport CSelectorForm::mouseOfControl() {
   int bits = panel_.measure(lw::kPanelQualifiers);
   const bool namesNoButton = (bits & lw::kMouseRight) == 0;
   if ((bits & lw::kMouseDown) != 0 && namesNoButton) bits |= bitsOfButton(tree_.measure(lw::kControlMouseButton));
-  return fromTree(bits, tree_.measure(lw::kControlMouseX), tree_.measure(lw::kControlMouseY));
+  const int x = tree_.measure(lw::kControlMouseX);
+  const int y = tree_.measure(lw::kControlMouseY);
+  const int left = tree_.measure(lw::kControlHotX);
+  const int top = tree_.measure(lw::kControlHotY);
+  return countsFromControl(x, y, left, top) ? fromTree(bits, x, y) : fromTree(bits, x - left, y - top);
+}
+
+// It counts from the panel's corner. The panel's own position, which does so too, shows a host that counts from the control's.
+bool CSelectorForm::countsFromControl(int x, int y, int left, int top) {
+  const int panelX = panel_.measure(lw::kPanelMouseX);
+  const int panelY = panel_.measure(lw::kPanelMouseY);
+  if (panelX == x && panelY == y) countsFromControl_ = false;
+  if (panelX == x + left && panelY == y + top) countsFromControl_ = true;
+  return countsFromControl_;
 }
 
 }  // namespace mst

@@ -19,6 +19,7 @@ struct SelectorHooks {
   lw::ControlEvent treeUsed;
   lw::ControlDraw drawTree;
   lw::ControlEvent syncPressed;
+  lw::PanelHook opened;
   lw::PanelHook closed;
   lw::PanelMouseHook mouseButton;
   lw::PanelMouseHook mouseMotion;
@@ -31,7 +32,9 @@ class CSelectorForm {
   // Makes the panel, not yet open. The title must outlive it. Throws CBaseEx when the host refuses something.
   CSelectorForm(const char* title, const SelectorHooks& hooks);
 
-  bool open() const;
+  int open() const;
+  void close() const { panel_.close(); }
+  bool is(lw::PanelId panel) const { return panel_.is(panel); }
   void bringToFront() const { panel_.bringToFront(); }
   // Leaves the host's panel to the host: for the module's end, when nothing of the host may be called any more.
   void abandon() { panel_.release(); }
@@ -47,18 +50,22 @@ class CSelectorForm {
   int treeWidth() const { return tree_.measure(lw::kControlHotWidth); }
   int treeHeight() const { return tree_.measure(lw::kControlHotHeight); }
   void redrawTree() const { tree_.refresh(); }
+  void redraw() const { panel_.redraw(); }
 
-  // The mouse as the host tells of it, from the tree's upper left corner: with what a hook got, and within the control's event.
+  // The mouse as the host tells of it, from the tree's upper left corner: with what a hook got, and as the control has it.
   MouseReport mouseOfHook(int bits, int x, int y) const;
-  MouseReport mouseOfEvent() const;
+  MouseReport mouseOfControl();
 
  private:
   MouseReport fromTree(int bits, int x, int y) const;
+  // Whether the control's mouse position counts from its own corner, as far as is known.
+  bool countsFromControl(int x, int y, int left, int top);
 
   lw::CPanel panel_;
   lw::CControl tree_;
   lw::CControl frame_;
   lw::CControl sync_;
+  bool countsFromControl_ = false;
 };
 
 }  // namespace mst

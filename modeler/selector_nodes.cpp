@@ -90,9 +90,9 @@ class CBuilder {
 }  // namespace
 
 int colourOf(const ScannedSkelegon& skelegon) {
-  // An empty colour tag is a colour tag: the copy does not count then.
-  const std::optional<std::string>& text = skelegon.colour ? skelegon.colour : skelegon.colourCopy;
-  return skg::colourIndex(text.value_or(std::string()));
+  // A blank tag is no text: the cyan colours are stored so, and only the copy says which.
+  const std::string colour = skelegon.colour.value_or(std::string());
+  return skg::colourIndex(colour.empty() ? skelegon.colourCopy.value_or(std::string()) : colour);
 }
 
 SelectorNodes buildSelectorNodes(ScannedSkelegons skelegons, const std::vector<std::string>& layerNames,

@@ -46,7 +46,7 @@ struct ScannedSkelegon {
 // In scan order.
 using ScannedSkelegons = std::vector<ScannedSkelegon>;
 
-// The colour index of a skelegon: by the colour tag; by the copy where there is no such tag at all. The orange entry for an
+// The colour index of a skelegon: by the colour tag; by the copy where that tag is missing or blank. The orange entry for an
 // unknown word and for no word.
 int colourOf(const ScannedSkelegon& skelegon);
 

@@ -1,8 +1,9 @@
 #include "modeler/text_cells.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
+
+#include "modeler/character_width.h"
 
 namespace mst {
 namespace {
@@ -39,34 +40,6 @@ char32_t decoded(std::string_view text, const Form& form) {
   }
   const bool isValid = character >= form.least && character <= kGreatest && !isSurrogate(character);
   return isValid ? character : kNone;
-}
-
-struct Range {
-  char32_t first;
-  char32_t last;
-};
-// The characters that East Asian fonts draw two cells wide.
-constexpr std::array kFullWidth = {
-    Range{0x1100, 0x115F},    // first parts of Korean syllables
-    Range{0x2E80, 0x303E},    // radicals, ideographic punctuation
-    Range{0x3041, 0x33FF},    // kana, squared words
-    Range{0x3400, 0x4DBF},    // ideographs
-    Range{0x4E00, 0x9FFF},    //
-    Range{0xA000, 0xA4CF},    // Yi
-    Range{0xA960, 0xA97C},    // Korean
-    Range{0xAC00, 0xD7A3},    //
-    Range{0xF900, 0xFAFF},    // compatibility ideographs
-    Range{0xFE30, 0xFE6F},    // forms for vertical text
-    Range{0xFF01, 0xFF60},    // full-width letters and signs
-    Range{0xFFE0, 0xFFE6},    //
-    Range{0x1F300, 0x1F64F},  // pictographs
-    Range{0x1F900, 0x1F9FF},  //
-    Range{0x20000, 0x3FFFD},  // further ideographs
-};
-
-bool isFullWidth(char32_t character) {
-  return std::any_of(kFullWidth.begin(), kFullWidth.end(),
-                     [character](const Range& range) { return character >= range.first && character <= range.last; });
 }
 
 }  // namespace

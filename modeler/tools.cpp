@@ -6,10 +6,16 @@
 
 namespace mst {
 
-int runSelector() {
+namespace {
+
+CSkgSelPanel& selector() {
   static CSkgSelPanel panel;
-  return panel.OpenSelectorPanel() ? 1 : 0;
+  return panel;
 }
+
+}  // namespace
+
+int runSelector() { return selector().OpenSelectorPanel() ? 1 : 0; }
 
 int runRenamer() {
   static RenamerPanel panel;
@@ -20,5 +26,7 @@ int runProperty() {
   static CSkgPropPanel panel;
   return panel.OpenPropertyPanel() ? 1 : 0;
 }
+
+void endTools() { selector().giveBack(); }
 
 }  // namespace mst

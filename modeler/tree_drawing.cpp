@@ -111,8 +111,9 @@ double skipCells(std::string_view& text, double cells) {
   return skipped;
 }
 
-// One picture. The owner of the rows is never asked between OpenGL's begin and end: it may throw. Places are in pixels from the top left of the view: the scroll offsets are taken off here, in doubles, since
-// OpenGL's own floats lose parts of pixels far down a long tree.
+// One picture. The owner of the rows is never asked between OpenGL's begin and end: it may throw. Places are in pixels from the
+// top left of the view: the scroll offsets are taken off here, in doubles, since OpenGL's own floats lose parts of pixels far
+// down a long tree.
 class Frame {
  public:
   Frame(const GlCalls& gl, const TreePicture& picture)
@@ -314,6 +315,10 @@ void CTreeDrawing::draw(const TreePicture& picture) {
   frame.drawGuideLines();
   frame.drawMarkersAndTexts(font_, use);
   frame.drawScrollBars();
+}
+
+void CTreeDrawing::giveFontBack() {
+  if (gl_ != nullptr) font_.giveBack(*gl_);
 }
 
 }  // namespace mst

@@ -17,6 +17,10 @@ class CTreeDrawing {
   // it was found, also when the owner of the rows throws.
   void draw(const TreePicture& picture);
 
+  // Gives OpenGL back the lists that it numbered, if the context that they were made in is current; draw makes them again. To be
+  // called while the host still runs: the destructor asks OpenGL for nothing, since at a program's end it may be gone already.
+  void giveFontBack();
+
  private:
   const GlCalls* gl_;
   CTreeFont font_;

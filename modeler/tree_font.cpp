@@ -58,16 +58,14 @@ bool CTreeFont::Use::select() {
 bool CTreeFont::prepare(Use& use) {
   const GlCalls& gl = use.gl();
   // A new window can get the handle of a closed one's device context. Then the lists went with the old window.
-  const bool haveLists = gl.isList(kFirstList) != 0;
-  if (use.device() == madeFor_ && haveLists) return true;
+  if (use.device() == madeFor_ && gl.isList(kFirstList) != 0) return true;
 
-  // Without the lists it is another OpenGL context: what has these numbers there is not ours.
-  if (haveLists) forgetOwnLists(gl);
-  ownLists_.clear();
-  madeFor_ = nullptr;
+  giveBack(gl);
+  madeFor_ = madeIn_ = nullptr;
   const ListMaking making(gl);
   if (!use.select() || !gl.makeByteLists(use.device(), 0, kByteLists, kFirstList)) return false;
   madeFor_ = use.device();
+  madeIn_ = gl.currentContext();
   return true;
 }
 
@@ -76,17 +74,30 @@ unsigned CTreeFont::listOf(char32_t character, Use& use) {
   if (character > kGreatestWide) return kQuestionList;
   if (const auto known = ownLists_.find(character); known != ownLists_.end()) return known->second;
 
-  if (ownLists_.size() == kMostOwnLists) forgetOwnLists(use.gl());
+  if (ownLists_.size() == kMostOwnLists) giveBack(use.gl());
   unsigned& list = ownLists_[character];
   list = kQuestionList;
-  const auto own = static_cast<unsigned>(kFirstOwnList + ownLists_.size() - 1);
-  const ListMaking making(use.gl());
-  if (use.select() && use.gl().makeWideList(use.device(), static_cast<char16_t>(character), own)) list = own;
+  list = madeList(static_cast<char16_t>(character), use);
   return list;
 }
 
-void CTreeFont::forgetOwnLists(const GlCalls& gl) {
-  if (!ownLists_.empty()) gl.deleteLists(kFirstOwnList, static_cast<int>(ownLists_.size()));
+unsigned CTreeFont::madeList(char16_t character, Use& use) const {
+  const GlCalls& gl = use.gl();
+  const ListMaking making(gl);
+  if (!use.select()) return kQuestionList;
+  const unsigned list = gl.genLists(1);
+  if (list == 0) return kQuestionList;
+  if (gl.makeWideList(use.device(), character, list)) return list;
+  gl.deleteLists(list, 1);
+  return kQuestionList;
+}
+
+void CTreeFont::giveBack(const GlCalls& gl) {
+  // A context that has lost the lists of bytes is a new one under an old handle.
+  const bool isTheirs = madeIn_ != nullptr && gl.currentContext() == madeIn_ && gl.isList(kFirstList) != 0;
+  for (const auto& [character, list] : ownLists_) {
+    if (isTheirs && list != kQuestionList) gl.deleteLists(list, 1);
+  }
   ownLists_.clear();
 }
 

@@ -1,7 +1,8 @@
-// The tree's characters as bitmap lists of OpenGL: those of the font's first 255 byte codes, made together, and one for each other
-// character that a name holds, made when it is first drawn.
+// The tree's characters as bitmap lists of OpenGL: those of the font's first 255 byte codes, made together under fixed numbers, and
+// one for each other character that a name holds, made when it is first drawn under a number that OpenGL gives.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <unordered_map>
 
@@ -9,10 +10,9 @@
 
 namespace mst {
 
-inline constexpr unsigned kFirstList = 1000;  // of character code 0
-inline constexpr unsigned kByteLists = 255;   // there is none for code 255
-inline constexpr unsigned kFirstOwnList = kFirstList + kByteLists;
-inline constexpr unsigned kMostOwnLists = 2048;  // more than a view shows; when they are used up they begin anew
+inline constexpr unsigned kFirstList = 1000;        // of character code 0
+inline constexpr unsigned kByteLists = 255;         // there is none for code 255
+inline constexpr std::size_t kMostOwnLists = 2048;  // more than a view shows; when they are used up they begin anew
 
 class CTreeFont {
  public:
@@ -42,11 +42,17 @@ class CTreeFont {
   // [prepared] The list that shows a character; that of "?" where the font gives none.
   unsigned listOf(char32_t character, Use& use);
 
- private:
-  void forgetOwnLists(const GlCalls& gl);
+  // Deletes the lists of single characters where that is safe: in the context that they were made in, while it is current.
+  // Anywhere else their numbers may be somebody else's lists by now, so they are left to their context, which ends with the
+  // host's window.
+  void giveBack(const GlCalls& gl);
 
-  void* madeFor_ = nullptr;
-  std::unordered_map<char32_t, unsigned> ownLists_;
+ private:
+  unsigned madeList(char16_t character, Use& use) const;
+
+  void* madeFor_ = nullptr;                          // device context
+  void* madeIn_ = nullptr;                           // OpenGL's context
+  std::unordered_map<char32_t, unsigned> ownLists_;  // the list of "?" for a character without one
 };
 
 }  // namespace mst

@@ -45,6 +45,7 @@ int asLength(long long pixels) {
 void CTreeView::setNodes(SelectorNodes nodes) {
   const skg::PolygonId anchored = anchor_ == kNoRow ? nullptr : nodeOf(anchor_).polygon;
   nodes_ = std::move(nodes);
+  keepNothing();
   layOut();
   const auto isAnchored = [&](const TreeRow& row) { return nodes_[row.node].polygon == anchored; };
   const auto found = anchored == nullptr ? rows_.end() : std::find_if(rows_.begin(), rows_.end(), isAnchored);
@@ -54,7 +55,7 @@ void CTreeView::setNodes(SelectorNodes nodes) {
 void CTreeView::setView(int width, int height) {
   width_ = std::clamp(width, 0, kGreatestView) * kUnitsPerPixel;
   height_ = std::clamp(height, 0, kGreatestView) * kUnitsPerPixel;
-  anchor_ = kNoRow;
+  anchor_ = clicked_ = kNoRow;
   drag_ = Drag::None;
   horizontal_.scrollTo(0);
   vertical_.scrollTo(0);
@@ -127,9 +128,21 @@ std::vector<skg::PolygonId> CTreeView::selectedPolygons() const {
 TreeChange CTreeView::press(const TreePress& press) {
   const TreeHit hit = hitAt(press.x, press.y, window(), rows_);
   if (hit.part == TreePart::Outside) return {};
-  const TreeAction action = actionOf(press.bits);
+  TreeAction action = actionOf(press.bits);
   beginDrag(hit.part, press);
-  return use(hit, action, press.clicks);
+  pairClicks(hit, action, press.clicks);
+  return use(hit, action);
+}
+
+// Makes the second of two quick clicks on one row a double-click. Hosts may count clicks by time alone, wherever they are, so
+// the row is looked at too. With a qualifier it is a click like the first: two toggles are two toggles.
+void CTreeView::pairClicks(const TreeHit& hit, TreeAction& action, int clicks) {
+  const bool isPlainClick = hit.part == TreePart::Label && action.click && !action.isQualified();
+  const bool isSecond = isPlainClick && clicks > 1 && hit.row == clicked_;
+  clicked_ = isPlainClick && !isSecond ? hit.row : kNoRow;
+  if (!isSecond) return;
+  action.click = false;
+  action.doubleClick = true;
 }
 
 void CTreeView::beginDrag(TreePart part, const TreePress& press) {
@@ -154,12 +167,36 @@ TreeChange CTreeView::drag(int x, int y) {
   return {};
 }
 
+bool CTreeView::isOnDraggedBar(int x, int y) const {
+  const TreePart part = hitAt(x, y, window(), rows_).part;
+  return (drag_ == Drag::Horizontal && part == TreePart::HorizontalBar) ||
+         (drag_ == Drag::Vertical && part == TreePart::VerticalBar);
+}
+
+void CTreeView::keepForTakingBack() {
+  if (kept_) return;
+  kept_.emplace(Kept{{}, anchor_});
+  kept_->states.reserve(nodes_.size());
+  for (const SelectorNode& node : nodes_) kept_->states.push_back(node.state);
+}
+
+TreeChange CTreeView::takeBack() {
+  release();
+  clicked_ = kNoRow;
+  if (!kept_) return {};
+  for (std::size_t i = 0; i < nodes_.size(); ++i) nodes_[i].state = kept_->states[i];
+  layOut();
+  anchor_ = kept_->anchor;
+  kept_.reset();
+  return {true, true};
+}
+
 TreeChange CTreeView::wheel(int clicks) {
   constexpr int kStep = kWheelRows * kRowHeight * kUnitsPerPixel;
   return {vertical_.scrollBy(-static_cast<long long>(kStep) * clicks), false};
 }
 
-TreeChange CTreeView::use(const TreeHit& hit, TreeAction action, int clicks) {
+TreeChange CTreeView::use(const TreeHit& hit, TreeAction action) {
   switch (hit.part) {
     case TreePart::Expander:
       if (!action.click) return {};
@@ -170,13 +207,7 @@ TreeChange CTreeView::use(const TreeHit& hit, TreeAction action, int clicks) {
       clearSelection();
       anchor_ = kNoRow;
       return {true, true};
-    case TreePart::Label:
-      // The second of two quick clicks. With a qualifier it is a click like the first: two toggles are two toggles.
-      if (action.click && clicks > 0 && clicks % 2 == 0 && !action.isQualified()) {
-        action.click = false;
-        action.doubleClick = true;
-      }
-      return useLabel(hit.row, action);
+    case TreePart::Label: return useLabel(hit.row, action);
     case TreePart::Outside:
     case TreePart::HorizontalBar:
     case TreePart::VerticalBar: break;

@@ -20,7 +20,7 @@ struct TreePress {
   int x = 0;
   int y = 0;
   int bits = 0;    // the host's mouse bits
-  int clicks = 1;  // in quick succession at that place, this one included
+  int clicks = 1;  // in quick succession, this one included, at whatever places
 };
 
 // What an input changed.
@@ -42,6 +42,15 @@ class CTreeView : private TreeOwner {
   // The pointer moves while the button is down.
   TreeChange drag(int x, int y);
   void release() { drag_ = Drag::None; }
+  // Whether the point lies in the strip of the scroll bar that is being dragged.
+  bool isOnDraggedBar(int x, int y) const;
+
+  // A press that may prove to be none is coming: keeps what is selected and expanded, until a press that is certain.
+  void keepForTakingBack();
+  void keepNothing() { kept_.reset(); }
+  // The presses since then were none.
+  TreeChange takeBack();
+
   // Positive clicks are towards the top.
   TreeChange wheel(int clicks);
 
@@ -79,7 +88,8 @@ class CTreeView : private TreeOwner {
   void fitScrolling();
 
   void beginDrag(TreePart part, const TreePress& press);
-  TreeChange use(const TreeHit& hit, TreeAction action, int clicks);
+  void pairClicks(const TreeHit& hit, TreeAction& action, int clicks);
+  TreeChange use(const TreeHit& hit, TreeAction action);
   TreeChange useLabel(std::size_t row, TreeAction action);
   void flipExpanded(std::size_t row);
   void clearSelection();
@@ -94,6 +104,15 @@ class CTreeView : private TreeOwner {
   CScrollAxis horizontal_;
   CScrollAxis vertical_;
   std::size_t anchor_ = kNoRow;
+
+  // Row of the last press, if that was a plain click on a label.
+  std::size_t clicked_ = kNoRow;
+
+  struct Kept {
+    std::vector<std::uint32_t> states;  // by node
+    std::size_t anchor;
+  };
+  std::optional<Kept> kept_;
 
   Drag drag_ = Drag::None;
   int pressX_ = 0;

@@ -1,5 +1,6 @@
 // The one symbol that the module exports, and the table of its servers.
 #include "host/lightwave.h"
+#include "host/lwtool2_errors.h"
 #include "layout/conversion.h"
 #include "modeler/tools.h"
 #include "module/CustomNodel.h"
@@ -22,7 +23,9 @@ void* startUp() {
   return reinterpret_cast<void*>(4);  // NOLINT(performance-no-int-to-ptr)
 }
 
-void shutDown(void* /*serverData*/) {}
+void shutDown(void* /*serverData*/) {
+  lw::guarded([] { mst::endTools(); });
+}
 
 }  // namespace
 

@@ -1,8 +1,8 @@
 #include "standin/layout/arrived.h"
 
 #include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdlib>
 #include <functional>
 #include <iterator>
 #include <optional>
@@ -24,7 +24,11 @@ struct Look {
   }
   double number(int slot, double otherwise = 0) const {
     const auto found = stored.find(slot);
-    return found == stored.end() ? otherwise : std::strtod(found->second.c_str(), nullptr);
+    if (found == stored.end()) return otherwise;
+    const std::string& text = found->second;
+    double value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value);  // in any locale
+    return value;
   }
   bool on(int slot) const { return number(slot) != 0; }
 };

@@ -119,7 +119,9 @@ void ModelerHost::offerGlobals() {
 std::optional<int> ModelerHost::activate(ModuleFile& module, std::string_view server, const std::string& argument,
                                          int version) {
   const ActivationRecord record(argument);
-  return module.activate(server, version, record.get());
+  const std::optional<int> result = module.activate(server, version, record.get());
+  panels().turn();
+  return result;
 }
 
 std::optional<int> ModelerHost::activate(lw::ActivateFunc function, const std::string& argument, int version) {

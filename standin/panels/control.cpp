@@ -111,7 +111,9 @@ std::vector<std::string> Control::lines() const {
   return panels().options.copiesTexts ? copiedItems : readList(description.text.text);
 }
 
-std::string Control::shown() const {
+std::string Control::shown() const { return stale ? *stale : valueShown(); }
+
+std::string Control::valueShown() const {
   switch (kind->handling) {
     case Handling::Toggle: return integer != 0 ? "on" : "off";
     case Handling::Choose: return shownChoice(*this);
@@ -131,8 +133,16 @@ std::string Control::describe() const {
          (isAlive ? printable(label.read()) : std::string()) + "\" of panel \"" + printable(panel->titleAtCreation) + "\"";
 }
 
+void askAnything(const Control& popup) {
+  if (!popup.is(ControlKind::CustomPopup)) return;
+  constexpr int kFar = 1'000'000;
+  const int count = customCount(popup);
+  for (const int index : {-1, 0, count - 1, count, kFar}) customName(popup, index);
+}
+
 bool isVisible(const Control& control) {
-  return control.isAlive && control.panel->isOpen() && !control.isErased && control.panel->area().meets(control.whole());
+  if (control.isErased || control.isCovered || control.isMisplaced) return false;
+  return control.isAlive && control.panel->isOpen() && control.panel->area().meets(control.whole());
 }
 
 Control* Panel::find(std::optional<ControlKind> kind, std::optional<std::string_view> label, int n, bool visibleOnly) const {

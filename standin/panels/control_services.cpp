@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "standin/core/witness.h"
+#include "standin/panels/limits.h"
 #include "standin/panels/metrics.h"
 #include "standin/panels/services.h"
 
@@ -161,8 +162,8 @@ int integerOf(const Control& control, int attribute) {
     case lw::kControlHotWidth: return control.hotWidth;
     case lw::kControlHotHeight: return control.hotHeight;
     case lw::kControlLabelWidth: return control.labelWidth();
-    case lw::kControlMouseX: return control.mouseX;
-    case lw::kControlMouseY: return control.mouseY;
+    case lw::kControlMouseX: return control.mouseX - (panels().options.mouseFromControl ? control.hot().x : 0);
+    case lw::kControlMouseY: return control.mouseY - (panels().options.mouseFromControl ? control.hot().y : 0);
     case lw::kControlFlags: return flagsOf(control);
     case lw::kControlMouseButton: return control.mouseButton;
     case lw::kControlClickCount: return control.clickCount;
@@ -207,17 +208,39 @@ void get(lw::LWControl* face, int attribute, lw::LWValue* value) {
 // ---------------------------------------------------------------------------------------------------------------------
 // Writing
 
+int acceptedIndex(const Control& list, int index) {
+  const OutsideIndex rule = panels().options.outsideIndex;
+  if (rule == OutsideIndex::Kept) return index;
+  if (rule == OutsideIndex::NotNegative) return std::max(0, index);
+  const int last = static_cast<int>(list.items().size()) - 1;
+  if (index >= 0 && index <= last) return index;
+  return rule == OutsideIndex::Ignored ? list.integer : std::clamp(index, 0, std::max(0, last));
+}
+
+int acceptedInteger(const Control& control, int number) {
+  switch (control.kind->handling) {
+    case Handling::Toggle: return number != 0 ? 1 : 0;
+    case Handling::Choose: return acceptedIndex(control, number);
+    case Handling::Slide: return static_cast<int>(limitedWhenSet(control, number));
+    default: return number;
+  }
+}
+
+// What the control still shows, where a set alone changes nothing on the screen.
+void keepShown(Control& control) {
+  if (panels().options.setsRepaint || !control.panel->isOpen() || control.stale) return;
+  control.stale = control.shown();
+}
+
 void takeValue(Control& control, const lw::LWValue& value) {
+  keepShown(control);
   switch (control.kind->value) {
-    case ValueForm::Integer:
-      control.integer =
-          control.kind->handling == Handling::Toggle ? static_cast<int>(value.intv.value != 0) : value.intv.value;
-      break;
+    case ValueForm::Integer: control.integer = acceptedInteger(control, value.intv.value); break;
     case ValueForm::Float:
       if (!std::isfinite(value.flt.value)) panels().note(control.describe() + " was set to a value that is no number");
-      control.real = value.flt.value;
+      control.real = limitedWhenSet(control, value.flt.value);
       break;
-    case ValueForm::String: control.text = value.str.buf; break;
+    case ValueForm::String: control.text = heldText(value.str.buf); break;
     case ValueForm::None: break;
   }
 }
@@ -235,12 +258,25 @@ void takeFocus(const HostCall& call, Control& control) {
   }
 }
 
-void takeInteger(const HostCall& call, Control& control, int attribute, int number) {
+void takePlace(Control& control, int attribute, int number) {
+  const Rectangle before = control.whole();
   switch (attribute) {
     case lw::kControlX: control.x = number; break;
     case lw::kControlY: control.y = number; break;
     case lw::kControlWidth: control.setWidth(number); break;
-    case lw::kControlHeight: control.setHeight(number); break;
+    default: control.setHeight(number); break;
+  }
+  const Rectangle now = control.whole();
+  const bool isSame = now.x == before.x && now.y == before.y && now.width == before.width && now.height == before.height;
+  if (!isSame && control.panel->isOpen() && !panels().options.movesRepaint) control.isMisplaced = true;
+}
+
+void takeInteger(const HostCall& call, Control& control, int attribute, int number) {
+  switch (attribute) {
+    case lw::kControlX:
+    case lw::kControlY:
+    case lw::kControlWidth:
+    case lw::kControlHeight: takePlace(control, attribute, number); break;
     case lw::kControlFlags: takeFlags(control, number); break;
     case lw::kControlFocus: takeFocus(call, control); break;
     default: break;
@@ -281,7 +317,10 @@ void set(lw::LWControl* face, int attribute, lw::LWValue* value) {
     case Carrier::Integer: takeInteger(call, *control, attribute, value->intv.value); break;
     case Carrier::Range: takeRange(*control, attribute, *value); break;
     case Carrier::String: control->label = KeptText::copied(value->str.buf); break;
-    case Carrier::Value: takeValue(*control, *value); break;
+    case Carrier::Value:
+      takeValue(*control, *value);
+      if (panels().options.asksPopupsAnytime) askAnything(*control);
+      break;
     case Carrier::Pointer: takePointer(*control, attribute, value->ptr.ptr); break;
   }
   panels().changed(*control);
@@ -289,6 +328,18 @@ void set(lw::LWControl* face, int attribute, lw::LWValue* value) {
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
+
+// Erasing fills where the control is with the panel's colour. A border around it keeps its lines.
+void coverOthers(const Control& erased) {
+  const Rectangle area = erased.whole();
+  for (const auto& other : erased.panel->controls) {
+    const bool isSeen = other->isAlive && !other->isErased && !other->isCovered;
+    // Rows first: widths are those of texts, and take their time.
+    if (!isSeen || other->y >= area.bottom() || other->y + other->height() <= area.y) continue;
+    const bool isAround = other->is(ControlKind::Border) && other->whole().holds(area);
+    if (!isAround && other->whole().meets(area)) other->isCovered = true;
+  }
+}
 
 void draw(lw::LWControl* face, int mode) {
   const HostCall call("control draw");
@@ -308,7 +359,12 @@ void draw(lw::LWControl* face, int mode) {
     control->isGhosted = mode == lw::kDrawGhost;
   }
   control->wantsPaint = !control->isErased;
+  if (mode != lw::kDrawErase) control->isDrawn();
+  if (mode == lw::kDrawErase && control->panel->isOpen() && panels().options.eraseCovers) coverOthers(*control);
+  if (panels().options.asksPopupsAnytime) askAnything(*control);
   if (panels().listener != nullptr) panels().listener->drawn(*control, mode);
+  const bool isArea = control->is(ControlKind::OpenGL);
+  if (isArea && control->wantsPaint && panels().options.paintsAtOnce) panels().paint(*control);
 }
 
 }  // namespace

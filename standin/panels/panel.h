@@ -82,6 +82,12 @@ struct Control {
   bool scalesWithScreen = false;
   bool isAlive = true;
   bool wantsPaint = false;  // exposed or drawn since the last paint
+  // What the screen still lacks, until the control is drawn.
+  bool isCovered = false;            // painted over by the erasing of another one
+  bool isMisplaced = false;          // moved, and not drawn there yet
+  std::optional<std::string> stale;  // the value that it still shows
+  bool isPainting = false;
+  int paints = 0;  // how often the host had it painted
 
   lw::ControlEvent event = nullptr;
   lw::ControlDraw drawCallback = nullptr;
@@ -98,6 +104,11 @@ struct Control {
   int eventsFired = 0;
 
   bool is(ControlKind which) const { return kind->kind == which; }
+  // The screen shows the control as it is.
+  void isDrawn() {
+    isCovered = isMisplaced = false;
+    stale.reset();
+  }
   int labelWidth() const;
   int width() const;
   int height() const;
@@ -119,7 +130,13 @@ struct Control {
   std::string shown() const;
   // "ButtonControl "Run" of panel "Tool""
   std::string describe() const;
+
+ private:
+  std::string valueShown() const;
 };
+
+// Asks a custom popup for what a host may ask at any time: its count, and names inside and outside its list.
+void askAnything(const Control& popup);
 
 struct Panel {
   enum class State { Closed, Open, Closing };
@@ -147,7 +164,11 @@ struct Panel {
 
   int mouseX = 0;
   int mouseY = 0;
-  int qualifiers = 0;  // of the last mouse event, with the button bits
+  int qualifiers = 0;      // of the last mouse event, with the button bits
+  int toldQualifiers = 0;  // of the last one that the module was told of
+  int pressX = 0;          // of the last press, and how many there were at that place
+  int pressY = 0;
+  int pressCount = 0;
   Control* focus = nullptr;
   Control* mouseOwner = nullptr;  // the control in which a button was pressed and is still down
   int result = 0;
@@ -182,7 +203,8 @@ struct Panel {
   Control* at(int index) const;
 };
 
-// True when a person sees the control: its panel is open, it is not erased, and it does not lie wholly outside the panel.
+// True when a person sees the control: its panel is open, it is neither erased nor painted over, it was drawn where it is, and
+// it does not lie wholly outside the panel.
 bool isVisible(const Control& control);
 
 // Told of what changes on the screen; a front that shows panels as windows implements it. The default does nothing.
@@ -236,6 +258,9 @@ class Panels {
   Control* createControl(Panel& panel, const KindRow& kind, const lw::LWPanControlDesc& description, const char* label);
   void destroy(Panel& panel);
   void destroy(Control& control);
+  // The host's next turn: the open hooks that are due.
+  void turn();
+  void hookIsDue(Panel& panel) { due_.push_back(panel.id); }
   // The record behind a handle of the module's; null when it is dead or was never handed out, with the reason in `why`.
   Panel* resolve(lw::PanelId id, std::string& why) const;
   Control* resolve(const lw::LWControl* face, std::string& why) const;
@@ -245,7 +270,7 @@ class Panels {
   void callHook(Panel& panel, lw::PanelHook hook, const char* name);
   void callMouseHook(Panel& panel, lw::PanelMouseHook hook, const char* name, int bits);
   void callResizeHook(Panel& panel);
-  // Calls the draw callback of one visible control; false when it has none or is not visible.
+  // Has the module paint one visible control, by the callback that the options name; false when it has none or is not visible.
   bool paint(Control& control);
   // Paints the controls that were exposed or drawn since their last paint. Gives their number.
   int paintWanted(Panel& panel);
@@ -257,9 +282,11 @@ class Panels {
  private:
   friend Panels& panels();
   Panels() = default;
+  static void callEvent(Control& control);
 
   std::vector<std::unique_ptr<Panel>> panels_;
   std::vector<std::string> notes_;
+  std::vector<lw::PanelId> due_;  // panels that were opened and wait for their open hook
 };
 
 Panels& panels();

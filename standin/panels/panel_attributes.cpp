@@ -130,6 +130,8 @@ void getPanelAttribute(lw::PanelId id, int attribute, void* out) {
     if (!readPointer(*panel, attribute, static_cast<void**>(out))) call.fault(which + " cannot be read");
   } else if (!row->readable) {
     call.fault(which + " (" + row->name + ") can only be set");
+  } else if (attribute == lw::kPanelQualifiers && panels().options.qualifiersAreOfTold) {
+    *static_cast<int*>(out) = panel->toldQualifiers;
   } else {
     *static_cast<int*>(out) = row->member == nullptr ? kInterfaceVersion : panel->*row->member;
   }

@@ -98,7 +98,7 @@ int firstHeight(const Control& control) {
     case ControlKind::Border: return orElse(control.description.area.height, line);
     case ControlKind::OpenGL: return control.description.area.height;
     case ControlKind::Text: return std::max(1, static_cast<int>(control.lines().size())) * kTextHeight + 4;
-    default: return kRowHeight - 2 * kRowInset;
+    default: return panels().options.rowHeight - 2 * kRowInset;
   }
 }
 
@@ -133,6 +133,7 @@ void Panels::reset() {
   }
   panels_.clear();
   notes_.clear();
+  due_.clear();
   options = PanelOptions();
   listener = nullptr;
   blocking = nullptr;
@@ -207,6 +208,7 @@ Control* Panels::createControl(Panel& panel, const KindRow& kind, const lw::LWPa
   control.hotHeight = firstHeight(control);
   giveHandle(control);
   stack(panel, control);
+  if (options.asksPopupsAnytime) askAnything(control);
   return &control;
 }
 
@@ -270,16 +272,19 @@ Control* Panels::resolve(const lw::LWControl* face, std::string& why) const {
   return control;
 }
 
+void Panels::callEvent(Control& control) {
+  callModule("control event callback", [&] { control.event(control.face, control.user); });
+}
+
 void Panels::fire(Control& control) {
   if (!control.isAlive || control.event == nullptr || control.isFiring) return;
   const Running running(*control.panel);
   control.isFiring = true;
   ++control.eventsFired;
-  const auto call = [&] { callModule("control event callback", [&] { control.event(control.face, control.user); }); };
   if (listener != nullptr && control.is(ControlKind::OpenGL)) {
-    listener->withContext(control, call);
+    listener->withContext(control, [&] { callEvent(control); });
   } else {
-    call();
+    callEvent(control);
   }
   control.isFiring = false;
 }
@@ -290,10 +295,24 @@ void Panels::callHook(Panel& panel, lw::PanelHook hook, const char* name) {
   callModule(name, [&] { hook(panel.id, panel.user); });
 }
 
+void Panels::turn() {
+  for (const lw::PanelId id : std::exchange(due_, {})) {
+    std::string why;
+    Panel* const panel = resolve(id, why);
+    if (panel != nullptr && panel->isOpen()) callHook(*panel, panel->openHook, "panel open hook");
+  }
+}
+
 void Panels::callMouseHook(Panel& panel, lw::PanelMouseHook hook, const char* name, int bits) {
   if (hook == nullptr) return;
   const Running running(panel);
-  callModule(name, [&] { hook(panel.id, panel.user, bits, panel.mouseX, panel.mouseY); });
+  const auto call = [&] { callModule(name, [&] { hook(panel.id, panel.user, bits, panel.mouseX, panel.mouseY); }); };
+  Control* const area = options.contextInHooks && listener != nullptr ? panel.find(ControlKind::OpenGL) : nullptr;
+  if (area != nullptr) {
+    listener->withContext(*area, call);
+  } else {
+    call();
+  }
 }
 
 void Panels::callResizeHook(Panel& panel) {
@@ -303,17 +322,26 @@ void Panels::callResizeHook(Panel& panel) {
 }
 
 bool Panels::paint(Control& control) {
-  if (!isVisible(control) || control.drawCallback == nullptr) return false;
+  const bool isArea = control.is(ControlKind::OpenGL);
+  const Painter painter = isArea ? options.painter : Painter::DrawCallback;
+  const bool draws = painter != Painter::EventCallback && control.drawCallback != nullptr;
+  const bool fires = painter != Painter::DrawCallback && control.event != nullptr;
+  if (!isVisible(control) || control.isPainting || (!draws && !fires)) return false;
   control.wantsPaint = false;
+  control.isPainting = true;
+  ++control.paints;
   const Running running(*control.panel);
   const auto call = [&] {
-    callModule("control draw callback", [&] { control.drawCallback(control.face, control.user, lw::kDrawRender); });
+    if (draws)
+      callModule("control draw callback", [&] { control.drawCallback(control.face, control.user, lw::kDrawRender); });
+    if (fires) callEvent(control);
   };
-  if (listener != nullptr && control.is(ControlKind::OpenGL)) {
+  if (listener != nullptr && isArea) {
     listener->withContext(control, call);
   } else {
     call();
   }
+  control.isPainting = false;
   return true;
 }
 

@@ -8,7 +8,9 @@
 #include <utility>
 
 #include "standin/core/witness.h"
+#include "standin/panels/limits.h"
 #include "standin/panels/metrics.h"
+#include "standin/panels/mouse_delivery.h"
 #include "standin/panels/running.h"
 #include "standin/panels/services.h"
 #include "standin/panels/units.h"
@@ -27,6 +29,7 @@ Done reachable(const Control* control) {
   if (!control->isAlive) return failed(name + " was destroyed");
   if (!control->panel->isOpen()) return failed(name + ": the panel is not open");
   if (control->isErased) return failed(name + " is hidden");
+  if (control->isCovered || control->isMisplaced) return failed(name + " is not seen: it was not drawn again");
   if (!control->panel->area().meets(control->hot())) return failed(name + " lies outside the panel");
   if (control->isGhosted && !panels().options.ghostedFires) return failed(name + " is ghosted");
   return {};
@@ -45,6 +48,7 @@ Done usablePanel(const Panel* panel) {
 }
 
 void fireChanged(Control& control) {
+  control.stale.reset();
   panels().changed(control);
   panels().fire(control);
 }
@@ -65,16 +69,6 @@ Done chooseItem(Control& list, int index) {
   return {};
 }
 
-bool isLimitedWhenTyped(const Control& field) {
-  if (field.rangeLeast == 0 && field.rangeGreatest == 0) return false;
-  return field.is(ControlKind::MiniSlider) || panels().options.limitsTypedValues;
-}
-
-double limited(const Control& field, double value) {
-  return std::clamp(value, valueOfShown(field.kind->kind, field.rangeLeast),
-                    valueOfShown(field.kind->kind, field.rangeGreatest));
-}
-
 int toInteger(double value) {
   constexpr double least = std::numeric_limits<int>::min();
   constexpr double greatest = std::numeric_limits<int>::max();
@@ -87,7 +81,10 @@ bool storeNumber(Control& field, double value) {
   return std::exchange(field.real, value) != value;
 }
 
-bool storeText(Control& field, std::string_view text) { return std::exchange(field.text, std::string(text)) != text; }
+bool storeText(Control& field, std::string_view text) {
+  const std::string held = heldText(text);
+  return std::exchange(field.text, held) != held;
+}
 
 Done reachableField(const Control* field) {
   if (Done done = reachable(field); !done) return done;
@@ -98,50 +95,34 @@ Done reachableField(const Control* field) {
 
 Done storeTyped(Control& field, double value) {
   if (!std::isfinite(value)) return failed(field.describe() + " takes no such number");
-  if (storeNumber(field, isLimitedWhenTyped(field) ? limited(field, value) : value)) fireChanged(field);
+  if (storeNumber(field, limitedWhenTyped(field, value))) fireChanged(field);
   return {};
 }
 
+// The whole text at once: what a field takes when it is left.
+Done typeWhole(Control& field, std::string_view text) {
+  if (field.kind->value == ValueForm::String) {
+    if (storeText(field, text)) fireChanged(field);
+    return {};
+  }
+  const std::optional<double> value = parseTyped(field.kind->kind, text);
+  if (!value) return failed(field.describe() + " does not take \"" + printable(text) + "\"");
+  return storeTyped(field, *value);
+}
+
+// Letter by letter into the emptied field. What is no number yet fires nothing.
+Done typeByLetters(Control& field, std::string_view text) {
+  std::string_view left = text;
+  while (!left.empty()) {
+    takePiece(left);
+    const Done done = typeWhole(field, text.substr(0, text.size() - left.size()));
+    if (!done && left.empty()) return done;
+    if (Done still = reachable(&field); !still) return failed("the typing was cut short: " + still.why);
+  }
+  return text.empty() ? typeWhole(field, text) : Done{};
+}
+
 double presentNumber(const Control& field) { return field.kind->value == ValueForm::Integer ? field.integer : field.real; }
-
-int buttonBits(MouseButton button) {
-  switch (button) {
-    case MouseButton::Left: return lw::kMouseLeft;
-    case MouseButton::Middle: return lw::kMouseMiddle;
-    case MouseButton::Right: return lw::kMouseRight;
-  }
-  return 0;
-}
-
-Control* areaAt(const Panel& panel, int x, int y) {
-  for (const auto& control : panel.controls) {
-    if (control->kind->handling == Handling::Mouse && isVisible(*control) && control->hot().holds(x, y))
-      return control.get();
-  }
-  return nullptr;
-}
-
-bool reachesHooks(const Panel& panel) {
-  if (panels().options.mouse == MouseDelivery::Control) return false;
-  return !panels().options.hooksNeedMouseFlag || (panel.openFlags & lw::kOpenMouse) != 0;
-}
-
-bool reachesControls() { return panels().options.mouse != MouseDelivery::Hooks; }
-
-void moveMouse(Panel& panel, int x, int y) {
-  panel.mouseX = x;
-  panel.mouseY = y;
-  if (panel.mouseOwner != nullptr) {
-    panel.mouseOwner->mouseX = x;
-    panel.mouseOwner->mouseY = y;
-  }
-}
-
-// One mouse event in the ways that the options choose; the hook comes first.
-void deliver(Panel& panel, lw::PanelMouseHook hook, const char* name) {
-  if (reachesHooks(panel)) panels().callMouseHook(panel, hook, name, panel.qualifiers);
-  if (panel.mouseOwner != nullptr && reachesControls() && isVisible(*panel.mouseOwner)) panels().fire(*panel.mouseOwner);
-}
 
 int within(int size, int least, int greatest) {
   if (greatest > 0) size = std::min(size, greatest);
@@ -193,13 +174,7 @@ Done choose(Control* list, std::string_view item) {
 
 Done type(Control* field, std::string_view text) {
   if (Done done = reachableField(field); !done) return done;
-  if (field->kind->value == ValueForm::String) {
-    if (storeText(*field, text)) fireChanged(*field);
-    return {};
-  }
-  const std::optional<double> value = parseTyped(field->kind->kind, text);
-  if (!value) return failed(field->describe() + " does not take \"" + printable(text) + "\"");
-  return storeTyped(*field, *value);
+  return panels().options.firesAtEachLetter ? typeByLetters(*field, text) : typeWhole(*field, text);
 }
 
 Done enter(Control* field, double shown) {
@@ -214,7 +189,7 @@ Done drag(Control* slider, double shown, int steps) {
   const double to = valueOfShown(slider->kind->kind, shown);
   for (int step = 1; step <= steps; ++step) {
     const double value = step == steps ? to : from + (to - from) * step / steps;
-    const bool changed = storeNumber(*slider, isLimitedWhenTyped(*slider) ? limited(*slider, value) : value);
+    const bool changed = storeNumber(*slider, limitedWhenTyped(*slider, value));
     if (changed) fireChanged(*slider);
     if (Done done = reachable(slider); !done) return failed("the drag was cut short: " + done.why);
   }
@@ -229,9 +204,9 @@ Done mousePress(Panel* panel, int x, int y, MouseButton button, int qualifiers, 
   moveMouse(*panel, x, y);
   if (panel->mouseOwner != nullptr) {
     panel->mouseOwner->mouseButton = static_cast<int>(button);
-    panel->mouseOwner->clickCount = clicks;
+    panel->mouseOwner->clickCount = countedClicks(*panel, x, y, clicks);
   }
-  deliver(*panel, panel->mouseButtonHook, "panel mouse-button hook");
+  deliver(*panel, MouseDeed::Press);
   return {};
 }
 
@@ -240,7 +215,7 @@ Done mouseMove(Panel* panel, int x, int y) {
   moveMouse(*panel, x, y);
   const bool isDown = (panel->qualifiers & lw::kMouseDown) != 0;
   if (!isDown && (panel->openFlags & lw::kOpenMouseMotion) == 0) return {};  // passive motion has to be asked for
-  deliver(*panel, panel->mouseMoveHook, "panel mouse-move hook");
+  deliver(*panel, MouseDeed::Move);
   return {};
 }
 
@@ -249,7 +224,7 @@ Done mouseRelease(Panel* panel, int x, int y) {
   if ((panel->qualifiers & lw::kMouseDown) == 0) return failed("no mouse button is down");
   panel->qualifiers &= ~lw::kMouseDown;
   moveMouse(*panel, x, y);
-  deliver(*panel, panel->mouseButtonHook, "panel mouse-button hook");
+  deliver(*panel, MouseDeed::Release);
   panel->mouseOwner = nullptr;
   return {};
 }
@@ -263,7 +238,7 @@ Done wheel(Panel* panel, int x, int y, int notches) {
   if (Done done = usablePanel(panel); !done) return done;
   if (!panel->area().holds(x, y)) return failed("the wheel outside the panel does not reach it");
   moveMouse(*panel, x, y);
-  if (reachesHooks(*panel)) panels().callMouseHook(*panel, panel->mouseWheelHook, "panel mouse-wheel hook", notches);
+  deliverWheel(*panel, notches);
   return {};
 }
 

@@ -78,6 +78,14 @@ int handle(lw::PanelId id, int /*how*/) {
   return panel != nullptr && panel->isOpen() && !call.refused() ? 0 : -1;
 }
 
+// All of the panel is painted anew.
+void exposeAll(Panel& panel) {
+  for (const auto& control : panel.controls) {
+    control->wantsPaint = control->isAlive;
+    control->isDrawn();
+  }
+}
+
 void draw(lw::PanelId id, int mode) {
   const HostCall call("panel draw");
   Panel* panel = resolved(call, id);
@@ -87,7 +95,7 @@ void draw(lw::PanelId id, int mode) {
     return;
   }
   if (call.refused()) return;
-  for (const auto& control : panel->controls) control->wantsPaint = control->isAlive;
+  if (mode != lw::kDrawErase) exposeAll(*panel);
   if (panels().listener != nullptr) panels().listener->drawn(*panel, mode);
 }
 
@@ -96,7 +104,7 @@ void close(lw::PanelId id) {
   Panel* panel = resolved(call, id);
   if (panel == nullptr || call.refused()) return;
   if (!panel->isOpen()) panels().note(named(*panel) + " was closed while it was not open");
-  closePanel(*panel);
+  closePanel(*panel, panels().options.closeCallsHook);
 }
 
 void setParent(lw::PanelId id, lw::PanelId parent) {
@@ -192,26 +200,34 @@ int openPanel(Panel& panel, int flags) {
   if (panel.isOpen()) {
     panel.takesFront = true;
     if (panels().listener != nullptr) panels().listener->cameToFront(panel);
-    return 1;
+    return panels().options.openAnswer;
   }
+  const OpenHook when = panels().options.openHook;
+  const auto callHook = [&] { panels().callHook(panel, panel.openHook, "panel open hook"); };
   panel.openFlags = flags;
+  if (when == OpenHook::Before) callHook();
   panel.state = Panel::State::Open;
   panel.wasOpened = true;
-  for (const auto& control : panel.controls) control->wantsPaint = control->isAlive;
+  exposeAll(panel);
+  if (panels().options.asksPopupsAnytime) {
+    for (const auto& control : panel.controls) askAnything(*control);
+  }
   if (panels().listener != nullptr) panels().listener->opened(panel);
-  panels().callHook(panel, panel.openHook, "panel open hook");
-  if (!isBlocking) return 1;
+  if (when == OpenHook::Shown) callHook();
+  if (when == OpenHook::Later) panels().hookIsDue(panel);
+  if (panels().options.resizeHookOnOpen) panels().callResizeHook(panel);
+  if (!isBlocking) return panels().options.openAnswer;
   const int answer = panels().blocking ? panels().blocking(panel) : 0;
   closePanel(panel);
   return answer;
 }
 
-void closePanel(Panel& panel) {
+void closePanel(Panel& panel, bool callHook) {
   if (!panel.isOpen()) return;
   panel.state = Panel::State::Closing;
   panel.mouseOwner = nullptr;
   panel.focus = nullptr;
-  panels().callHook(panel, panel.closeHook, "panel close hook");
+  if (callHook) panels().callHook(panel, panel.closeHook, "panel close hook");
   panel.state = Panel::State::Closed;
   if (panels().listener != nullptr) panels().listener->closed(panel);
 }
@@ -220,7 +236,7 @@ void resizePanel(Panel& panel, int width, int height, bool callHook) {
   if (panel.width == width && panel.height == height) return;
   panel.width = width;
   panel.height = height;
-  for (const auto& control : panel.controls) control->wantsPaint = control->isAlive;
+  exposeAll(panel);
   if (panels().listener != nullptr) panels().listener->resized(panel);
   if (callHook) panels().callResizeHook(panel);
 }

@@ -17,7 +17,7 @@ lw::LWControl newControlFace();
 
 // What `open` and `close` do, for a person and for the module alike.
 int openPanel(Panel& panel, int flags);
-void closePanel(Panel& panel);
+void closePanel(Panel& panel, bool callHook = true);
 // Gives the panel a size and calls the resize hook when it changed.
 void resizePanel(Panel& panel, int width, int height, bool callHook);
 

@@ -53,6 +53,10 @@ void Traveller::finds(bool isSo, const std::string& what) {
   if (!isSo) report_.troubles.push_back("not so: " + what);
 }
 
+void Traveller::notes(const std::vector<std::string>& troubles) {
+  report_.troubles.insert(report_.troubles.end(), troubles.begin(), troubles.end());
+}
+
 void Traveller::mustHold(bool holds, const std::string& rule) {
   if (!holds) report_.broken.push_back("broken: " + rule);
 }

@@ -24,6 +24,7 @@ class Traveller {
 
   void does(const Done& done);
   void finds(bool isSo, const std::string& what);
+  void notes(const std::vector<std::string>& troubles);
   void mustHold(bool holds, const std::string& rule);
 
   // Whatever failed, the next run of the property tool shows what is stored, as a module that was never disturbed does.

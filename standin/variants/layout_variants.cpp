@@ -139,8 +139,7 @@ constexpr VariantValue kOtherPlugin[]{{"none"},
 
 constexpr std::array kVariants{
     HostVariant{
-        "new-null", "What AddNull does to the selection",
-        "not documented; a new item is usually selected",
+        "new-null", "What AddNull does to the selection", "not documented; a new item is usually selected",
         "takes the first item that was not selected before; with none, the item of the name, which was missing before",
         kNewNull},
     HostVariant{"new-null-parent", "Whether AddNull parents the new null",

@@ -8,9 +8,8 @@ namespace standin {
 namespace {
 
 constexpr std::array kAreas{
-    VariantArea{"both", "Both programs", programVariants},
-    VariantArea{"panels", "Panels", panelVariants},
-    VariantArea{"modeler", "Modeler", modelerVariants},
+    VariantArea{"both", "Both programs", programVariants},    VariantArea{"panels", "Panels", panelVariants},
+    VariantArea{"mouse", "Mouse and drawing", mouseVariants}, VariantArea{"modeler", "Modeler", modelerVariants},
     VariantArea{"layout", "Layout", layoutVariants},
 };
 

@@ -44,6 +44,7 @@ struct HostVariant {
 
 std::span<const HostVariant> programVariants();
 std::span<const HostVariant> panelVariants();
+std::span<const HostVariant> mouseVariants();
 std::span<const HostVariant> modelerVariants();
 std::span<const HostVariant> layoutVariants();
 

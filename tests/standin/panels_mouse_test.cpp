@@ -72,6 +72,87 @@ TEST_F(MouseOverPanel, AHostMayDeliverToTheControlOnly) {
   EXPECT_THAT(seen, ElementsAre("event 160 at 20,30 button 1 clicks 1"));
 }
 
+TEST_F(MouseOverPanel, AHostMayCallTheEventFirst) {
+  panels().options.eventBeforeHooks = true;
+  EXPECT_TRUE(person::mousePress(opened(192 | lw::kOpenMouse), 20, 30));
+  EXPECT_THAT(seen, ElementsAre("event 160 at 20,30 button 1 clicks 1", "hook 160 at 20,30"));
+}
+
+TEST_F(MouseOverPanel, AHostMayTellTheControlOfPressesOnly) {
+  panels().options.eventMouse = EventMouse::Presses;
+  Panel* shown = opened(192);
+  EXPECT_TRUE(person::mousePress(shown, 20, 30));
+  EXPECT_TRUE(person::mouseMove(shown, 21, 30));
+  EXPECT_TRUE(person::mouseRelease(shown, 21, 30));
+  EXPECT_THAT(seen, ElementsAre("event 160 at 20,30 button 1 clicks 1"));
+}
+
+TEST_F(MouseOverPanel, AHostMayTellTheControlOfPressesAndReleasesOnly) {
+  panels().options.eventMouse = EventMouse::Buttons;
+  Panel* shown = opened(192);
+  EXPECT_TRUE(person::mousePress(shown, 20, 30));
+  EXPECT_TRUE(person::mouseMove(shown, 21, 30));
+  EXPECT_TRUE(person::mouseRelease(shown, 21, 30));
+  EXPECT_THAT(seen, ElementsAre("event 160 at 20,30 button 1 clicks 1", "event 32 at 21,30 button 1 clicks 1"));
+}
+
+TEST_F(MouseOverPanel, AHostMayKeepFromTheHooksWhatAControlHears) {
+  panels().options.hooksBesideControlsOnly = true;
+  Panel* shown = opened(192 | lw::kOpenMouse);
+  EXPECT_TRUE(person::click(shown, 20, 30));
+  EXPECT_THAT(seen, testing::Not(testing::Contains(HasSubstr("hook"))));
+  seen.clear();
+  EXPECT_TRUE(person::click(shown, 2, 2));
+  EXPECT_THAT(seen, ElementsAre("hook 160 at 2,2", "hook 32 at 2,2"));
+}
+
+TEST_F(MouseOverPanel, AHostMayTellTheHookOfButtonsOfMoves) {
+  panels().options.mouse = MouseDelivery::Hooks;
+  panels().options.dragHook = DragHook::Button;
+  Panel* shown = opened(192 | lw::kOpenMouse);
+  EXPECT_TRUE(person::mousePress(shown, 20, 30));
+  EXPECT_TRUE(person::mouseMove(shown, 20, 40));
+  EXPECT_THAT(seen, ElementsAre("hook 160 at 20,30", "hook 160 at 20,40"));
+}
+
+TEST_F(MouseOverPanel, AHostMayCountFromTheControlsCorner) {
+  panels().options.mouseFromControl = true;
+  EXPECT_TRUE(person::mousePress(opened(192), 20, 30));
+  EXPECT_THAT(seen, ElementsAre("event 160 at 15,25 button 1 clicks 1"));
+}
+
+TEST_F(MouseOverPanel, AHostMayKeepTheQualifiersOfTheLastEventThatWasTold) {
+  panels().options.qualifiersAreOfTold = true;
+  panels().options.eventMouse = EventMouse::Presses;
+  EXPECT_TRUE(person::click(opened(192), 20, 30));
+  EXPECT_EQ(160, getNumber(panel, lw::kPanelQualifiers));
+}
+
+TEST_F(MouseOverPanel, AHostMayCountTheWheelTheOtherWay) {
+  panels().options.wheelCountsDown = true;
+  EXPECT_TRUE(person::wheel(opened(192 | lw::kOpenMouse), 20, 30, -2));
+  EXPECT_THAT(seen, ElementsAre("wheel 2 at 20,30"));
+}
+
+// Three quick presses, the first elsewhere than the others.
+struct Counting : MouseOverPanel {
+  std::vector<int> countsOfThree(ClickCount rule) {
+    panels().options.clickCount = rule;
+    Panel* shown = opened(192);
+    std::vector<int> counts;
+    for (const auto& [y, quick] : {std::pair{30, 1}, std::pair{60, 2}, std::pair{60, 3}}) {
+      EXPECT_TRUE(person::click(shown, 20, y, MouseButton::Left, 0, quick));
+      counts.push_back(record(area)->clickCount);
+    }
+    return counts;
+  }
+};
+
+TEST_F(Counting, ByPlace) { EXPECT_THAT(countsOfThree(ClickCount::ByPlace), ElementsAre(1, 1, 2)); }
+TEST_F(Counting, ByTime) { EXPECT_THAT(countsOfThree(ClickCount::ByTime), ElementsAre(1, 2, 3)); }
+TEST_F(Counting, Constant) { EXPECT_THAT(countsOfThree(ClickCount::Constant), ElementsAre(1, 1, 1)); }
+TEST_F(Counting, Never) { EXPECT_THAT(countsOfThree(ClickCount::Never), ElementsAre(0, 0, 0)); }
+
 TEST_F(MouseOverPanel, TheRightButtonIsBothButtonBits) {
   EXPECT_TRUE(person::mousePress(opened(192), 20, 30, MouseButton::Right, 0, 2));
   EXPECT_THAT(seen, ElementsAre("event 224 at 20,30 button 3 clicks 2"));
@@ -152,6 +233,25 @@ TEST_F(Painting, IsWantedOnceAfterEachExposure) {
   EXPECT_EQ(1, panels().paintWanted(*shown));
 }
 
+TEST_F(Painting, MayBeByTheEventCallback) {
+  panels().options.painter = Painter::EventCallback;
+  EXPECT_EQ(1, panels().paintWanted(*opened(192)));
+  EXPECT_THAT(seen, ElementsAre("event 0 at 0,0 button 0 clicks 0"));
+}
+
+TEST_F(Painting, MayBeByBothCallbacks) {
+  panels().options.painter = Painter::Both;
+  EXPECT_EQ(1, panels().paintWanted(*opened(192)));
+  EXPECT_THAT(seen, ElementsAre("paint 1", "event 0 at 0,0 button 0 clicks 0"));
+}
+
+TEST_F(Painting, MayHappenWithinTheCallThatAsksForIt) {
+  panels().options.paintsAtOnce = true;
+  opened(192);
+  area->draw(area, lw::kDrawRefresh);
+  EXPECT_THAT(seen, ElementsAre("paint 1"));
+}
+
 TEST_F(Painting, AHiddenControlIsNotPainted) {
   opened(192);
   area->draw(area, lw::kDrawErase);
@@ -179,6 +279,15 @@ TEST_F(Painting, AFrontMakesTheContextCurrentAroundCallbacks) {
   panels().paint(*record(area));
   panels().fire(*record(area));
   EXPECT_THAT(front.told, ElementsAre("context on", "context off", "context on", "context off"));
+}
+
+TEST_F(Painting, AHostMayMakeTheContextCurrentInHooksToo) {
+  Front front;
+  panels().options.contextInHooks = true;
+  Panel* shown = opened(192 | lw::kOpenMouse);
+  panels().listener = &front;
+  panels().callMouseHook(*shown, shown->mouseButtonHook, "panel mouse-button hook", 0);
+  EXPECT_THAT(front.told, ElementsAre("context on", "context off"));
 }
 
 TEST_F(Painting, AFrontIsToldOfWhatChanges) {

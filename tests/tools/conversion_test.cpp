@@ -379,6 +379,47 @@ TEST_F(Conversion, ShowsItsPanelInTheHostsLanguage) {
   EXPECT_NE(panel->find("実行"), nullptr);
 }
 
+TEST_F(Conversion, SpeaksTheHostsLanguageWhenItIsOpenedAgain) {
+  ASSERT_TRUE(person::switchTo(openTool()->find(ControlKind::Bool, 1), false));
+  ASSERT_TRUE(person::close(panels().find(kConversionTool)));
+  host.setLocale(0x411);
+  Panel* const panel = openTool();
+  EXPECT_NE(panel->find("実行"), nullptr);
+  EXPECT_EQ(panel->find(ControlKind::Bool, 0)->integer, 1);
+  EXPECT_EQ(panel->find(ControlKind::Bool, 1)->integer, 0);
+  EXPECT_EQ(panels().all().size(), 1U);
+}
+
+TEST_F(Conversion, KeepsItsLanguageWhileItIsOpen) {
+  const Panel* const first = openTool();
+  host.setLocale(0x411);
+  EXPECT_EQ(openTool(), first);
+  EXPECT_NE(first->find("Run"), nullptr);
+}
+
+TEST_F(Conversion, KeepsThePanelThatItHasWhenTheHostRefusesOneInAnotherLanguage) {
+  ASSERT_TRUE(person::switchTo(openTool()->find(ControlKind::Bool, 1), false));
+  ASSERT_TRUE(person::close(panels().find(kConversionTool)));
+  host.setLocale(0x411);
+  witness().refuseNext("panel addControl");
+  openTool();
+  EXPECT_EQ(panels().all().size(), 1U);
+  EXPECT_NE(openTool()->find("実行"), nullptr);
+  EXPECT_EQ(panels().find(kConversionTool)->find(ControlKind::Bool, 1)->integer, 0);
+}
+
+// Whatever it answers: the hooks tell, and the next language finds the panel closed.
+TEST_F(Conversion, WorksWhereOpenAnswersZero) {
+  panels().options.openAnswer = 0;
+  host.select(load(twoBones({{13, "2"}})));
+  run();
+  EXPECT_EQ(item("Bone").bone.falloff, 2);
+  openTool();
+  ASSERT_TRUE(person::close(panels().find(kConversionTool)));
+  host.setLocale(0x411);
+  EXPECT_NE(openTool()->find("実行"), nullptr);
+}
+
 TEST_F(Conversion, LaysItsPanelOutAsDesigned) {
   Panel* const panel = openTool();
   EXPECT_EQ(panel->title.read(), "Orlo:SkelegonOptimize(1.20) ");

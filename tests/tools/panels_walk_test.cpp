@@ -79,13 +79,23 @@ class PanelsWalk : public ThreePanelsUsed {
                                                        standin::MouseDelivery::Control};
     standin::panels().options.mouse = oneOf(kWays);
     standin::panels().options.hooksNeedMouseFlag = false;
+    standin::panels().options.clickCount = standin::ClickCount::ByTime;
+  }
+
+  void openSelectorAnew() {
+    chooseDelivery();
+    openSelector();
+    touchScrollBar();
   }
 
   std::string openSome() {
     switch (below(3)) {
       case 0:
-        if (!selector.isOpen()) chooseDelivery();
-        openSelector();
+        if (selector.isOpen()) {
+          openSelector();
+        } else {
+          openSelectorAnew();
+        }
         return "open the selector";
       case 1: openRenamer(); return "open the renamer";
       default: openProperties(); return "open the property panel";
@@ -154,8 +164,7 @@ class PanelsWalk : public ThreePanelsUsed {
 };
 
 TEST_F(PanelsWalk, NamesSelectionAndValuesNeverDisagree) {
-  chooseDelivery();
-  openSelector();
+  openSelectorAnew();
   openRenamer();
   openProperties();
   const int actions = numberOr("VARNEL_WALK_ACTIONS", kActions);

@@ -83,7 +83,7 @@ void Tree::addSkelegons(const Mesh& mesh, const Places& sorted, std::size_t belo
 void Tree::setView(int width, int height) {
   width_ = width;
   height_ = height;
-  anchor_ = kNone;
+  anchor_ = clicked_ = kNone;
   drag_ = Drag::None;
   horizontal_.scrollTo(0);
   vertical_.scrollTo(0);
@@ -116,6 +116,7 @@ void Tree::flip(std::size_t row) {
 // The mouse
 
 bool Tree::press(const Press& press) {
+  const std::size_t clickedBefore = std::exchange(clicked_, kNone);
   const bool isRight = press.x >= width_ - 12;
   const bool isBottom = press.y >= height_ - 12;
   pressX_ = press.x;
@@ -131,16 +132,18 @@ bool Tree::press(const Press& press) {
     if (press.button == standin::MouseButton::Left) flip(row);
     return false;
   }
-  if (fromIndent < -17 || fromIndent >= 10) return pressLabel(row, press);
+  if (fromIndent < -17 || fromIndent >= 10) return pressLabel(row, press, row == clickedBefore);
   if (press.button == standin::MouseButton::Middle) return false;
   selected_.clear();
   anchor_ = kNone;
   return true;
 }
 
-bool Tree::pressLabel(std::size_t row, const Press& press) {
+bool Tree::pressLabel(std::size_t row, const Press& press, bool isSecond) {
   if (press.button == standin::MouseButton::Middle) return false;
-  const bool isDouble = press.qualifiers == 0 && press.clicks % 2 == 0;
+  const bool isPlain = press.button == standin::MouseButton::Left && press.qualifiers == 0;
+  const bool isDouble = isPlain && isSecond && press.clicks > 1;
+  if (isPlain && !isDouble) clicked_ = row;
   if (press.button == standin::MouseButton::Right || isDouble) {
     flip(row);
     return false;

@@ -31,7 +31,7 @@ class Tree {
     int y = 0;
     standin::MouseButton button = standin::MouseButton::Left;
     int qualifiers = 0;
-    int clicks = 1;
+    int clicks = 1;  // in quick succession, wherever
   };
 
   // `maps` are the weight maps' names, `layers` the layers' by number.
@@ -63,7 +63,7 @@ class Tree {
   void layOut();
   void addRows(std::size_t node, int depth);
   void flip(std::size_t row);
-  bool pressLabel(std::size_t row, const Press& press);
+  bool pressLabel(std::size_t row, const Press& press, bool isSecond);
   void selectBelow(std::size_t node);
 
   std::vector<std::string> layers_;
@@ -72,6 +72,7 @@ class Tree {
   std::vector<Row> rows_;
   std::set<std::size_t> selected_;  // skelegons
   std::size_t anchor_ = kNone;      // node
+  std::size_t clicked_ = kNone;     // row of the last press, if a plain click on a label
 
   int width_ = 0;
   int height_ = 0;

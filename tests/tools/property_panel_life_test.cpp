@@ -208,14 +208,31 @@ TEST_F(PropertyPanel, SpeaksTheLanguageOfItsLastRun) {
   EXPECT_EQ(person::menu(control(kPages)).front(), "グループ");
 }
 
-TEST_F(PropertyPanel, ComesToTheFrontAndLooksAgainWhenItIsRunWhileOpen) {
+TEST_F(PropertyPanel, IsMadeAnewWhenItIsRunWhileOpen) {
   openWith({"Hips"});
   const Panel* const first = panel;
-  panel->takesFront = false;
   openWith({"Chest"});
-  EXPECT_EQ(panel, first);
-  EXPECT_TRUE(panel->takesFront);
+  EXPECT_NE(panel, first);
+  EXPECT_FALSE(first->isAlive);
+  EXPECT_EQ(standin::panels().all().size(), 1U);
   EXPECT_EQ(control(kNameEdit)->text, "Chest");
+}
+
+TEST_F(PropertyPanel, SpeaksTheLanguageOfARunWhileItIsOpen) {
+  openWith({"Hips"});
+  host.options().localeInfo = kJapanese;
+  openTool();
+  EXPECT_EQ(control(kNameEdit)->label.read(), "スケルゴン");
+  EXPECT_EQ(person::menu(control(kPages)).front(), "グループ");
+}
+
+TEST_F(PropertyPanel, KeepsPageAndGroupWhenItIsRunWhileOpen) {
+  openWith({"Hips"});
+  showGroup(kScaleGroup);
+  openTool();
+  EXPECT_EQ(control(kPages)->integer, kControllersPage);
+  EXPECT_EQ(control(kGroups)->integer, kScaleGroup);
+  EXPECT_TRUE(isVisible(159));
 }
 
 TEST_F(PropertyPanel, WorksAgainAfterTheModuleWasUnloadedWithThePanelOpen) {

@@ -275,11 +275,33 @@ TEST_F(PropertyPanel, EachStepOfADraggedSliderIsStored) {
   EXPECT_EQ(changingEdits(), 4U);
 }
 
-TEST_F(PropertyPanel, AnIndexBeyondItsListIsShownAsTheHostShowsIt) {
+// What a host makes of an index outside a list is not known: it gets none. Nothing is lost meanwhile.
+TEST_F(PropertyPanel, AStoredChoiceOutsideItsListShowsAsTheDefaultAndStays) {
+  for (const char* const odd : {"99", "8", "-1", "-2000000000"}) {
+    store("Hips", Slot::FalloffType, odd);
+    openWith({"Hips"});
+    for (const Page page : {kGroupPage, kBonePage, kIKPage, kControllersPage}) showPage(page);
+    EXPECT_EQ(control(Slot::FalloffType)->integer, 4) << odd;
+    EXPECT_EQ(stored("Hips", Slot::FalloffType), odd);
+  }
+}
+
+TEST_F(PropertyPanel, AChoiceTakesThePlaceOfAStoredOneOutsideItsList) {
   store("Hips", Slot::FalloffType, "99");
   openWith({"Hips"});
-  EXPECT_EQ(control(Slot::FalloffType)->integer, 99);
-  EXPECT_EQ(stored("Hips", Slot::FalloffType), "99");
+  choose(Slot::FalloffType, 7);
+  EXPECT_EQ(stored("Hips", Slot::FalloffType), "7");
+}
+
+TEST_F(AllSettings, GiveNoListAnIndexOutsideIt) {
+  storeEverywhere("1000");
+  openWith({"Hips"});
+  for (const Slot slot : everySetting()) {
+    if (rowOf(slot).kind != SlotKind::Choice) continue;
+    show(slot);
+    EXPECT_LT(static_cast<std::size_t>(control(slot)->integer), person::menu(control(slot)).size())
+        << control(slot)->describe();
+  }
 }
 
 class ObjectWide : public testing::TestWithParam<Slot>, protected PropertySession {};

@@ -360,14 +360,6 @@ TEST_F(Renamer, RemembersTheFirstTextWhileItIsClosed) {
   EXPECT_EQ(at(Item::FirstText)->text, "Bone");
 }
 
-TEST_F(Renamer, StaysInTheLanguageInWhichItWasMade) {
-  openTool();
-  ASSERT_TRUE(person::close(panel));
-  host.options().localeInfo = kJapanese;
-  openTool();
-  EXPECT_EQ(at(Item::Mode)->label.read(), "Mode");
-}
-
 TEST_F(Renamer, StartsAfreshAfterTheModuleWasUnloaded) {
   openIn(RenameMode::Advanced);
   registerThese({"Root"});

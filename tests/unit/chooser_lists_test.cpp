@@ -64,5 +64,21 @@ TEST(ChooserLists, ForgetEverythingWithTheirTexts) {
   EXPECT_EQ(lists.count(kItems), 0);
 }
 
+TEST(ChooserLists, EndWithABlankEntryForAHostThatNeedsOne) {
+  CChooserLists lists;
+  lists.set(ChooserList::WeightMaps, {"(none)", "Head"});
+  lists.endWithBlank(ChooserList::WeightMaps);
+  lists.endWithBlank(ChooserList::WeightMaps);
+  EXPECT_EQ(lists.count(ChooserList::WeightMaps), 3);
+  EXPECT_STREQ(lists.name(ChooserList::WeightMaps, 2), "");
+  EXPECT_EQ(lists.chosen(ChooserList::WeightMaps, 2), "");
+  EXPECT_EQ(lists.count(ChooserList::Items), 0);
+  lists.set(ChooserList::WeightMaps, {"(none)"});
+  EXPECT_EQ(lists.count(ChooserList::WeightMaps), 2);
+  lists.forgetTexts();
+  lists.set(ChooserList::WeightMaps, {"(none)"});
+  EXPECT_EQ(lists.count(ChooserList::WeightMaps), 1);
+}
+
 }  // namespace
 }  // namespace mst

@@ -119,13 +119,27 @@ struct RecordedCalls {
   static std::uint8_t isList(unsigned list) { return outside("isList").lists.contains(list) ? 1 : 0; }
   static void deleteLists(unsigned first, int count) {
     GlRecorder& r = outside("deleteLists");
-    r.deletedLists.insert(r.deletedLists.end(), {first, static_cast<unsigned>(count)});
-    for (unsigned list = first; list < first + static_cast<unsigned>(count); ++list) r.lists.erase(list);
+    for (unsigned list = first; list < first + static_cast<unsigned>(count); ++list) {
+      r.deletedLists.insert(list);
+      r.lists.erase(list);
+    }
+  }
+
+  static unsigned genLists(int count) {
+    GlRecorder& r = outside("genLists");
+    if (r.hasNoMoreLists) return 0;
+    unsigned first = 1;
+    for (unsigned list = first; list < first + static_cast<unsigned>(count); ++list) {
+      if (r.lists.contains(list)) first = list + 1;
+    }
+    for (unsigned list = first; list < first + static_cast<unsigned>(count); ++list) r.lists.insert(list);
+    return first;
   }
 
   static unsigned getError() { return std::exchange(outside("getError").error, 0U); }
 
   static void* currentDevice() { return recorder->device; }
+  static void* currentContext() { return recorder->context; }
   static SelectedFont selectFont(void* /*device*/) {
     if (!recorder->hasFont) return {};
     ++recorder->fontsMade;
@@ -203,9 +217,11 @@ const GlCalls& GlRecorder::calls() {
       .rasterPosition = C::rasterPosition,
       .callList = C::callList,
       .isList = C::isList,
+      .genLists = C::genLists,
       .deleteLists = C::deleteLists,
       .getError = C::getError,
       .currentDevice = C::currentDevice,
+      .currentContext = C::currentContext,
       .selectFont = C::selectFont,
       .giveFontBack = C::giveFontBack,
       .makeByteLists = C::makeByteLists,

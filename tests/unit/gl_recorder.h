@@ -47,8 +47,10 @@ class GlRecorder {
 
   // The host's side.
   void* device = this;
+  void* context = this;
   bool hasFont = true;
   bool makesWideLists = true;
+  bool hasNoMoreLists = false;
   std::set<unsigned> lists;
   int attribDepth = 0;
   int mostAttribDepth = 16;
@@ -85,7 +87,7 @@ class GlRecorder {
   int fontsOut = 0;  // made and not given back
   int byteListRuns = 0;
   std::vector<char16_t> wideLists;
-  std::vector<unsigned> deletedLists;  // first and count
+  std::set<unsigned> deletedLists;
   std::vector<std::string> faults;
 
  private:

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 namespace mst {
 namespace {
@@ -17,15 +16,40 @@ constexpr MouseReport kDragged{15, 25, kLeftDown, 1};
 
 class MouseMerge : public testing::Test {
  protected:
-  // "P" press, "M" move, "R" release, "-" nothing.
-  void took(MouseStep step) { steps += "-PMR"[static_cast<std::size_t>(step)]; }
-  void hook(const MouseReport& report) { took(mouse.button(MouseWay::Hooks, report)); }
-  void hookMoved(const MouseReport& report) { took(mouse.motion(MouseWay::Hooks, report)); }
-  void event(const MouseReport& report) { took(mouse.any(MouseWay::ControlEvent, report)); }
+  // "P" press, "G" guess, "M" move, "R" release, "L" late release, "T" take back, "-" nothing.
+  void took(MouseStep step) { steps += "-PGMRLT"[static_cast<std::size_t>(step)]; }
+  void hook(const MouseReport& report) { took(mouse.button(report)); }
+  void hookMoved(const MouseReport& report) { took(mouse.motion(report)); }
+  void event(const MouseReport& report) { took(mouse.event(report)); }
+  // The host has told by the event that a button went up.
+  void eventHasTold() {
+    event(kPress);
+    event(kRelease);
+    steps.clear();
+  }
+  // The host has painted by the event, before any button was used.
+  void eventHasPainted() {
+    mouse.reset();
+    event({});
+    steps.clear();
+  }
 
   CMouseMerge mouse;
   std::string steps;
 };
+
+MouseReport at(int x, int y, int bits = kLeftDown, int clicks = 1) { return {x, y, bits, clicks}; }
+MouseReport outside(MouseReport report) {
+  report.isInside = false;
+  return report;
+}
+MouseReport onDraggedBar(MouseReport report) {
+  report.isOnDraggedBar = true;
+  return report;
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// The hooks alone
 
 TEST_F(MouseMerge, TheHooksAlone) {
   hook(kPress);
@@ -34,73 +58,37 @@ TEST_F(MouseMerge, TheHooksAlone) {
   EXPECT_EQ(steps, "PMR");
 }
 
-TEST_F(MouseMerge, TheEventAlone) {
-  event(kPress);
-  event(kDragged);
-  event(kRelease);
-  EXPECT_EQ(steps, "PMR");
-}
-
-TEST_F(MouseMerge, OnePressInBothWaysIsOne) {
-  hook(kPress);
-  event(kPress);
-  hook(kRelease);
-  event(kRelease);
-  EXPECT_EQ(steps, "P-RR");
-}
-
-TEST_F(MouseMerge, TheEventMayComeFirst) {
-  event(kPress);
-  hook(kPress);
-  event(kRelease);
-  hook(kRelease);
-  EXPECT_EQ(steps, "P-RR");
-}
-
-TEST_F(MouseMerge, TheSecondWayMayComeAfterTheRelease) {
-  hook(kPress);
-  hook(kRelease);
-  event(kPress);
-  event(kRelease);
-  EXPECT_EQ(steps, "PR-R");
-}
-
-TEST_F(MouseMerge, TwoPressesAtOnePlaceAreTwoInEachWay) {
+TEST_F(MouseMerge, TwoPressesOfTheHookAtOnePlaceAreTwo) {
   for (int i = 0; i < 2; ++i) {
     hook(kPress);
     hook(kRelease);
   }
   EXPECT_EQ(steps, "PRPR");
-  steps.clear();
-  mouse.reset();
-  for (int i = 0; i < 2; ++i) {
-    event(kPress);
-    event(kRelease);
-  }
-  EXPECT_EQ(steps, "PRPR");
 }
 
-TEST_F(MouseMerge, TwoPressesAtOnePlaceAreTwoInBothWays) {
-  for (int i = 0; i < 2; ++i) {
-    hook(kPress);
-    event(kPress);
-    hook(kRelease);
-    event(kRelease);
-  }
-  EXPECT_EQ(steps, "P-RRP-RR");
+TEST_F(MouseMerge, APressOfTheHookIsOneWithoutARelease) {
+  hook(kPress);
+  hook(kPress);
+  hook(at(100, 90));
+  EXPECT_EQ(steps, "PGG");
 }
 
-TEST_F(MouseMerge, APressElsewhereInTheOtherWayIsAnother) {
+TEST_F(MouseMerge, MovesToldByTheHookOfButtonsAreMoves) {
   hook(kPress);
   hook(kRelease);
-  event(kDragged);
-  EXPECT_EQ(steps, "PRP");
+  hook(kPress);
+  hook(at(10, 40));
+  hook(at(10, 200));
+  hook(kRelease);
+  EXPECT_EQ(steps, "PRPMMR");
 }
 
-TEST_F(MouseMerge, APressAtAnotherHeightInTheOtherWayIsAnother) {
+TEST_F(MouseMerge, AnotherButtonIsAnotherPress) {
   hook(kPress);
-  event({10, 21, kLeftDown, 1});
-  EXPECT_EQ(steps, "PP");
+  hook(kRelease);
+  hook(kPress);
+  hook(at(10, 20, 64 | 128));
+  EXPECT_EQ(steps, "PRPP");
 }
 
 TEST_F(MouseMerge, MotionWithAButtonThatWentDownElsewhereIsNothing) {
@@ -108,17 +96,105 @@ TEST_F(MouseMerge, MotionWithAButtonThatWentDownElsewhereIsNothing) {
   EXPECT_EQ(steps, "-");
 }
 
-TEST_F(MouseMerge, APressWithOtherQualifiersInTheOtherWayIsAnother) {
+TEST_F(MouseMerge, AReleaseThatWentUnheardShowsInTheNextMotion) {
   hook(kPress);
-  hook(kRelease);
-  event({10, 20, kLeftDown | 1, 1});
-  EXPECT_EQ(steps, "PRP");
+  hookMoved({1, 2, 0, 0});
+  EXPECT_EQ(steps, "PL");
 }
 
-TEST_F(MouseMerge, BitsOfTheHostsOwnDoNotMakeAnother) {
-  hook({10, 20, kLeftDown | 8, 1});
+// ---------------------------------------------------------------------------------------------------------------------
+// The event alone, of presses only
+
+TEST_F(MouseMerge, PressesWithoutReleaseAndCountAreOneEach) {
+  for (const int y : {20, 34, 48, 34}) event(at(10, y, kLeftDown, 0));
+  EXPECT_EQ(steps, "PGGG");
+}
+
+TEST_F(MouseMerge, PressesAtOnePlaceAreOneEach) {
+  for (int i = 0; i < 3; ++i) event(kPress);
+  EXPECT_EQ(steps, "PGG");
+}
+
+TEST_F(MouseMerge, ACountThatRisesShowsAPress) {
+  event(kPress);
+  event(at(10, 20, kLeftDown, 2));
+  EXPECT_EQ(steps, "PP");
+}
+
+TEST_F(MouseMerge, ACountThatBeginsAnewShowsAPress) {
+  event(kPress);
+  event(at(10, 20, kLeftDown, 2));
+  event(at(11, 20, kLeftDown, 1));
+  EXPECT_EQ(steps, "PPG");
+}
+
+TEST_F(MouseMerge, APressWithAQualifierIsOneAtTheSamePlaceToo) {
+  event(kPress);
+  event(at(11, 20, kLeftDown | 1));
+  EXPECT_EQ(steps, "PG");
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// The event alone, of releases and moves too
+
+TEST_F(MouseMerge, TheEventAlone) {
+  eventHasTold();
+  event(kPress);
+  event(at(200, 300));
+  event(kRelease);
+  EXPECT_EQ(steps, "PMR");
+}
+
+TEST_F(MouseMerge, TwoPressesOfTheEventAtOnePlaceAreTwo) {
+  for (int i = 0; i < 2; ++i) {
+    event(kPress);
+    event(kRelease);
+  }
+  EXPECT_EQ(steps, "PRPR");
+}
+
+TEST_F(MouseMerge, WhereReleasesAreToldARepeatedPressIsNone) {
+  eventHasTold();
+  event(kPress);
   event(kPress);
   EXPECT_EQ(steps, "P-");
+}
+
+TEST_F(MouseMerge, AShortStepIsAMoveFromTheBeginning) {
+  event(kPress);
+  event(at(13, 17));
+  EXPECT_EQ(steps, "PM");
+}
+
+TEST_F(MouseMerge, AStepOutOfTheTreeIsAMoveFromTheBeginning) {
+  event(kPress);
+  event(outside(at(10, -50)));
+  EXPECT_EQ(steps, "PM");
+}
+
+TEST_F(MouseMerge, AStepAlongTheDraggedBarIsAMoveFromTheBeginning) {
+  event(kPress);
+  event(onDraggedBar(at(10, 300)));
+  EXPECT_EQ(steps, "PM");
+}
+
+// The first release of all shows that what looked like presses were moves.
+TEST_F(MouseMerge, LongStepsOfTheFirstDragAreTakenBack) {
+  event(kPress);
+  event(at(10, 60));
+  event(at(10, 90));
+  event(at(10, 90, kLeftUp));
+  EXPECT_EQ(steps, "PGGT");
+}
+
+TEST_F(MouseMerge, OnlyTheFirstDragIsTakenBack) {
+  eventHasTold();
+  for (int i = 0; i < 2; ++i) {
+    event(kPress);
+    event(at(10, 60));
+    event(at(10, 60, kLeftUp));
+  }
+  EXPECT_EQ(steps, "PMRPMR");
 }
 
 TEST_F(MouseMerge, MotionWithoutAButtonIsNothing) {
@@ -127,22 +203,165 @@ TEST_F(MouseMerge, MotionWithoutAButtonIsNothing) {
   EXPECT_EQ(steps, "--");
 }
 
-TEST_F(MouseMerge, AReleaseThatWentUnheardShowsInTheNextMotion) {
-  hook(kPress);
-  hookMoved({1, 2, 0, 0});
-  EXPECT_EQ(steps, "PR");
-}
+// ---------------------------------------------------------------------------------------------------------------------
+// The event paints too
 
-TEST_F(MouseMerge, AReleaseThatWentUnheardShowsInTheCountOfClicks) {
+TEST_F(MouseMerge, AnEventThatTellsNothingNewPaints) {
+  eventHasPainted();
   event(kPress);
-  event({10, 20, kLeftDown, 2});
+  for (int i = 0; i < 3; ++i) event(kPress);
+  EXPECT_EQ(steps, "P---");
+}
+
+TEST_F(MouseMerge, WhatStoodBeforeThePanelOpenedIsNoPress) {
+  mouse.reset(kPress);
+  event(kPress);
+  event(at(10, 60));
+  EXPECT_EQ(steps, "-P");
+}
+
+// A button is down beside the tree; the place is that of the last press in it.
+TEST_F(MouseMerge, APaintWhileAButtonIsDownElsewhereIsNoPress) {
+  eventHasPainted();
+  event(kPress);
+  event(kRelease);
+  mouse.askedToPaint();
+  for (int i = 0; i < 2; ++i) event(kPress);
+  event(kRelease);
+  event(at(10, 60));
+  EXPECT_EQ(steps, "PR---P");
+}
+
+// The same by a host that paints by both callbacks.
+TEST_F(MouseMerge, AnEventRightAfterThePaintIsNoPressEither) {
+  eventHasPainted();
+  event(kPress);
+  event(kRelease);
+  mouse.painted();
+  event(kPress);
+  event(at(10, 60));
+  EXPECT_EQ(steps, "PR-P");
+}
+
+// Asked to paint, the host called when the button had been up for long: no release was told.
+TEST_F(MouseMerge, APaintThatShowsTheButtonUpTeachesNothingOfReleases) {
+  eventHasPainted();
+  event(kPress);
+  mouse.askedToPaint();
+  event(kRelease);
+  event(at(10, 60));
+  event(at(10, 90));
+  EXPECT_EQ(steps, "PLPG");
+}
+
+TEST_F(MouseMerge, AfterThePaintTheReleaseIsHeard) {
+  eventHasPainted();
+  event(kPress);
+  mouse.askedToPaint();
+  event(kPress);
+  event(kRelease);
+  event(at(10, 60));
+  event(at(10, 90));
+  EXPECT_EQ(steps, "P-RPM");
+}
+
+// Such a release may be no more than the state that a paint shows.
+TEST_F(MouseMerge, NothingIsTakenBackWhereTheEventPaints) {
+  eventHasPainted();
+  event(kPress);
+  event(at(10, 90));
+  event(at(10, 90, kLeftUp));
+  EXPECT_EQ(steps, "PGR");
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Both ways
+
+TEST_F(MouseMerge, OnePressInBothWaysIsOne) {
+  for (int i = 0; i < 3; ++i) {
+    hook(kPress);
+    event(kPress);
+    hook(kRelease);
+    event(kRelease);
+  }
+  EXPECT_EQ(steps, "P-R-P-R-P-R-");
+}
+
+TEST_F(MouseMerge, TheEventMayComeFirst) {
+  for (int i = 0; i < 3; ++i) {
+    event(kPress);
+    hook(kPress);
+    event(kRelease);
+    hook(kRelease);
+  }
+  EXPECT_EQ(steps, "P--R-P-R-P-R");
+}
+
+TEST_F(MouseMerge, TheSecondWayMayComeAfterTheRelease) {
+  hook(kPress);
+  hook(kRelease);
+  event(kPress);
+  event(kRelease);
+  EXPECT_EQ(steps, "PR--");
+  steps.clear();
+  mouse.reset();
+  event(kPress);
+  event(kRelease);
+  hook(kPress);
+  hook(kRelease);
+  EXPECT_EQ(steps, "PR-R");
+}
+
+TEST_F(MouseMerge, TheEventMayTellOfPressesOnly) {
+  for (const int y : {20, 34, 34, 48}) {
+    hook(at(10, y));
+    event(at(10, y));
+    hook(at(10, y, kLeftUp));
+  }
+  EXPECT_EQ(steps, "P-RP-RP-RP-R");
+}
+
+TEST_F(MouseMerge, MovesMayComeByTheEventOnly) {
+  hook(kPress);
+  event(kPress);
+  event(at(10, 60));
+  hook(at(10, 60, kLeftUp));
+  EXPECT_EQ(steps, "P-MR");
+}
+
+TEST_F(MouseMerge, TheHookMayTellOfTheReleaseOnly) {
+  event(kPress);
+  hook(kRelease);
+  event(at(10, 60));
+  EXPECT_EQ(steps, "PRP");
+}
+
+// Hosts may call the hooks for presses beside the tree only.
+TEST_F(MouseMerge, AHookBesideTheTreeDoesNotSilenceTheEvent) {
+  hook(outside(at(-3, 20)));
+  hook(outside(at(-3, 20, kLeftUp)));
+  steps.clear();
+  event(kPress);
+  EXPECT_EQ(steps, "P");
+}
+
+TEST_F(MouseMerge, APressElsewhereOfTheHookIsAnother) {
+  event(kPress);
+  hook(at(10, 21));
   EXPECT_EQ(steps, "PP");
 }
 
-TEST_F(MouseMerge, APressOfTheHookIsOneWithoutARelease) {
-  hook(kPress);
-  hook(kPress);
-  EXPECT_EQ(steps, "PP");
+TEST_F(MouseMerge, APressOfTheHookWithOtherQualifiersIsAnother) {
+  event(kPress);
+  event(kRelease);
+  hook(at(10, 20, kLeftDown | 1));
+  EXPECT_EQ(steps, "PRP");
+}
+
+TEST_F(MouseMerge, BitsOfTheHostsOwnDoNotMakeAnother) {
+  event(kPress);
+  hook(at(10, 20, kLeftDown | 8));
+  EXPECT_EQ(steps, "P-");
 }
 
 }  // namespace

@@ -45,7 +45,7 @@ class WideLetters : public std::ctype<char> {
     static std::array<mask, table_size> masks = [] {
       std::array<mask, table_size> made{};
       std::copy_n(classic_table(), table_size, made.begin());
-      for (const unsigned char letter : {0xE3, 0x81, 0x82}) made[letter] = static_cast<mask>(made[letter] | alpha);
+      for (const std::size_t letter : {0xE3U, 0x81U, 0x82U}) made[letter] = static_cast<mask>(made[letter] | alpha);
       return made;
     }();
     return masks;

@@ -26,7 +26,10 @@ TEST(TextCells, JapaneseIsTwoCellsEach) {
 }
 
 TEST(TextCells, HalfWidthKanaAreOneCellEach) { EXPECT_EQ(cellsOf("ﾎﾞｰﾝ"), 4); }
-TEST(TextCells, LettersBeyondAsciiAreOneCellEach) { EXPECT_EQ(cellsOf("Höftenéж"), 8); }
+TEST(TextCells, LettersBeyondAsciiAreOneCellEach) { EXPECT_EQ(cellsOf("Höftené"), 7); }
+TEST(TextCells, SignsOfTheFontsCodePageAreTwoCellsEach) { EXPECT_EQ(cellsOf("①Ⅳ→★※"), 10); }
+TEST(TextCells, GreekAndCyrillicAreTwoCellsEach) { EXPECT_EQ(cellsOf("αΩжЁ"), 8); }
+TEST(TextCells, CharactersOfTheUsersOwnAreTwoCellsEach) { EXPECT_EQ(cellsOf("\xEE\x80\x80"), 2); }
 
 TEST(TextCells, CharactersOfFourBytesAreOne) {
   EXPECT_EQ(charactersOf("\xF0\xA0\xAE\xB7"), U"\U00020BB7");

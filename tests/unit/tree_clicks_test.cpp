@@ -176,7 +176,75 @@ TEST_F(TreeViewTest, TheSecondOfTwoQuickClicksCollapses) {
 }
 
 TEST_F(TreeViewTest, TheThirdOfThreeQuickClicksSelects) {
+  for (const int clicks : {1, 2}) tree.press({labelX(2), middleOf(2), kLeft | kDown, clicks});
   EXPECT_EQ(tree.press({labelX(2), middleOf(2), kLeft | kDown, 3}), kSelection);
+}
+
+// Hosts may count clicks by time alone.
+TEST_F(TreeViewTest, AQuickClickOnAnotherRowSelectsIt) {
+  pressLabel(2);
+  EXPECT_EQ(tree.press({labelX(4), middleOf(4), kLeft | kDown, 2}), kSelection);
+  EXPECT_EQ(selected(), Names{"C"});
+}
+
+TEST_F(TreeViewTest, TwoQuickClicksAfterOneOnAnotherRowAreADoubleClick) {
+  pressLabel(4);
+  tree.press({labelX(2), middleOf(2), kLeft | kDown, 2});
+  EXPECT_EQ(tree.press({labelX(2), middleOf(2), kLeft | kDown, 3}), kLooks);
+}
+
+TEST_F(TreeViewTest, AQuickClickAfterAnExpanderOrAQualifiedOneIsAClick) {
+  pressLabel(2, kCtrl);
+  EXPECT_EQ(tree.press({labelX(2), middleOf(2), kLeft | kDown, 2}), kSelection);
+  pressExpander(5);
+  EXPECT_EQ(tree.press({labelX(5), middleOf(5), kLeft | kDown, 2}), kSelection);
+}
+
+// Hosts may never count.
+TEST_F(TreeViewTest, ClicksThatAreNotCountedAreClicks) {
+  for (const int clicks : {0, 0, 1, 1}) {
+    EXPECT_EQ(tree.press({labelX(2), middleOf(2), kLeft | kDown, clicks}), kSelection);
+  }
+  EXPECT_EQ(tree.rows().size(), 7U);
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Presses that prove to be none
+
+TEST_F(TreeViewTest, TakenBackThePressesSinceHaveChangedNothing) {
+  pressLabel(3);
+  tree.keepForTakingBack();
+  pressExpander(2);
+  pressLabel(2, kCtrl);
+  EXPECT_EQ(tree.takeBack(), kSelection);
+  EXPECT_EQ(selected(), Names{"B"});
+  EXPECT_EQ(tree.rows().size(), 7U);
+  EXPECT_EQ(tree.anchor(), 3U);
+}
+
+TEST_F(TreeViewTest, WhatIsKeptFirstIsWhatComesBack) {
+  pressLabel(3);
+  tree.keepForTakingBack();
+  pressLabel(4);
+  tree.keepForTakingBack();
+  pressLabel(5);
+  tree.takeBack();
+  EXPECT_EQ(selected(), Names{"B"});
+}
+
+TEST_F(TreeViewTest, WithNothingKeptNothingIsTakenBack) {
+  tree.keepForTakingBack();
+  pressLabel(3);
+  tree.keepNothing();
+  EXPECT_EQ(tree.takeBack(), kNothing);
+  EXPECT_EQ(selected(), Names{"B"});
+}
+
+TEST_F(TreeViewTest, OtherNodesAreKeptFromBeingTakenBack) {
+  tree.keepForTakingBack();
+  tree.setNodes(buildSelectorNodes({selectedInModeler(skelegon("New", 1, 2))}, {"L"}, {}));
+  EXPECT_EQ(tree.takeBack(), kNothing);
+  EXPECT_EQ(selected(), Names{"New"});
 }
 
 TEST_F(TreeViewTest, QuickClicksWithAQualifierAreClicks) {

@@ -18,8 +18,10 @@ inline constexpr int kHeight = 70;  // five rows
 // The characters that were drawn; "#" for one that has a list of its own.
 inline std::string lettersOf(const GlRecorder& gl) {
   std::string text;
-  for (const DrawnCharacter& c : gl.characters)
-    text += c.list < kFirstOwnList ? static_cast<char>(c.list - kFirstList) : '#';
+  for (const DrawnCharacter& c : gl.characters) {
+    const bool isOfBytes = c.list >= kFirstList && c.list < kFirstList + kByteLists;
+    text += isOfBytes ? static_cast<char>(c.list - kFirstList) : '#';
+  }
   return text;
 }
 

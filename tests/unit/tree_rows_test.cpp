@@ -270,8 +270,15 @@ TEST(RowColours, EachWordHasItsIndex) {
 
 TEST(RowColours, TheColourTagGoesBeforeItsCopy) { EXPECT_EQ(colourOf(coloured("Blue", "Red")), 8); }
 TEST(RowColours, WithoutAColourTagTheCopyCounts) { EXPECT_EQ(colourOf(coloured(std::nullopt, "DkCyn")), 3); }
-// Deliberate: a colour tag without text hides the copy.
-TEST(RowColours, AnEmptyColourTagHidesTheCopy) { EXPECT_EQ(colourOf(coloured("", "DkCyn")), 13); }
+// The two cyans are stored so, and any other colour may be.
+TEST(RowColours, BehindABlankColourTagTheCopyCounts) {
+  for (std::size_t i = 0; i < skg::BoneColourNames.size(); ++i) {
+    EXPECT_EQ(colourOf(coloured("", std::string(skg::BoneColourNames[i]))), static_cast<int>(i));
+  }
+}
+TEST(RowColours, ABlankColourTagAloneIsOrange) { EXPECT_EQ(colourOf(coloured("", std::nullopt)), 13); }
+// Only a blank one gives way to the copy.
+TEST(RowColours, AnUnknownWordIsOrangeWhateverTheCopySays) { EXPECT_EQ(colourOf(coloured("blue", "DkCyn")), 13); }
 TEST(RowColours, WithoutAnyTagItIsOrange) { EXPECT_EQ(colourOf(coloured(std::nullopt, std::nullopt)), 13); }
 TEST(RowColours, AnUnknownWordIsOrange) {
   EXPECT_EQ(colourOf(coloured("blue", std::nullopt)), 13);

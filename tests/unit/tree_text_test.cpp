@@ -19,6 +19,8 @@ std::string utf8(char16_t c) {
   return {byte(0xE0 | c >> 12), byte(0x80 | (c >> 6 & 0x3F)), byte(0x80 | (c & 0x3F))};
 }
 
+constexpr unsigned kFirstFreeList = 1;  // that the recorder gives out
+
 class TreeText : public testing::Test {
  protected:
   ~TreeText() override {
@@ -63,7 +65,7 @@ TEST_F(TreeText, CharactersStandOneCellApartBlackOnTheBaselineOfTheirRow) {
 
 TEST_F(TreeText, AFullWidthCharacterHasAListOfItsOwnAndTwoCells) {
   draw("右a");
-  EXPECT_THAT(listsCalled(), ElementsAre(1255, 1097));
+  EXPECT_THAT(listsCalled(), ElementsAre(kFirstFreeList, 1097));
   EXPECT_THAT(columns(), ElementsAre(4, 16));
   EXPECT_THAT(gl.wideLists, ElementsAre(u'右'));
 }
@@ -71,7 +73,7 @@ TEST_F(TreeText, AFullWidthCharacterHasAListOfItsOwnAndTwoCells) {
 TEST_F(TreeText, AListIsMadeOnceForACharacter) {
   draw("右右左");
   draw("左右");
-  EXPECT_THAT(listsCalled(), ElementsAre(1256, 1255));
+  EXPECT_THAT(listsCalled(), ElementsAre(kFirstFreeList + 1, kFirstFreeList));
   EXPECT_THAT(gl.wideLists, IsEmpty());
 }
 
@@ -82,7 +84,7 @@ TEST_F(TreeText, BytesThatAreNoTextShowAsQuestionMarks) {
 
 TEST_F(TreeText, Letter255HasNoByteListAndGetsItsOwn) {
   draw("ÿ");
-  EXPECT_THAT(listsCalled(), ElementsAre(1255));
+  EXPECT_THAT(listsCalled(), ElementsAre(kFirstFreeList));
   EXPECT_THAT(gl.wideLists, ElementsAre(u'ÿ'));
 }
 
@@ -90,6 +92,32 @@ TEST_F(TreeText, ACharacterThatTheFontCannotGiveShowsAsQuestionMark) {
   gl.makesWideLists = false;
   draw("右");
   EXPECT_THAT(listsCalled(), ElementsAre(1063));
+}
+
+TEST_F(TreeText, TheListOfACharacterThatTheFontCannotGiveIsGivenBack) {
+  gl.makesWideLists = false;
+  draw("右");
+  EXPECT_EQ(gl.lists.size(), kByteLists);
+}
+
+TEST_F(TreeText, WithoutAFreeListACharacterShowsAsQuestionMark) {
+  gl.hasNoMoreLists = true;
+  draw("右a");
+  EXPECT_THAT(listsCalled(), ElementsAre(1063, 1097));
+}
+
+TEST_F(TreeText, SymbolsOfTheFontsCodePageTakeTwoCells) {
+  draw("①Ⅳж→★a");
+  EXPECT_THAT(columns(), ElementsAre(4, 16, 28, 40, 52, 64));
+}
+
+TEST_F(TreeText, ListsOfTheHostKeepTheirNumbers) {
+  const std::set<unsigned> hosts = {1, 2, 999, 1255, 1256, 1300};
+  gl.lists = hosts;
+  draw("右左");
+  EXPECT_THAT(listsCalled(), ElementsAre(3, 4));
+  drawing.giveFontBack();
+  for (const unsigned list : hosts) EXPECT_TRUE(gl.lists.contains(list)) << list;
 }
 
 TEST_F(TreeText, ACharacterOfTwoUnitsShowsAsQuestionMark) {
@@ -110,8 +138,40 @@ TEST_F(TreeText, AnotherDeviceContextRemakesTheFont) {
   gl.device = &tree;
   draw("右");
   EXPECT_EQ(gl.byteListRuns, 1);
-  EXPECT_THAT(gl.deletedLists, ElementsAre(1255, 1));
+  EXPECT_THAT(gl.deletedLists, ElementsAre(kFirstFreeList));
   EXPECT_THAT(gl.wideLists, ElementsAre(u'右'));
+}
+
+// In another context those numbers may be anybody's.
+TEST_F(TreeText, AnotherOpenGlContextKeepsItsLists) {
+  draw("右");
+  gl.device = gl.context = &tree;
+  draw("右");
+  EXPECT_THAT(gl.deletedLists, IsEmpty());
+  EXPECT_EQ(gl.byteListRuns, 1);
+}
+
+TEST_F(TreeText, GivenBackTheFontLeavesTheListsWithFixedNumbersOnly) {
+  draw("右左a");
+  drawing.giveFontBack();
+  EXPECT_EQ(gl.lists.size(), kByteLists);
+  EXPECT_EQ(*gl.lists.begin(), kFirstList);
+}
+
+TEST_F(TreeText, NothingIsGivenBackWhereNoContextOrAnotherIsCurrent) {
+  draw("右");
+  for (void* const other : {static_cast<void*>(nullptr), static_cast<void*>(&tree)}) {
+    gl.context = other;
+    drawing.giveFontBack();
+    EXPECT_THAT(gl.deletedLists, IsEmpty());
+  }
+}
+
+TEST_F(TreeText, AfterTheFontWasGivenBackItIsDrawnAgain) {
+  draw("右");
+  drawing.giveFontBack();
+  draw("右a");
+  EXPECT_THAT(listsCalled(), ElementsAre(kFirstFreeList, 1097));
 }
 
 TEST_F(TreeText, ADrawWithoutDeviceContextKeepsTheFont) {
@@ -127,7 +187,7 @@ TEST_F(TreeText, ADrawWithoutDeviceContextKeepsTheFont) {
 // The handle of a closed window's device context can come back for another window.
 TEST_F(TreeText, AContextWithoutTheListsGetsThemUnderTheSameHandleToo) {
   draw("右");
-  gl.lists = {kFirstOwnList};  // somebody else's
+  gl.lists = {kFirstFreeList};  // somebody else's
   draw("右");
   EXPECT_EQ(gl.byteListRuns, 1);
   EXPECT_THAT(gl.deletedLists, IsEmpty());
@@ -161,14 +221,14 @@ TEST_F(TreeText, AFontThatWasMissingIsTriedAgain) {
 }
 
 TEST_F(TreeText, ManyDifferentCharactersUseABoundedNumberOfLists) {
-  unsigned greatest = 0;
+  std::size_t most = 0;
   for (int c = 0x3400; c < 0x9FFF; c += 32) {
     std::string text;
     for (int i = 0; i < 32; ++i) text += utf8(static_cast<char16_t>(c + i));
     draw(text);
-    greatest = std::max(greatest, *gl.lists.rbegin());
+    most = std::max(most, gl.lists.size());
   }
-  EXPECT_EQ(greatest, kFirstOwnList + kMostOwnLists - 1);
+  EXPECT_EQ(most, kByteLists + kMostOwnLists);
 }
 
 TEST_F(TreeText, ThePictureIsRightWhereTheListsBeginAnew) {
@@ -176,7 +236,7 @@ TEST_F(TreeText, ThePictureIsRightWhereTheListsBeginAnew) {
   for (unsigned c = 0; c < kMostOwnLists + 3; ++c) text += utf8(static_cast<char16_t>(0x4E00 + c));
   draw(text, 12 * static_cast<int>(kMostOwnLists + 4));
   EXPECT_EQ(gl.characters.size(), kMostOwnLists + 3u);
-  EXPECT_EQ(gl.characters.back().list, kFirstOwnList + 2);
+  EXPECT_EQ(gl.characters.back().list, kFirstFreeList + 2);
 }
 
 }  // namespace
