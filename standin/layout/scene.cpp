@@ -17,8 +17,6 @@ std::size_t kindIndex(ItemKind kind) { return static_cast<std::size_t>(kind); }
 
 bool holdsSkelegons(const PolygonGroup& group) { return group.type == lw::kTypeBone; }
 
-Vec3 vector(const FilePoint& point) { return {point[0], point[1], point[2]}; }
-
 }  // namespace
 
 std::string fileBaseName(const std::string& path) {
@@ -103,7 +101,7 @@ std::vector<Item*> Scene::addObject(const ObjectFile& file, const std::string& p
       name.append(":").append(layer.name.empty() ? "Layer" + std::to_string(layer.number + 1) : layer.name);
     Item& item = make(ItemKind::object, name, nullptr);
     item.source = LayerSource{fileNumber, layer.number};
-    item.pivot = vector(layer.pivot);
+    item.pivot = vectorOf(layer.pivot);
     for (const PolygonGroup& group : layer.groups) {
       if (!holdsSkelegons(group)) continue;
       item.skelegons.polygons.insert(item.skelegons.polygons.end(), group.polygons.begin(), group.polygons.end());

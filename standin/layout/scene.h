@@ -22,6 +22,8 @@
 
 namespace standin {
 
+inline Vec3 vectorOf(const FilePoint& point) { return {point[0], point[1], point[2]}; }
+
 enum class ItemKind : int {
   object = lw::kItemObject,
   light = lw::kItemLight,

@@ -37,8 +37,6 @@ std::vector<std::size_t> parentsByPoint(const std::vector<ObjectPolygon>& skeleg
   return parents;
 }
 
-Vec3 vector(const FilePoint& point) { return {point[0], point[1], point[2]}; }
-
 // A bone lies along +Z of its own axes, without bank in its object.
 Matrix3 restAxes(const Vec3& direction) {
   const double heading = std::atan2(direction[0], direction[2]);
@@ -116,7 +114,7 @@ std::vector<Item*> makeBonesOf(Scene& scene, Item& from, Item& object) {
   for (const std::size_t i : orderOf(scene.options().boneOrder, parents)) {
     const ObjectPolygon& skelegon = skelegons[i];
     Item& bone = scene.addBone(object, boneName(skelegon));
-    rest(bone, vector(source.points[skelegon.points[0]]), vector(source.points[skelegon.points[1]]));
+    rest(bone, vectorOf(source.points[skelegon.points[0]]), vectorOf(source.points[skelegon.points[1]]));
     takeTags(bone, skelegon, scene.options().bonesTakeColour);
     bones[i] = &bone;
   }

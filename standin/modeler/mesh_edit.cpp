@@ -10,14 +10,14 @@ namespace standin {
 namespace {
 
 constexpr std::uint64_t kEditBase = 0x5300'0000'0000;
-constexpr unsigned kSessionShift = 32;
+constexpr unsigned kEditSessionShift = 32;
 constexpr std::uint64_t kEditStep = 16;
 constexpr int kClearSelected = 1;
 
 }  // namespace
 
 lw::EditId MeshEdits::stateOf(std::size_t number) const {
-  const std::uint64_t value = kEditBase | static_cast<std::uint64_t>(session_ & 0xFFU) << kSessionShift;
+  const std::uint64_t value = kEditBase | static_cast<std::uint64_t>(session_ & 0xFFU) << kEditSessionShift;
   return reinterpret_cast<lw::EditId>(value + number * kEditStep);  // NOLINT(performance-no-int-to-ptr)
 }
 

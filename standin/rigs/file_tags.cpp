@@ -21,9 +21,9 @@ std::vector<std::string> textsOf(const ObjectFile& object) {
   return all;
 }
 
-class Search {
+class TagSearch {
  public:
-  explicit Search(const ObjectFile& object) : object_(object), texts_(textsOf(object)) {}
+  explicit TagSearch(const ObjectFile& object) : object_(object), texts_(textsOf(object)) {}
 
   std::vector<OddTags> all() {
     for (const Chunk& chunk : object_.chunks) {
@@ -85,6 +85,6 @@ class Search {
 
 }  // namespace
 
-std::vector<OddTags> oddTagsOf(const ObjectFile& object) { return Search(object).all(); }
+std::vector<OddTags> oddTagsOf(const ObjectFile& object) { return TagSearch(object).all(); }
 
 }  // namespace standin::rigs

@@ -102,9 +102,9 @@ constexpr bool rowsStandInOrder() {
 static_assert(rowsStandInOrder());
 static_assert(static_cast<std::size_t>(FindingKind::TextMissing) + 1 == kFindingKinds);
 
-class Search {
+class FindingSearch {
  public:
-  Search(const Rig& rig, const CodePage& codePage) : rig_(rig), codePage_(codePage), found_(namesFound(rig)) {
+  FindingSearch(const Rig& rig, const CodePage& codePage) : rig_(rig), codePage_(codePage), found_(namesFound(rig)) {
     for (const Layer& layer : rig.layers) items_.insert(layer.itemName);
     for (const Skelegon& skelegon : rig.skelegons) {
       layersOfName_[skelegon.name].insert(skelegon.layer);
@@ -305,7 +305,7 @@ std::string filled(std::string_view pattern, const Finding& finding) {
 
 const std::array<FindingRow, kFindingKinds>& findingTable() { return kRows; }
 
-std::vector<Finding> findingsOf(const Rig& rig, const CodePage& codePage) { return Search(rig, codePage).all(); }
+std::vector<Finding> findingsOf(const Rig& rig, const CodePage& codePage) { return FindingSearch(rig, codePage).all(); }
 
 std::string placeOf(const Rig& rig, const Finding& finding, Language language) {
   if (!finding.layer) return {};

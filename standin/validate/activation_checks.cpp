@@ -195,7 +195,7 @@ void goneWhileOpen(CheckRun& run) {
   }
 }
 
-constexpr std::array kChecks{
+constexpr std::array kActivationChecks{
     Check{"versions", 2, "Every server takes its own version of local data and answers 'bad version' to all others",
           versions},
     Check{"products", 2, "Every server runs in release 15 of the host and in no other", products},
@@ -208,6 +208,6 @@ constexpr std::array kChecks{
 
 }  // namespace
 
-std::span<const Check> activationChecks() { return kChecks; }
+std::span<const Check> activationChecks() { return kActivationChecks; }
 
 }  // namespace standin::validate

@@ -117,13 +117,13 @@ void conversions(CheckRun& run) {
   flatness.judge("conversions", count);
 }
 
-constexpr std::array kChecks{
+constexpr std::array kEnduranceChecks{
     Check{"actions", 10, "The module holds no more after a hundred thousand actions than after a few", actions},
     Check{"conversions", 10, "The module holds no more after a thousand conversions than after a few", conversions},
 };
 
 }  // namespace
 
-std::span<const Check> enduranceChecks() { return kChecks; }
+std::span<const Check> enduranceChecks() { return kEnduranceChecks; }
 
 }  // namespace standin::validate

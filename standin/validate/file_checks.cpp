@@ -101,7 +101,7 @@ void loading(CheckRun& run) {
   run.judge(witness().report());
 }
 
-constexpr std::array kChecks{
+constexpr std::array kFileChecks{
     Check{"file-exports", 1, "A Windows file exports the descriptor and nothing else", exports},
     Check{"file-imports", 1, "A Windows file needs only libraries that every Windows has", imports},
     Check{"descriptor", 1, "The descriptor is found and right, and the module starts", descriptor},
@@ -111,6 +111,6 @@ constexpr std::array kChecks{
 
 }  // namespace
 
-std::span<const Check> fileChecks() { return kChecks; }
+std::span<const Check> fileChecks() { return kFileChecks; }
 
 }  // namespace standin::validate

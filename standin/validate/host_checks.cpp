@@ -12,7 +12,7 @@ namespace standin::validate {
 namespace {
 
 constexpr std::size_t kMixtures = 50;
-constexpr std::size_t kActions = 300;
+constexpr std::size_t kActionsOfAWalk = 300;
 constexpr std::size_t kFewestActions = 60;
 
 // What is brought to a host, and in which language: some things differ only with wide characters, or with several layers.
@@ -47,7 +47,7 @@ void playOn(CheckRun& run, const HostChoice& host, const Luggage& luggage, std::
   const Rig rig = luggage.rig(run.file(""));
   goOn(run, host, luggage, rig, allTrips());
   goOn(run, host, luggage, rig, meshTrips());
-  const int actions = static_cast<int>(run.shareOf(kActions, kFewestActions));
+  const int actions = static_cast<int>(run.shareOf(kActionsOfAWalk, kFewestActions));
   for (const Program program : {Program::Modeler, Program::Layout}) {
     walkOnce(
         run,
@@ -75,7 +75,7 @@ void mixedHosts(CheckRun& run) {
   for (std::size_t i = 0; i < count; ++i) playAll(run, HostChoice::mixture(run.seed() * 1000 + i, run.host()), i);
 }
 
-constexpr std::array kChecks{
+constexpr std::array kHostChecks{
     Check{"hosts-both", 11, "Every tool does its job where both programs differ in one thing",
           [](CheckRun& run) { singleHosts(run, programVariants()); }},
     Check{"hosts-panels", 11, "Every tool does its job where panels differ in one thing",
@@ -89,6 +89,6 @@ constexpr std::array kChecks{
 
 }  // namespace
 
-std::span<const Check> hostChecks() { return kChecks; }
+std::span<const Check> hostChecks() { return kHostChecks; }
 
 }  // namespace standin::validate

@@ -135,7 +135,7 @@ void trees(CheckRun& run) {
   }
 }
 
-constexpr std::array kChecks{
+constexpr std::array kHostileChecks{
     Check{"hostile-texts", 9, "Any text can be typed: 64 KB, broken UTF-8, '%', control characters", texts},
     Check{"hostile-names", 9, "Skelegons, layers and weight maps can bear any name", names},
     Check{"hostile-settings", 9, "Any text can be stored as a setting", settings},
@@ -146,6 +146,6 @@ constexpr std::array kChecks{
 
 }  // namespace
 
-std::span<const Check> hostileChecks() { return kChecks; }
+std::span<const Check> hostileChecks() { return kHostileChecks; }
 
 }  // namespace standin::validate

@@ -205,7 +205,7 @@ void nothingLoaded(CheckRun& run) {
   });
 }
 
-constexpr std::array kChecks{
+constexpr std::array kPanelChecks{
     Check{"opening", 4, "Panels open, close and open again in both languages, and none is left behind", opening},
     Check{"geometry", 4, "On every page nothing overlaps, leaves the panel or is cut, in both languages", geometry},
     Check{"resizing", 4, "Panels that can be resized are right at any size", resizing},
@@ -215,6 +215,6 @@ constexpr std::array kChecks{
 
 }  // namespace
 
-std::span<const Check> panelChecks() { return kChecks; }
+std::span<const Check> panelChecks() { return kPanelChecks; }
 
 }  // namespace standin::validate

@@ -96,7 +96,7 @@ void refusedMemory(CheckRun& run, std::string_view name) {
   disturbed(run, name, allocations, run.stride());
 }
 
-constexpr std::array kChecks{
+constexpr std::array kTripChecks{
     Check{"trip-typical", 5, "A setting chosen in Modeler arrives at the bone in Layout",
           [](CheckRun& run) { undisturbed(run, "typical"); }},
     Check{"trip-property", 5, "The property panel can be used on every page and shows what is stored",
@@ -127,6 +127,6 @@ constexpr std::array kChecks{
 
 }  // namespace
 
-std::span<const Check> tripChecks() { return kChecks; }
+std::span<const Check> tripChecks() { return kTripChecks; }
 
 }  // namespace standin::validate

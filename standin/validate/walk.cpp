@@ -9,7 +9,7 @@
 namespace standin::validate {
 namespace {
 
-constexpr std::size_t kMostItems = 12;  // objects in the scene before some are removed
+constexpr std::size_t kMostObjects = 12;  // objects in the scene before some are removed
 
 }  // namespace
 
@@ -105,7 +105,7 @@ std::string Walk::changeObjects() {
 std::string Walk::changeScene() {
   LayoutHost& host = *session_.layout();
   Scene& scene = host.scene();
-  if (scene.objects().size() > kMostItems || below(8) == 0) {
+  if (scene.objects().size() > kMostObjects || below(8) == 0) {
     while (!scene.objects().empty()) scene.remove(*scene.objects().back());
     host.select(scene.addObject(rig_.object, rig_.path));
     return "clear the scene and load the object";

@@ -57,7 +57,7 @@ void walks(CheckRun& run, Program program) {
   }
 }
 
-constexpr std::array kChecks{
+constexpr std::array kWalkChecks{
     Check{"walks", 8, "A random user of Modeler's panels never sees a rule broken",
           [](CheckRun& run) { walks(run, Program::Modeler); }},
     Check{"walks-layout", 8, "A random user of Layout's panel never sees a rule broken",
@@ -66,6 +66,6 @@ constexpr std::array kChecks{
 
 }  // namespace
 
-std::span<const Check> walkChecks() { return kChecks; }
+std::span<const Check> walkChecks() { return kWalkChecks; }
 
 }  // namespace standin::validate

@@ -137,7 +137,7 @@ constexpr VariantValue kOtherPlugin[]{{"none"},
                                       {"renames", [](HostOptions& host) { host.layout.otherPlugin = renamesItems; }},
                                       {"sorts", [](HostOptions& host) { host.layout.otherPlugin = sortsItems; }}};
 
-constexpr std::array kVariants{
+constexpr std::array kLayoutVariants{
     HostVariant{
         "new-null", "What AddNull does to the selection", "not documented; a new item is usually selected",
         "takes the first item that was not selected before; with none, the item of the name, which was missing before",
@@ -226,6 +226,6 @@ constexpr std::array kVariants{
 
 }  // namespace
 
-std::span<const HostVariant> layoutVariants() { return kVariants; }
+std::span<const HostVariant> layoutVariants() { return kLayoutVariants; }
 
 }  // namespace standin

@@ -87,7 +87,7 @@ constexpr VariantValue kObjectName[]{
     {"unsaved-empty", [](HostOptions& host) { neverSaved(host, UnsavedFileName::Empty); }},
 };
 
-constexpr std::array kVariants{
+constexpr std::array kModelerVariants{
     HostVariant{"refusal-code", "With which code a refused scan, tag or selection answers",
                 "the codes are documented, not which stands for what",
                 "takes everything but 0 for a refusal and hands the code on when it ends the edit", kRefusalCode},
@@ -137,6 +137,6 @@ constexpr std::array kVariants{
 
 }  // namespace
 
-std::span<const HostVariant> modelerVariants() { return kVariants; }
+std::span<const HostVariant> modelerVariants() { return kModelerVariants; }
 
 }  // namespace standin

@@ -81,7 +81,7 @@ constexpr VariantValue kOpenResize[]{
     {"told", [](HostOptions& host) { host.panels.resizeHookOnOpen = true; }},
 };
 
-constexpr std::array kVariants{
+constexpr std::array kMouseVariants{
     HostVariant{
         "mouse", "By which calls the mouse over the tree arrives, for a panel opened without flag 8",
         "documented are the hooks, which need flag 8, and the control's event; of what the event tells is not said: all, "
@@ -125,6 +125,6 @@ constexpr std::array kVariants{
 
 }  // namespace
 
-std::span<const HostVariant> mouseVariants() { return kVariants; }
+std::span<const HostVariant> mouseVariants() { return kMouseVariants; }
 
 }  // namespace standin

@@ -127,7 +127,7 @@ constexpr VariantValue kRows[]{
     {"22", [](HostOptions& host) { host.panels.rowHeight = 22; }},
 };
 
-constexpr std::array kVariants{
+constexpr std::array kPanelVariants{
     HostVariant{"sets", "Whether setting a value fires the control's event",
                 "samples call their own handler after a set, so it probably does not",
                 "ignores events while it sets values itself", kSetsFire},
@@ -210,6 +210,6 @@ constexpr std::array kVariants{
 
 }  // namespace
 
-std::span<const HostVariant> panelVariants() { return kVariants; }
+std::span<const HostVariant> panelVariants() { return kPanelVariants; }
 
 }  // namespace standin

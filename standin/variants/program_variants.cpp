@@ -11,7 +11,7 @@ constexpr VariantValue kLocale[]{
     {"comma", [](HostOptions& host) { host.program.commaLocale = true; }},
 };
 
-constexpr std::array kVariants{
+constexpr std::array kProgramVariants{
     HostVariant{"locale", "How numbers are formatted in the host's process",
                 "not documented; a program that sets nothing has the \"C\" locale, and any plug-in can set another",
                 "formats and reads numbers with a decimal point in any locale", kLocale},
@@ -19,6 +19,6 @@ constexpr std::array kVariants{
 
 }  // namespace
 
-std::span<const HostVariant> programVariants() { return kVariants; }
+std::span<const HostVariant> programVariants() { return kProgramVariants; }
 
 }  // namespace standin

@@ -277,7 +277,7 @@ TEST_F(WritePolygonTags, PassesOverDeletedPolygons) {
 
 // --- the panels' scan ----------------------------------------------------------------------------------------------------
 
-constexpr lw::ReportSource kSource = {"MST_CSkgPropPanel", 1121};
+constexpr lw::ReportSource kPanelSource = {"MST_CSkgPropPanel", 1121};
 
 Names namesIn(const std::vector<lw::SkelegonInfo>& skelegons) {
   Names names;
@@ -289,7 +289,7 @@ using ScanSkelegons = MeshTest;
 
 TEST_F(ScanSkelegons, GivesNameLayerPointsAndSelection) {
   mesh.host.select({"Chest"});
-  const std::vector<lw::SkelegonInfo> skelegons = lw::ScanSkelegons(lw::kLayersForeground, kSource);
+  const std::vector<lw::SkelegonInfo> skelegons = lw::ScanSkelegons(lw::kLayersForeground, kPanelSource);
   ASSERT_EQ(namesIn(skelegons), (Names{"Hips", "Chest", "Head", "Tail", ""}));
   EXPECT_EQ(skelegons[1].polygon, mesh.id("Chest"));
   EXPECT_EQ(skelegons[1].layer, 0);
@@ -302,27 +302,27 @@ TEST_F(ScanSkelegons, GivesNameLayerPointsAndSelection) {
 
 TEST_F(ScanSkelegons, GivesOnlyTheLayersAskedFor) {
   mesh.host.showLayers({1}, {0});
-  EXPECT_EQ(namesIn(lw::ScanSkelegons(lw::kLayersForeground, kSource)), (Names{"Tail", ""}));
+  EXPECT_EQ(namesIn(lw::ScanSkelegons(lw::kLayersForeground, kPanelSource)), (Names{"Tail", ""}));
 }
 
 TEST_F(ScanSkelegons, TellsAMissingTagFromAnEmptyOne) {
   mesh.setTag("Hips", lw::kTagColour, "");
   mesh.setTag("Hips", skg::kColourCopyTag, "Blue");
   const std::uint32_t types[] = {lw::kTagColour, skg::kColourCopyTag};
-  const std::vector<lw::SkelegonInfo> skelegons = lw::ScanSkelegons(lw::kLayersForeground, kSource, types);
+  const std::vector<lw::SkelegonInfo> skelegons = lw::ScanSkelegons(lw::kLayersForeground, kPanelSource, types);
   EXPECT_EQ(skelegons[0].tags, (std::vector<std::optional<std::string>>{"", "Blue"}));
   EXPECT_EQ(skelegons[1].tags, (std::vector<std::optional<std::string>>{std::nullopt, std::nullopt}));
 }
 
 TEST_F(ScanSkelegons, LeavesOutDeletedOnes) {
   mesh.markDeleted("Chest");
-  EXPECT_EQ(namesIn(lw::ScanSkelegons(lw::kLayersForeground, kSource)), (Names{"Hips", "Head", "Tail", ""}));
+  EXPECT_EQ(namesIn(lw::ScanSkelegons(lw::kLayersForeground, kPanelSource)), (Names{"Hips", "Head", "Tail", ""}));
 }
 
 TEST(ScanSkelegonsWithoutRecord, EndsThereKeepsWhatWasFoundAndThrowsNothing) {
   std::vector<Names> found;  // one entry for each record that failed
   refuseEach([&](Mesh&) {
-    const Names names = namesIn(lw::ScanSkelegons(lw::kLayersForeground, kSource));
+    const Names names = namesIn(lw::ScanSkelegons(lw::kLayersForeground, kPanelSource));
     if (standin::witness().refusedFunction() == "MeshEditOp::polyInfo") found.push_back(names);
   });
   EXPECT_EQ(found, (std::vector<Names>{
