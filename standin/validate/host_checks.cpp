@@ -80,6 +80,8 @@ constexpr std::array kHostChecks{
           [](CheckRun& run) { singleHosts(run, programVariants()); }},
     Check{"hosts-panels", 11, "Every tool does its job where panels differ in one thing",
           [](CheckRun& run) { singleHosts(run, panelVariants()); }},
+    Check{"hosts-mouse", 11, "Every tool does its job where mouse and drawing differ in one thing",
+          [](CheckRun& run) { singleHosts(run, mouseVariants()); }},
     Check{"hosts-modeler", 11, "Every tool does its job where Modeler differs in one thing",
           [](CheckRun& run) { singleHosts(run, modelerVariants()); }},
     Check{"hosts-layout", 11, "Every tool does its job where Layout differs in one thing",
