@@ -18,11 +18,13 @@ packages_of() {
   esac
 }
 
-# Installs what is missing; says nothing and touches nothing when all is there.
+# Installs what is missing for these parts, all at once; says nothing and touches nothing when all is there.
 need_packages() {
-  local missing=() package
-  for package in $(packages_of "$1"); do
-    dpkg-query -W -f='${Status}\n' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+  local part wanted=() installed missing=() package
+  for part in "$@"; do read -ra wanted -d '' <<<"${wanted[*]} $(packages_of "$part")" || true; done
+  installed=$(dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${wanted[@]}" 2>/dev/null | sed -n 's/^installed //p')
+  for package in "${wanted[@]}"; do
+    [[ $'\n'$installed$'\n' == *$'\n'$package$'\n'* || " ${missing[*]} " == *" $package "* ]] || missing+=("$package")
   done
   [ ${#missing[@]} -gt 0 ] || return 0
   say "installing: ${missing[*]}"
@@ -31,7 +33,7 @@ need_packages() {
     exit 2
   fi
   export DEBIAN_FRONTEND=noninteractive
-  apt-get update -qq >/dev/null
+  apt-get update -qq -o Acquire::Languages=none >/dev/null
   apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
@@ -47,26 +49,46 @@ build() {
 }
 
 # Wine of its own: a prefix in the build folder, no words on the terminal, and a Japanese system code page, so that narrow
-# paths and commands can hold Japanese names as they can for the riggers who use them.
-start_wine() {
+# paths and commands can hold Japanese names as they can for the riggers who use them. Programs that run side by side have one each,
+# by $WINE_SLOT (0, 1, ...): no server, no desktop and no focus is shared.
+wine_environment() {
+  local slot=${WINE_SLOT:-0}
   export WINEPREFIX=$PWD/build/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
+  [ "$slot" = 0 ] || WINEPREFIX+=-$slot
+}
+
+# A screen of its own, whose number is looked for from a place of its own: two searches at one time find the same.
+on_a_screen() { xvfb-run -a -n $((99 + 50 * ${WINE_SLOT:-0})) "$@"; }
+
+start_wine() {
+  wine_environment
   if ! locale -a 2>/dev/null | grep -qi '^ja_JP.utf'; then
     say "making the locale ja_JP.UTF-8"
     localedef -i ja_JP -f UTF-8 ja_JP.UTF-8
   fi
+  # What comes after the first is a copy of it. The system's files are only linked: Wine writes what it changes as new files.
+  if [ ! -f "$WINEPREFIX/.ready" ] && [ "${WINE_SLOT:-0}" != 0 ]; then
+    (WINE_SLOT=0 && start_wine && wineserver -w)
+    rm -rf "$WINEPREFIX"
+    cp -al build/wine "$WINEPREFIX"
+  fi
   if [ ! -f "$WINEPREFIX/.ready" ]; then
     say "making a Wine prefix"
     mkdir -p "$WINEPREFIX"
-    LC_ALL=ja_JP.UTF-8 xvfb-run -a wineboot -i >/dev/null 2>&1 || true
+    LC_ALL=ja_JP.UTF-8 on_a_screen wineboot -i >/dev/null 2>&1 || true
     LC_ALL=ja_JP.UTF-8 wineserver -w || true
     touch "$WINEPREFIX/.ready"
   fi
   # No window manager answers there: without this, Wine waits two seconds for one whenever a window goes.
   if [ ! -f "$WINEPREFIX/.unmanaged" ]; then
-    xvfb-run -a wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1 || true
+    on_a_screen wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1 || true
     touch "$WINEPREFIX/.unmanaged"
   fi
 }
 
 # One program, with a limit: a program that hangs there would hold everything up.
-wine_run() { LC_ALL=ja_JP.UTF-8 timeout --kill-after=10 "${WINE_SECONDS:-300}" xvfb-run -a wine "$@" 2> >(grep -v '^X connection to' >&2); }
+wine_run() {
+  wine_environment
+  LC_ALL=ja_JP.UTF-8 timeout --kill-after=10 "${WINE_SECONDS:-300}" xvfb-run -a -n $((99 + 50 * ${WINE_SLOT:-0})) wine "$@" \
+    2> >(grep -v '^X connection to' >&2)
+}
