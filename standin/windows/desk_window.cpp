@@ -7,6 +7,7 @@
 
 #include "standin/core/witness.h"
 #include "standin/panels/metrics.h"
+#include "standin/windows/messages.h"
 #include "standin/windows/painting.h"
 #include "standin/windows/theme.h"
 #include "standin/windows/wide_text.h"
@@ -15,7 +16,6 @@ namespace standin {
 namespace {
 
 constexpr wchar_t kDeskClass[] = L"VarnelDesk";
-constexpr int kFirstPart = 0x100;  // above the numbers of Enter and Escape
 constexpr int kFirstTool = 0x200;
 constexpr int kGap = 8;
 constexpr int kListWidth = 220;

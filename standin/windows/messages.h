@@ -12,4 +12,7 @@ inline constexpr UINT kMessageChosen = WM_APP + 2;  // an item of a list was cho
 inline constexpr int kContinueCommand = 0x7001;
 inline constexpr int kCancelCommand = 0x7002;
 
+// The numbers of a window's own parts begin here.
+inline constexpr int kFirstPart = 0x100;
+
 }  // namespace standin

@@ -13,7 +13,6 @@ namespace standin {
 namespace {
 
 constexpr wchar_t kPanelClass[] = L"VarnelPanel";
-constexpr INT_PTR kFirstPart = 0x100;  // above the numbers of Enter and Escape
 constexpr int kDroppedRows = 24;
 constexpr int kDroppedRowHeight = 14;
 constexpr int kBarHeight = 30;

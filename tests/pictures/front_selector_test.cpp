@@ -10,8 +10,6 @@
 namespace standin {
 namespace {
 
-void PrintTo(Painter painter, std::ostream* out) { *out << static_cast<int>(painter); }
-
 class FrontSelector : public testing::TestWithParam<Painter> {
  protected:
   void TearDown() override { EXPECT_EQ("", witness().report()); }
