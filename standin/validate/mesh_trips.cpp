@@ -165,7 +165,7 @@ void readsTheLists(MeshTraveller& user, const TripOrder& order) {
   user.does(person::choose(user.property(kParentChooser), "Tail_01"));
   user.turnTo(kBonePage);
   std::vector<std::string> maps = person::menu(user.property(kMapChooser));
-  if (maps.back().empty()) maps.pop_back();  // what a chooser rests on, where hosts hold it to its list
+  if (!maps.empty() && maps.back().empty()) maps.pop_back();  // what a chooser rests on, where hosts hold it to its list
   user.finds(maps == std::vector<std::string>({"(none)", "Chest", "WMap2"}),
              "the list of weight maps has these and no other");
   user.does(person::press(user.property(kMapFill)));
