@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <set>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -26,10 +27,18 @@ std::set<int> layersOf(int choice) {
   return layers;
 }
 
+// Whether the scene's object of that number is the one that is edited. One that was never saved may not be listed there.
+bool isCurrent(int object) {
+  const char* const current = stateQuery().object();
+  const std::string name = current == nullptr ? "" : current;
+  const char* const listed = sceneObjects().filename(object);
+  return !name.empty() && listed != nullptr && name == listed;
+}
+
 // Whether a scan of the foreground delivers what a scan of all layers does. With further objects loaded nobody knows whose
 // layers "all" means.
 bool foregroundIsEverything() {
-  if (sceneObjects().numObjects() != 1) return false;
+  if (sceneObjects().numObjects() != 1 || !isCurrent(0)) return false;
   const std::set<int> filled = layersOf(kLayersNonEmpty);
   const std::set<int> foreground = layersOf(kLayersForeground);
   return !filled.empty() && std::includes(foreground.begin(), foreground.end(), filled.begin(), filled.end());

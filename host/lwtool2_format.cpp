@@ -32,7 +32,10 @@ class CValues {
   int integer() { return va_arg(values_, int); }
   unsigned natural() { return va_arg(values_, unsigned); }
   double real() { return va_arg(values_, double); }
-  const char* text() { return va_arg(values_, const char*); }
+  const char* text() {
+    const char* const text = va_arg(values_, const char*);
+    return text == nullptr ? "" : text;
+  }
 
  private:
   std::va_list values_;

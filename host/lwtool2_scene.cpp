@@ -102,7 +102,11 @@ ItemId CSceneItems::FindItemByName(const std::string& name) {
   if (kept != first_.end() && (isFresh || isNamed(kept->second, name))) return kept->second;
   if (isFresh) return nullptr;
   const ItemId found = firstItem([&](ItemId item) { return isNamed(item, name); });
-  if (found != nullptr) first_.insert_or_assign(name, found);
+  if (found != nullptr) {
+    first_.insert_or_assign(name, found);
+  } else {
+    first_.erase(name);
+  }
   return found;
 }
 

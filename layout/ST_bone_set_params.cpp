@@ -11,6 +11,7 @@
 #include "host/lwtool2_eval.h"
 #include "host/lwtool2_globals.h"
 #include "layout/bone_commands.h"
+#include "skelegon/setting_groups.h"
 
 namespace lwp {
 namespace {
@@ -83,7 +84,7 @@ class BoneRun {
   Failure sendItem(const BoneCommand& command);
   Failure sendWeightMap(const BoneCommand& command) const;
   bool sendColour(const BoneCommand& command) const;
-  Failure sendAxis(std::size_t index);
+  Failure sendAxis(skg::Axis axis);
   bool sendAxisLimit(const AxisRow& row);
 
   unsigned& word(FlagWord which) { return which == FlagWord::Bone ? flags_ : itemFlags_; }
@@ -210,78 +211,59 @@ bool BoneRun::sendColour(const BoneCommand& command) const {
   return index == skg::kModelerColourIndex || EvalF("%s %d", command.name, index);
 }
 
-Failure BoneRun::sendAxis(std::size_t index) {
+Failure BoneRun::sendAxis(skg::Axis axis) {
   constexpr int kInverseKinematics = 3;
   constexpr int kSameAsItem = 6;
+  const auto index = static_cast<std::size_t>(axis);
   const AxisRow& row = axisRows()[index];
+  const skg::AxisSettings& set = row.settings();
 
-  const int controller = integer(row.controller);
+  const int controller = integer(set.controller);
   controllers_[index] = controller;
-  if (!EvalF("%sController %d", row.axis, controller)) return row.lines[kController];
+  if (!EvalF("%sController %d", row.name, controller)) return row.lines[kController];
 
   if (!sendAxisLimit(row)) {
     if (!row.limitMayFail) return row.lines[kLimit];
     lw::ReportError(kSource, row.lines[kLimit], "");
   }
-  if ((limits_[row.group] & row.limitBit) != 0 &&
-      !EvalF("%sLimits %.10f %.10f", row.axis, real(row.least) * row.limitFactor, real(row.greatest) * row.limitFactor)) {
+  if ((limits_[static_cast<std::size_t>(set.group)] & row.limitBit) != 0 &&
+      !EvalF("%sLimits %.10f %.10f", row.name, real(set.least) * row.limitFactor, real(set.greatest) * row.limitFactor)) {
     return row.lines[kLimits];
   }
-  if (controllers_[row.followGate] == kSameAsItem) {
-    if (!EvalF("%sFollow %d", row.axis, integer(row.follow))) return row.lines[kFollow];
-    if (!EvalF("%sTransform %.10f %.10f", row.axis, real(row.factor), real(row.offset))) return row.lines[kTransform];
+  if (controllers_[static_cast<std::size_t>(row.followGate)] == kSameAsItem) {
+    if (!EvalF("%sFollow %d", row.name, integer(set.follow))) return row.lines[kFollow];
+    if (!EvalF("%sTransform %.10f %.10f", row.name, real(set.factor), real(set.offset))) return row.lines[kTransform];
   }
   const bool stiff = controller == kInverseKinematics || controller == kSameAsItem;
-  return unlessSent(!stiff || EvalF("%sStiffness %.10f", row.axis, real(row.stiffness)), row.lines[kStiffness]);
+  return unlessSent(!stiff || EvalF("%sStiffness %.10f", row.name, real(set.stiffness)), row.lines[kStiffness]);
 }
 
 // The switch of the limits, where it is not as wanted.
 bool BoneRun::sendAxisLimit(const AxisRow& row) {
-  unsigned& limits = limits_[row.group];
-  if (properties_.isOn(row.limits) == ((limits & row.limitBit) != 0)) return true;
-  if (!EvalF("Limit%s", row.axis)) return false;
+  unsigned& limits = limits_[static_cast<std::size_t>(row.settings().group)];
+  if (properties_.isOn(row.settings().limits) == ((limits & row.limitBit) != 0)) return true;
+  if (!EvalF("Limit%s", row.name)) return false;
   limits ^= row.limitBit;
   return true;
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
 
-struct ParentPair {
-  Slot child;
-  Slot parent;
-  int line;
-};
-
-constexpr ParentPair kParents[] = {
-    {Slot::Name, Slot::ParentItem, 1166},
-    {Slot::TargetItem, Slot::TargetParent, 1173},
-    {Slot::PoleItem, Slot::PoleParent, 1180},
-    {Slot::GoalObject, Slot::GoalParent, 1187},
-    {Slot::PositionItem, Slot::PositionParent, 1194},
-    {Slot::RotationItem, Slot::RotationParent, 1201},
-    {Slot::ScaleItem, Slot::ScaleParent, 1208},
-    // The initial position item shares the position item's parent, deliberately: it has none of its own.
-    {Slot::InitialPositionItem, Slot::PositionParent, 1217},
-};
-
-struct HelperItem {
-  Slot name, visibility, colour, shape;
-  int line;
-};
-
-constexpr HelperItem kHelpers[] = {
-    {Slot::TargetItem, Slot::TargetVisibility, Slot::TargetColour, Slot::TargetShape, 1295},
-    {Slot::PoleItem, Slot::PoleVisibility, Slot::PoleColour, Slot::PoleShape, 1307},
-    {Slot::GoalObject, Slot::GoalVisibility, Slot::GoalColour, Slot::GoalShape, 1319},
-    {Slot::PositionItem, Slot::PositionVisibility, Slot::PositionColour, Slot::PositionShape, 1331},
-    {Slot::RotationItem, Slot::RotationVisibility, Slot::RotationColour, Slot::RotationShape, 1343},
-    {Slot::ScaleItem, Slot::ScaleVisibility, Slot::ScaleColour, Slot::ScaleShape, 1355},
-    {Slot::InitialPositionItem, Slot::InitialPositionVisibility, Slot::InitialPositionColour, Slot::InitialPositionShape,
-     1367},
-};
+// The lines that are reported, in the order of the linked items; those of the bone's own parent come first.
+constexpr int kBoneParentLine = 1166;
+constexpr std::array<int, skg::kLinkedItems.size()> kParentLines = {1173, 1180, 1187, 1194, 1201, 1208, 1217};
+constexpr std::array<int, skg::kLinkedItems.size()> kShapeLines = {1295, 1307, 1319, 1331, 1343, 1355, 1367};
 
 bool parentTo(lw::ItemId child, lw::ItemId parent) {
   return selectItem(child) && EvalF("RefreshNow") && EvalF("ParentItem 0x%x", lw::commandId(parent));
+}
+
+// False when the host refused it. An item that is not named, or not there, is left as it is.
+bool parentByName(lw::CSceneItems& scene, const std::string& childName, const std::string& parentName) {
+  if (childName.empty() || parentName.empty()) return true;
+  const lw::ItemId child = scene.FindItemByName(childName);
+  const lw::ItemId parent = scene.FindItemByName(parentName);
+  return child == nullptr || parent == nullptr || parentTo(child, parent);
 }
 
 // Asks Layout for a null; of the name that the scene has no item of, or of any for an empty one. Null when Layout refused, or
@@ -316,29 +298,27 @@ bool ApplyBoneParameters(lw::CSceneItems& scene, lw::ItemId bone, const Skelegon
 }
 
 bool ApplyItemParents(lw::CSceneItems& scene, const SkelegonProperties& properties) {
-  for (const ParentPair& pair : kParents) {
-    const std::string& childName = properties[pair.child];
-    const std::string& parentName = properties[pair.parent];
-    if (childName.empty() || parentName.empty()) continue;
-    const lw::ItemId child = scene.FindItemByName(childName);
-    const lw::ItemId parent = scene.FindItemByName(parentName);
-    if (child == nullptr || parent == nullptr) continue;
-    if (!parentTo(child, parent)) {
-      lw::ReportError(kSource, pair.line, "");
-      return false;
-    }
+  const auto apply = [&](Slot child, Slot parent, int line) {
+    const bool isParented = parentByName(scene, properties[child], properties[parent]);
+    if (!isParented) lw::ReportError(kSource, line, "");
+    return isParented;
+  };
+  if (!apply(Slot::Name, Slot::ParentItem, kBoneParentLine)) return false;
+  for (std::size_t i = 0; i < skg::kLinkedItems.size(); ++i) {
+    if (!apply(skg::kLinkedItems[i].name, skg::kLinkedItems[i].parent, kParentLines[i])) return false;
   }
   return true;
 }
 
 bool ApplyItemShapes(lw::CSceneItems& scene, const SkelegonProperties& properties) {
-  for (const HelperItem& helper : kHelpers) {
-    const std::string& name = properties[helper.name];
+  for (std::size_t i = 0; i < skg::kLinkedItems.size(); ++i) {
+    const skg::LinkedItem& linked = skg::kLinkedItems[i];
+    const std::string& name = properties[linked.name];
     const lw::ItemId item = name.empty() ? nullptr : scene.FindItemByName(name);
     if (item == nullptr) continue;
-    if (!SetItemLook(item, properties.isOn(helper.visibility), skg::colourIndex(properties[helper.colour]),
-                     properties.isOn(helper.shape))) {
-      lw::ReportError(kSource, helper.line, "");
+    if (!SetItemLook(item, properties.isOn(linked.visibility), skg::colourIndex(properties[linked.colour]),
+                     properties.isOn(linked.shape))) {
+      lw::ReportError(kSource, kShapeLines[i], "");
       return false;
     }
   }

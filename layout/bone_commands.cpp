@@ -12,37 +12,35 @@ using skg::Slot;
 constexpr double kPercent = 0.01;
 constexpr double kDegrees = 57.29577951308232;
 
-enum AxisIndex : std::size_t { X, Y, Z, H, P, B, SX, SY, SZ };
+using skg::Axis;
 
 constexpr AxisRow kAxes[] = {
     // clang-format off
-    // axis group bit  limits     controller                limits                least              greatest           stiffness
-    //      follow                 factor                 offset                gate limit may fail
-    //                                                                                        lines; inside a group spaced as X's are
-    {"X",  0, 0x1, 1,        Slot::XPositionController, Slot::XPositionLimits, Slot::XPositionMin, Slot::XPositionMax, Slot::XPositionStiffness,
-            Slot::XPositionFollow, Slot::XPositionFactor, Slot::XPositionOffset,  X,  false, { 725,  731,  741,  747,  752,  758}},
+    // axis              bit  limits    gate    limit may fail
+    //                                                 lines; inside a group spaced as X's are
+    {"X",  Axis::X,  0x1, 1,        Axis::X,  false, { 725,  731,  741,  747,  752,  758}},
     // A LimitY that fails is reported and the sequence goes on, deliberately.
-    {"Y",  0, 0x2, 1,        Slot::YPositionController, Slot::YPositionLimits, Slot::YPositionMin, Slot::YPositionMax, Slot::YPositionStiffness,
-            Slot::YPositionFollow, Slot::YPositionFactor, Slot::YPositionOffset,  Y,  true,  { 763,  770,  781,  787,  792,  798}},
-    {"Z",  0, 0x4, 1,        Slot::ZPositionController, Slot::ZPositionLimits, Slot::ZPositionMin, Slot::ZPositionMax, Slot::ZPositionStiffness,
-            Slot::ZPositionFollow, Slot::ZPositionFactor, Slot::ZPositionOffset,  Z,  false, { 803,  809,  819,  825,  830,  836}},
+    {"Y",  Axis::Y,  0x2, 1,        Axis::Y,  true,  { 763,  770,  781,  787,  792,  798}},
+    {"Z",  Axis::Z,  0x4, 1,        Axis::Z,  false, { 803,  809,  819,  825,  830,  836}},
     // Only the limits of a rotation are turned into degrees; the transform goes as it is stored, deliberately.
-    {"H",  1, 0x1, kDegrees, Slot::HeadingController,   Slot::HeadingLimits,   Slot::HeadingMin,   Slot::HeadingMax,   Slot::HeadingStiffness,
-            Slot::HeadingFollow,   Slot::HeadingFactor,   Slot::HeadingOffset,    H,  false, { 864,  870,  882,  888,  893,  899}},
-    {"P",  1, 0x2, kDegrees, Slot::PitchController,     Slot::PitchLimits,     Slot::PitchMin,     Slot::PitchMax,     Slot::PitchStiffness,
-            Slot::PitchFollow,     Slot::PitchFactor,     Slot::PitchOffset,      P,  false, { 904,  910,  922,  928,  933,  939}},
-    {"B",  1, 0x4, kDegrees, Slot::BankController,      Slot::BankLimits,      Slot::BankMin,      Slot::BankMax,      Slot::BankStiffness,
-            Slot::BankFollow,      Slot::BankFactor,      Slot::BankOffset,       B,  false, { 944,  950,  962,  968,  973,  979}},
-    {"SX", 2, 0x1, 1,        Slot::XScaleController,    Slot::XScaleLimits,    Slot::XScaleMin,    Slot::XScaleMax,    Slot::XScaleStiffness,
-            Slot::XScaleFollow,    Slot::XScaleFactor,    Slot::XScaleOffset,     SX, false, {1002, 1008, 1018, 1024, 1029, 1035}},
-    {"SY", 2, 0x2, 1,        Slot::YScaleController,    Slot::YScaleLimits,    Slot::YScaleMin,    Slot::YScaleMax,    Slot::YScaleStiffness,
-            Slot::YScaleFollow,    Slot::YScaleFactor,    Slot::YScaleOffset,     SY, false, {1040, 1046, 1056, 1062, 1067, 1073}},
+    {"H",  Axis::H,  0x1, kDegrees, Axis::H,  false, { 864,  870,  882,  888,  893,  899}},
+    {"P",  Axis::P,  0x2, kDegrees, Axis::P,  false, { 904,  910,  922,  928,  933,  939}},
+    {"B",  Axis::B,  0x4, kDegrees, Axis::B,  false, { 944,  950,  962,  968,  973,  979}},
+    {"SX", Axis::SX, 0x1, 1,        Axis::SX, false, {1002, 1008, 1018, 1024, 1029, 1035}},
+    {"SY", Axis::SY, 0x2, 1,        Axis::SY, false, {1040, 1046, 1056, 1062, 1067, 1073}},
     // SZ follows by the controller of SY, not its own, deliberately: stored rigs count on it.
-    {"SZ", 2, 0x4, 1,        Slot::ZScaleController,    Slot::ZScaleLimits,    Slot::ZScaleMin,    Slot::ZScaleMax,    Slot::ZScaleStiffness,
-            Slot::ZScaleFollow,    Slot::ZScaleFactor,    Slot::ZScaleOffset,     SY, false, {1078, 1084, 1094, 1100, 1105, 1111}},
+    {"SZ", Axis::SZ, 0x4, 1,        Axis::SY, false, {1078, 1084, 1094, 1100, 1105, 1111}},
     // clang-format on
 };
-static_assert(std::size(kAxes) == SZ + 1);
+constexpr const AxisRow& rowOf(Axis axis) { return kAxes[static_cast<std::size_t>(axis)]; }
+
+constexpr bool rowsStandInOrder() {
+  for (const AxisRow& row : kAxes) {
+    if (&rowOf(row.axis) != &row) return false;
+  }
+  return std::size(kAxes) == skg::kAxes.size();
+}
+static_assert(rowsStandInOrder());
 
 // One maker for each form, so that a row names only what is its own.
 constexpr BoneCommand integer(const char* name, Slot slot, int line, When when = When::Always) {
@@ -83,8 +81,9 @@ constexpr BoneCommand item(const char* name, Sends sends, Slot slot, bool matchR
           .line = line,
           .secondLine = secondLine};
 }
-constexpr BoneCommand axisGroup(AxisIndex axis) {
-  return {.name = kAxes[axis].axis, .sends = Sends::AxisGroup, .slot = kAxes[axis].controller, .axis = axis};
+constexpr BoneCommand axisGroup(Axis axis) {
+  const AxisRow& row = rowOf(axis);
+  return {.name = row.name, .sends = Sends::AxisGroup, .slot = row.settings().controller, .axis = axis};
 }
 
 constexpr FlagWord kBone = FlagWord::Bone;
@@ -146,17 +145,17 @@ constexpr BoneCommand kCommands[] = {
     item    ("PositionItem", Sends::ItemOrNull, Slot::PositionItem,   false, false, 708, 709),
     integer ("PositionItemBlendMethod", Slot::PositionBlendMethod,    715),
     real    ("PositionItemBlend",       Slot::PositionBlend,          kPercent, 720, When::HasPositionItem),
-    axisGroup(X), axisGroup(Y), axisGroup(Z),
+    axisGroup(Axis::X), axisGroup(Axis::Y), axisGroup(Axis::Z),
     integer ("RotationItemWorld",       Slot::RotationItemWorld,      841),
     item    ("RotationItem", Sends::ItemOrNull, Slot::RotationItem,   true,  false, 847, 848),
     integer ("RotationItemBlendMethod", Slot::RotationBlendMethod,    854),
     real    ("RotationItemBlend",       Slot::RotationBlend,          kPercent, 859, When::HasRotationItem),
-    axisGroup(H), axisGroup(P), axisGroup(B),
+    axisGroup(Axis::H), axisGroup(Axis::P), axisGroup(Axis::B),
     // Sent whatever came of the null, deliberately.
     item    ("ScaleItem",  Sends::ItemUnchecked, Slot::ScaleItem,     true,  true,  986, 986),
     integer ("ScaleItemBlendMethod",    Slot::ScaleBlendMethod,       992),
     real    ("ScaleItemBlend",          Slot::ScaleBlend,             kPercent, 997, When::HasScaleItem),
-    axisGroup(SX), axisGroup(SY), axisGroup(SZ),
+    axisGroup(Axis::SX), axisGroup(Axis::SY), axisGroup(Axis::SZ),
     real    ("PathAlignLookAhead",      Slot::PathLookAhead,          1, 1123, When::AlignsToPath),
     real    ("PathAlignMaxLookSteps",   Slot::PathMaxSteps,           1, 1125, When::AlignsToPath),
     real    ("PathAlignReliableDist",   Slot::PathReliableDistance,   1, 1127, When::AlignsToPath),

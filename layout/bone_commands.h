@@ -8,6 +8,7 @@
 #include <span>
 
 #include "host/lightwave.h"
+#include "skelegon/setting_groups.h"
 #include "skelegon/slots.h"
 
 namespace lwp {
@@ -66,9 +67,9 @@ struct BoneCommand {
   unsigned updates = 0;            // of a toggle: the state that is changed by it
   bool matchRotation = false;      // of a null made for the item
   bool matchScale = false;
-  std::size_t axis = 0;  // of an axis group: the row
-  int line = 0;          // reported when it fails; 0 = ends without a report
-  int secondLine = 0;    // of an item that is there, and of a weight map that has a name: the same for the command
+  skg::Axis axis = skg::Axis::X;  // of an axis group
+  int line = 0;                   // reported when it fails; 0 = ends without a report
+  int secondLine = 0;             // of an item that is there, and of a weight map that has a name: the same for the command
 };
 
 // How many commands the table stands for when each axis group counts with its six.
@@ -77,18 +78,18 @@ inline constexpr std::size_t kBoneCommandRows = 110;
 
 // One motion channel: controller, limits, follow and stiffness.
 struct AxisRow {
-  const char* axis;  // the prefix or suffix of the command names
-  std::size_t group;
+  const char* name;  // the prefix or suffix of the command names
+  skg::Axis axis;
   unsigned limitBit;
   double limitFactor;
-  skg::Slot controller, limits, least, greatest, stiffness;
-  skg::Slot follow, factor, offset;
-  std::size_t followGate;                // the row whose controller decides whether follow and transform are sent
+  skg::Axis followGate;                  // the axis whose controller decides whether follow and transform are sent
   bool limitMayFail;                     // the sequence goes on behind a limit switch that fails
   std::array<int, kAxisCommands> lines;  // reported when a command of the group fails, by AxisCommand
+
+  constexpr const skg::AxisSettings& settings() const { return skg::settingsOf(axis); }
 };
 
-// The motion groups: host parameter of each, in the order of AxisRow::group.
+// The motion groups: host parameter of each, in the order of skg::MotionGroup.
 inline constexpr int kMotionParams[] = {lw::kParamPosition, lw::kParamRotation, lw::kParamScale};
 
 std::span<const BoneCommand> boneCommands();

@@ -291,10 +291,15 @@ void CSkgPropPanel::preset(Controller controller) {
 }
 
 void CSkgPropPanel::reset(const char* question, bool all) {
+  const lw::PolygonIds those = selected();  // closing the panel, while the question is open, empties the list
   if (!lw::AskYesNo(kPropertyName, question)) return;
   const lw::PolygonIds everyone = all && objectIsLoaded() ? lw::CollectSkelegons() : lw::PolygonIds();
-  applyWrites(writesForReset(all ? everyone : selected()));
-  reload();
+  applyWrites(writesForReset(all ? everyone : those));
+  if (life_.mayBeOpen()) {
+    reload();
+  } else {
+    tell();
+  }
 }
 
 // ---------------------------------------------------------------------------------------------------------------------

@@ -80,7 +80,7 @@ void CSkgSelPanel::build() {
 
 void CSkgSelPanel::closed() {
   life_.closed();
-  giveBack();
+  drawing_.giveFontBack();
   tree_.release();
   tree_.setNodes({});
 }

@@ -28,9 +28,6 @@ class CSkgSelPanel {
   // refreshed instead. False when it is not known to be open then. Throws CBaseEx.
   bool OpenSelectorPanel();
 
-  // The module is about to go: gives OpenGL back what the drawing has of it. Calls nothing of the host.
-  void giveBack() { drawing_.giveFontBack(); }
-
  private:
   // The host's and the other panels' way in.
   static void OnTreeUsed(lw::LWControl* control, void* user);

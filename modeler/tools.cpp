@@ -6,16 +6,10 @@
 
 namespace mst {
 
-namespace {
-
-CSkgSelPanel& selector() {
+int runSelector() {
   static CSkgSelPanel panel;
-  return panel;
+  return panel.OpenSelectorPanel() ? 1 : 0;
 }
-
-}  // namespace
-
-int runSelector() { return selector().OpenSelectorPanel() ? 1 : 0; }
 
 int runRenamer() {
   static RenamerPanel panel;
@@ -26,7 +20,5 @@ int runProperty() {
   static CSkgPropPanel panel;
   return panel.OpenPropertyPanel() ? 1 : 0;
 }
-
-void endTools() { selector().giveBack(); }
 
 }  // namespace mst

@@ -11,7 +11,4 @@ int runSelector();
 int runRenamer();
 int runProperty();
 
-// The host is about to unload the module: gives back what is the system's. Calls nothing of the host.
-void endTools();
-
 }  // namespace mst

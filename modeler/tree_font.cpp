@@ -58,9 +58,14 @@ bool CTreeFont::Use::select() {
 bool CTreeFont::prepare(Use& use) {
   const GlCalls& gl = use.gl();
   // A new window can get the handle of a closed one's device context. Then the lists went with the old window.
-  if (use.device() == madeFor_ && gl.isList(kFirstList) != 0) return true;
+  if (use.device() == madeFor_ && gl.isList(kFirstList) != 0) {
+    if (gl.currentContext() != madeIn_)
+      ownLists_.clear();  // another context of the device: these numbers are not ours there
+    madeIn_ = gl.currentContext();
+    return true;
+  }
 
-  giveBack(gl);
+  forget(gl);
   madeFor_ = madeIn_ = nullptr;
   const ListMaking making(gl);
   if (!use.select() || !gl.makeByteLists(use.device(), 0, kByteLists, kFirstList)) return false;
@@ -74,7 +79,7 @@ unsigned CTreeFont::listOf(char32_t character, Use& use) {
   if (character > kGreatestWide) return kQuestionList;
   if (const auto known = ownLists_.find(character); known != ownLists_.end()) return known->second;
 
-  if (ownLists_.size() == kMostOwnLists) giveBack(use.gl());
+  if (ownLists_.size() == kMostOwnLists) forget(use.gl());
   unsigned& list = ownLists_[character];
   list = kQuestionList;
   list = madeList(static_cast<char16_t>(character), use);
@@ -93,6 +98,12 @@ unsigned CTreeFont::madeList(char16_t character, Use& use) const {
 }
 
 void CTreeFont::giveBack(const GlCalls& gl) {
+  // Only their own context can delete lists. Where that is not current they stay known: it may be again.
+  if (madeIn_ == nullptr || gl.currentContext() != madeIn_) return;
+  forget(gl);
+}
+
+void CTreeFont::forget(const GlCalls& gl) {
   // A context that has lost the lists of bytes is a new one under an old handle.
   const bool isTheirs = madeIn_ != nullptr && gl.currentContext() == madeIn_ && gl.isList(kFirstList) != 0;
   for (const auto& [character, list] : ownLists_) {

@@ -42,12 +42,13 @@ class CTreeFont {
   // [prepared] The list that shows a character; that of "?" where the font gives none.
   unsigned listOf(char32_t character, Use& use);
 
-  // Deletes the lists of single characters where that is safe: in the context that they were made in, while it is current.
-  // Anywhere else their numbers may be somebody else's lists by now, so they are left to their context, which ends with the
-  // host's window.
+  // Deletes the lists of single characters, if the context that they were made in is current. If not they are kept: their
+  // numbers may be somebody else's lists in another one, and their own may be current again at the next drawing.
   void giveBack(const GlCalls& gl);
 
  private:
+  // As giveBack, but forgets them in any case: lists of a context that is gone went with it.
+  void forget(const GlCalls& gl);
   unsigned madeList(char16_t character, Use& use) const;
 
   void* madeFor_ = nullptr;                          // device context

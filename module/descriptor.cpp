@@ -1,6 +1,5 @@
 // The one symbol that the module exports, and the table of its servers.
 #include "host/lightwave.h"
-#include "host/lwtool2_errors.h"
 #include "layout/conversion.h"
 #include "modeler/tools.h"
 #include "module/CustomNodel.h"
@@ -23,9 +22,7 @@ void* startUp() {
   return reinterpret_cast<void*>(4);  // NOLINT(performance-no-int-to-ptr)
 }
 
-void shutDown(void* /*serverData*/) {
-  lw::guarded([] { mst::endTools(); });
-}
+void shutDown(void* /*serverData*/) {}
 
 }  // namespace
 

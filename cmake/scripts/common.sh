@@ -1,5 +1,7 @@
 # Shared by the scripts at the top: packages, builds, Wine. To be sourced from the repo's root.
 
+repository=$PWD
+
 say() { printf "== %s\n" "$*"; }
 
 # The packages of each part of the work, by name in Debian 12.
@@ -53,7 +55,7 @@ build() {
 # by $WINE_SLOT (0, 1, ...): no server, no desktop and no focus is shared.
 wine_environment() {
   local slot=${WINE_SLOT:-0}
-  export WINEPREFIX=$PWD/build/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
+  export WINEPREFIX=$repository/build/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
   [ "$slot" = 0 ] || WINEPREFIX+=-$slot
 }
 
@@ -70,7 +72,7 @@ start_wine() {
   if [ ! -f "$WINEPREFIX/.ready" ] && [ "${WINE_SLOT:-0}" != 0 ]; then
     (WINE_SLOT=0 && start_wine && wineserver -w)
     rm -rf "$WINEPREFIX"
-    cp -al build/wine "$WINEPREFIX"
+    cp -al "$repository/build/wine" "$WINEPREFIX"
   fi
   if [ ! -f "$WINEPREFIX/.ready" ]; then
     say "making a Wine prefix"

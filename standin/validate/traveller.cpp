@@ -41,7 +41,9 @@ void Traveller::end() {
 }
 
 bool Traveller::wasDeceived() const {
-  constexpr std::array kSilent{"control set", "control get", "control draw", "panel set", "panel get", "panel draw"};
+  // A refused question for an item's type is answered with 0, which is an object's.
+  constexpr std::array kSilent{"control set", "control get", "control draw",    "panel set",
+                               "panel get",   "panel draw",  "LWItemInfo::type"};
   return std::find(kSilent.begin(), kSilent.end(), refused_) != kSilent.end();
 }
 
@@ -103,7 +105,10 @@ std::string Traveller::notOfDeception(const std::string& complaints) const {
   std::string kept;
   std::istringstream lines(complaints);
   for (std::string line; std::getline(lines, line);) {
-    if (line.find("user data was never set") == std::string::npos) kept += line + '\n';
+    constexpr std::array kOfDeception{"user data was never set", "instead of an object"};
+    const bool isOfDeception = std::any_of(kOfDeception.begin(), kOfDeception.end(),
+                                           [&](const char* words) { return line.find(words) != std::string::npos; });
+    if (!isOfDeception) kept += line + '\n';
   }
   return kept;
 }

@@ -31,8 +31,9 @@ TEST(BoneCommands, UseEveryBoneSettingOnce) {
     use(command.second);
   }
   for (const AxisRow& row : axisRows()) {
+    const skg::AxisSettings& set = row.settings();
     for (const Slot slot :
-         {row.controller, row.limits, row.least, row.greatest, row.stiffness, row.follow, row.factor, row.offset})
+         {set.controller, set.limits, set.least, set.greatest, set.stiffness, set.follow, set.factor, set.offset})
       use(slot);
   }
   std::size_t helperSlots = 0;
@@ -56,16 +57,17 @@ TEST(BoneCommands, KeepTheUnaffectedBitForTheChainSwitch) {
 
 TEST(AxisRows, LetSZFollowBySYAndEveryOtherByItself) {
   for (std::size_t i = 0; i < axisRows().size(); ++i) {
-    EXPECT_EQ(axisRows()[i].followGate, i == 8 ? 7u : i) << axisRows()[i].axis;
+    EXPECT_EQ(static_cast<std::size_t>(axisRows()[i].followGate), i == 8 ? 7u : i) << axisRows()[i].name;
   }
 }
 
 TEST(AxisRows, LetOnlyARefusedLimitYPass) {
-  for (const AxisRow& row : axisRows()) EXPECT_EQ(row.limitMayFail, std::string(row.axis) == "Y");
+  for (const AxisRow& row : axisRows()) EXPECT_EQ(row.limitMayFail, std::string(row.name) == "Y");
 }
 
 TEST(AxisRows, TurnOnlyRotationLimitsIntoDegrees) {
-  for (const AxisRow& row : axisRows()) EXPECT_EQ(row.limitFactor, row.group == 1 ? 57.29577951308232 : 1.0) << row.axis;
+  for (const AxisRow& row : axisRows())
+    EXPECT_EQ(row.limitFactor, row.settings().group == skg::MotionGroup::Rotation ? 57.29577951308232 : 1.0) << row.name;
 }
 
 }  // namespace
