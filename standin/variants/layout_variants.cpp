@@ -100,8 +100,8 @@ constexpr VariantValue kStatus[]{{"1"}, {"0", &with<&O::statusResult, 0>}};
 constexpr VariantValue kInterfaceRecord[]{{"new"}, {"one", &with<&O::oneInterfaceRecord, true>}};
 constexpr VariantValue kTimeRecord[]{{"new"}, {"one", &with<&O::oneTimeRecord, true>}};
 constexpr VariantValue kTextLife[]{{"until-next"},
-                                {"one-place", &with<&O::textLife, TextLife::OnePlace>},
-                                {"session", &with<&O::textLife, TextLife::Session>}};
+                                   {"one-place", &with<&O::textLife, TextLife::OnePlace>},
+                                   {"session", &with<&O::textLife, TextLife::Session>}};
 
 // --- another plug-in ---
 
@@ -204,10 +204,10 @@ constexpr std::array kLayoutVariants{
     HostVariant{"decoy-channel", "Whether a group below holds a channel of a motion channel's name", "nothing forbids it",
                 "compares whole paths", kDecoy},
     HostVariant{"envelopes", "Whether each motion channel has an envelope",
-                "null is documented for channels, not for which ones", "reports it, leaves the channel and goes on",
+                "whether a channel may be without one is not documented", "reports it, leaves the channel and goes on",
                 kEnvelopes},
     HostVariant{"switches", "What EnableIK, EnableMC and EnableDeformations make of 0 and 1",
-                "documented as toggles without an argument; scenes hold them with one",
+                "documented as toggles without an argument; the module sends one",
                 "sends 0 before and 1 behind a run, so that a toggle comes back to where it was", kSwitches},
     HostVariant{"accepted", "What the command interface answers when a command is accepted",
                 "0 is documented for refused ones of a like function", "takes all but 0 for accepted", kAccepted},
