@@ -1,6 +1,6 @@
 // Bone settings read from and written to the mesh, and the skelegon tree built from it.
-#include "skelegon/slot_table.h"
 #include "modeler/property_store.h"
+#include "skelegon/slot_table.h"
 
 #include "modeler/skelegon_scan.h"
 #include "tests/tools/mesh_fixture.h"

@@ -3,8 +3,8 @@
 
 #include "skelegon/slot_table.h"
 #include "standin/core/comma_locale.h"
-#include "standin/layout/layout_host.h"
 #include "standin/layout/arrived.h"
+#include "standin/layout/layout_host.h"
 #include "tests/tools/conversion_fixture.h"
 #include "tests/tools/convert_saved.h"
 #include "tests/tools/property_panel_fixture.h"

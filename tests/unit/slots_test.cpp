@@ -1,5 +1,5 @@
-#include "skelegon/slot_table.h"
 #include "skelegon/slots.h"
+#include "skelegon/slot_table.h"
 
 #include <gtest/gtest.h>
 
