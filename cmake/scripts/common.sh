@@ -24,7 +24,8 @@ packages_of() {
 need_packages() {
   local part wanted=() installed missing=() package
   for part in "$@"; do read -ra wanted -d '' <<<"${wanted[*]} $(packages_of "$part")" || true; done
-  installed=$(dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${wanted[@]}" 2>/dev/null | sed -n 's/^installed //p')
+  # It fails for packages that it never heard of; they are missing like others.
+  installed=$({ dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${wanted[@]}" 2>/dev/null || true; } | sed -n 's/^installed //p')
   for package in "${wanted[@]}"; do
     [[ $'\n'$installed$'\n' == *$'\n'$package$'\n'* || " ${missing[*]} " == *" $package "* ]] || missing+=("$package")
   done
