@@ -175,8 +175,9 @@ std::int64_t checkedCost(std::string_view pattern) {
 // Roughly where the stack stands. Not by __builtin_frame_address: this compiler then tells Windows a wrong place for the xmm
 // registers that the function saved, and an exception that passes leaves the host with other ones.
 VARNEL_REAL_STACK std::uintptr_t stackPointer() {
-  const volatile char here = 0;
-  return reinterpret_cast<std::uintptr_t>(&here);
+  volatile std::uintptr_t here = 0;
+  here = reinterpret_cast<std::uintptr_t>(&here);
+  return here;
 }
 
 struct Watch {

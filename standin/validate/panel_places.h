@@ -2,12 +2,11 @@
 // not be this one.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 
 namespace standin::validate {
 
-enum PropertyControl : std::size_t {
+enum PropertyControl : int {
   kResetAll = 3,
   kSync = 4,
   kPageTabs = 5,
@@ -35,7 +34,7 @@ constexpr std::uint8_t kActiveSetting = 27;
 constexpr std::uint8_t kStrengthSetting = 31;
 constexpr std::uint8_t kParentSetting = 51;
 
-enum RenamerControl : std::size_t {
+enum RenamerControl : int {
   kMode = 0,
   kFirstText = 1,
   kSecondText = 2,
