@@ -12,10 +12,10 @@
 #include <utility>
 #include <vector>
 
-#include "modeler/property_controls.h"
-#include "modeler/renamer_controls.h"
+#include "modeler/property/property_controls.h"
+#include "modeler/renamer/renamer_controls.h"
+#include "objectfile/rig_builder.h"
 #include "skelegon/slots.h"
-#include "standin/objectfile/rig_builder.h"
 #include "standin/panels/geometry.h"
 #include "tests/tools/modeler_session.h"
 #include "tests/tools/panels_walk_mesh.h"

@@ -1,4 +1,4 @@
-#include "modeler/property_controls.h"
+#include "modeler/property/property_controls.h"
 #include "skelegon/slot_table.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "modeler/property_sections.h"
+#include "modeler/property/property_sections.h"
 
 namespace mst {
 namespace {

@@ -1,4 +1,4 @@
-#include "modeler/property_layout.h"
+#include "modeler/property/property_layout.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "modeler/property_sections.h"
+#include "modeler/property/property_sections.h"
 
 namespace mst {
 namespace {

@@ -5,7 +5,7 @@
 #include <set>
 #include <tuple>
 
-#include "modeler/property_store.h"
+#include "modeler/property/property_store.h"
 #include "skelegon/slot_table.h"
 
 namespace mst {
