@@ -9,7 +9,6 @@
 #include "host/lwtool2_messages.h"
 #include "host/raised_flag.h"
 #include "modeler/property/property_layout.h"
-#include "modeler/property/property_sections.h"
 #include "modeler/shared/tool_names.h"
 
 namespace mst {

@@ -3,9 +3,13 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "skelegon/setting_groups.h"
+#include "skelegon/slot_table.h"
+
 namespace mst {
 namespace {
 
+using skg::LinkedItem;
 using skg::Slot;
 using texts::ChoiceList;
 
@@ -56,39 +60,46 @@ class TableBuilder {
   constexpr const std::array<ControlRow, kControlCount>& rows() const { return rows_; }
   constexpr std::size_t count() const { return count_; }
 
-  constexpr void plain(HostControl kind, Role role, Place place) {
-    add({0, kind, role, ValueKind::None, {}, {}, place, {}});
-  }
+  // What is added from here on belongs to this section.
+  constexpr void begin(Section section) { section_ = section; }
+
+  constexpr void plain(HostControl kind, Role role, Place place) { add({0, section_, kind, role, {}, {}, place, {}}); }
   constexpr void tabs(Role role, ChoiceList list, Place place) {
-    add({0, HostControl::Tabs, role, ValueKind::None, {}, list, place, {}});
+    add({0, section_, HostControl::Tabs, role, {}, list, place, {}});
   }
-  constexpr void value(HostControl kind, Slot slot, Place place) {
-    add({0, kind, Role::Value, valueOf(kind), slot, {}, place, {}});
-  }
-  constexpr void choice(ChoiceList list, Slot slot, Place place) {
-    const ValueKind kind = list == ChoiceList::Colour ? ValueKind::Colour : ValueKind::Integer;
-    add({0, HostControl::Popup, Role::Value, kind, slot, list, place, {}});
-  }
+  // A setting in the control that its kind asks for.
+  constexpr void value(Slot slot, Place place) { add(slot, controlFor(skg::rowOf(slot).kind), place, {}); }
+  constexpr void shape(Slot slot, Place place) { add(slot, HostControl::BoolButton, place, {}); }
   constexpr void slider(Slot slot, Range range, int row, int column) {
-    add({0, HostControl::MiniSlider, Role::Value, ValueKind::Integer, slot, {}, at(row, column, kFieldWidth), range});
+    add(slot, HostControl::MiniSlider, at(row, column, kFieldWidth), range);
   }
-  constexpr void flag(Slot slot, int row, int column) { value(HostControl::Bool, slot, at(row, column, kCheckWidth)); }
-  constexpr void field(HostControl kind, Slot slot, int row, int column) { value(kind, slot, at(row, column, kFieldWidth)); }
+  constexpr void flag(Slot slot, int row, int column) { value(slot, at(row, column, kCheckWidth)); }
+  constexpr void field(Slot slot, int row, int column) { value(slot, at(row, column, kFieldWidth)); }
 
  private:
-  static constexpr ValueKind valueOf(HostControl kind) {
+  static constexpr HostControl controlFor(skg::SlotKind kind) {
+    using skg::SlotKind;
     switch (kind) {
-      case HostControl::Bool:
-      case HostControl::BoolButton: return ValueKind::Integer;
-      case HostControl::Percent:
-      case HostControl::Distance:
-      case HostControl::Float:
-      case HostControl::Angle: return ValueKind::Real;
-      case HostControl::Edit: return ValueKind::Text;
-      default: return ValueKind::None;
+      case SlotKind::Flag: return HostControl::Bool;
+      case SlotKind::Choice:
+      case SlotKind::Colour: return HostControl::Popup;
+      case SlotKind::Integer: return HostControl::MiniSlider;
+      case SlotKind::Percent: return HostControl::Percent;
+      case SlotKind::Distance: return HostControl::Distance;
+      case SlotKind::Number: return HostControl::Float;
+      case SlotKind::Angle: return HostControl::Angle;
+      case SlotKind::ItemName:
+      case SlotKind::ObjectName:
+      case SlotKind::WeightMapName:
+      case SlotKind::Text: return HostControl::Edit;
+      case SlotKind::Reserved: break;
     }
+    throw "a reserved slot has no control";  // where the table is built, this does not compile
   }
 
+  constexpr void add(Slot slot, HostControl kind, Place place, Range range) {
+    add({0, section_, kind, Role::Value, slot, skg::rowOf(slot).choices, place, range});
+  }
   constexpr void add(ControlRow row) {
     row.number = count_;
     rows_[count_] = row;
@@ -97,93 +108,85 @@ class TableBuilder {
 
   std::array<ControlRow, kControlCount> rows_{};
   std::size_t count_ = 0;
+  Section section_ = Section::Head;
 };
 
 // ---------------------------------------------------------------------------------------------------------------------
 // The patterns
 
-// Settings that belong together are numbered in runs.
-constexpr Slot after(Slot slot, std::size_t steps) { return static_cast<Slot>(skg::indexOf(slot) + steps); }
-
-struct LinkedItem {
-  Slot item, shape, visibility, colour;
-};
-
 // The first three of a linked item, to the form's edge.
-constexpr void linkedName(TableBuilder& table, const LinkedItem& slots, int row, int left, int edge) {
+constexpr void linkedName(TableBuilder& table, const LinkedItem& item, int row, int left, int edge) {
   const int shape = edge - kShapeWidth;
   const int fill = shape - kGap - kFillWidth;
-  table.value(HostControl::Edit, slots.item, from(row, left, fill - kGap));
+  table.value(item.name, from(row, left, fill - kGap));
   table.plain(HostControl::Button, Role::LinkedFill, at(row, fill, kFillWidth));
-  table.value(HostControl::BoolButton, slots.shape, at(row, shape, kShapeWidth));
+  table.shape(item.shape, at(row, shape, kShapeWidth));
 }
 
 // A linked item without a parent: name, fill button and shape; visibility and colour below.
-constexpr void linkedItem(TableBuilder& table, const LinkedItem& slots, int row, int left) {
-  linkedName(table, slots, row, left, kEdge);
-  table.choice(ChoiceList::OffOn, slots.visibility, at(row + 1, left, kOffOnWidth));
-  table.choice(ChoiceList::Colour, slots.colour, from(row + 1, kEdge - kColourWidth, kEdge));
+constexpr void linkedItem(TableBuilder& table, Slot name, int row, int left) {
+  const LinkedItem& item = *skg::linkedItemOf(name);
+  linkedName(table, item, row, left, kEdge);
+  table.value(item.visibility, at(row + 1, left, kOffOnWidth));
+  table.value(item.colour, from(row + 1, kEdge - kColourWidth, kEdge));
 }
 
 // A linked item with a parent: name, fill button, shape and visibility; the parent, its chooser and the colour below.
-constexpr void linkedItemWithParent(TableBuilder& table, const LinkedItem& slots, Slot parent, int row) {
+constexpr void linkedItemWithParent(TableBuilder& table, Slot name, int row) {
   constexpr int kVisibilityLabel = 68;
   constexpr int kColourLabel = 40;
   constexpr int kVisibility = kEdge - kOffOnWidth;
   constexpr int kColour = kEdge - kColourWidth;
   constexpr int kChooser = kColour - kColourLabel - kChooserWidth;
-  linkedName(table, slots, row, kCloseColumn, kVisibility - kVisibilityLabel);
-  table.choice(ChoiceList::OffOn, slots.visibility, at(row, kVisibility, kOffOnWidth));
-  table.choice(ChoiceList::Colour, slots.colour, at(row + 1, kColour, kColourWidth));
-  table.value(HostControl::Edit, parent, from(row + 1, kCloseColumn, kChooser - kGap));
+  const LinkedItem& item = *skg::linkedItemOf(name);
+  linkedName(table, item, row, kCloseColumn, kVisibility - kVisibilityLabel);
+  table.value(item.visibility, at(row, kVisibility, kOffOnWidth));
+  table.value(item.colour, at(row + 1, kColour, kColourWidth));
+  table.value(item.parent, from(row + 1, kCloseColumn, kChooser - kGap));
   table.plain(HostControl::CustomPopup, Role::ItemNames, at(row + 1, kChooser, kChooserWidth));
 }
 
 // A flag with its amount on one row.
-constexpr void flagAndAmount(TableBuilder& table, Slot flag, int row) {
+constexpr void flagAndAmount(TableBuilder& table, Slot flag, Slot amount, int row) {
   table.flag(flag, row, kWideColumn);
-  table.field(HostControl::Percent, after(flag, 1), row, kMiddleColumn);
+  table.field(amount, row, kMiddleColumn);
 }
 
 // A flag of a range, with the least and the greatest value side by side behind it.
-constexpr void limits(TableBuilder& table, HostControl kind, Slot flag, int row, int column) {
+constexpr void limits(TableBuilder& table, Slot flag, Slot least, Slot greatest, int row, int column) {
   table.flag(flag, row, column);
-  table.field(kind, after(flag, 1), row, kMiddleColumn);
-  table.field(kind, after(flag, 2), row, kFarColumn);
+  table.field(least, row, kMiddleColumn);
+  table.field(greatest, row, kFarColumn);
 }
 
 inline constexpr int kAxisRows = 4;
 
-// The eight controls of an axis. Its settings are numbered in two runs: controller, limits, least, greatest, stiffness; and
-// followed channel, factor, offset.
-constexpr void axis(TableBuilder& table, HostControl limitKind, Slot controller, Slot follow, int row) {
-  table.choice(ChoiceList::Controller, controller, at(row, kCloseColumn, kChoiceWidth));
-  limits(table, limitKind, after(controller, 1), row + 1, kCloseColumn);
-  table.choice(ChoiceList::FollowChannel, follow, at(row + 2, kCloseColumn, kChannelWidth));
-  table.field(HostControl::Float, after(follow, 1), row + 2, kMiddleColumn);
-  table.field(HostControl::Float, after(follow, 2), row + 2, kFarColumn);
-  table.field(HostControl::Float, after(controller, 4), row + 3, kCloseColumn);
+constexpr void axis(TableBuilder& table, const skg::AxisSettings& axis, int row) {
+  table.value(axis.controller, at(row, kCloseColumn, kChoiceWidth));
+  limits(table, axis.limits, axis.least, axis.greatest, row + 1, kCloseColumn);
+  table.value(axis.follow, at(row + 2, kCloseColumn, kChannelWidth));
+  table.field(axis.factor, row + 2, kMiddleColumn);
+  table.field(axis.offset, row + 2, kFarColumn);
+  table.field(axis.stiffness, row + 3, kCloseColumn);
 }
 
-struct MotionGroup {
-  std::optional<Slot> world;
-  LinkedItem item;
-  Slot parent, blendMethod, firstController, firstFollow;
-  HostControl limitKind;
+struct BlendSettings {
+  std::optional<Slot> world;  // the host has no world coordinates for scaling
+  Slot item, method, amount;
 };
 
-constexpr void motionGroup(TableBuilder& table, const MotionGroup& group) {
+constexpr void motionGroup(TableBuilder& table, skg::MotionGroup group, const BlendSettings& blend) {
   constexpr int kBlendRow = 2;
   constexpr int kFirstAxisRow = 3;
-  constexpr std::size_t kControllerStep = 5;
-  constexpr std::size_t kFollowStep = 3;
-  if (group.world) table.flag(*group.world, kBlendRow, kCloseColumn);
-  linkedItemWithParent(table, group.item, group.parent, 0);
-  table.choice(ChoiceList::BlendMethod, group.blendMethod, at(kBlendRow, kMiddleColumn, kMethodWidth));
-  table.field(HostControl::Percent, after(group.blendMethod, 1), kBlendRow, kFarColumn);
-  for (std::size_t n = 0; n < 3; ++n) {
-    axis(table, group.limitKind, after(group.firstController, n * kControllerStep),
-         after(group.firstFollow, n * kFollowStep), kFirstAxisRow + static_cast<int>(n) * kAxisRows);
+  if (blend.world) table.flag(*blend.world, kBlendRow, kCloseColumn);
+  linkedItemWithParent(table, blend.item, 0);
+  table.value(blend.method, at(kBlendRow, kMiddleColumn, kMethodWidth));
+  table.field(blend.amount, kBlendRow, kFarColumn);
+  int row = kFirstAxisRow;
+  for (const skg::AxisSettings& settings : skg::kAxes) {
+    if (settings.group != group) continue;
+    axis(table, settings, row);
+    row += kAxisRows;
   }
 }
 
@@ -191,112 +194,94 @@ constexpr void motionGroup(TableBuilder& table, const MotionGroup& group) {
 // The pages, control by control
 
 constexpr void addFrame(TableBuilder& table) {
+  table.begin(Section::Head);
   table.plain(HostControl::Border, Role::Decoration, from(2, kMargin, kEdge));  // a line below the head
+  table.begin(Section::Frame);
   table.plain(HostControl::Border, Role::Decoration, from(0, kMargin, kEdge));  // the frame of the bottom row
+  table.begin(Section::Buttons);
   table.plain(HostControl::Button, Role::Reset, endingAt(0, 95, kFootButtonWidth));
   table.plain(HostControl::Button, Role::ResetAll, endingAt(0, 165, kFootButtonWidth));
   table.plain(HostControl::Button, Role::Sync, endingAt(0, 275, kFootButtonWidth));
+  table.begin(Section::Head);
   table.tabs(Role::PageTabs, ChoiceList::Pages, at(0, kMargin, 0));
+  table.begin(Section::GroupChoice);
   table.tabs(Role::GroupTabs, ChoiceList::MotionGroups, at(0, kWideColumn, 0));
+  table.begin(Section::Head);
   // Both in the same place: one of the two is hidden.
   table.plain(HostControl::Edit, Role::NameEdit, from(1, kWideColumn, kEdge));
   table.plain(HostControl::CustomPopup, Role::NamePopup, from(1, kWideColumn, kEdge));
 }
 
 constexpr void addGroupPage(TableBuilder& table) {
-  table.value(HostControl::Edit, Slot::UseBonesFromObject, from(0, kWideColumn, kEdge));
-  table.choice(ChoiceList::FalloffType, Slot::FalloffType, at(1, kWideColumn, kChoiceWidth));
-  table.choice(ChoiceList::BoneCalc, Slot::BoneCalc, at(2, kWideColumn, kChoiceWidth));
+  table.begin(Section::GroupPage);
+  table.value(Slot::UseBonesFromObject, from(0, kWideColumn, kEdge));
+  table.value(Slot::FalloffType, at(1, kWideColumn, kChoiceWidth));
+  table.value(Slot::BoneCalc, at(2, kWideColumn, kChoiceWidth));
   table.slider(Slot::LimitBoneNum, kBoneCounts, 3, kWideColumn);
 }
 
 constexpr void addBonePage(TableBuilder& table) {
+  table.begin(Section::BonePage);
   constexpr int kMapEnd = edgeBefore({kFillWidth, kChooserWidth});
   constexpr int kMapFill = edgeBefore({kChooserWidth}) - kFillWidth;
-  table.choice(ChoiceList::BoneType, Slot::BoneType, at(0, kWideColumn, kChoiceWidth));
+  table.value(Slot::BoneType, at(0, kWideColumn, kChoiceWidth));
   table.flag(Slot::BoneActive, 1, kWideColumn);
-  table.value(HostControl::Edit, Slot::WeightMap, from(2, kWideColumn, kMapEnd));
+  table.value(Slot::WeightMap, from(2, kWideColumn, kMapEnd));
   table.plain(HostControl::CustomPopup, Role::WeightMaps, from(2, kEdge - kChooserWidth, kEdge));
   table.plain(HostControl::Button, Role::WeightFill, at(2, kMapFill, kFillWidth));
   table.flag(Slot::WeightMapOnly, 3, kWideColumn);
   table.flag(Slot::WeightNormalization, 3, kFarColumn);
-  table.field(HostControl::Percent, Slot::Strength, 4, kWideColumn);
+  table.field(Slot::Strength, 4, kWideColumn);
   table.flag(Slot::StrengthMultiply, 5, kFarColumn);
-  limits(table, HostControl::Distance, Slot::LimitedRange, 6, kWideColumn);
-  flagAndAmount(table, Slot::JointComp, 7);
-  flagAndAmount(table, Slot::JointCompParent, 8);
-  flagAndAmount(table, Slot::MuscleFlex, 9);
-  flagAndAmount(table, Slot::MuscleFlexParent, 10);
-  flagAndAmount(table, Slot::Bulge, 11);
-  flagAndAmount(table, Slot::BulgeParent, 12);
-  flagAndAmount(table, Slot::Twist, 13);
-  table.field(HostControl::Percent, Slot::IconSize, 14, kWideColumn);
-  table.choice(ChoiceList::OffOn, Slot::Visibility, at(15, kWideColumn, kOffOnWidth));
-  table.choice(ChoiceList::Colour, Slot::Colour, from(15, kEdge - kColourWidth, kEdge));
-  linkedItem(
-      table,
-      {Slot::InitialPositionItem, Slot::InitialPositionShape, Slot::InitialPositionVisibility, Slot::InitialPositionColour},
-      16, kWideColumn);
+  limits(table, Slot::LimitedRange, Slot::RangeMin, Slot::RangeMax, 6, kWideColumn);
+  flagAndAmount(table, Slot::JointComp, Slot::JointCompAmount, 7);
+  flagAndAmount(table, Slot::JointCompParent, Slot::JointCompParentAmount, 8);
+  flagAndAmount(table, Slot::MuscleFlex, Slot::MuscleFlexAmount, 9);
+  flagAndAmount(table, Slot::MuscleFlexParent, Slot::MuscleFlexParentAmount, 10);
+  flagAndAmount(table, Slot::Bulge, Slot::BulgeAmount, 11);
+  flagAndAmount(table, Slot::BulgeParent, Slot::BulgeParentAmount, 12);
+  flagAndAmount(table, Slot::Twist, Slot::TwistAmount, 13);
+  table.field(Slot::IconSize, 14, kWideColumn);
+  table.value(Slot::Visibility, at(15, kWideColumn, kOffOnWidth));
+  table.value(Slot::Colour, from(15, kEdge - kColourWidth, kEdge));
+  linkedItem(table, Slot::InitialPositionItem, 16, kWideColumn);
 }
 
 constexpr void addIKPage(TableBuilder& table) {
+  table.begin(Section::IKPage);
   constexpr int kParentEnd = edgeBefore({kChooserWidth});
-  table.value(HostControl::Edit, Slot::ParentItem, from(0, kCloseColumn, kParentEnd));
+  table.value(Slot::ParentItem, from(0, kCloseColumn, kParentEnd));
   table.plain(HostControl::CustomPopup, Role::ItemNames, from(0, kEdge - kChooserWidth, kEdge));
-  linkedItemWithParent(table, {Slot::TargetItem, Slot::TargetShape, Slot::TargetVisibility, Slot::TargetColour},
-                       Slot::TargetParent, 1);
-  linkedItemWithParent(table, {Slot::PoleItem, Slot::PoleShape, Slot::PoleVisibility, Slot::PoleColour}, Slot::PoleParent,
-                       3);
-  table.choice(ChoiceList::RotationOrder, Slot::RotationOrder, at(5, kCloseColumn, kChoiceWidth));
+  linkedItemWithParent(table, Slot::TargetItem, 1);
+  linkedItemWithParent(table, Slot::PoleItem, 3);
+  table.value(Slot::RotationOrder, at(5, kCloseColumn, kChoiceWidth));
   table.flag(Slot::UnaffectedByIK, 6, kFarColumn);
-  linkedItemWithParent(table, {Slot::GoalObject, Slot::GoalShape, Slot::GoalVisibility, Slot::GoalColour}, Slot::GoalParent,
-                       7);
-  table.choice(ChoiceList::Objective, Slot::Objective, at(9, kCloseColumn, kChoiceWidth));
-  table.choice(ChoiceList::IKInitialState, Slot::IKInitialState, at(10, kCloseColumn, kChoiceWidth));
+  linkedItemWithParent(table, Slot::GoalObject, 7);
+  table.value(Slot::Objective, at(9, kCloseColumn, kChoiceWidth));
+  table.value(Slot::IKInitialState, at(10, kCloseColumn, kChoiceWidth));
   table.slider(Slot::IKInitialStateFrame, kFrames, 11, kCloseColumn);
   table.flag(Slot::Chain, 12, kCloseColumn);
-  table.field(HostControl::Percent, Slot::IKFKBlending, 12, kFarColumn);
-  table.field(HostControl::Float, Slot::GoalStrength, 13, kCloseColumn);
-  table.choice(ChoiceList::SoftIK, Slot::SoftIK, at(14, kCloseColumn, kChoiceWidth));
-  table.choice(ChoiceList::DistanceType, Slot::SoftIKDistanceType, at(15, kCloseColumn, kChoiceWidth));
-  table.field(HostControl::Percent, Slot::SoftIKMin, 16, kMiddleColumn);
-  table.field(HostControl::Percent, Slot::SoftIKMax, 16, kFarColumn);
+  table.field(Slot::IKFKBlending, 12, kFarColumn);
+  table.field(Slot::GoalStrength, 13, kCloseColumn);
+  table.value(Slot::SoftIK, at(14, kCloseColumn, kChoiceWidth));
+  table.value(Slot::SoftIKDistanceType, at(15, kCloseColumn, kChoiceWidth));
+  table.field(Slot::SoftIKMin, 16, kMiddleColumn);
+  table.field(Slot::SoftIKMax, 16, kFarColumn);
   table.flag(Slot::MatchGoalOrientation, 17, kFarColumn);
   table.flag(Slot::KeepGoalInReach, 17, kCloseColumn);
   table.flag(Slot::FullTimeIK, 18, kCloseColumn);
 }
 
 constexpr void addControllersPage(TableBuilder& table) {
-  table.field(HostControl::Float, Slot::PathLookAhead, 0, kWideColumn);
-  table.field(HostControl::Float, Slot::PathMaxSteps, 0, kFarColumn);
-  table.field(HostControl::Distance, Slot::PathReliableDistance, 1, kWideColumn);
+  table.begin(Section::ControllersPage);
+  table.field(Slot::PathLookAhead, 0, kWideColumn);
+  table.field(Slot::PathMaxSteps, 0, kFarColumn);
+  table.field(Slot::PathReliableDistance, 1, kWideColumn);
   // Below the choice of the group whose controllers they set.
   table.plain(HostControl::Button, Role::KeyFrames, at(3, kWideColumn, kPresetWidth));
   table.plain(HostControl::Button, Role::InverseKinematics, at(3, kWideColumn + kPresetWidth + kGap, kPresetWidth));
   table.plain(HostControl::Button, Role::SameAsItem, at(3, kWideColumn + 2 * (kPresetWidth + kGap), kPresetWidth));
 }
-
-constexpr MotionGroup kPositionGroup = {
-    Slot::PositionItemWorld,   {Slot::PositionItem, Slot::PositionShape, Slot::PositionVisibility, Slot::PositionColour},
-    Slot::PositionParent,      Slot::PositionBlendMethod,
-    Slot::XPositionController, Slot::XPositionFollow,
-    HostControl::Float,
-};
-constexpr MotionGroup kRotationGroup = {
-    Slot::RotationItemWorld, {Slot::RotationItem, Slot::RotationShape, Slot::RotationVisibility, Slot::RotationColour},
-    Slot::RotationParent,    Slot::RotationBlendMethod,
-    Slot::HeadingController, Slot::HeadingFollow,
-    HostControl::Angle,
-};
-constexpr MotionGroup kScaleGroup = {
-    {},  // the host has no world coordinates for scaling
-    {Slot::ScaleItem, Slot::ScaleShape, Slot::ScaleVisibility, Slot::ScaleColour},
-    Slot::ScaleParent,
-    Slot::ScaleBlendMethod,
-    Slot::XScaleController,
-    Slot::XScaleFollow,
-    HostControl::Float,
-};
 
 constexpr TableBuilder build() {
   TableBuilder table;
@@ -305,9 +290,15 @@ constexpr TableBuilder build() {
   addBonePage(table);
   addIKPage(table);
   addControllersPage(table);
-  motionGroup(table, kPositionGroup);
-  motionGroup(table, kRotationGroup);
-  motionGroup(table, kScaleGroup);
+  using skg::MotionGroup;
+  table.begin(Section::PositionGroup);
+  motionGroup(table, MotionGroup::Position,
+              {Slot::PositionItemWorld, Slot::PositionItem, Slot::PositionBlendMethod, Slot::PositionBlend});
+  table.begin(Section::RotationGroup);
+  motionGroup(table, MotionGroup::Rotation,
+              {Slot::RotationItemWorld, Slot::RotationItem, Slot::RotationBlendMethod, Slot::RotationBlend});
+  table.begin(Section::ScaleGroup);
+  motionGroup(table, MotionGroup::Scale, {{}, Slot::ScaleItem, Slot::ScaleBlendMethod, Slot::ScaleBlend});
   return table;
 }
 
@@ -326,8 +317,6 @@ constexpr bool everySlotIsShownOnce() {
   std::array<int, skg::kSlotCount> shown{};
   std::size_t values = 0;
   for (const ControlRow& row : kControls) {
-    if ((row.role == Role::Value) != row.slot.has_value() || (row.role == Role::Value) != (row.value != ValueKind::None))
-      return false;
     if (!row.slot) continue;
     ++values;
     if (++shown[skg::indexOf(*row.slot)] > 1) return false;
@@ -363,7 +352,8 @@ const std::array<ControlRow, kControlCount>& controlTable() { return kControls; 
 
 ControlSlot ControlSlotMap(std::size_t control) {
   if (control >= kControlCount) return {};
-  return {kControls[control].value, kControls[control].slot};
+  const std::optional<Slot> slot = kControls[control].slot;
+  return {slot ? skg::valueKindOf(skg::rowOf(*slot).kind) : ValueKind::None, slot};
 }
 
 std::optional<std::size_t> controlOf(skg::Slot slot) {

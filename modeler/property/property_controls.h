@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <optional>
 
-#include "modeler/property/value_kind.h"
 #include "skelegon/slots.h"
 #include "texts/texts.h"
 
@@ -14,6 +13,24 @@ namespace mst {
 
 // A control is known by its number, which is its place in the order of creation and the key of the label tables.
 inline constexpr std::size_t kControlCount = 192;
+
+using skg::ValueKind;
+
+// When a control is shown, and from where its rows are counted.
+enum class Section : std::size_t {
+  Head,
+  Frame,
+  Buttons,
+  GroupPage,
+  BonePage,
+  IKPage,
+  ControllersPage,
+  GroupChoice,
+  PositionGroup,
+  RotationGroup,
+  ScaleGroup,
+};
+inline constexpr std::size_t kSectionCount = 11;
 
 // The kinds of the host's controls that the panel uses.
 enum class HostControl {
@@ -70,9 +87,9 @@ struct Range {
 
 struct ControlRow {
   std::size_t number = 0;
+  Section section = Section::Head;
   HostControl kind = HostControl::Border;
   Role role = Role::Decoration;
-  ValueKind value = ValueKind::None;
   std::optional<skg::Slot> slot;             // the setting that it shows; none for all but values
   std::optional<texts::ChoiceList> choices;  // of popups and tabs with a fixed list
   Place place;

@@ -4,7 +4,6 @@
 
 #include "host/raised_flag.h"
 #include "modeler/property/property_layout.h"
-#include "modeler/property/property_sections.h"
 #include "modeler/property/property_store.h"
 #include "skelegon/numbers.h"
 
@@ -83,7 +82,7 @@ void CPropertyForm::show(int page, int group, bool nameCanBeEdited) const {
   const auto isVisible = [&](const ControlRow& row) {
     if (row.role == Role::NameEdit) return nameCanBeEdited;
     if (row.role == Role::NamePopup) return !nameCanBeEdited;
-    return isShown(sectionOf(row.number), page, group);
+    return isShown(row, page, group);
   };
   for (const bool visible : {false, true}) {
     for (const ControlRow& row : controlTable()) {

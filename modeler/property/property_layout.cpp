@@ -3,8 +3,6 @@
 #include <array>
 #include <initializer_list>
 
-#include "modeler/property/property_sections.h"
-
 namespace mst {
 namespace {
 
@@ -32,41 +30,54 @@ constexpr int kGroupChoiceTop = yOfRow(kPageTop, kControllersBlocks, 2);
 constexpr int kMotionTop = yOfRow(kPageTop, kControllersBlocks, 4) + kBlockGap;
 constexpr BlockRows kMotionBlocks = gapAbove({3, 7, 11});  // one for each axis
 
-struct SectionForm {
+constexpr int kAlways = -1;
+
+struct SectionRow {
   Section section;
+  int page;   // that shows it
+  int group;  // of the last page, that shows it
   int top;
   BlockRows blocks;
 };
 // clang-format off
-constexpr std::array<SectionForm, kSectionCount> kForms = {{
-    // section                 top              rows with a gap above
-    {Section::Head,            kHeadTop,        gapAbove({})},
-    {Section::Frame,           660,             gapAbove({})},
-    {Section::Buttons,         665,             gapAbove({})},
-    {Section::GroupPage,       kPageTop,        gapAbove({})},
-    {Section::BonePage,        kPageTop,        gapAbove({2, 4, 6, 7, 14, 16})},
-    {Section::IKPage,          kPageTop,        gapAbove({1, 3, 5, 7, 12, 14, 17})},
-    {Section::ControllersPage, kPageTop,        kControllersBlocks},
-    {Section::GroupChoice,     kGroupChoiceTop, gapAbove({})},
-    {Section::PositionGroup,   kMotionTop,      kMotionBlocks},
-    {Section::RotationGroup,   kMotionTop,      kMotionBlocks},
-    {Section::ScaleGroup,      kMotionTop,      kMotionBlocks},
+constexpr std::array<SectionRow, kSectionCount> kSections = {{
+    // section                 page     group    top              rows with a gap above
+    {Section::Head,            kAlways, kAlways, kHeadTop,        gapAbove({})},
+    {Section::Frame,           kAlways, kAlways, 660,             gapAbove({})},
+    {Section::Buttons,         kAlways, kAlways, 665,             gapAbove({})},
+    {Section::GroupPage,       0,       kAlways, kPageTop,        gapAbove({})},
+    {Section::BonePage,        1,       kAlways, kPageTop,        gapAbove({2, 4, 6, 7, 14, 16})},
+    {Section::IKPage,          2,       kAlways, kPageTop,        gapAbove({1, 3, 5, 7, 12, 14, 17})},
+    {Section::ControllersPage, 3,       kAlways, kPageTop,        kControllersBlocks},
+    {Section::GroupChoice,     3,       kAlways, kGroupChoiceTop, gapAbove({})},
+    {Section::PositionGroup,   3,       0,       kMotionTop,      kMotionBlocks},
+    {Section::RotationGroup,   3,       1,       kMotionTop,      kMotionBlocks},
+    {Section::ScaleGroup,      3,       2,       kMotionTop,      kMotionBlocks},
 }};
 // clang-format on
 
-constexpr bool formsStandInOrder() {
-  for (std::size_t i = 0; i < kForms.size(); ++i) {
-    if (static_cast<std::size_t>(kForms[i].section) != i) return false;
+constexpr bool rowsStandInOrder() {
+  for (std::size_t i = 0; i < kSections.size(); ++i) {
+    if (static_cast<std::size_t>(kSections[i].section) != i) return false;
   }
   return true;
 }
-static_assert(formsStandInOrder());
+static_assert(rowsStandInOrder());
+
+const SectionRow& sectionOf(const ControlRow& row) { return kSections[static_cast<std::size_t>(row.section)]; }
+
+constexpr bool isOneOf(int wanted, int chosen) { return wanted == kAlways || wanted == chosen; }
 
 }  // namespace
 
+bool isShown(const ControlRow& row, int page, int group) {
+  const SectionRow& section = sectionOf(row);
+  return isOneOf(section.page, page) && isOneOf(section.group, group);
+}
+
 Position positionOf(const ControlRow& row, const Measured& measured) {
-  const SectionForm& form = kForms[static_cast<std::size_t>(sectionOf(row.number))];
-  const int y = yOfRow(form.top, form.blocks, row.place.row);
+  const SectionRow& section = sectionOf(row);
+  const int y = yOfRow(section.top, section.blocks, row.place.row);
   if (row.place.by == Place::By::RightEdge) return {row.place.x - measured.width, y};
   return {row.place.x - measured.labelWidth, y};
 }

@@ -65,26 +65,6 @@ skg::SkelegonProperties ReadSkelegonProperties(lw::PolygonId polygon) {
   return properties;
 }
 
-ValueKind valueKindOf(skg::SlotKind kind) {
-  using skg::SlotKind;
-  switch (kind) {
-    case SlotKind::Flag:
-    case SlotKind::Choice:
-    case SlotKind::Integer: return ValueKind::Integer;
-    case SlotKind::Percent:
-    case SlotKind::Distance:
-    case SlotKind::Number:
-    case SlotKind::Angle: return ValueKind::Real;
-    case SlotKind::ItemName:
-    case SlotKind::ObjectName:
-    case SlotKind::WeightMapName:
-    case SlotKind::Text: return ValueKind::Text;
-    case SlotKind::Colour: return ValueKind::Colour;
-    case SlotKind::Reserved: break;
-  }
-  return ValueKind::None;
-}
-
 std::string formatInteger(int value) { return std::to_string(value); }
 
 std::string formatReal(double value) {

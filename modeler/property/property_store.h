@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "host/lwtool2_mesh.h"
-#include "modeler/property/value_kind.h"
 #include "skelegon/setting_groups.h"
 #include "skelegon/slots.h"
 
@@ -42,9 +41,6 @@ skg::SkelegonProperties ReadSkelegonProperties(lw::PolygonId polygon);
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Values as texts, independent of the user's locale
-
-// The kind of value that a control shows and takes for a kind of setting.
-ValueKind valueKindOf(skg::SlotKind kind);
 
 std::string formatInteger(int value);          // as "%d"
 std::string formatReal(double value);          // as "%.6f"

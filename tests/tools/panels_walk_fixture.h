@@ -158,7 +158,8 @@ class ThreePanels : public testing::Test, protected ModelerSession {
     for (const mst::ControlRow& row : mst::controlTable()) {
       if (!row.slot) continue;
       std::string expected = storedValue(shown, *row.slot);
-      if (row.value == mst::ValueKind::Real) expected = realText(std::strtod(expected.c_str(), nullptr));
+      if (mst::ControlSlotMap(row.number).value == mst::ValueKind::Real)
+        expected = realText(std::strtod(expected.c_str(), nullptr));
       EXPECT_EQ(valueOf(row, *field(row.number)), expected) << "control " << row.number;
     }
     expectChoosersAsMesh();

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "modeler/property/property_controls.h"
-#include "modeler/property/property_sections.h"
+#include "modeler/property/property_layout.h"
 #include "objectfile/rig_builder.h"
 #include "standin/panels/geometry.h"
 #include "tests/tools/modeler_session.h"
