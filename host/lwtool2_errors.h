@@ -75,6 +75,14 @@ void guarded(Action&& action) noexcept {
       false);
 }
 
+// The way in for the host, and for other panels: what is called gets the tool back by the pointer that it gave away.
+template <class Tool, class Action>
+void onTool(void* user, Action&& action) noexcept {
+  guarded([&] {
+    if (user != nullptr) std::forward<Action>(action)(*static_cast<Tool*>(user));
+  });
+}
+
 // For a callback that is running because the module called the host: what is thrown is kept in `failure`, for the module to
 // raise again once that call has returned.
 template <class Action, class Result>

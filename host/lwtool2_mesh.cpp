@@ -220,6 +220,16 @@ bool IsLivingSkelegon(PolygonId polygon) {
   return isLiving;
 }
 
+void TagWrites::add(PolygonId polygon, std::uint32_t type, std::string_view text) {
+  polygons.push_back(polygon);
+  types.push_back(type);
+  texts.emplace_back(text);
+}
+
+void TagWrites::append(const TagWrites& more) {
+  for (std::size_t i = 0; i < more.polygons.size(); ++i) add(more.polygons[i], more.types[i], more.texts[i]);
+}
+
 TagTexts ReadPolygonTags(const PolygonIds& polygons, const TagTypes& types) {
   assert(types.size() == polygons.size());
   CMeshEdit edit(kEditForTags);
@@ -243,8 +253,9 @@ void WritePolygonTags(CMeshEdit& edit, const PolygonIds& polygons, const TagType
 namespace {
 
 // Copies what the record holds and then asks for the tags: the record is good only until the next call.
-SkelegonInfo skelegonInfo(const MeshEditOp& edit, const EDPolygonInfo& record, std::span<const std::uint32_t> tagTypes) {
-  SkelegonInfo info;
+skg::SkelegonInfo skelegonInfo(const MeshEditOp& edit, const EDPolygonInfo& record,
+                               std::span<const std::uint32_t> tagTypes) {
+  skg::SkelegonInfo info;
   info.polygon = record.pol;
   info.layer = record.layer;
   info.isSelected = kSelectedNotDeleted.fits(record.flags);
@@ -260,10 +271,10 @@ SkelegonInfo skelegonInfo(const MeshEditOp& edit, const EDPolygonInfo& record, s
 
 }  // namespace
 
-std::vector<SkelegonInfo> ScanSkelegons(int layers, ReportSource source, std::span<const std::uint32_t> tagTypes) {
+std::vector<skg::SkelegonInfo> ScanSkelegons(int layers, ReportSource source, std::span<const std::uint32_t> tagTypes) {
   foundSkelegons().shareWithForeground();
   CMeshEdit edit(kEditSeesSelection);
-  std::vector<SkelegonInfo> skelegons;
+  std::vector<skg::SkelegonInfo> skelegons;
   bool isComplete = true;
   edit.forEachSkelegon(layers, [&](PolygonId polygon) {
     const EDPolygonInfo* const record = edit.host().polyInfo(edit.host().state, polygon);

@@ -12,10 +12,12 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <unordered_set>
 #include <vector>
 
 #include "interface/lightwave.h"
+#include "skelegon/skelegon_tree.h"
 
 namespace lw {
 
@@ -105,6 +107,17 @@ TagTexts SkelegonNames(const PolygonIds& polygons);
 // True for a skelegon of the current object that is not deleted, in any layer.
 bool IsLivingSkelegon(PolygonId polygon);
 
+// Tags to write: polygon, type and text at the same index. An empty text blanks the host's own tags and removes others.
+struct TagWrites {
+  PolygonIds polygons;
+  TagTypes types;
+  TagTexts texts;
+
+  void add(PolygonId polygon, std::uint32_t type, std::string_view text);
+  void append(const TagWrites& more);
+  bool empty() const { return polygons.empty(); }
+};
+
 // Tag texts in the order of `polygons`, polygon and type at the same index; empty where there is no such tag or the polygon
 // is deleted. `types` must be as long as `polygons`.
 TagTexts ReadPolygonTags(const PolygonIds& polygons, const TagTypes& types);
@@ -112,17 +125,6 @@ TagTexts ReadPolygonTags(const PolygonIds& polygons, const TagTypes& types);
 // [edit for tags open] Writes tags, polygon, type and text at the same index; deleted polygons are passed over. The caller
 // ends the edit; when a call fails it has been ended already. The three lists must be equally long.
 void WritePolygonTags(CMeshEdit& edit, const PolygonIds& polygons, const TagTypes& types, const TagTexts& texts);
-
-// What a panel shows of a skelegon.
-struct SkelegonInfo {
-  PolygonId polygon = nullptr;
-  std::string name;  // empty when the skelegon has no name tag
-  int layer = 0;     // 0 is the first
-  PointId head = nullptr;
-  PointId tail = nullptr;
-  bool isSelected = false;                       // by the user, directly
-  std::vector<std::optional<std::string>> tags;  // of the types that were asked for, in their order
-};
 
 // Whose report it is when the host has no record of a polygon.
 struct ReportSource {
@@ -132,7 +134,7 @@ struct ReportSource {
 
 // The skelegons of a layer choice in scan order, with the tags of the types named. A polygon without a record ends the scan:
 // it is reported in the name of `source`, nothing is thrown, and what was found so far is given.
-std::vector<SkelegonInfo> ScanSkelegons(int layers, ReportSource source, std::span<const std::uint32_t> tagTypes = {});
+std::vector<skg::SkelegonInfo> ScanSkelegons(int layers, ReportSource source, std::span<const std::uint32_t> tagTypes = {});
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Layers and weight maps

@@ -10,42 +10,76 @@
 namespace lw {
 namespace {
 
-// A description cleared as a whole, with its type.
-LWPanControlDesc description(ValueType type) {
-  LWPanControlDesc cleared;
-  for (GapSlot& slot : cleared.whole) slot = nullptr;
-  cleared.type = type;
-  return cleared;
-}
-
-LWPanControlDesc areaDescription(int width, int height) {
-  LWPanControlDesc area = description(kValueArea);
-  area.area.width = width;
-  area.area.height = height;
-  return area;
-}
-
-// The host only reads the list, though its interface does not say so. For popups `vertical` carries the width.
-LWPanControlDesc choiceDescription(texts::Choices choices, int vertical) {
-  LWPanControlDesc choice = description(kValueChoice);
-  choice.choice.items = const_cast<const char**>(choices);
-  choice.choice.vertical = vertical;
-  return choice;
-}
-
-LWPanControlDesc rangeDescription(int width, int least, int greatest) {
-  LWPanControlDesc range = description(kValueRange);
-  range.range.width = width;
-  range.range.min = least;
-  range.range.max = greatest;
-  return range;
-}
-
 constexpr int kWidestAngle = 36'000;  // degrees
 constexpr int kWidestPercent = 100'000;
 constexpr int kWidestNumber = 1'000'000;  // metres, or none
 
-LWPanControlDesc widestRange(int greatest) { return rangeDescription(0, -greatest, greatest); }
+struct KindRow {
+  forms::HostControl kind;
+  const char* name;
+  ValueType type;
+  // Of typed numbers, as far below zero too. Whether the host holds them to a range is not documented, nor in which unit it takes
+  // it: so it is far wider than what a rig needs, in whichever unit.
+  int widest = 0;
+};
+constexpr std::array kKinds = {
+    KindRow{forms::HostControl::Angle, "AngleControl", kValueRange, kWidestAngle},
+    KindRow{forms::HostControl::Bool, "BoolControl", kValueBoolean},
+    KindRow{forms::HostControl::BoolButton, "BoolButtonControl", kValueArea},
+    KindRow{forms::HostControl::Border, "BorderControl", kValueArea},
+    KindRow{forms::HostControl::Button, "ButtonControl", kValueArea},
+    KindRow{forms::HostControl::CustomPopup, "CustomPopupControl", kValuePopup},
+    KindRow{forms::HostControl::Distance, "MiniDistanceControl", kValueRange, kWidestNumber},
+    KindRow{forms::HostControl::Edit, "EditControl", kValueString},
+    KindRow{forms::HostControl::Float, "MiniFloatControl", kValueRange, kWidestNumber},
+    KindRow{forms::HostControl::MiniSlider, "MiniSliderControl", kValueRange},
+    KindRow{forms::HostControl::Number, "NumControl", kValueInteger},
+    KindRow{forms::HostControl::NumberInfo, "NumInfoControl", kValueInteger},
+    KindRow{forms::HostControl::OpenGL, "OpenGLControl", kValueArea},
+    KindRow{forms::HostControl::Percent, "PercentControl", kValueRange, kWidestPercent},
+    KindRow{forms::HostControl::Popup, "PopupControl", kValueChoice},
+    KindRow{forms::HostControl::Tabs, "TabChoiceControl", kValueChoice},
+    KindRow{forms::HostControl::Text, "TextControl", kValueText},
+};
+
+constexpr bool rowsStandInOrder() {
+  for (std::size_t i = 0; i < kKinds.size(); ++i) {
+    if (static_cast<std::size_t>(kKinds[i].kind) != i) return false;
+  }
+  return true;
+}
+static_assert(rowsStandInOrder());
+
+// Cleared as a whole, then with what the type holds. Lists and lines the host only reads, though its interface does not say so.
+LWPanControlDesc describe(const KindRow& kind, const NewControl& control) {
+  LWPanControlDesc made;
+  for (GapSlot& slot : made.whole) slot = nullptr;
+  made.type = kind.type;
+  switch (kind.type) {
+    case kValueArea:
+      made.area.width = control.width;
+      made.area.height = control.height;
+      break;
+    case kValueChoice:
+      made.choice.items = const_cast<const char**>(control.choices);
+      made.choice.vertical = control.width;  // of a popup the width
+      break;
+    case kValuePopup:
+      made.popup.width = control.width;
+      made.popup.countFn = control.functions.count;
+      made.popup.nameFn = control.functions.name;
+      break;
+    case kValueRange:
+      made.range.width = kind.widest != 0 ? 0 : control.width;
+      made.range.min = kind.widest != 0 ? -kind.widest : control.range.least;
+      made.range.max = kind.widest != 0 ? kind.widest : control.range.greatest;
+      break;
+    case kValueString: made.str.width = control.width; break;
+    case kValueText: made.text.text = const_cast<const char**>(control.lines); break;
+    default: break;
+  }
+  return made;
+}
 
 LWValue integerValue(int value) {
   LWValue result;
@@ -149,71 +183,13 @@ CPanel::~CPanel() {
 
 PanelId CPanel::release() { return std::exchange(panel_, nullptr); }
 
-CControl CPanel::add(const char* kind, LWPanControlDesc description, const char* label) const {
-  LWControl* const control = panels().addControl(panel_, kind, &description, label);
-  if (control == nullptr) throw ex::CBaseEx(std::string("panel::addControl() !(") + kind + ")");
-  return CControl(control);
+CControl CPanel::add(const NewControl& control) const {
+  const KindRow& kind = kKinds[static_cast<std::size_t>(control.kind)];
+  LWPanControlDesc description = describe(kind, control);
+  LWControl* const made = panels().addControl(panel_, kind.name, &description, control.label);
+  if (made == nullptr) throw ex::CBaseEx(std::string("panel::addControl() !(") + kind.name + ")");
+  return CControl(made);
 }
-
-CControl CPanel::addBool(const char* label) const { return add("BoolControl", description(kValueBoolean), label); }
-
-CControl CPanel::addBoolButton(const char* label, int width) const {
-  return add("BoolButtonControl", areaDescription(width, 0), label);
-}
-
-CControl CPanel::addBorder(int width, int height) const { return add("BorderControl", areaDescription(width, height), ""); }
-
-CControl CPanel::addButton(const char* label, int width) const {
-  return add("ButtonControl", areaDescription(width, 0), label);
-}
-
-CControl CPanel::addCustomPopup(const char* label, int width, PopupFunctions functions) const {
-  LWPanControlDesc popup = description(kValuePopup);
-  popup.popup.width = width;
-  popup.popup.countFn = functions.count;
-  popup.popup.nameFn = functions.name;
-  return add("CustomPopupControl", popup, label);
-}
-
-CControl CPanel::addEdit(const char* label, int characters) const {
-  LWPanControlDesc edit = description(kValueString);
-  edit.str.width = characters;
-  return add("EditControl", edit, label);
-}
-
-CControl CPanel::addPopup(const char* label, int width, texts::Choices choices) const {
-  return add("PopupControl", choiceDescription(choices, width), label);
-}
-
-CControl CPanel::addTabs(const char* label, texts::Choices choices) const {
-  return add("TabChoiceControl", choiceDescription(choices, 0), label);
-}
-
-CControl CPanel::addNumber(const char* label) const { return add("NumControl", description(kValueInteger), label); }
-
-CControl CPanel::addNumberInfo(const char* label) const { return add("NumInfoControl", description(kValueInteger), label); }
-
-// The host only reads the lines.
-CControl CPanel::addText(const char* const* lines) const {
-  LWPanControlDesc text = description(kValueText);
-  text.text.text = const_cast<const char**>(lines);
-  return add("TextControl", text, "");
-}
-
-CControl CPanel::addOpenGL(int width, int height) const { return add("OpenGLControl", areaDescription(width, height), ""); }
-
-CControl CPanel::addMiniSlider(const char* label, int fieldWidth, int least, int greatest) const {
-  return add("MiniSliderControl", rangeDescription(fieldWidth, least, greatest), label);
-}
-
-// Whether the host holds typed numbers to these ranges is not documented, nor in which unit it takes them: so they are far wider
-// than what a rig needs, in whichever unit, and reach as far below zero.
-CControl CPanel::addAngle(const char* label) const { return add("AngleControl", widestRange(kWidestAngle), label); }
-CControl CPanel::addDistance(const char* label) const {
-  return add("MiniDistanceControl", widestRange(kWidestNumber), label);
-}
-CControl CPanel::addFloat(const char* label) const { return add("MiniFloatControl", widestRange(kWidestNumber), label); }
-CControl CPanel::addPercent(const char* label) const { return add("PercentControl", widestRange(kWidestPercent), label); }
 
 void CPanel::setSize(int width, int height) const {
   panels().set(panel_, kPanelWidth, &width);

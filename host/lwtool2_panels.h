@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "forms/controls.h"
 #include "interface/lightwave.h"
 #include "texts/texts.h"
 
@@ -14,7 +15,6 @@ class CControl {
   CControl() = default;
   explicit CControl(LWControl* control) : control_(control) {}
 
-  bool exists() const { return control_ != nullptr; }
   bool is(const LWControl* control) const { return control_ == control; }
 
   // The value, in the form that the control's kind has. Flags, choices (index from 0) and counts are integers; percents (as
@@ -58,34 +58,31 @@ struct PopupFunctions {
   const char* (*name)(void* user, int index);
 };
 
+// A control to be made. The texts must live as long as the panel: the host may keep the pointers.
+struct NewControl {
+  forms::HostControl kind{};
+  const char* label = "";
+  int width =
+      0;  // in pixels and without the label, of edit fields in characters, of sliders of the field; 0 leaves it to the host
+  int height = 0;                      // of borders and OpenGL areas
+  texts::Choices choices = nullptr;    // of popups and tabs
+  forms::Range range{};                // of sliders
+  PopupFunctions functions{};          // of custom popups
+  const char* const* lines = nullptr;  // of texts; ended by a null
+};
+
 // A host panel and its controls. Owns the panel until release().
 // Functions that make something throw CBaseEx when the host does not.
 class CPanel {
  public:
-  // Title, labels and choices must live as long as the panel: the host may keep the pointers.
+  // The title must live as long as the panel.
   explicit CPanel(const char* title);
   ~CPanel();
   CPanel(CPanel&& other) noexcept : panel_(other.release()) {}
   CPanel& operator=(CPanel&&) = delete;
 
-  // Before the panel opens. Widths are in pixels and without the label; 0 leaves them to the host.
-  CControl addBool(const char* label) const;
-  CControl addBoolButton(const char* label, int width) const;
-  CControl addBorder(int width, int height) const;
-  CControl addButton(const char* label, int width) const;
-  CControl addCustomPopup(const char* label, int width, PopupFunctions functions) const;
-  CControl addEdit(const char* label, int characters) const;
-  CControl addPopup(const char* label, int width, texts::Choices choices) const;
-  CControl addTabs(const char* label, texts::Choices choices) const;
-  CControl addNumber(const char* label) const;
-  CControl addNumberInfo(const char* label) const;   // only shown
-  CControl addText(const char* const* lines) const;  // ended by a null
-  CControl addOpenGL(int width, int height) const;
-  CControl addMiniSlider(const char* label, int fieldWidth, int least, int greatest) const;
-  CControl addAngle(const char* label) const;
-  CControl addDistance(const char* label) const;
-  CControl addFloat(const char* label) const;
-  CControl addPercent(const char* label) const;
+  // Before the panel opens.
+  CControl add(const NewControl& control) const;
 
   void setSize(int width, int height) const;
   void setLeastSize(int width, int height) const;
@@ -109,11 +106,10 @@ class CPanel {
   void close() const;
   bool is(PanelId panel) const { return panel_ == panel; }
 
+  // Leaves the panel to the host: also for the end of the module, when nothing of the host may be called any more.
   PanelId release();
 
  private:
-  CControl add(const char* kind, LWPanControlDesc description, const char* label) const;
-
   PanelId panel_ = nullptr;
 };
 

@@ -9,13 +9,12 @@
 namespace lwp {
 namespace {
 
+using forms::HostControl;
+
 constexpr int kPanelWidth = 260;
 constexpr int kPanelHeight = 100;
 constexpr int kRunButtonWidth = 80;
 constexpr int kRunHotX = 165;
-
-// The record that a control carries as its user data; null when none is attached.
-ConversionSettings* settingsOf(void* user) { return static_cast<ConversionSettings*>(user); }
 
 }  // namespace
 
@@ -35,10 +34,13 @@ void CSkgConvPanel::build() {
     s.title = lw::FormatString("%s(%d.%d)%s", kOptimizeName, VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR, " ");
   }
   lw::CPanel panel(s.title.c_str());
-  const lw::CControl convert = panel.addBool(lw::layoutText(texts::LayoutText::ExecuteSkelegonToBone));
-  const lw::CControl pivot = panel.addBool(lw::layoutText(texts::LayoutText::ExecuteRecordPivotRotation));
-  const lw::CControl border = panel.addBorder(250, 35);
-  const lw::CControl run = panel.addButton(lw::layoutText(texts::LayoutText::Run), kRunButtonWidth);
+  const lw::CControl convert =
+      panel.add({.kind = HostControl::Bool, .label = lw::layoutText(texts::LayoutText::ExecuteSkelegonToBone)});
+  const lw::CControl pivot =
+      panel.add({.kind = HostControl::Bool, .label = lw::layoutText(texts::LayoutText::ExecuteRecordPivotRotation)});
+  const lw::CControl border = panel.add({.kind = HostControl::Border, .width = 250, .height = 35});
+  const lw::CControl run =
+      panel.add({.kind = HostControl::Button, .label = lw::layoutText(texts::LayoutText::Run), .width = kRunButtonWidth});
 
   convert.moveTo(10, 10);
   pivot.moveTo(10, 30);
@@ -67,34 +69,28 @@ void CSkgConvPanel::build() {
 }
 
 void CSkgConvPanel::OnOpened(lw::PanelId panel, void* user) {
-  lw::guarded([&] {
-    auto* const tool = static_cast<CSkgConvPanel*>(user);
-    if (tool != nullptr && tool->settings_.panel == panel) tool->life_.opened();
+  lw::onTool<CSkgConvPanel>(user, [&](CSkgConvPanel& tool) {
+    if (tool.settings_.panel == panel) tool.life_.opened();
   });
 }
 
 void CSkgConvPanel::OnClosed(lw::PanelId panel, void* user) {
-  lw::guarded([&] {
-    auto* const tool = static_cast<CSkgConvPanel*>(user);
-    if (tool != nullptr && tool->settings_.panel == panel) tool->life_.closed();
+  lw::onTool<CSkgConvPanel>(user, [&](CSkgConvPanel& tool) {
+    if (tool.settings_.panel == panel) tool.life_.closed();
   });
 }
 
 void CSkgConvPanel::OnOptionChanged(lw::LWControl* control, void* user) {
-  lw::guarded([&] {
-    ConversionSettings* const settings = settingsOf(user);
-    if (settings == nullptr) return;
-    if (settings->convertControl.is(control)) settings->executeSkelegonToBone = settings->convertControl.integer();
-    if (settings->pivotControl.is(control)) settings->recordPivotRotation = settings->pivotControl.integer();
+  lw::onTool<ConversionSettings>(user, [&](ConversionSettings& settings) {
+    if (settings.convertControl.is(control)) settings.executeSkelegonToBone = settings.convertControl.integer();
+    if (settings.pivotControl.is(control)) settings.recordPivotRotation = settings.pivotControl.integer();
   });
 }
 
 void CSkgConvPanel::RunConversion(lw::LWControl* /*control*/, void* user) {
-  lw::guarded([&] {
-    ConversionSettings* const settings = settingsOf(user);
-    if (settings == nullptr) return;
-    const lw::CRaisedFlag running(settings->isRunning);
-    convertSelection(settings->executeSkelegonToBone != 0, settings->recordPivotRotation != 0);
+  lw::onTool<ConversionSettings>(user, [](ConversionSettings& settings) {
+    const lw::CRaisedFlag running(settings.isRunning);
+    convertSelection(settings.executeSkelegonToBone != 0, settings.recordPivotRotation != 0);
   });
 }
 

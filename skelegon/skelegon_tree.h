@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,17 @@ namespace skg {
 using PolygonId = lw::OpaquePolygon*;
 using PointId = lw::OpaquePoint*;
 using Position = std::array<double, 3>;  // x, y, z
+
+// A skelegon as a panel knows it from a scan of the mesh.
+struct SkelegonInfo {
+  PolygonId polygon = nullptr;
+  std::string name;         // empty when the skelegon has no name tag
+  int layer = 0;            // 0 is the first
+  bool isSelected = false;  // by the user, directly
+  PointId head = nullptr;   // null in a damaged one
+  PointId tail = nullptr;
+  std::vector<std::optional<std::string>> tags;  // of the types that were asked for, in their order
+};
 
 struct SkelegonNode {
   PolygonId polygon = nullptr;

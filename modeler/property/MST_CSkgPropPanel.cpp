@@ -22,13 +22,9 @@ constexpr const char* kResetAllQuestion = "Reset all skelegon's tag ?";
 bool objectIsLoaded() { return lw::stateQuery().object() != nullptr; }
 
 // Without an object there is nothing to scan, and the host begins no edit.
-std::vector<PanelSkelegon> scan() { return objectIsLoaded() ? ScanPanelSkelegons() : std::vector<PanelSkelegon>(); }
+std::vector<skg::SkelegonInfo> scan() { return objectIsLoaded() ? ScanPanelSkelegons() : std::vector<skg::SkelegonInfo>(); }
 
 bool isInObject(lw::PolygonId polygon) { return objectIsLoaded() && lw::IsLivingSkelegon(polygon); }
-
-void append(TagWrites& writes, const TagWrites& more) {
-  for (std::size_t i = 0; i < more.polygons.size(); ++i) writes.add(more.polygons[i], more.types[i], more.values[i]);
-}
 
 // The list of a custom popup; the name popup's for all others.
 ChooserList listOf(std::size_t number) {
@@ -48,7 +44,7 @@ CSkgPropPanel::CSkgPropPanel() {
 
 CSkgPropPanel::~CSkgPropPanel() {
   removePanel(this);
-  if (form_) form_->abandon();
+  if (form_) form_->release();
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -110,7 +106,7 @@ void CSkgPropPanel::closed() {
 // What the panel knows of the mesh, and what it shows of it
 
 void CSkgPropPanel::rescan() {
-  std::vector<PanelSkelegon> skelegons = scan();
+  std::vector<skg::SkelegonInfo> skelegons = scan();
   std::vector<std::string> layerNames = lw::LayerNames();
   choosers_.set(ChooserList::WeightMaps, weightMapChoices(lw::WeightMapNames()));
   skelegons_ = std::move(skelegons);
@@ -121,8 +117,8 @@ void CSkgPropPanel::rescan() {
 // Names change by other ways than ours too: whatever writes names looks first.
 void CSkgPropPanel::refreshNames() {
   std::unordered_map<lw::PolygonId, std::string> names;
-  for (PanelSkelegon& skelegon : scan()) names.emplace(skelegon.polygon, std::move(skelegon.name));
-  for (PanelSkelegon& skelegon : skelegons_) {
+  for (skg::SkelegonInfo& skelegon : scan()) names.emplace(skelegon.polygon, std::move(skelegon.name));
+  for (skg::SkelegonInfo& skelegon : skelegons_) {
     const auto found = names.find(skelegon.polygon);
     if (found != names.end()) skelegon.name = found->second;
   }
@@ -130,7 +126,7 @@ void CSkgPropPanel::refreshNames() {
 
 void CSkgPropPanel::refreshLists() {
   ChooserTexts all, selected;
-  for (const PanelSkelegon& skelegon : skelegons_) {
+  for (const skg::SkelegonInfo& skelegon : skelegons_) {
     all.push_back(skelegon.name);
     if (skelegon.isSelected) selected.push_back(skelegon.name);
   }
@@ -203,7 +199,7 @@ void CSkgPropPanel::chooseGroup(int group) {
 void CSkgPropPanel::writeName() {
   const std::string name = form_->storedText(control::kNameEdit);
   applyWrites(writesForName(skelegons_, name));
-  for (PanelSkelegon& skelegon : skelegons_) {
+  for (skg::SkelegonInfo& skelegon : skelegons_) {
     if (skelegon.isSelected) skelegon.name = name;
   }
   refreshLists();
@@ -258,7 +254,7 @@ void CSkgPropPanel::chooseWeightMap(std::size_t number) {
   form_->showText(Slot::BoneActive, active);
   form_->showText(Slot::WeightMap, map);
   TagWrites writes = writesForValue(skelegons_, Slot::BoneActive, active);
-  append(writes, writesForValue(skelegons_, Slot::WeightMap, map));
+  writes.append(writesForValue(skelegons_, Slot::WeightMap, map));
   applyWrites(writes);
   tell();
 }
@@ -305,13 +301,12 @@ void CSkgPropPanel::reset(const char* question, bool all) {
 // Called by the host and by other panels
 
 void CSkgPropPanel::OnUsed(lw::LWControl* control, void* user) {
-  lw::guarded([&] {
-    const auto* const link = static_cast<const ControlLink*>(user);
-    if (link == nullptr || !link->panel->life_.mayBeOpen()) return;
-    const CPropertyForm& form = *link->panel->form_;
-    if (!form.owns(link->number, control) || form.isSetting()) return;
-    const lw::CRaisedFlag busy(link->panel->isBusy_);
-    link->panel->use(link->number);
+  lw::onTool<ControlLink>(user, [&](const ControlLink& link) {
+    if (!link.panel->life_.mayBeOpen()) return;
+    const CPropertyForm& form = *link.panel->form_;
+    if (!form.owns(link.number, control) || form.isSetting()) return;
+    const lw::CRaisedFlag busy(link.panel->isBusy_);
+    link.panel->use(link.number);
   });
 }
 
@@ -333,29 +328,26 @@ const char* CSkgPropPanel::OnName(void* user, int index) {
       "");
 }
 
-void CSkgPropPanel::OnOpened(lw::PanelId panel, void* user) {
-  lw::guarded([&] {
-    auto* const self = static_cast<CSkgPropPanel*>(user);
-    if (self != nullptr && self->isPanel(panel) && self->life_.opened()) self->settle();
+void CSkgPropPanel::OnOpened(lw::PanelId id, void* user) {
+  lw::onTool<CSkgPropPanel>(user, [&](CSkgPropPanel& panel) {
+    if (panel.isPanel(id) && panel.life_.opened()) panel.settle();
   });
 }
 
-void CSkgPropPanel::OnClosed(lw::PanelId panel, void* user) {
-  lw::guarded([&] {
-    auto* const self = static_cast<CSkgPropPanel*>(user);
-    if (self != nullptr && self->isPanel(panel)) self->closed();
+void CSkgPropPanel::OnClosed(lw::PanelId id, void* user) {
+  lw::onTool<CSkgPropPanel>(user, [&](CSkgPropPanel& panel) {
+    if (panel.isPanel(id)) panel.closed();
   });
 }
 
 void CSkgPropPanel::OnNews(void* user, PanelNews news) {
-  lw::guarded([&] {
-    auto* const panel = static_cast<CSkgPropPanel*>(user);  // as it was entered
-    if (!panel->life_.mayBeOpen()) return;
+  lw::onTool<CSkgPropPanel>(user, [&](CSkgPropPanel& panel) {
+    if (!panel.life_.mayBeOpen()) return;
     switch (news) {
       case PanelNews::Refresh:
       case PanelNews::NamesChanged:
       case PanelNews::PropertiesChanged:
-      case PanelNews::SelectionChanged: panel->reload(); break;
+      case PanelNews::SelectionChanged: panel.reload(); break;
     }
   });
 }

@@ -91,7 +91,7 @@ class CSkgPropPanel {
   int group_ = 0;
   int widthToggle_ = 0;
 
-  std::vector<PanelSkelegon> skelegons_;
+  std::vector<skg::SkelegonInfo> skelegons_;
   std::vector<std::string> layerNames_;
   CChooserLists choosers_;
 };

@@ -38,8 +38,8 @@ constexpr int kFootButtonWidth = 65;
 constexpr int kGap = 2;  // between controls that belong together
 
 // Wide enough for whatever a scene may need: the host holds typed numbers to them.
-constexpr Range kBoneCounts = {0, 1000};
-constexpr Range kFrames = {-100000, 100000};
+constexpr forms::Range kBoneCounts = {0, 1000};
+constexpr forms::Range kFrames = {-100000, 100000};
 
 constexpr Place from(int row, int left, int right) { return {row, left, right - left, Place::By::HotArea}; }
 constexpr Place at(int row, int left, int width) { return {row, left, width, Place::By::HotArea}; }
@@ -70,7 +70,7 @@ class TableBuilder {
   // A setting in the control that its kind asks for.
   constexpr void value(Slot slot, Place place) { add(slot, controlFor(skg::rowOf(slot).kind), place, {}); }
   constexpr void shape(Slot slot, Place place) { add(slot, HostControl::BoolButton, place, {}); }
-  constexpr void slider(Slot slot, Range range, int row, int column) {
+  constexpr void slider(Slot slot, forms::Range range, int row, int column) {
     add(slot, HostControl::MiniSlider, at(row, column, kFieldWidth), range);
   }
   constexpr void flag(Slot slot, int row, int column) { value(slot, at(row, column, kCheckWidth)); }
@@ -97,7 +97,7 @@ class TableBuilder {
     throw "a reserved slot has no control";  // where the table is built, this does not compile
   }
 
-  constexpr void add(Slot slot, HostControl kind, Place place, Range range) {
+  constexpr void add(Slot slot, HostControl kind, Place place, forms::Range range) {
     add({0, section_, kind, Role::Value, slot, skg::rowOf(slot).choices, place, range});
   }
   constexpr void add(ControlRow row) {

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <optional>
 
+#include "forms/controls.h"
 #include "skelegon/slots.h"
 #include "texts/texts.h"
 
@@ -14,6 +15,7 @@ namespace mst {
 // A control is known by its number, which is its place in the order of creation and the key of the label tables.
 inline constexpr std::size_t kControlCount = 192;
 
+using forms::HostControl;
 using skg::ValueKind;
 
 // When a control is shown, and from where its rows are counted.
@@ -31,23 +33,6 @@ enum class Section : std::size_t {
   ScaleGroup,
 };
 inline constexpr std::size_t kSectionCount = 11;
-
-// The kinds of the host's controls that the panel uses.
-enum class HostControl {
-  Angle,
-  Bool,
-  BoolButton,
-  Border,
-  Button,
-  CustomPopup,
-  Distance,
-  Edit,
-  Float,
-  MiniSlider,
-  Percent,
-  Popup,
-  Tabs,
-};
 
 // What happens when the user uses a control.
 enum class Role {
@@ -79,12 +64,6 @@ struct Place {
   By by = By::HotArea;
 };
 
-// The least and the greatest number that a slider takes.
-struct Range {
-  int least = 0;
-  int greatest = 0;
-};
-
 struct ControlRow {
   std::size_t number = 0;
   Section section = Section::Head;
@@ -93,7 +72,7 @@ struct ControlRow {
   std::optional<skg::Slot> slot;             // the setting that it shows; none for all but values
   std::optional<texts::ChoiceList> choices;  // of popups and tabs with a fixed list
   Place place;
-  Range range;  // of sliders for whole numbers
+  forms::Range range;  // of sliders for whole numbers
 };
 
 const std::array<ControlRow, kControlCount>& controlTable();

@@ -33,47 +33,37 @@ constexpr int kHandleWidth = 20;
 
 }  // namespace
 
-CPropertyForm::CPropertyForm(const char* title, const lw::PropertyTexts& texts, const FormHooks& hooks) : panel_(title) {
+CPropertyForm::CPropertyForm(const char* title, const lw::PropertyTexts& texts, const FormHooks& hooks) : CPanel(title) {
   for (const ControlRow& row : controlTable()) controls_[row.number] = make(row, texts, hooks.lists);
   for (const ControlRow& row : controlTable()) {
     place(row);
     controls_[row.number].setUser(hooks.controlUsers[row.number]);
     if (row.role != Role::Decoration) controls_[row.number].onEvent(hooks.used);
   }
-  panel_.setUser(hooks.panelUser);
-  panel_.onOpen(hooks.opened);
-  panel_.onClose(hooks.closed);
-  panel_.setSize(kPropertyWidth, kPropertyHeight);
+  setUser(hooks.panelUser);
+  onOpen(hooks.opened);
+  onClose(hooks.closed);
+  setSize(kPropertyWidth, kPropertyHeight);
 }
 
 lw::CControl CPropertyForm::make(const ControlRow& row, const lw::PropertyTexts& texts, lw::PopupFunctions lists) const {
-  const char* const label = (*texts.labels)[row.number];
-  const int width = row.place.width;
-  const auto choices = [&] { return texts.choices.at(static_cast<std::size_t>(row.choices.value())); };
-  switch (row.kind) {
-    case HostControl::Angle: return panel_.addAngle(label);
-    case HostControl::Bool: return panel_.addBool(label);
-    case HostControl::BoolButton: return panel_.addBoolButton(label, width);
-    case HostControl::Border: return panel_.addBorder(width, heightOf(row));
-    case HostControl::Button: return panel_.addButton(label, width);
-    case HostControl::CustomPopup: return panel_.addCustomPopup(label, width, lists);
-    case HostControl::Distance: return panel_.addDistance(label);
-    case HostControl::Edit: return panel_.addEdit(label, charactersIn(width));
-    case HostControl::Float: return panel_.addFloat(label);
-    case HostControl::MiniSlider:
-      return panel_.addMiniSlider(label, width - kHandleWidth, row.range.least, row.range.greatest);
-    case HostControl::Percent: return panel_.addPercent(label);
-    case HostControl::Popup: return panel_.addPopup(label, width, choices());
-    case HostControl::Tabs: return panel_.addTabs(label, choices());
-  }
-  return {};
+  lw::NewControl control{.kind = row.kind, .label = (*texts.labels)[row.number], .width = row.place.width};
+  control.height = heightOf(row);
+  control.range = row.range;
+  control.functions = lists;
+  if (row.choices) control.choices = texts.choices.at(static_cast<std::size_t>(*row.choices));
+  if (row.kind == HostControl::Border) control.label = "";
+  if (row.kind == HostControl::Edit) control.width = charactersIn(row.place.width);
+  if (row.kind == HostControl::MiniSlider) control.width -= kHandleWidth;
+  return add(control);
 }
 
 void CPropertyForm::place(const ControlRow& row) const {
   const lw::CControl& control = controls_[row.number];
   // Check marks and tabs are as wide as the host makes them.
   if (row.place.width > 0 && row.kind != HostControl::Bool) control.setHotWidth(row.place.width);
-  const Position position = positionOf(row, {control.measure(lw::kControlWidth), control.measure(lw::kControlLabelWidth)});
+  const forms::Position position =
+      positionOf(row, {control.measure(lw::kControlWidth), control.measure(lw::kControlLabelWidth)});
   control.moveTo(position.x, position.y);
 }
 

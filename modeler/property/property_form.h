@@ -23,20 +23,14 @@ struct FormHooks {
   std::array<void*, kControlCount> controlUsers;  // by control number
 };
 
-class CPropertyForm {
+class CPropertyForm : public lw::CPanel {
  public:
   // Makes the panel, not yet open. The title must outlive it. Throws CBaseEx when the host refuses something.
   CPropertyForm(const char* title, const lw::PropertyTexts& texts, const FormHooks& hooks);
 
   // What is seen: the controls of a page and, on the last, of a group; and of the name's two controls one.
   void show(int page, int group, bool nameCanBeEdited) const;
-  void setSize(int width, int height) const { panel_.setSize(width, height); }
-  void bringToFront() const { panel_.bringToFront(); }
-  int open() const { return panel_.open(lw::kOpenNoButtons); }
-  void close() const { panel_.close(); }
-  bool is(lw::PanelId panel) const { return panel_.is(panel); }
-  // Leaves the host's panel to the host: for the module's end, when nothing of the host may be called any more.
-  void abandon() { panel_.release(); }
+  int open() const { return CPanel::open(lw::kOpenNoButtons); }
 
   bool owns(std::size_t number, const lw::LWControl* control) const { return controls_[number].is(control); }
 
@@ -60,7 +54,6 @@ class CPropertyForm {
   void place(const ControlRow& row) const;
   void setValue(std::size_t number, const std::string& text) const;
 
-  lw::CPanel panel_;
   std::array<lw::CControl, kControlCount> controls_;
   bool isSetting_ = false;
 };

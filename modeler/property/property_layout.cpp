@@ -75,7 +75,7 @@ bool isShown(const ControlRow& row, int page, int group) {
   return isOneOf(section.page, page) && isOneOf(section.group, group);
 }
 
-Position positionOf(const ControlRow& row, const Measured& measured) {
+forms::Position positionOf(const ControlRow& row, const forms::Measured& measured) {
   const SectionRow& section = sectionOf(row);
   const int y = yOfRow(section.top, section.blocks, row.place.row);
   if (row.place.by == Place::By::RightEdge) return {row.place.x - measured.width, y};

@@ -18,18 +18,8 @@ inline constexpr int kMotionGroupCount = static_cast<int>(skg::kMotionGroupCount
 // Whether a control is to be seen while a page and, on the last page, a group is chosen.
 bool isShown(const ControlRow& row, int page, int group);
 
-// What the host says of a control, in pixels.
-struct Measured {
-  int width = 0;       // of the whole, label included
-  int labelWidth = 0;  // 0 for a control that draws its label inside
-};
-
-// The upper left corner of a whole control.
-struct Position {
-  int x = 0;
-  int y = 0;
-};
-Position positionOf(const ControlRow& row, const Measured& measured);
+// Where the upper left corner of a whole control goes.
+forms::Position positionOf(const ControlRow& row, const forms::Measured& measured);
 
 // The height of a control, where the host has to be told one; 0 where it has its own.
 int heightOf(const ControlRow& row);

@@ -24,26 +24,18 @@ TagWrites writesToLiving(lw::CMeshEdit& edit, const TagWrites& writes) {
   const lw::PolygonSet living = edit.skelegonsAmong(writes.polygons);
   TagWrites kept;
   for (std::size_t i = 0; i < writes.polygons.size(); ++i) {
-    if (living.count(writes.polygons[i]) != 0) kept.add(writes.polygons[i], writes.types[i], writes.values[i]);
+    if (living.count(writes.polygons[i]) != 0) kept.add(writes.polygons[i], writes.types[i], writes.texts[i]);
   }
   return kept;
 }
 
 }  // namespace
 
-std::vector<PanelSkelegon> ScanPanelSkelegons() {
-  std::vector<lw::SkelegonInfo> scanned = lw::ScanSkelegons(lw::kLayersForeground, kPanelReport);
-  std::vector<PanelSkelegon> skelegons;
-  skelegons.reserve(scanned.size());
-  for (lw::SkelegonInfo& info : scanned) {
-    skelegons.push_back({info.polygon, std::move(info.name), info.layer, info.isSelected});
-  }
-  return skelegons;
-}
+std::vector<skg::SkelegonInfo> ScanPanelSkelegons() { return lw::ScanSkelegons(lw::kLayersForeground, kPanelReport); }
 
 lw::PolygonIds selectedPolygons(PanelSkelegons skelegons) {
   lw::PolygonIds polygons;
-  for (const PanelSkelegon& skelegon : skelegons) {
+  for (const skg::SkelegonInfo& skelegon : skelegons) {
     if (skelegon.isSelected) polygons.push_back(skelegon.polygon);
   }
   return polygons;
@@ -82,7 +74,7 @@ void applyWrites(const TagWrites& writes) {
   if (writes.empty()) return;
   lw::CMeshEdit edit(lw::kEditForTags);
   const TagWrites living = writesToLiving(edit, writes);
-  lw::WritePolygonTags(edit, living.polygons, living.types, living.values);
+  lw::WritePolygonTags(edit, living.polygons, living.types, living.texts);
   edit.done();
 }
 

@@ -17,18 +17,13 @@
 
 namespace mst {
 
-// A skelegon as the property panel knows it from its last scan.
-struct PanelSkelegon {
-  lw::PolygonId polygon = nullptr;
-  std::string name;  // empty when it has no name tag
-  int layer = 0;
-  bool isSelected = false;
-};
-using PanelSkelegons = std::span<const PanelSkelegon>;
+// As the panel knows them from its last scan.
+using PanelSkelegons = std::span<const skg::SkelegonInfo>;
+using lw::TagWrites;
 
 // The skelegons of the foreground layers as they are now. A polygon without a record is reported and ends the scan; what was
 // found is given. Throws CBaseEx.
-std::vector<PanelSkelegon> ScanPanelSkelegons();
+std::vector<skg::SkelegonInfo> ScanPanelSkelegons();
 
 lw::PolygonIds selectedPolygons(PanelSkelegons skelegons);
 
@@ -48,16 +43,6 @@ std::string_view colourName(int colourIndex);  // empty for an index that is non
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Writing
-
-// Tags to write: polygon, type and text at the same index. An empty text blanks the host's own tags and removes others.
-struct TagWrites {
-  lw::PolygonIds polygons;
-  lw::TagTypes types;
-  lw::TagTexts values;
-
-  void add(lw::PolygonId polygon, std::uint32_t type, std::string_view value);
-  bool empty() const { return polygons.empty(); }
-};
 
 // A control's value, as text. The default text is not stored. Object-wide settings go to every skelegon given, selected or
 // not, in a layer that has a selected one, since each layer becomes one object in Layout. Nothing for reserved slots.

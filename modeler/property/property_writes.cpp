@@ -18,7 +18,7 @@ constexpr bool isKeptFromHost(std::string_view colour) { return colour == "DkCyn
 
 template <class Write>
 void forSelected(PanelSkelegons skelegons, Write&& write) {
-  for (const PanelSkelegon& skelegon : skelegons) {
+  for (const skg::SkelegonInfo& skelegon : skelegons) {
     if (skelegon.isSelected) write(skelegon);
   }
 }
@@ -26,21 +26,15 @@ void forSelected(PanelSkelegons skelegons, Write&& write) {
 lw::PolygonIds targetsOf(PanelSkelegons skelegons, Slot slot) {
   if (skg::rowOf(slot).scope != skg::Scope::Layer) return selectedPolygons(skelegons);
   std::set<int> layers;
-  forSelected(skelegons, [&](const PanelSkelegon& selected) { layers.insert(selected.layer); });
+  forSelected(skelegons, [&](const skg::SkelegonInfo& selected) { layers.insert(selected.layer); });
   lw::PolygonIds polygons;
-  for (const PanelSkelegon& skelegon : skelegons) {
+  for (const skg::SkelegonInfo& skelegon : skelegons) {
     if (layers.count(skelegon.layer) != 0) polygons.push_back(skelegon.polygon);
   }
   return polygons;
 }
 
 }  // namespace
-
-void TagWrites::add(lw::PolygonId polygon, std::uint32_t type, std::string_view value) {
-  polygons.push_back(polygon);
-  types.push_back(type);
-  values.emplace_back(value);
-}
 
 TagWrites writesForValue(PanelSkelegons skelegons, Slot slot, std::string_view text) {
   TagWrites writes;
@@ -52,7 +46,7 @@ TagWrites writesForValue(PanelSkelegons skelegons, Slot slot, std::string_view t
 
 TagWrites writesForName(PanelSkelegons skelegons, std::string_view name) {
   TagWrites writes;
-  forSelected(skelegons, [&](const PanelSkelegon& skelegon) {
+  forSelected(skelegons, [&](const skg::SkelegonInfo& skelegon) {
     writes.add(skelegon.polygon, lw::kTagBone, name);
     writes.add(skelegon.polygon, lw::kTagPart, name);
   });
@@ -63,7 +57,7 @@ TagWrites writesForColour(PanelSkelegons skelegons, int colourIndex) {
   // Not compared with the default: "Modeler" is stored as that word.
   const std::string_view colour = colourName(colourIndex);
   TagWrites writes;
-  forSelected(skelegons, [&](const PanelSkelegon& skelegon) {
+  forSelected(skelegons, [&](const skg::SkelegonInfo& skelegon) {
     writes.add(skelegon.polygon, skg::kColourCopyTag, colour);
     writes.add(skelegon.polygon, lw::kTagColour, isKeptFromHost(colour) ? std::string_view() : colour);
   });
@@ -74,7 +68,7 @@ TagWrites writesForLinkedNames(PanelSkelegons skelegons, Slot slot) {
   TagWrites writes;
   const skg::LinkedItem* const item = skg::linkedItemOf(slot);
   if (item == nullptr) return writes;
-  forSelected(skelegons, [&](const PanelSkelegon& skelegon) {
+  forSelected(skelegons, [&](const skg::SkelegonInfo& skelegon) {
     writes.add(skelegon.polygon, skg::plainSlotTagId(indexOf(slot)), skelegon.name + item->suffix);
   });
   return writes;
@@ -83,7 +77,7 @@ TagWrites writesForLinkedNames(PanelSkelegons skelegons, Slot slot) {
 TagWrites writesForWeightMapsByName(PanelSkelegons skelegons, const std::vector<std::string>& mapNames) {
   const std::unordered_set<std::string_view> maps(mapNames.begin(), mapNames.end());
   TagWrites writes;
-  forSelected(skelegons, [&](const PanelSkelegon& skelegon) {
+  forSelected(skelegons, [&](const skg::SkelegonInfo& skelegon) {
     const bool hasMap = maps.count(skelegon.name) != 0;
     // Stored as it stands, though "1" is the default.
     writes.add(skelegon.polygon, skg::SlotTagId(Slot::BoneActive), hasMap ? "1" : "0");
@@ -95,7 +89,7 @@ TagWrites writesForWeightMapsByName(PanelSkelegons skelegons, const std::vector<
 TagWrites writesForControllerPreset(PanelSkelegons skelegons, skg::MotionGroup group, Controller controller) {
   const std::string value = formatInteger(static_cast<int>(controller));  // stored even where it is the default
   TagWrites writes;
-  forSelected(skelegons, [&](const PanelSkelegon& skelegon) {
+  forSelected(skelegons, [&](const skg::SkelegonInfo& skelegon) {
     for (const skg::AxisSettings& axis : skg::kAxes) {
       if (axis.group == group) writes.add(skelegon.polygon, skg::SlotTagId(axis.controller), value);
     }

@@ -30,7 +30,7 @@ RenamerPanel::RenamerPanel() { enterPanel(this, &OnNews); }
 
 RenamerPanel::~RenamerPanel() {
   removePanel(this);
-  if (form_) form_->abandon();
+  if (form_) form_->release();
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -152,32 +152,28 @@ RenameResult RenamerPanel::runPass(RenameMode mode) const {
 // Called by the host and by other panels
 
 void RenamerPanel::OnUsed(lw::LWControl* control, void* user) {
-  lw::guarded([&] {
-    auto* const panel = static_cast<RenamerPanel*>(user);
-    if (panel == nullptr || !panel->life_.mayBeOpen() || panel->form_->isSetting()) return;
-    const lw::CRaisedFlag busy(panel->isBusy_);
-    panel->use(control);
+  lw::onTool<RenamerPanel>(user, [&](RenamerPanel& panel) {
+    if (!panel.life_.mayBeOpen() || panel.form_->isSetting()) return;
+    const lw::CRaisedFlag busy(panel.isBusy_);
+    panel.use(control);
   });
 }
 
-void RenamerPanel::OnOpened(lw::PanelId panel, void* user) {
-  lw::guarded([&] {
-    auto* const self = static_cast<RenamerPanel*>(user);
-    if (self != nullptr && self->isPanel(panel) && self->life_.opened()) self->form_->takeSize(self->mode_);
+void RenamerPanel::OnOpened(lw::PanelId id, void* user) {
+  lw::onTool<RenamerPanel>(user, [&](RenamerPanel& panel) {
+    if (panel.isPanel(id) && panel.life_.opened()) panel.form_->takeSize(panel.mode_);
   });
 }
 
-void RenamerPanel::OnClosed(lw::PanelId panel, void* user) {
-  lw::guarded([&] {
-    auto* const self = static_cast<RenamerPanel*>(user);
-    if (self != nullptr && self->isPanel(panel)) self->life_.closed();
+void RenamerPanel::OnClosed(lw::PanelId id, void* user) {
+  lw::onTool<RenamerPanel>(user, [&](RenamerPanel& panel) {
+    if (panel.isPanel(id)) panel.life_.closed();
   });
 }
 
 void RenamerPanel::OnNews(void* user, PanelNews /*news*/) {
-  lw::guarded([&] {
-    auto* const panel = static_cast<RenamerPanel*>(user);  // as it was entered
-    if (panel->life_.mayBeOpen()) panel->showRegistered();
+  lw::onTool<RenamerPanel>(user, [&](RenamerPanel& panel) {
+    if (panel.life_.mayBeOpen()) panel.showRegistered();
   });
 }
 

@@ -11,19 +11,6 @@
 namespace mst {
 namespace {
 
-// Tags by polygon, type and text, at the same index.
-struct Tags {
-  lw::PolygonIds polygons;
-  lw::TagTypes types;
-  lw::TagTexts texts;
-
-  void add(lw::PolygonId polygon, std::uint32_t type, std::string text) {
-    polygons.push_back(polygon);
-    types.push_back(type);
-    texts.push_back(std::move(text));
-  }
-};
-
 // An invalid pattern is an answer for the user and no failure.
 template <class Pass>
 RenameResult answeringBadPatterns(Pass&& pass) {
@@ -37,7 +24,7 @@ RenameResult answeringBadPatterns(Pass&& pass) {
 RenameOutcome simplePass(CSimpleRule& rule, bool withProperties) {
   const lw::PolygonIds selected = selectedForRenaming();
   if (selected.empty()) return RenameOutcome::NoSkelegons;
-  Tags tags;
+  lw::TagWrites tags;
   for (const lw::PolygonId polygon : selected) {
     for (std::size_t i = 0; i < (withProperties ? kSimpleModeSlots.size() : 1); ++i) {
       tags.add(polygon, skg::SlotTagId(kSimpleModeSlots[i]), {});
@@ -62,13 +49,14 @@ lw::TagTypes typesToRename(const RenamerSettings& settings) {
 }
 
 // [edit open] The tags that change, in the order in which they are written.
-Tags changedTags(const lw::MeshEditOp& edit, const skg::SkelegonNodes& targets, const lw::TagTypes& types, CNameRule& rule) {
-  Tags changed;
+lw::TagWrites changedTags(const lw::MeshEditOp& edit, const skg::SkelegonNodes& targets, const lw::TagTypes& types,
+                          CNameRule& rule) {
+  lw::TagWrites changed;
   for (const skg::SkelegonNode* const target : targets) {
     for (const std::uint32_t type : types) {
       const std::string old = lw::polygonTag(edit, target->polygon, type).value_or(std::string());
-      std::string text = rule.newText(old, target->column, target->row);
-      if (text != old) changed.add(target->polygon, type, std::move(text));
+      const std::string text = rule.newText(old, target->column, target->row);
+      if (text != old) changed.add(target->polygon, type, text);
     }
   }
   return changed;
@@ -80,8 +68,8 @@ Tags changedTags(const lw::MeshEditOp& edit, const skg::SkelegonNodes& targets, 
   lw::throwReported(message);
 }
 
-void write(const Tags& tags) {
-  if (tags.polygons.empty()) return;
+void write(const lw::TagWrites& tags) {
+  if (tags.empty()) return;
   lw::CEditRecord record;
   if (lw::BeginEditInRecord(record, lw::kEditForTags) == nullptr) lw::throwReported("editBegin() !");
   for (std::size_t i = 0; i < tags.polygons.size(); ++i) {
@@ -93,7 +81,7 @@ void write(const Tags& tags) {
 
 // [edit open in the record] What a run would write.
 RenameOutcome planned(lw::CEditRecord& record, const RenamerSettings& settings, const lw::PolygonIds& selected,
-                      const lw::PolygonIds& registered, Tags& changed) {
+                      const lw::PolygonIds& registered, lw::TagWrites& changed) {
   const lw::PolygonIds all = lw::CollectAllInEdit(record);
   if (record.error != lw::kEditNoError) endAndThrow(record, record.error, "fastPolyScan() !");
   const skg::SkelegonList skelegons = BuildSkelegonList(*record.edit, all);
@@ -112,7 +100,7 @@ RenameOutcome advancedPass(const RenamerSettings& settings, const lw::PolygonIds
   const lw::PolygonIds selected = settings.target == RenameTarget::Selection ? selectedForRenaming() : lw::PolygonIds();
   lw::CEditRecord record;
   if (lw::BeginEditInRecord(record, lw::kEditForTags) == nullptr) return RenameOutcome::NoSkelegons;
-  Tags changed;
+  lw::TagWrites changed;
   const RenameOutcome outcome = planned(record, settings, selected, registered, changed);
   lw::EndEditInRecord(record);
   write(changed);

@@ -5,7 +5,7 @@ namespace {
 
 using By = RenamerPlace::By;
 using Item = RenamerItem;
-using Kind = RenamerKind;
+using Kind = HostControl;
 using List = texts::RenamerList;
 using Block = RenamerBlock;
 
@@ -30,7 +30,7 @@ constexpr std::array<RenamerRow, kRenamerItemCount> kTable = {{
     {Item::RegisteredCount,   Kind::NumberInfo, 17,           0,  labelled(96),                0,     "",                   {}},
     {Item::Add,               Kind::Button,     18,          60,  at(188, 96),                 0,     "",                   {}},
     {Item::Clear,             Kind::Button,     19,          40,  at(248, 96),                 0,     "",                   {}},
-    {Item::ConversionHeading, Kind::Heading,    3,            0,  at(4, 120),                  0,     "",                   {}},
+    {Item::ConversionHeading, Kind::Text,       3,            0,  at(4, 120),                  0,     "",                   {}},
     {Item::BaseNameOn,        Kind::Bool,       4,            0,  at(4, 142, Block::Names),    0,     "",                   {}},
     {Item::BaseName,          Kind::Edit,       kNoLabel,    34,  beside(Block::Names, 142),   0,     "Bone01_[col]_[row]", {}},
     {Item::PrefixOn,          Kind::Bool,       6,            0,  at(4, 166, Block::Names),    0,     "",                   {}},
@@ -50,7 +50,7 @@ constexpr std::array<RenamerRow, kRenamerItemCount> kTable = {{
     {Item::RowOn,             Kind::Bool,       25,           0,  at(4, 402, Block::Rows),     0,     "",                   {}},
     {Item::RowDigits,         Kind::Number,     26,           0,  beside(Block::Rows, 402),    2,     "",                   {}},
     {Item::RowStart,          Kind::Number,     27,           0,  beside(Block::Rows, 424),    1,     "",                   {}},
-    {Item::TagHeading,        Kind::Heading,    28,           0,  at(4, 460),                  0,     "",                   {}},
+    {Item::TagHeading,        Kind::Text,       28,           0,  at(4, 460),                  0,     "",                   {}},
     {Item::SkelegonName,      Kind::Bool,       29,           0,  at(100, 460),                1,     "",                   {}},
     {Item::WeightMap,         Kind::Bool,       30,           0,  at(100, 482),                1,     "",                   {}},
     {Item::BoneProperty,      Kind::Bool,       31,           0,  at(100, 504),                0,     "",                   {}},
@@ -63,7 +63,7 @@ constexpr std::array<RenamerRow, kRenamerItemCount> kTable = {{
 constexpr bool rowsStandInOrder() {
   for (std::size_t i = 0; i < kTable.size(); ++i) {
     if (indexOf(kTable[i].item) != i) return false;
-    if ((kTable[i].kind == RenamerKind::Popup) != kTable[i].choices.has_value()) return false;
+    if ((kTable[i].kind == HostControl::Popup) != kTable[i].choices.has_value()) return false;
   }
   return true;
 }

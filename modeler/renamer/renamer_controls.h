@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <optional>
 
+#include "forms/controls.h"
 #include "texts/texts.h"
 
 namespace mst {
@@ -50,8 +51,7 @@ enum class RenamerItem : std::size_t {
 inline constexpr std::size_t kRenamerItemCount = 34;
 constexpr std::size_t indexOf(RenamerItem item) { return static_cast<std::size_t>(item); }
 
-// The kinds of the host's controls that the panel uses.
-enum class RenamerKind { Bool, Border, Button, Edit, Heading, Number, NumberInfo, Popup };
+using forms::HostControl;
 
 // Controls beside a check mark line up with each other, block by block.
 enum class RenamerBlock { None, Names, Columns, Rows };
@@ -69,7 +69,7 @@ struct RenamerPlace {
 
 struct RenamerRow {
   RenamerItem item = RenamerItem::Mode;
-  RenamerKind kind = RenamerKind::Border;
+  HostControl kind = HostControl::Border;
   std::optional<std::size_t> label;  // place in the label table; none: no label
   int width = 0;                     // of the hot area in pixels, of fields in characters; 0: the host's
   RenamerPlace place;

@@ -1,6 +1,7 @@
 #include "modeler/renamer/renamer_form.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "host/raised_flag.h"
 
@@ -12,9 +13,9 @@ bool acts(RenamerItem item) {
   return item == RenamerItem::Mode || item == RenamerItem::Add || item == RenamerItem::Clear || item == RenamerItem::Run;
 }
 
-bool holdsNumber(RenamerKind kind) {
-  return kind == RenamerKind::Bool || kind == RenamerKind::Number || kind == RenamerKind::NumberInfo ||
-         kind == RenamerKind::Popup;
+bool holdsNumber(HostControl kind) {
+  return kind == HostControl::Bool || kind == HostControl::Number || kind == HostControl::NumberInfo ||
+         kind == HostControl::Popup;
 }
 
 // Of a list, an index of one of its entries; of all others, any number.
@@ -26,11 +27,11 @@ bool isChoice(const RenamerRow& row, int number) {
 
 }  // namespace
 
-CRenamerForm::CRenamerForm(const char* title, const lw::RenamerTexts& texts, const RenamerHooks& hooks) : panel_(title) {
+CRenamerForm::CRenamerForm(const char* title, const lw::RenamerTexts& texts, const RenamerHooks& hooks) : CPanel(title) {
   for (const RenamerRow& row : renamerTable()) controls_[indexOf(row.item)] = make(row, texts);
   for (const RenamerRow& row : renamerTable()) {
     at(row.item).setUser(hooks.user);
-    if (row.kind == RenamerKind::Edit) setText(row.item, row.text, false);
+    if (row.kind == HostControl::Edit) setText(row.item, row.text, false);
     if (row.number != 0) setNumber(row.item, row.number, false);
     if (acts(row.item)) at(row.item).onEvent(hooks.used);
   }
@@ -39,33 +40,27 @@ CRenamerForm::CRenamerForm(const char* title, const lw::RenamerTexts& texts, con
   for (std::size_t i = 0; i < kRenamerItemCount; ++i) {
     homes_[i] = {controls_[i].measure(lw::kControlX), controls_[i].measure(lw::kControlY)};
   }
-  panel_.setUser(hooks.user);
-  panel_.onOpen(hooks.opened);
-  panel_.onClose(hooks.closed);
-  panel_.setGreatestSize(kOutOfSight.x, kOutOfSight.y);
+  setUser(hooks.user);
+  onOpen(hooks.opened);
+  onClose(hooks.closed);
+  setGreatestSize(kOutOfSight.x, kOutOfSight.y);
   lookLike(RenameMode::Change, false);
 }
 
 lw::CControl CRenamerForm::make(const RenamerRow& row, const lw::RenamerTexts& texts) {
-  const char* const label = row.label ? (*texts.labels)[*row.label] : "";
-  const auto choices = [&] { return texts.choices.at(static_cast<std::size_t>(row.choices.value())); };
-  switch (row.kind) {
-    case RenamerKind::Bool: return panel_.addBool(label);
-    case RenamerKind::Border: return panel_.addBorder(row.width, kRenamerBorderHeight);
-    case RenamerKind::Button: return panel_.addButton(label, row.width);
-    case RenamerKind::Edit: return panel_.addEdit(label, row.width);
-    case RenamerKind::Heading:
-      headings_[indexOf(row.item)] = {label, nullptr};
-      return panel_.addText(headings_[indexOf(row.item)].data());
-    case RenamerKind::Number: return panel_.addNumber(label);
-    case RenamerKind::NumberInfo: return panel_.addNumberInfo(label);
-    case RenamerKind::Popup: return panel_.addPopup(label, row.width, choices());
+  lw::NewControl control{.kind = row.kind, .label = row.label ? (*texts.labels)[*row.label] : "", .width = row.width};
+  if (row.kind == HostControl::Border) control.height = kRenamerBorderHeight;
+  if (row.kind == HostControl::Text) {  // the label is the text
+    Lines& lines = headings_[indexOf(row.item)];
+    lines = {std::exchange(control.label, ""), nullptr};
+    control.lines = lines.data();
   }
-  return {};
+  if (row.choices) control.choices = texts.choices.at(static_cast<std::size_t>(*row.choices));
+  return add(control);
 }
 
 void CRenamerForm::placeAtHome() const {
-  std::array<RenamerMeasure, kRenamerItemCount> measures;
+  std::array<forms::Measured, kRenamerItemCount> measures;
   for (std::size_t i = 0; i < kRenamerItemCount; ++i) {
     measures[i] = {controls_[i].measure(lw::kControlWidth), controls_[i].measure(lw::kControlLabelWidth)};
   }
@@ -78,7 +73,7 @@ void CRenamerForm::placeAtHome() const {
 void CRenamerForm::lookLike(RenameMode mode, bool isOpen) const {
   if (isOpen) showAll(false);
   for (const RenamerRow& row : renamerTable()) {
-    const RenamerPosition position = renamerPosition(row.item, mode, homes_[indexOf(row.item)]);
+    const forms::Position position = renamerPosition(row.item, mode, homes_[indexOf(row.item)]);
     at(row.item).moveTo(position.x, position.y);
   }
   takeSize(mode);
@@ -95,7 +90,7 @@ RenamerValues CRenamerForm::values() const {
   RenamerValues values;
   for (const RenamerRow& row : renamerTable()) {
     if (holdsNumber(row.kind)) values.numbers[indexOf(row.item)] = number(row.item);
-    if (row.kind == RenamerKind::Edit) values.texts[indexOf(row.item)] = text(row.item);
+    if (row.kind == HostControl::Edit) values.texts[indexOf(row.item)] = text(row.item);
   }
   return values;
 }
@@ -104,7 +99,7 @@ void CRenamerForm::takeValues(const RenamerValues& values) {
   for (const RenamerRow& row : renamerTable()) {
     const std::size_t i = indexOf(row.item);
     if (holdsNumber(row.kind) && isChoice(row, values.numbers[i])) setNumber(row.item, values.numbers[i], false);
-    if (row.kind == RenamerKind::Edit) setText(row.item, values.texts[i], false);
+    if (row.kind == HostControl::Edit) setText(row.item, values.texts[i], false);
   }
 }
 

@@ -27,24 +27,16 @@ struct RenamerValues {
   std::array<std::string, kRenamerItemCount> texts;
 };
 
-class CRenamerForm {
+class CRenamerForm : public lw::CPanel {
  public:
   // Makes the panel with the defaults, not yet open, in the layout of the first mode. The title must outlive it. Throws
   // CBaseEx when the host refuses something.
   CRenamerForm(const char* title, const lw::RenamerTexts& texts, const RenamerHooks& hooks);
-  CRenamerForm(const CRenamerForm&) = delete;
-  CRenamerForm& operator=(const CRenamerForm&) = delete;
 
   // Resizable, for only then the size can change while it is open.
-  int open() const { return panel_.open(lw::kOpenNoButtons | lw::kOpenResizable); }
-  void close() const { panel_.close(); }
-  bool is(lw::PanelId panel) const { return panel_.is(panel); }
-  void bringToFront() const { panel_.bringToFront(); }
-  void redraw() const { panel_.redraw(); }
-  // Leaves the host's panel to the host: for the module's end, when nothing of the host may be called any more.
-  void abandon() { panel_.release(); }
+  int open() const { return CPanel::open(lw::kOpenNoButtons | lw::kOpenResizable); }
 
-  void takeSize(RenameMode mode) const { panel_.setSize(kRenamerWidth, renamerHeight(mode)); }
+  void takeSize(RenameMode mode) const { setSize(kRenamerWidth, renamerHeight(mode)); }
   // Moves the controls to where they stand in a mode and sets the panel's size. `isOpen`: the panel is on the screen.
   void lookLike(RenameMode mode, bool isOpen) const;
 
@@ -74,7 +66,6 @@ class CRenamerForm {
   const lw::CControl& at(RenamerItem item) const { return controls_[indexOf(item)]; }
   bool isOn(RenamerItem item) const { return number(item) != 0; }
 
-  lw::CPanel panel_;
   std::array<Lines, kRenamerItemCount> headings_{};  // the host may keep pointers to them
   std::array<lw::CControl, kRenamerItemCount> controls_;
   RenamerPositions homes_{};

@@ -5,7 +5,7 @@
 namespace mst {
 namespace {
 
-using Measures = std::array<RenamerMeasure, kRenamerItemCount>;
+using Measures = std::array<forms::Measured, kRenamerItemCount>;
 
 constexpr int kGap = 4;  // between check marks and what is beside them
 
@@ -15,7 +15,7 @@ int hotColumn(RenamerBlock block, const Measures& measures) {
   int labels = 0;
   for (const RenamerRow& row : renamerTable()) {
     if (row.place.block != block) continue;
-    const RenamerMeasure& measure = measures[indexOf(row.item)];
+    const forms::Measured& measure = measures[indexOf(row.item)];
     if (row.place.by == RenamerPlace::By::Beside) {
       labels = std::max(labels, measure.labelWidth);
     } else {
@@ -41,8 +41,8 @@ RenamerPositions renamerHomes(const Measures& measures) {
   return homes;
 }
 
-RenamerPosition renamerPosition(RenamerItem item, RenameMode mode, RenamerPosition home) {
-  constexpr RenamerPosition kSimpleBoneProperty = {100, 72};
+forms::Position renamerPosition(RenamerItem item, RenameMode mode, forms::Position home) {
+  constexpr forms::Position kSimpleBoneProperty = {100, 72};
   constexpr int kRaised = kRenamerAdvancedHeight - kRenamerSimpleHeight;
   const bool simple = isSimple(mode);
   switch (item) {
@@ -51,7 +51,7 @@ RenamerPosition renamerPosition(RenamerItem item, RenameMode mode, RenamerPositi
     case RenamerItem::SecondText: return hasTwoTexts(mode) ? home : kOutOfSight;
     case RenamerItem::BoneProperty: return simple ? kSimpleBoneProperty : home;
     case RenamerItem::Border:
-    case RenamerItem::Run: return simple ? RenamerPosition{home.x, home.y - kRaised} : home;
+    case RenamerItem::Run: return simple ? forms::Position{home.x, home.y - kRaised} : home;
     default: return simple ? kOutOfSight : home;
   }
 }

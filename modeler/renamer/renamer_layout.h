@@ -16,27 +16,15 @@ inline constexpr int kRenamerBorderHeight = 30;
 constexpr bool isSimple(RenameMode mode) { return mode != RenameMode::Advanced; }
 constexpr int renamerHeight(RenameMode mode) { return isSimple(mode) ? kRenamerSimpleHeight : kRenamerAdvancedHeight; }
 
-// The upper left corner of a whole control.
-struct RenamerPosition {
-  int x = 0;
-  int y = 0;
-  friend bool operator==(RenamerPosition a, RenamerPosition b) { return a.x == b.x && a.y == b.y; }
-};
-using RenamerPositions = std::array<RenamerPosition, kRenamerItemCount>;
+using RenamerPositions = std::array<forms::Position, kRenamerItemCount>;
 
 // Far from the panel, which is never made this large.
-inline constexpr RenamerPosition kOutOfSight = {800, 800};
-
-// What the host says of a control, in pixels.
-struct RenamerMeasure {
-  int width = 0;       // of the whole, label included
-  int labelWidth = 0;  // 0 for a control that draws its label inside
-};
+inline constexpr forms::Position kOutOfSight = {800, 800};
 
 // Where the controls are made to stand: the places of the advanced layout and of both simple fields.
-RenamerPositions renamerHomes(const std::array<RenamerMeasure, kRenamerItemCount>& measures);
+RenamerPositions renamerHomes(const std::array<forms::Measured, kRenamerItemCount>& measures);
 
 // Where a control stands in a mode, given its home.
-RenamerPosition renamerPosition(RenamerItem item, RenameMode mode, RenamerPosition home);
+forms::Position renamerPosition(RenamerItem item, RenameMode mode, forms::Position home);
 
 }  // namespace mst

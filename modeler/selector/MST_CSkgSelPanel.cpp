@@ -1,6 +1,5 @@
 #include "modeler/selector/MST_CSkgSelPanel.h"
 
-#include <array>
 #include <utility>
 
 #include "host/lwtool2_errors.h"
@@ -18,20 +17,9 @@ constexpr lw::ReportSource kSelectorReport = {"MST_CSkgSelPanel", 573};
 
 bool objectIsLoaded() { return lw::stateQuery().object() != nullptr; }
 
-// Tags of a skelegon that the scan asks for, in this order.
-constexpr std::array kScannedTags = {lw::kTagColour, skg::kColourCopyTag};
-
 // Without an object there is nothing to scan, and the host begins no edit.
-ScannedSkelegons scan() {
-  ScannedSkelegons skelegons;
-  if (!objectIsLoaded()) return skelegons;
-  std::vector<lw::SkelegonInfo> scanned = lw::ScanSkelegons(lw::kLayersForeground, kSelectorReport, kScannedTags);
-  skelegons.reserve(scanned.size());
-  for (lw::SkelegonInfo& info : scanned) {
-    skelegons.push_back({info.polygon, std::move(info.name), info.layer, info.head, info.tail, info.isSelected,
-                         std::move(info.tags[0]), std::move(info.tags[1])});
-  }
-  return skelegons;
+SkelegonInfos scan() {
+  return objectIsLoaded() ? lw::ScanSkelegons(lw::kLayersForeground, kSelectorReport, kScannedTags) : SkelegonInfos();
 }
 
 // Makes these the selected ones. Gives how many are selected then.
@@ -47,7 +35,7 @@ CSkgSelPanel::CSkgSelPanel() { enterPanel(this, &OnNews); }
 
 CSkgSelPanel::~CSkgSelPanel() {
   removePanel(this);
-  if (form_) form_->abandon();
+  if (form_) form_->release();
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -97,7 +85,7 @@ void CSkgSelPanel::fitView() { tree_.setView(form_->treeWidth(), form_->treeHeig
 // What the panel knows of the mesh
 
 void CSkgSelPanel::rescan() {
-  ScannedSkelegons skelegons = scan();
+  SkelegonInfos skelegons = scan();
   const lw::TagTexts layerNames = lw::LayerNames();
   tree_.setNodes(buildSelectorNodes(std::move(skelegons), layerNames, lw::WeightMapNames()));
 }
@@ -165,22 +153,10 @@ void CSkgSelPanel::pushSelection() {
 // ---------------------------------------------------------------------------------------------------------------------
 // Called by the host and by other panels
 
-namespace {
-
-// Recovers the panel from the host's user pointer.
-template <class Action>
-void onPanel(void* user, Action&& action) {
-  lw::guarded([&] {
-    if (user != nullptr) std::forward<Action>(action)(*static_cast<CSkgSelPanel*>(user));
-  });
-}
-
-}  // namespace
-
 // Some hosts paint by the event. Which calls do is not told, so each one draws, after it has done what the mouse asks for; the
 // drawing context is current in all of them.
 void CSkgSelPanel::OnTreeUsed(lw::LWControl* control, void* user) {
-  onPanel(user, [&](CSkgSelPanel& panel) {
+  lw::onTool<CSkgSelPanel>(user, [&](CSkgSelPanel& panel) {
     if (!panel.form_ || !panel.form_->isTree(control)) return;
     if (panel.isAskingToPaint_) {
       panel.mouse_.painted();
@@ -193,7 +169,7 @@ void CSkgSelPanel::OnTreeUsed(lw::LWControl* control, void* user) {
 }
 
 void CSkgSelPanel::OnDrawTree(lw::LWControl* control, void* user, int mode) {
-  onPanel(user, [&](CSkgSelPanel& panel) {
+  lw::onTool<CSkgSelPanel>(user, [&](CSkgSelPanel& panel) {
     if (mode == lw::kDrawErase || !panel.form_ || !panel.form_->isTree(control)) return;
     panel.mouse_.painted();
     panel.draw();
@@ -201,25 +177,25 @@ void CSkgSelPanel::OnDrawTree(lw::LWControl* control, void* user, int mode) {
 }
 
 void CSkgSelPanel::OnSync(lw::LWControl* control, void* user) {
-  onPanel(user, [&](CSkgSelPanel& panel) {
+  lw::onTool<CSkgSelPanel>(user, [&](CSkgSelPanel& panel) {
     if (panel.life_.mayBeOpen() && panel.form_->isSync(control)) panel.refresh();
   });
 }
 
 void CSkgSelPanel::OnOpened(lw::PanelId id, void* user) {
-  onPanel(user, [&](CSkgSelPanel& panel) {
+  lw::onTool<CSkgSelPanel>(user, [&](CSkgSelPanel& panel) {
     if (panel.isPanel(id)) panel.life_.opened();
   });
 }
 
 void CSkgSelPanel::OnClosed(lw::PanelId id, void* user) {
-  onPanel(user, [&](CSkgSelPanel& panel) {
+  lw::onTool<CSkgSelPanel>(user, [&](CSkgSelPanel& panel) {
     if (panel.isPanel(id)) panel.closed();
   });
 }
 
 void CSkgSelPanel::OnMouseButton(lw::PanelId /*panel*/, void* user, int bits, int x, int y) {
-  onPanel(user, [&](CSkgSelPanel& panel) {
+  lw::onTool<CSkgSelPanel>(user, [&](CSkgSelPanel& panel) {
     if (!panel.life_.mayBeOpen()) return;
     const MouseReport report = panel.placed(panel.form_->mouseOfHook(bits, x, y));
     panel.act(panel.mouse_.button(report), report);
@@ -227,7 +203,7 @@ void CSkgSelPanel::OnMouseButton(lw::PanelId /*panel*/, void* user, int bits, in
 }
 
 void CSkgSelPanel::OnMouseMotion(lw::PanelId /*panel*/, void* user, int bits, int x, int y) {
-  onPanel(user, [&](CSkgSelPanel& panel) {
+  lw::onTool<CSkgSelPanel>(user, [&](CSkgSelPanel& panel) {
     if (!panel.life_.mayBeOpen()) return;
     const MouseReport report = panel.placed(panel.form_->mouseOfHook(bits, x, y));
     panel.act(panel.mouse_.motion(report), report);
@@ -235,19 +211,19 @@ void CSkgSelPanel::OnMouseMotion(lw::PanelId /*panel*/, void* user, int bits, in
 }
 
 void CSkgSelPanel::OnMouseWheel(lw::PanelId /*panel*/, void* user, int clicks, int /*x*/, int /*y*/) {
-  onPanel(user, [&](CSkgSelPanel& panel) {
+  lw::onTool<CSkgSelPanel>(user, [&](CSkgSelPanel& panel) {
     if (panel.life_.mayBeOpen()) panel.show(panel.tree_.wheel(clicks));
   });
 }
 
 void CSkgSelPanel::OnResized(lw::PanelId /*panel*/, void* user, int width, int height) {
-  onPanel(user, [&](CSkgSelPanel& panel) {
+  lw::onTool<CSkgSelPanel>(user, [&](CSkgSelPanel& panel) {
     if (panel.form_) panel.resized(width, height);
   });
 }
 
 void CSkgSelPanel::OnNews(void* user, PanelNews news) {
-  onPanel(user, [&](CSkgSelPanel& panel) {
+  lw::onTool<CSkgSelPanel>(user, [&](CSkgSelPanel& panel) {
     if (!panel.life_.mayBeOpen()) return;
     switch (news) {
       case PanelNews::Refresh:

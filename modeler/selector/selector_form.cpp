@@ -5,6 +5,8 @@
 namespace mst {
 namespace {
 
+using forms::HostControl;
+
 constexpr int kMargin = 5;  // left of tree and frame, and above the tree
 constexpr int kFrameHeight = 30;
 constexpr int kFrameFromBottom = 40;
@@ -30,26 +32,26 @@ int bitsOfButton(int button) {
 
 }  // namespace
 
-CSelectorForm::CSelectorForm(const char* title, const SelectorHooks& hooks) : panel_(title) {
-  tree_ = panel_.addOpenGL(340, 240);
-  frame_ = panel_.addBorder(360, kFrameHeight);
-  sync_ = panel_.addButton("Sync", kSyncWidth);
+CSelectorForm::CSelectorForm(const char* title, const SelectorHooks& hooks) : CPanel(title) {
+  tree_ = add({.kind = HostControl::OpenGL, .width = 340, .height = 240});
+  frame_ = add({.kind = HostControl::Border, .width = 360, .height = kFrameHeight});
+  sync_ = add({.kind = HostControl::Button, .label = "Sync", .width = kSyncWidth});
   for (const lw::CControl& control : {tree_, frame_, sync_}) control.setUser(hooks.user);
   tree_.onEvent(hooks.treeUsed);
   tree_.onDraw(hooks.drawTree);
   sync_.onEvent(hooks.syncPressed);
 
-  panel_.setUser(hooks.user);
-  panel_.onOpen(hooks.opened);
-  panel_.onClose(hooks.closed);
-  panel_.onMouse(hooks.mouseButton, hooks.mouseMotion, hooks.mouseWheel);
-  panel_.onResize(hooks.resized);
-  panel_.setLeastSize(kSelectorLeastWidth, kSelectorLeastHeight);
-  panel_.setSize(kSelectorWidth, kSelectorHeight);
+  setUser(hooks.user);
+  onOpen(hooks.opened);
+  onClose(hooks.closed);
+  onMouse(hooks.mouseButton, hooks.mouseMotion, hooks.mouseWheel);
+  onResize(hooks.resized);
+  setLeastSize(kSelectorLeastWidth, kSelectorLeastHeight);
+  setSize(kSelectorWidth, kSelectorHeight);
   layOut(kSelectorWidth, kSelectorHeight);
 }
 
-int CSelectorForm::open() const { return panel_.open(kOpenFlags); }
+int CSelectorForm::open() const { return CPanel::open(kOpenFlags); }
 
 // A host may ignore the least size, but no control has less than a pixel.
 void CSelectorForm::layOut(int width, int height) const {
@@ -63,8 +65,8 @@ void CSelectorForm::layOut(int width, int height) const {
 }
 
 void CSelectorForm::layOut() const {
-  const int width = panel_.measure(lw::kPanelWidth);
-  const int height = panel_.measure(lw::kPanelHeight);
+  const int width = measure(lw::kPanelWidth);
+  const int height = measure(lw::kPanelHeight);
   if (width > 0 && height > 0) layOut(width, height);
 }
 
@@ -83,7 +85,7 @@ MouseReport CSelectorForm::mouseOfHook(int bits, int x, int y) const {
 }
 
 MouseReport CSelectorForm::mouseOfControl() {
-  int bits = panel_.measure(lw::kPanelQualifiers);
+  int bits = measure(lw::kPanelQualifiers);
   const bool namesNoButton = (bits & lw::kMouseRight) == 0;
   if ((bits & lw::kMouseDown) != 0 && namesNoButton) bits |= bitsOfButton(tree_.measure(lw::kControlMouseButton));
   const int x = tree_.measure(lw::kControlMouseX);
@@ -95,8 +97,8 @@ MouseReport CSelectorForm::mouseOfControl() {
 
 // It counts from the panel's corner. The panel's own position, which does so too, shows a host that counts from the control's.
 bool CSelectorForm::countsFromControl(int x, int y, int left, int top) {
-  const int panelX = panel_.measure(lw::kPanelMouseX);
-  const int panelY = panel_.measure(lw::kPanelMouseY);
+  const int panelX = measure(lw::kPanelMouseX);
+  const int panelY = measure(lw::kPanelMouseY);
   if (panelX == x && panelY == y) countsFromControl_ = false;
   if (panelX == x + left && panelY == y + top) countsFromControl_ = true;
   return countsFromControl_;

@@ -27,17 +27,12 @@ struct SelectorHooks {
   lw::PanelResizeHook resized;
 };
 
-class CSelectorForm {
+class CSelectorForm : public lw::CPanel {
  public:
   // Makes the panel, not yet open. The title must outlive it. Throws CBaseEx when the host refuses something.
   CSelectorForm(const char* title, const SelectorHooks& hooks);
 
   int open() const;
-  void close() const { panel_.close(); }
-  bool is(lw::PanelId panel) const { return panel_.is(panel); }
-  void bringToFront() const { panel_.bringToFront(); }
-  // Leaves the host's panel to the host: for the module's end, when nothing of the host may be called any more.
-  void abandon() { panel_.release(); }
 
   // Places everything for a panel of that size, or of the size that the panel has.
   void layOut(int width, int height) const;
@@ -50,7 +45,6 @@ class CSelectorForm {
   int treeWidth() const { return tree_.measure(lw::kControlHotWidth); }
   int treeHeight() const { return tree_.measure(lw::kControlHotHeight); }
   void redrawTree() const { tree_.refresh(); }
-  void redraw() const { panel_.redraw(); }
 
   // The mouse as the host tells of it, from the tree's upper left corner: with what a hook got, and as the control has it.
   MouseReport mouseOfHook(int bits, int x, int y) const;
@@ -61,7 +55,6 @@ class CSelectorForm {
   // Whether the control's mouse position counts from its own corner, as far as is known.
   bool countsFromControl(int x, int y, int left, int top);
 
-  lw::CPanel panel_;
   lw::CControl tree_;
   lw::CControl frame_;
   lw::CControl sync_;

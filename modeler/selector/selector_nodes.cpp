@@ -23,7 +23,7 @@ SelectorNode group(std::string text, int colour) {
   return node;
 }
 
-SelectorNode skelegonNode(ScannedSkelegon& skelegon) {
+SelectorNode skelegonNode(skg::SkelegonInfo& skelegon) {
   SelectorNode node = group(std::move(skelegon.name), colourOf(skelegon));
   node.polygon = skelegon.polygon;
   node.layer = skelegon.layer;
@@ -47,16 +47,16 @@ class CBuilder {
  public:
   CBuilder() { add(group("[Top]", kRootColour)); }
 
-  void addLayers(const ScannedSkelegons& skelegons, const std::vector<std::string>& layerNames) {
-    for (const ScannedSkelegon& skelegon : skelegons) layers_.emplace(skelegon.layer, kRootNode);
+  void addLayers(const SkelegonInfos& skelegons, const std::vector<std::string>& layerNames) {
+    for (const skg::SkelegonInfo& skelegon : skelegons) layers_.emplace(skelegon.layer, kRootNode);
     for (auto& [layer, number] : layers_) number = addBelow(kRootNode, layerNode(layer, layerNames));
   }
 
   // The layers must be there.
-  void addSkelegons(ScannedSkelegons& skelegons) {
+  void addSkelegons(SkelegonInfos& skelegons) {
     const std::vector<std::size_t> parents = skelegonParents(skelegons);
     const std::size_t first = nodes_.size();
-    for (ScannedSkelegon& skelegon : skelegons) add(skelegonNode(skelegon));
+    for (skg::SkelegonInfo& skelegon : skelegons) add(skelegonNode(skelegon));
     for (std::size_t i = 0; i < skelegons.size(); ++i) {
       const bool isTop = parents[i] == kNoParent;
       nodes_[isTop ? layers_.at(skelegons[i].layer) : first + parents[i]].children.push_back(first + i);
@@ -89,16 +89,16 @@ class CBuilder {
 
 }  // namespace
 
-int colourOf(const ScannedSkelegon& skelegon) {
+int colourOf(const skg::SkelegonInfo& skelegon) {
   // A blank tag is no text: the cyan colours are stored so, and only the copy says which.
-  const std::string colour = skelegon.colour.value_or(std::string());
-  return skg::colourIndex(colour.empty() ? skelegon.colourCopy.value_or(std::string()) : colour);
+  const std::string colour = skelegon.tags[0].value_or(std::string());
+  return skg::colourIndex(colour.empty() ? skelegon.tags[1].value_or(std::string()) : colour);
 }
 
-SelectorNodes buildSelectorNodes(ScannedSkelegons skelegons, const std::vector<std::string>& layerNames,
+SelectorNodes buildSelectorNodes(SkelegonInfos skelegons, const std::vector<std::string>& layerNames,
                                  std::vector<std::string> weightMaps) {
   std::stable_sort(skelegons.begin(), skelegons.end(),
-                   [](const ScannedSkelegon& a, const ScannedSkelegon& b) { return comesBefore(a.name, b.name); });
+                   [](const skg::SkelegonInfo& a, const skg::SkelegonInfo& b) { return comesBefore(a.name, b.name); });
   CBuilder builder;
   builder.addLayers(skelegons, layerNames);
   builder.addSkelegons(skelegons);

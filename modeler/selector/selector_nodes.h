@@ -1,14 +1,15 @@
 // The selector's rows as a tree: what a scan of the mesh found, named, coloured, sorted and linked. Knows no host.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "modeler/selector/tree_rows.h"
 #include "skelegon/skelegon_tree.h"
+#include "skelegon/slots.h"
 
 namespace mst {
 
@@ -31,27 +32,18 @@ struct SelectorNode {
 using SelectorNodes = std::vector<SelectorNode>;
 inline constexpr std::size_t kRootNode = 0;
 
-// What the mesh says of a skelegon.
-struct ScannedSkelegon {
-  skg::PolygonId polygon = nullptr;
-  std::string name;  // empty when it has none
-  int layer = 0;
-  skg::PointId head = nullptr;  // null in a damaged one
-  skg::PointId tail = nullptr;
-  bool isSelected = false;
-  std::optional<std::string> colour;      // Modeler's colour tag
-  std::optional<std::string> colourCopy;  // our own copy of it
-};
+// The tags that a scan for the tree asks for, in this order: Modeler's colour tag and our own copy of it.
+inline constexpr std::array kScannedTags = {skg::SlotTagId(skg::Slot::Colour), skg::kColourCopyTag};
 
 // In scan order.
-using ScannedSkelegons = std::vector<ScannedSkelegon>;
+using SkelegonInfos = std::vector<skg::SkelegonInfo>;
 
 // The colour index of a skelegon: by the colour tag; by the copy where that tag is missing or blank. The orange entry for an
 // unknown word and for no word.
-int colourOf(const ScannedSkelegon& skelegon);
+int colourOf(const skg::SkelegonInfo& skelegon);
 
 // The tree: root, layers with their skelegons, weight maps. `layerNames` by layer number.
-SelectorNodes buildSelectorNodes(ScannedSkelegons skelegons, const std::vector<std::string>& layerNames,
+SelectorNodes buildSelectorNodes(SkelegonInfos skelegons, const std::vector<std::string>& layerNames,
                                  std::vector<std::string> weightMaps);
 
 }  // namespace mst

@@ -8,7 +8,7 @@ namespace {
 
 using Parents = std::vector<std::size_t>;
 
-Parents linked(std::span<const ScannedSkelegon> skelegons) {
+Parents linked(std::span<const skg::SkelegonInfo> skelegons) {
   std::unordered_map<skg::PointId, std::size_t> lastEndingAt;
   for (std::size_t i = 0; i < skelegons.size(); ++i) {
     if (skelegons[i].tail != nullptr) lastEndingAt[skelegons[i].tail] = i;
@@ -46,7 +46,7 @@ void cutCircles(Parents& parents) {
 
 }  // namespace
 
-std::vector<std::size_t> skelegonParents(std::span<const ScannedSkelegon> skelegons) {
+std::vector<std::size_t> skelegonParents(std::span<const skg::SkelegonInfo> skelegons) {
   Parents parents = linked(skelegons);
   cutCircles(parents);
   return parents;

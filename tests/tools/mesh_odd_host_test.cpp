@@ -19,7 +19,7 @@ standin::ObjectFile stumpRig() {
 
 TEST(DamagedSkelegon, HasNoEndsButIsListed) {
   const Mesh mesh(stumpRig());
-  const std::vector<lw::SkelegonInfo> found = lw::ScanSkelegons(lw::kLayersForeground, kSource, {});
+  const std::vector<skg::SkelegonInfo> found = lw::ScanSkelegons(lw::kLayersForeground, kSource, {});
   ASSERT_EQ(found.size(), 2U);
   EXPECT_NE(found[0].tail, nullptr);
   EXPECT_EQ(found[1].name, "Stump");
@@ -68,9 +68,9 @@ TEST(OddRecord, WithoutAListOfPointsHasNoEnds) {
     record.points = nullptr;
     return &record;
   };
-  const std::vector<lw::SkelegonInfo> found = lw::ScanSkelegons(lw::kLayersForeground, kSource, {});
+  const std::vector<skg::SkelegonInfo> found = lw::ScanSkelegons(lw::kLayersForeground, kSource, {});
   ASSERT_EQ(found.size(), 5U);
-  for (const lw::SkelegonInfo& skelegon : found) EXPECT_EQ(skelegon.head, nullptr) << skelegon.name;
+  for (const skg::SkelegonInfo& skelegon : found) EXPECT_EQ(skelegon.head, nullptr) << skelegon.name;
   expectCleanEnd(mesh);
 }
 

@@ -279,9 +279,9 @@ TEST_F(WritePolygonTags, PassesOverDeletedPolygons) {
 
 constexpr lw::ReportSource kPanelSource = {"MST_CSkgPropPanel", 1121};
 
-Names namesIn(const std::vector<lw::SkelegonInfo>& skelegons) {
+Names namesIn(const std::vector<skg::SkelegonInfo>& skelegons) {
   Names names;
-  for (const lw::SkelegonInfo& skelegon : skelegons) names.push_back(skelegon.name);
+  for (const skg::SkelegonInfo& skelegon : skelegons) names.push_back(skelegon.name);
   return names;
 }
 
@@ -289,7 +289,7 @@ using ScanSkelegons = MeshTest;
 
 TEST_F(ScanSkelegons, GivesNameLayerPointsAndSelection) {
   mesh.host.select({"Chest"});
-  const std::vector<lw::SkelegonInfo> skelegons = lw::ScanSkelegons(lw::kLayersForeground, kPanelSource);
+  const std::vector<skg::SkelegonInfo> skelegons = lw::ScanSkelegons(lw::kLayersForeground, kPanelSource);
   ASSERT_EQ(namesIn(skelegons), (Names{"Hips", "Chest", "Head", "Tail", ""}));
   EXPECT_EQ(skelegons[1].polygon, mesh.id("Chest"));
   EXPECT_EQ(skelegons[1].layer, 0);
@@ -309,7 +309,7 @@ TEST_F(ScanSkelegons, TellsAMissingTagFromAnEmptyOne) {
   mesh.setTag("Hips", lw::kTagColour, "");
   mesh.setTag("Hips", skg::kColourCopyTag, "Blue");
   const std::uint32_t types[] = {lw::kTagColour, skg::kColourCopyTag};
-  const std::vector<lw::SkelegonInfo> skelegons = lw::ScanSkelegons(lw::kLayersForeground, kPanelSource, types);
+  const std::vector<skg::SkelegonInfo> skelegons = lw::ScanSkelegons(lw::kLayersForeground, kPanelSource, types);
   EXPECT_EQ(skelegons[0].tags, (std::vector<std::optional<std::string>>{"", "Blue"}));
   EXPECT_EQ(skelegons[1].tags, (std::vector<std::optional<std::string>>{std::nullopt, std::nullopt}));
 }

@@ -136,7 +136,7 @@ class ThreePanels : public testing::Test, protected ModelerSession {
 
   // The value of a control as it would be stored.
   static std::string valueOf(const mst::ControlRow& row, const Control& control) {
-    switch (row.value) {
+    switch (mst::ControlSlotMap(row.number).value) {
       case mst::ValueKind::Integer: return std::to_string(control.integer);
       case mst::ValueKind::Real: return realText(control.real);
       case mst::ValueKind::Colour: return std::string(skg::BoneColourNames.at(static_cast<std::size_t>(control.integer)));

@@ -15,7 +15,7 @@ std::uint32_t copyTag(Slot slot) { return skg::plainSlotTagId(indexOf(slot)); }
 class PropertyStore : public MeshTest {
  protected:
   // The panel's view with these skelegons selected.
-  std::vector<mst::PanelSkelegon> scanned(const Names& selected) {
+  std::vector<skg::SkelegonInfo> scanned(const Names& selected) {
     mesh.host.select(selected);
     return mst::ScanPanelSkelegons();
   }
@@ -69,7 +69,7 @@ TEST_F(PropertyStore, TheHostsColourComesBeforeTheCopy) {
 
 TEST_F(PropertyStore, ThePanelsScanKnowsTheForeground) {
   mesh.host.showLayers({1});
-  const std::vector<mst::PanelSkelegon> skelegons = scanned({"Tail"});
+  const std::vector<skg::SkelegonInfo> skelegons = scanned({"Tail"});
   ASSERT_EQ(skelegons.size(), 2U);
   EXPECT_EQ(skelegons[0].name, "Tail");
   EXPECT_EQ(skelegons[0].layer, 1);
@@ -252,7 +252,7 @@ TEST_F(PropertyStore, WithoutAnObjectTheWriteFailsAndIsThrown) {
 }
 
 TEST(PropertyStoreFailures, WhateverFailsAllOfAChangeIsThereOrNothing) {
-  std::vector<mst::PanelSkelegon> skelegons;
+  std::vector<skg::SkelegonInfo> skelegons;
   const auto select = [&](Mesh& mesh) {
     mesh.host.select({"Hips", "Tail"});
     skelegons = mst::ScanPanelSkelegons();

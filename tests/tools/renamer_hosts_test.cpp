@@ -20,14 +20,14 @@ class RenamerLanguage : public Renamer {
   // Everything that the user can leave in the panel.
   void fillIn() {
     for (const mst::RenamerRow& row : mst::renamerTable()) {
-      if (row.item == Item::Mode || row.kind == mst::RenamerKind::NumberInfo) continue;
-      if (row.kind == mst::RenamerKind::Popup) choose(row.item, 2);
-      if (row.kind == mst::RenamerKind::Bool) {
+      if (row.item == Item::Mode || row.kind == mst::HostControl::NumberInfo) continue;
+      if (row.kind == mst::HostControl::Popup) choose(row.item, 2);
+      if (row.kind == mst::HostControl::Bool) {
         EXPECT_TRUE(person::toggle(at(row.item)));
-      } else if (row.kind == mst::RenamerKind::Number) {
+      } else if (row.kind == mst::HostControl::Number) {
         EXPECT_TRUE(person::enter(at(row.item), 4));
       }
-      if (row.kind == mst::RenamerKind::Edit && isVisible(row.item)) type(row.item, "typed 骨");
+      if (row.kind == mst::HostControl::Edit && isVisible(row.item)) type(row.item, "typed 骨");
     }
   }
   using Values = std::vector<std::string>;

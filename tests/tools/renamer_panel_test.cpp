@@ -32,7 +32,7 @@ TEST_F(Renamer, HasItsControlsInTheOrderOfTheTable) {
   for (const mst::RenamerRow& row : mst::renamerTable()) {
     const char* const label = row.label ? texts::renamerLabels(texts::Language::English)[*row.label] : "";
     const std::string shown =
-        row.kind == mst::RenamerKind::Heading ? at(row.item)->lines().front() : at(row.item)->label.read();
+        row.kind == mst::HostControl::Text ? at(row.item)->lines().front() : at(row.item)->label.read();
     EXPECT_EQ(shown, label) << mst::indexOf(row.item);
   }
 }
@@ -55,7 +55,7 @@ TEST_F(Renamer, HasThreeCheckMarksOnAtFirst) {
   openTool();
   std::vector<Item> on;
   for (const mst::RenamerRow& row : mst::renamerTable()) {
-    if (row.kind == mst::RenamerKind::Bool && at(row.item)->integer != 0) on.push_back(row.item);
+    if (row.kind == mst::HostControl::Bool && at(row.item)->integer != 0) on.push_back(row.item);
   }
   EXPECT_EQ(on, (std::vector<Item>{Item::SkelegonName, Item::WeightMap, Item::OverlapCheck}));
 }

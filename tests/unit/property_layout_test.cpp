@@ -96,7 +96,7 @@ Seen seen(const ControlRow& row, Language language) {
   const std::string label = texts::propertyLabels(language)[row.number];
   const int labelWidth = drawsLabelInside(row) || label.empty() ? 0 : textWidth(label) + kLabelGap;
   const int hot = hotWidth(row, language);
-  const Position at = positionOf(row, {labelWidth + hot, labelWidth});
+  const forms::Position at = positionOf(row, {labelWidth + hot, labelWidth});
   const int bottom = at.y + (row.kind == HostControl::Border ? std::max(2, heightOf(row)) : kFieldHeight);
   Seen result;
   result.label = {row.number, at.x, at.y, at.x + std::max(0, labelWidth - kLabelGap), bottom};
@@ -280,7 +280,7 @@ TEST(PropertyLayout, TheBottomButtonsEndAtTheirPlaces) {
 }
 
 TEST(PropertyLayout, AButtonOfAnotherWidthStillEndsAtItsPlace) {
-  const Position position = positionOf(controlTable()[control::kReset], {80, 0});
+  const forms::Position position = positionOf(controlTable()[control::kReset], {80, 0});
   EXPECT_EQ(position.x + 80, 95);
 }
 

@@ -24,23 +24,23 @@ using Write = std::tuple<std::uintptr_t, std::uint32_t, std::string>;
 std::vector<Write> listed(const TagWrites& writes) {
   std::vector<Write> list;
   for (std::size_t i = 0; i < writes.polygons.size(); ++i) {
-    list.emplace_back(reinterpret_cast<std::uintptr_t>(writes.polygons[i]), writes.types[i], writes.values[i]);
+    list.emplace_back(reinterpret_cast<std::uintptr_t>(writes.polygons[i]), writes.types[i], writes.texts[i]);
   }
   return list;
 }
 using Writes = std::vector<Write>;
 
 // Of two layers: Hips and Chest in the first, Tail and Fin in the second. Chest is selected.
-const std::vector<PanelSkelegon> kChestSelected = {
-    {polygon(1), "Hips", 0, false},
-    {polygon(2), "Chest", 0, true},
-    {polygon(3), "Tail", 1, false},
-    {polygon(4), "Fin", 1, false},
+const std::vector<skg::SkelegonInfo> kChestSelected = {
+    {polygon(1), "Hips", 0, false, nullptr, nullptr, {}},
+    {polygon(2), "Chest", 0, true, nullptr, nullptr, {}},
+    {polygon(3), "Tail", 1, false, nullptr, nullptr, {}},
+    {polygon(4), "Fin", 1, false, nullptr, nullptr, {}},
 };
 
-std::vector<PanelSkelegon> selected(const std::set<std::string>& names) {
-  std::vector<PanelSkelegon> skelegons = kChestSelected;
-  for (PanelSkelegon& skelegon : skelegons) skelegon.isSelected = names.count(skelegon.name) != 0;
+std::vector<skg::SkelegonInfo> selected(const std::set<std::string>& names) {
+  std::vector<skg::SkelegonInfo> skelegons = kChestSelected;
+  for (skg::SkelegonInfo& skelegon : skelegons) skelegon.isSelected = names.count(skelegon.name) != 0;
   return skelegons;
 }
 
@@ -81,9 +81,9 @@ TEST(WritesForValue, EveryOtherSlotDropsItsDefault) {
     if (row.kind == skg::SlotKind::Reserved || stubborn.count(row.slot) != 0) continue;
     SCOPED_TRACE(row.setting);
     std::string shown = row.defaultText;
-    if (skg::valueKindOf(row.kind) == ValueKind::Real) shown = formatReal(std::stod(shown));
+    if (skg::valueKindOf(row.kind) == skg::ValueKind::Real) shown = formatReal(std::stod(shown));
     const TagWrites writes = writesForValue(kChestSelected, row.slot, shown);
-    for (const std::string& value : writes.values) EXPECT_EQ(value, "");
+    for (const std::string& value : writes.texts) EXPECT_EQ(value, "");
     EXPECT_FALSE(writes.empty());
   }
 }
@@ -204,7 +204,7 @@ TEST(WritesForReset, EmptyEveryTagOfTheFamilyAndNoneOfTheHosts) {
   const TagWrites writes = writesForReset({polygon(7)});
   ASSERT_EQ(writes.types.size(), 187u);
   for (std::size_t slot = 0; slot < 187; ++slot) EXPECT_EQ(writes.types[slot], 0x73673100u | slot);
-  for (const std::string& value : writes.values) EXPECT_EQ(value, "");
+  for (const std::string& value : writes.texts) EXPECT_EQ(value, "");
 }
 
 // --- texts ---------------------------------------------------------------------------------------------------------------
@@ -237,11 +237,11 @@ TEST(ValueTexts, ColourIndicesBeyondTheNamesGiveNoText) {
 }
 
 TEST(ValueTexts, EveryKindOfSettingHasAKindOfValue) {
-  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::Flag), ValueKind::Integer);
-  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::Angle), ValueKind::Real);
-  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::ItemName), ValueKind::Text);
-  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::Colour), ValueKind::Colour);
-  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::Reserved), ValueKind::None);
+  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::Flag), skg::ValueKind::Integer);
+  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::Angle), skg::ValueKind::Real);
+  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::ItemName), skg::ValueKind::Text);
+  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::Colour), skg::ValueKind::Colour);
+  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::Reserved), skg::ValueKind::None);
 }
 
 }  // namespace

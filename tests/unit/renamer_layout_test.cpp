@@ -12,9 +12,9 @@ namespace varnel::test {
 namespace {
 
 using Item = mst::RenamerItem;
-using Measures = std::array<mst::RenamerMeasure, mst::kRenamerItemCount>;
+using Measures = std::array<forms::Measured, mst::kRenamerItemCount>;
+using forms::Position;
 using mst::RenameMode;
-using mst::RenamerPosition;
 
 constexpr RenameMode kEveryMode[] = {
     RenameMode::Change,  RenameMode::Prefix, RenameMode::Suffix, RenameMode::Replace, RenameMode::RegularExpression,
@@ -27,8 +27,8 @@ Measures someMeasures() {
   return measures;
 }
 mst::RenamerPositions homes() { return mst::renamerHomes(someMeasures()); }
-RenamerPosition home(Item item) { return homes()[mst::indexOf(item)]; }
-RenamerPosition inMode(Item item, RenameMode mode) { return mst::renamerPosition(item, mode, home(item)); }
+forms::Position home(Item item) { return homes()[mst::indexOf(item)]; }
+forms::Position inMode(Item item, RenameMode mode) { return mst::renamerPosition(item, mode, home(item)); }
 
 TEST(RenamerTable, NamesItsLabels) {
   const auto& labels = texts::renamerLabels(texts::Language::English);
@@ -80,7 +80,7 @@ TEST(RenamerTable, HasTheSameLabelsInBothLanguages) {
 
 TEST(RenamerHomes, HaveTheHeightsOfTheTable) {
   std::vector<int> tops;
-  for (const RenamerPosition position : homes()) tops.push_back(position.y);
+  for (const forms::Position position : homes()) tops.push_back(position.y);
   tops.resize(32);
   EXPECT_EQ(tops, (std::vector<int>{0,   24,  48,  72,  96,  96,  96,  120, 142, 142, 166, 166, 190, 190, 214, 214,
                                     236, 260, 260, 282, 318, 318, 342, 366, 402, 402, 424, 460, 460, 482, 504, 540}));
@@ -164,18 +164,18 @@ TEST(RenamerLayout, ShowsTheSecondTextForTwoModes) {
 TEST(RenamerLayout, MovesBonePropertyBorderAndButtonUpInSimpleModes) {
   for (const RenameMode mode : kEveryMode) {
     if (!mst::isSimple(mode)) continue;
-    EXPECT_EQ(inMode(Item::BoneProperty, mode), (RenamerPosition{100, 72}));
-    EXPECT_EQ(inMode(Item::Border, mode), (RenamerPosition{home(Item::Border).x, home(Item::Border).y - 500}));
-    EXPECT_EQ(inMode(Item::Run, mode), (RenamerPosition{home(Item::Run).x, home(Item::Run).y - 500}));
+    EXPECT_EQ(inMode(Item::BoneProperty, mode), (forms::Position{100, 72}));
+    EXPECT_EQ(inMode(Item::Border, mode), (forms::Position{home(Item::Border).x, home(Item::Border).y - 500}));
+    EXPECT_EQ(inMode(Item::Run, mode), (forms::Position{home(Item::Run).x, home(Item::Run).y - 500}));
   }
 }
 
 TEST(RenamerLayout, TellsPlacesApartByBothCoordinates) {
-  EXPECT_NE((RenamerPosition{1, 2}), (RenamerPosition{3, 2}));
-  EXPECT_NE((RenamerPosition{1, 2}), (RenamerPosition{1, 3}));
+  EXPECT_NE((forms::Position{1, 2}), (forms::Position{3, 2}));
+  EXPECT_NE((forms::Position{1, 2}), (forms::Position{1, 3}));
 }
 
-TEST(RenamerLayout, PutsWhatIsOutOfSightAt800) { EXPECT_EQ(mst::kOutOfSight, (RenamerPosition{800, 800})); }
+TEST(RenamerLayout, PutsWhatIsOutOfSightAt800) { EXPECT_EQ(mst::kOutOfSight, (forms::Position{800, 800})); }
 
 }  // namespace
 }  // namespace varnel::test

@@ -271,7 +271,7 @@ TEST_F(TreeViewTest, SelectedPolygonsComeFromTopToBottom) {
 }
 
 TEST_F(TreeViewTest, EachPolygonIsPushedOnce) {
-  ScannedSkelegon twice = selectedInModeler(skelegon("A", 1, 2));
+  skg::SkelegonInfo twice = selectedInModeler(skelegon("A", 1, 2));
   tree.setNodes(buildSelectorNodes({twice, twice}, {"L"}, {}));
   EXPECT_EQ(tree.selectedPolygons(), std::vector<skg::PolygonId>{twice.polygon});
 }

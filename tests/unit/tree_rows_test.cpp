@@ -13,7 +13,7 @@
 namespace mst {
 namespace {
 
-std::string outlineOf(ScannedSkelegons skelegons, const Names& layers = {}, Names maps = {}) {
+std::string outlineOf(SkelegonInfos skelegons, const Names& layers = {}, Names maps = {}) {
   return outline(buildSelectorNodes(std::move(skelegons), layers, std::move(maps)));
 }
 
@@ -41,7 +41,7 @@ TEST(SelectorNodes, WeightMapsStandInByteOrder) {
 }
 
 TEST(SelectorNodes, ChildrenStandInNameOrderThenInScanOrder) {
-  ScannedSkelegons skelegons = {skelegon("Root", 1, 2)};
+  SkelegonInfos skelegons = {skelegon("Root", 1, 2)};
   for (const char* name : {"Bone10", "Bone2", "bone1", "Bone2", "Bone"}) skelegons.push_back(skelegon(name, 2, 0));
   const skg::PolygonId firstBone2 = skelegons[2].polygon;
   const SelectorNodes nodes = buildSelectorNodes(std::move(skelegons), {"L"}, {});
@@ -56,7 +56,7 @@ TEST(SelectorNodes, AParentOnAnotherLayerIsNone) {
 }
 
 TEST(SelectorNodes, CarryWhatTheScanFound) {
-  const ScannedSkelegon chest = selectedInModeler(skelegon("Chest", 4, 5, 3));
+  const skg::SkelegonInfo chest = selectedInModeler(skelegon("Chest", 4, 5, 3));
   const SelectorNodes nodes = buildSelectorNodes({chest}, {}, {});
   const SelectorNode& node = nodes[nodes[nodes[kRootNode].children[0]].children[0]];
   EXPECT_EQ(node.polygon, chest.polygon);
@@ -113,7 +113,7 @@ TEST(DamagedMesh, ShowsEverySkelegonOnceWhateverItsShape) {
   std::mt19937 random(4);
   for (int round = 0; round < 500; ++round) {
     std::uniform_int_distribution<std::size_t> anyPoint(0, 1 + static_cast<std::size_t>(round % 9));
-    ScannedSkelegons skelegons;
+    SkelegonInfos skelegons;
     for (int i = 0; i < 1 + round % 12; ++i) {
       skelegons.push_back(skelegon("S", anyPoint(random), anyPoint(random), static_cast<int>(random() % 2)));
     }
@@ -133,12 +133,12 @@ TEST(DamagedMesh, ShowsEverySkelegonOnceWhateverItsShape) {
 TEST(DamagedMesh, HasTheParentsOfTheSkelegonTree) {
   std::mt19937 random(7);
   for (int round = 0; round < 200; ++round) {
-    ScannedSkelegons skelegons;
+    SkelegonInfos skelegons;
     skg::SkelegonList list;
     for (std::size_t i = 1; i <= 20; ++i) {
       // Every skelegon goes to a point of a larger number: no loops.
       const std::size_t head = 1 + random() % 10;
-      const ScannedSkelegon& added = skelegons.emplace_back(skelegon("S", head, head + 1 + random() % 10));
+      const skg::SkelegonInfo& added = skelegons.emplace_back(skelegon("S", head, head + 1 + random() % 10));
       skg::SkelegonNode node;
       node.polygon = added.polygon;
       node.headPoint = added.head;
@@ -201,7 +201,7 @@ TEST_F(TreeViewTest, AnAnchorWhoseSkelegonIsGoneIsNone) {
 
 TEST(LongChain, IsLaidOutCutAndSelectedWithoutRecursion) {
   constexpr std::size_t kLength = 200'000;
-  ScannedSkelegons skelegons;
+  SkelegonInfos skelegons;
   for (std::size_t i = 1; i <= kLength; ++i) skelegons.push_back(skelegon("S", i, i % kLength + 1));  // and closed
   CTreeView tree;
   tree.setNodes(buildSelectorNodes(std::move(skelegons), {"L"}, {}));
@@ -255,10 +255,9 @@ TEST(NameOrder, IsAnOrder) {
 // ---------------------------------------------------------------------------------------------------------------------
 // Colours
 
-ScannedSkelegon coloured(std::optional<std::string> colour, std::optional<std::string> copy) {
-  ScannedSkelegon skelegon;
-  skelegon.colour = std::move(colour);
-  skelegon.colourCopy = std::move(copy);
+skg::SkelegonInfo coloured(std::optional<std::string> colour, std::optional<std::string> copy) {
+  skg::SkelegonInfo skelegon;
+  skelegon.tags = {std::move(colour), std::move(copy)};
   return skelegon;
 }
 

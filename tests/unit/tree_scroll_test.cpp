@@ -84,7 +84,7 @@ TEST(TreeScroll, ExtremeLengthsDoNotOverflow) {
 class TreeScrolling : public TreeViewTest {
  protected:
   TreeScrolling() {
-    ScannedSkelegons skelegons;
+    SkelegonInfos skelegons;
     for (int i = 0; i < 37; ++i) skelegons.push_back(skelegon("S" + std::to_string(i), 0, 0));
     skelegons.push_back(skelegon(std::string(40, 'x'), 0, 0));
     tree.setNodes(buildSelectorNodes(std::move(skelegons), {"L"}, {}));

@@ -34,18 +34,19 @@ inline skg::PolygonId polygon(std::size_t number) { return identifier<skg::Polyg
 inline skg::PointId point(std::size_t number) { return identifier<skg::PointId>(number); }
 
 // A skelegon from a point to another; 0 is none.
-inline ScannedSkelegon skelegon(std::string name, std::size_t head, std::size_t tail, int layer = 0) {
+inline skg::SkelegonInfo skelegon(std::string name, std::size_t head, std::size_t tail, int layer = 0) {
   static std::size_t next = 1000;
-  ScannedSkelegon skelegon;
+  skg::SkelegonInfo skelegon;
   skelegon.polygon = polygon(++next);
   skelegon.name = std::move(name);
   skelegon.head = point(head);
   skelegon.tail = point(tail);
   skelegon.layer = layer;
+  skelegon.tags.resize(kScannedTags.size());
   return skelegon;
 }
 
-inline ScannedSkelegon selectedInModeler(ScannedSkelegon skelegon) {
+inline skg::SkelegonInfo selectedInModeler(skg::SkelegonInfo skelegon) {
   skelegon.isSelected = true;
   return skelegon;
 }
