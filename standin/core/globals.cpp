@@ -1,6 +1,7 @@
 #include "standin/core/globals.h"
 
 #include <array>
+#include <cstring>
 #include <utility>
 
 #include "standin/core/witness.h"
@@ -15,13 +16,15 @@ void* fromNumber(std::uint32_t value) {
 // Large enough for every table of the host; every slot is this one function.
 void neverCalled() { witness().fault("a service that is present only", "was called"); }
 
-void* presenceTable() {
-  static std::array<void (*)(), 128> table = [] {
-    std::array<void (*)(), 128> slots{};
+using PresenceTable = std::array<void (*)(), 128>;
+
+PresenceTable* presenceTable() {
+  static PresenceTable table = [] {
+    PresenceTable slots{};
     slots.fill(&neverCalled);
     return slots;
   }();
-  return table.data();
+  return &table;
 }
 
 }  // namespace
@@ -34,15 +37,15 @@ Globals& globals() {
 void Globals::reset() { *this = Globals(); }
 
 void Globals::offer(const std::string& name, void* service) {
-  services_[name] = [service] { return service; };
+  offer(name, [service] { return service; });
 }
 
-void Globals::offer(const std::string& name, std::function<void*()> maker) { services_[name] = std::move(maker); }
+void Globals::offer(const std::string& name, std::function<void*()> maker) { services_[name] = {std::move(maker)}; }
 
 void Globals::offerNumber(const std::string& name, std::uint32_t value) { offer(name, fromNumber(value)); }
 
 void Globals::offerPresence(const std::vector<std::string>& names) {
-  for (const std::string& name : names) offer(name, presenceTable());
+  for (const std::string& name : names) offerTable(name, presenceTable());
 }
 
 lw::GlobalFunc Globals::lookup() { return &lookUp; }
@@ -58,7 +61,17 @@ void* Globals::lookUp(const char* name, int use) {
   self.asked_.emplace_back(name);
   if (call.refused() || self.withheld_.count(name) != 0) return nullptr;
   const auto found = self.services_.find(name);
-  return found == self.services_.end() ? nullptr : found->second();
+  if (found == self.services_.end()) return nullptr;
+  void* const service = self.give(found->second);
+  self.given_[name].insert(service);
+  return service;
+}
+
+void* Globals::give(const Service& service) {
+  void* const original = service.maker();
+  if (!copiesTables_ || service.tableSize == 0) return original;
+  copies_.push_back(std::make_unique<std::byte[]>(service.tableSize));
+  return std::memcpy(copies_.back().get(), original, service.tableSize);
 }
 
 }  // namespace standin

@@ -4,7 +4,8 @@
 namespace standin {
 
 struct ProgramOptions {
-  bool commaLocale = false;  // numbers are formatted with a decimal comma in the host's process
+  bool commaLocale = false;   // numbers are formatted with a decimal comma in the host's process
+  bool copiedTables = false;  // each lookup of a service gives another copy of its table; the copies before it stay good
 
   bool operator==(const ProgramOptions&) const = default;
 };

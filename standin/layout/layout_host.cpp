@@ -35,13 +35,13 @@ const std::vector<std::string>& presentOnly() {
 
 void offerServices(LayoutHost& host) {
   Globals& offered = globals();
-  offered.offer("LW Item Info 9", itemInfoTable());
-  offered.offer("LW Object Info 14", objectInfoTable());
-  offered.offer("LW Bone Info 7", boneInfoTable());
-  offered.offer("Scene Objects 9", sceneObjectsTable());
-  offered.offer("Info Messages 4", messageTable());
-  offered.offer("Channel Info 3", channelInfoTable());
-  offered.offer("Animation Envelopes 4", envelopeTable());
+  offered.offerTable("LW Item Info 9", itemInfoTable());
+  offered.offerTable("LW Object Info 14", objectInfoTable());
+  offered.offerTable("LW Bone Info 7", boneInfoTable());
+  offered.offerTable("Scene Objects 9", sceneObjectsTable());
+  offered.offerTable("Info Messages 4", messageTable());
+  offered.offerTable("Channel Info 3", channelInfoTable());
+  offered.offerTable("Animation Envelopes 4", envelopeTable());
   offered.offer("LW Command Interface", reinterpret_cast<void*>(commandFunction()));
   offered.offer("LW Interface Info 8", std::function<void*()>([&host] { return host.freshInterfaceInfo(); }));
   offered.offer("LW Time Info", std::function<void*()>([&host] { return host.freshTimeInfo(); }));

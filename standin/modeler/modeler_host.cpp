@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "standin/modeler/repeated_tags.h"
 #include "standin/panels/services.h"
 
 namespace standin {
@@ -108,9 +109,9 @@ void ModelerHost::offerGlobals() {
   };
   globals().offer("Product Info", [this, number] { return number(session_.options.productInfo); });
   globals().offer("Locale Info", [this, number] { return number(session_.options.localeInfo); });
-  globals().offer("LWM: State Query 5", stateQuery());
-  globals().offer("Scene Objects 9", sceneObjects());
-  globals().offer("Info Messages 4", messageServices());
+  globals().offerTable("LWM: State Query 5", stateQuery());
+  globals().offerTable("Scene Objects 9", sceneObjects());
+  globals().offerTable("Info Messages 4", messageServices());
   globals().offerPresence(presentOnly());
 }
 
@@ -133,6 +134,8 @@ std::optional<int> ModelerHost::activate(lw::ActivateFunc function, const std::s
 
 Outcome<ModelerObject*> ModelerHost::open(const std::string& path) {
   Outcome<ObjectFile> file = readObject(path);
+  if (!file) return Failure{file.why()};
+  file = withOneOfEachTag(std::move(*file), session_.options.firstTagCounts);
   if (!file) return Failure{file.why()};
   return &add(std::move(*file), path);
 }

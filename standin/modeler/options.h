@@ -29,6 +29,7 @@ struct ModelerOptions {
 
   // --- tags
   bool emptyTagRemoves = false;    // a tag set to the empty text is removed instead of kept blank
+  bool firstTagCounts = false;     // of several tags of one type on a polygon of a file the first counts, not the last
   bool missingTagIsEmpty = false;  // the text of a tag that is not there is empty, not null
 
   // --- layers, maps, objects

@@ -1,5 +1,7 @@
 #include "standin/panels/services.h"
 
+#include <algorithm>
+#include <set>
 #include <string>
 
 #include "standin/core/gap_slots.h"
@@ -19,13 +21,22 @@ namespace {
 
 constexpr int kKnownOpenFlags = 1 | 2 | 4 | 8 | 16 | 32 | 64 | 128 | 256;
 
+constexpr const char* kServiceName = "LWPanelServices 3";
+
+// Into the one table, or into one of its copies: by which of them a function was called cannot be known.
+bool hasLookupFunction() {
+  const auto isWritten = [](const void* table) { return static_cast<const lw::LWPanelFuncs*>(table)->globalFun != nullptr; };
+  const std::set<void*>& given = globals().given(kServiceName);
+  return isWritten(panelServices()) || std::any_of(given.begin(), given.end(), isWritten);
+}
+
 lw::PanelId create(const char* title, void* owner) {
   const HostCall call("panel create");
   if (title == nullptr) {
     call.fault("got a null title");
     return nullptr;
   }
-  if (panels().options.wantsLookupFunction && panelServices()->globalFun == nullptr) {
+  if (panels().options.wantsLookupFunction && !hasLookupFunction()) {
     call.fault("was called before the module wrote its lookup function into the services table");
   }
   if (call.refused()) return nullptr;
@@ -192,7 +203,7 @@ lw::LWPanelFuncs* panelServices() { return &servicesTable(); }
 void offerPanelServices() {
   panels().reset();
   fillTable(servicesTable());
-  globals().offer("LWPanelServices 3", panelServices());
+  globals().offerTable(kServiceName, panelServices());
 }
 
 int openPanel(Panel& panel, int flags) {

@@ -1,7 +1,10 @@
-// Trips around the mesh: skelegons and objects that go while panels show them, layers that are not there, calls refused once.
+// Trips around the mesh: skelegons and objects that go while panels show them, layers that are not there, calls refused once,
+// tags that a file has twice.
 #include <algorithm>
 #include <array>
 
+#include "objectfile/chunk_records.h"
+#include "objectfile/file_bytes.h"
 #include "objectfile/rig_builder.h"
 #include "standin/core/witness.h"
 #include "standin/validate/panel_places.h"
@@ -266,10 +269,67 @@ TripReport refusalsTrip(const TripOrder& order) {
   return user.finish();
 }
 
+// --- tags that a file has twice -------------------------------------------------------------------------------------------
+
+// A falloff, a strength and a weight map on a skelegon twice, each the second time with another text.
+std::string fileWithRepeatedTags() {
+  RigBuilder rig;
+  rig.layer(0, "Body");
+  for (const char* const map : {"First", "Last"}) rig.weightMap(map, {{rig.point({0, 0, 0}), 1.0F}});
+  const RigBuilder::Skelegon hips = rig.root("Hips", {0, 0, 0}, {0, 1, 0});
+  rig.settings(hips, {{kFalloffSetting, "1"}, {kStrengthSetting, "10.000000"}});
+  rig.tag(hips, lw::kTagBoneWeight, "First");
+  ObjectFile object = *parseObject(*serializeObject(rig.object()));
+  std::uint16_t text = 0;
+  for (const Chunk& chunk : object.chunks) {
+    if (chunk.id == records::kTags) text = static_cast<std::uint16_t>(text + records::readTexts(chunk.bytes)->size());
+  }
+  object.chunks.push_back({records::kTags, records::writeTexts({"3", "30.000000", "Last"})});
+  for (const std::uint32_t type : {settingTag(kFalloffSetting), settingTag(kStrengthSetting), lw::kTagBoneWeight}) {
+    object.chunks.push_back({records::kPolygonTags, records::writeTags({type, {{0, text++}}})});
+  }
+  return *joinForm({object.form, std::move(object.chunks)});
+}
+
+// What the host shows of them is what arrives at the bone, though the conversion counts otherwise; so is what is changed.
+TripReport repeatedTagsTrip(const TripOrder& order) {
+  TripReport report;
+  const std::string path = order.rig->path + ".repeated.lwo";
+  const bool isFirst = order.host.options().modeler.firstTagCounts;
+  const int falloff = isFirst ? 1 : 3;
+  {
+    MeshTraveller user(order);
+    if (!user.isReady()) return user.finish();
+    ModelerHost& host = user.host();
+    host.closeAll();
+    user.finds(!writeFileBytes(path, fileWithRepeatedTags()).has_value() && host.open(path), "the object can be opened");
+    host.select({"Hips"});
+    user.begin();
+    user.openAll();
+    user.turnTo(kGroupPage);
+    const Control* const chooser = user.property(kFalloff);
+    user.finds(chooser != nullptr && chooser->integer == falloff, "the panel shows the falloff that the host holds");
+    user.enterStrength(55);
+    user.end();
+    user.judgeNextRun();
+    user.finds(!host.saveAs(path).has_value(), "the object can be saved");
+    report = user.finish();
+  }
+  convertSaved(order, path, report, [&](Traveller& user, Scene& scene) {
+    const Item* const bone = scene.find("Hips");
+    user.finds(bone != nullptr && bone->bone.falloff == falloff, "the bone has the falloff that was shown");
+    user.finds(bone != nullptr && bone->bone.strength == 0.55, "the bone has the strength that was entered");
+    user.finds(bone != nullptr && bone->bone.weightMap == (isFirst ? "First" : "Last"),
+               "the bone has the weight map that was shown");
+  });
+  return report;
+}
+
 constexpr std::array kTrips{
     Trip{"deletion", deletionTrip},
     Trip{"layers", layersTrip},
     Trip{"refusals", refusalsTrip},
+    Trip{"repeated-tags", repeatedTagsTrip},
 };
 
 }  // namespace

@@ -113,6 +113,27 @@ std::string Traveller::notOfDeception(const std::string& complaints) const {
   return kept;
 }
 
+void convertSaved(const TripOrder& order, const std::string& saved, TripReport& report,
+                  const std::function<void(Traveller&, Scene&)>& look) {
+  const Outcome<ObjectFile> object = readObject(saved);
+  if (!object) {
+    report.troubles.push_back(object.why());
+    return;
+  }
+  const Rig rig{*object, saved};
+  TripOrder inLayout = order;
+  inLayout.rig = &rig;
+  Traveller user(inLayout, Program::Layout);
+  Panel* const panel = user.session().open(kConversion);
+  user.finds(panel != nullptr, "the conversion panel opens");
+  if (panel != nullptr) user.does(person::press(panel->find(ControlKind::Button, 0)));
+  user.end();
+  look(user, user.session().layout()->scene());
+  const TripReport further = user.finish();
+  report.troubles.insert(report.troubles.end(), further.troubles.begin(), further.troubles.end());
+  report.broken.insert(report.broken.end(), further.broken.begin(), further.broken.end());
+}
+
 std::vector<std::string> skelegonNames(Session& session, std::size_t most) {
   std::vector<std::string> names;
   for (const MeshPolygon* polygon : session.modeler()->current()->skelegons()) {

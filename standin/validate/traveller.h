@@ -1,6 +1,7 @@
 // The user of a trip. Whatever they cannot do, or find wrong, is noted and the trip goes on.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,10 @@ class Traveller {
   TripReport report_;
   std::string refused_;
 };
+
+// Has the conversion convert an object that was saved, in Layout, and adds to the report what its user finds there.
+void convertSaved(const TripOrder& order, const std::string& saved, TripReport& report,
+                  const std::function<void(Traveller& user, Scene& scene)>& look);
 
 // The first names of the skelegons, in scan order.
 std::vector<std::string> skelegonNames(Session& session, std::size_t most);

@@ -234,27 +234,13 @@ TripReport typicalTrip(const TripOrder& order) {
     user.finds(!host.saveAs(saved).has_value(), "the object can be saved");
     report = user.finish();
   }
-  const Outcome<ObjectFile> object = readObject(saved);
-  if (!object) {
-    report.troubles.push_back(object.why());
-    return report;
-  }
-  const Rig rig{*object, saved};
-  TripOrder further = order;
-  further.rig = &rig;
-  Traveller user(further, Program::Layout);
-  Panel* const panel = user.session().open(kConversion);
-  user.finds(panel != nullptr, "the conversion panel opens");
-  if (panel != nullptr) user.does(person::press(panel->find(ControlKind::Button, 0)));
-  user.end();
-  const Item* const bone = user.session().layout()->scene().find(chosen);
-  user.finds(bone != nullptr && bone->kind == ItemKind::bone, "the skelegon became a bone");
-  user.finds(bone != nullptr && bone->bone.falloff == kInverseDistance4, "the bone has the falloff that was chosen");
-  user.finds(bone != nullptr && bone->bone.weightMap == map, "the bone has the weight map that was chosen");
-  user.finds(bone != nullptr && bone->bone.strength == 0.4, "the bone has the strength that was entered");
-  TripReport second = user.finish();
-  report.troubles.insert(report.troubles.end(), second.troubles.begin(), second.troubles.end());
-  report.broken.insert(report.broken.end(), second.broken.begin(), second.broken.end());
+  convertSaved(order, saved, report, [&](Traveller& user, Scene& scene) {
+    const Item* const bone = scene.find(chosen);
+    user.finds(bone != nullptr && bone->kind == ItemKind::bone, "the skelegon became a bone");
+    user.finds(bone != nullptr && bone->bone.falloff == kInverseDistance4, "the bone has the falloff that was chosen");
+    user.finds(bone != nullptr && bone->bone.weightMap == map, "the bone has the weight map that was chosen");
+    user.finds(bone != nullptr && bone->bone.strength == 0.4, "the bone has the strength that was entered");
+  });
   return report;
 }
 

@@ -55,6 +55,10 @@ constexpr VariantValue kMissingTag[]{
     {"null"},
     {"empty", [](HostOptions& host) { host.modeler.missingTagIsEmpty = true; }},
 };
+constexpr VariantValue kRepeatedTag[]{
+    {"last"},
+    {"first", [](HostOptions& host) { host.modeler.firstTagCounts = true; }},
+};
 constexpr VariantValue kUnnamedLayer[]{
     {"null"},
     {"empty", [](HostOptions& host) { host.modeler.unnamedLayerIsEmpty = true; }},
@@ -118,6 +122,9 @@ constexpr std::array kModelerVariants{
                 "shows an empty and a missing name, weight map or colour alike", kEmptyTag},
     HostVariant{"missing-tag", "How a tag that is not there is read", "null is documented for a related question only",
                 "takes the default for both", kMissingTag},
+    HostVariant{"repeated-tag", "Which of several tags of one type that a file stores on one polygon is shown and saved",
+                "not documented; a file that is loaded tag by tag ends with the last, and the conversion takes the first",
+                "shows and changes what the host holds; the file that is saved has no other", kRepeatedTag},
     HostVariant{"unnamed-layer", "The name of a layer that has none", "null is documented, an empty text seems as likely",
                 "makes up the name for both", kUnnamedLayer},
     HostVariant{"layer-switch", "Whether what leaves the foreground is deselected",

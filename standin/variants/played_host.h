@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "standin/core/comma_locale.h"
+#include "standin/core/globals.h"
 #include "standin/layout/layout_host.h"
 #include "standin/modeler/modeler_host.h"
 #include "standin/panels/panel.h"
@@ -17,6 +18,7 @@ class PlayedHost : public Host {
  public:
   explicit PlayedHost(const HostOptions& options) : Host(options.*OptionsOfHost) {
     panels().options = options.panels;
+    if (options.program.copiedTables) globals().copyTables();
     if (options.program.commaLocale) locale_.emplace();
   }
 

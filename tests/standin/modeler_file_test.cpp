@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "objectfile/chunk_records.h"
 #include "objectfile/file_bytes.h"
 #include "objectfile/sample_rigs.h"
 #include "tests/standin/modeler_fixture.h"
@@ -56,6 +57,43 @@ TEST_F(ModelerFiles, ATagThatAnEditSetIsInTheSavedFile) {
   EXPECT_FALSE(host.save());
   ModelerObject& again = opened(path("リグ.lwo"));
   EXPECT_EQ(again.skelegon("背骨")->tag(settingTag(13)), "2");
+}
+
+// The second tag of a type stands in a chunk behind the first.
+void writeRepeatedTag(const std::string& path) {
+  ObjectFile object = *parseObject(*serializeObject(twoLayerRig()));
+  object.layers.clear();
+  const auto last = std::find_if(object.chunks.rbegin(), object.chunks.rend(),
+                                 [](const Chunk& chunk) { return chunk.id == records::kTags; });
+  const auto number = static_cast<std::uint16_t>(records::readTexts(last->bytes)->size());
+  last->bytes += records::writeTexts({"once", "again"});
+  for (const std::uint16_t text : {number, static_cast<std::uint16_t>(number + 1)}) {
+    object.chunks.push_back({records::kPolygonTags, records::writeTags({settingTag(31), {{1, text}}})});
+  }
+  ASSERT_FALSE(writeFileBytes(path, *joinForm({object.form, std::move(object.chunks)})));
+}
+
+TEST_F(ModelerFiles, OfATagThatAFileHasTwiceTheLastIsHeld) {
+  writeRepeatedTag(path("rig.lwo"));
+  EXPECT_EQ(opened(path("rig.lwo")).skelegon("Tail_02")->tag(settingTag(31)), "again");
+}
+
+TEST_F(ModelerFiles, OfATagThatAFileHasTwiceTheFirstIsHeldWhereHostsDiffer) {
+  writeRepeatedTag(path("rig.lwo"));
+  host.options().firstTagCounts = true;
+  EXPECT_EQ(opened(path("rig.lwo")).skelegon("Tail_02")->tag(settingTag(31)), "once");
+}
+
+// Else the one that nobody saw would come back with the next program that counts otherwise.
+TEST_F(ModelerFiles, OnlyTheTagThatIsHeldIsSaved) {
+  for (const bool first : {true, false}) {
+    writeRepeatedTag(path("rig.lwo"));
+    host.options().firstTagCounts = first;
+    const std::string held = opened(path("rig.lwo")).skelegon("Tail_02")->tag(settingTag(31));
+    EXPECT_FALSE(host.save());
+    host.options().firstTagCounts = !first;
+    EXPECT_EQ(opened(path("rig.lwo")).skelegon("Tail_02")->tag(settingTag(31)), held);
+  }
 }
 
 TEST_F(ModelerFiles, DeletedSkelegonsAndRemovedMapsAreNotSaved) {

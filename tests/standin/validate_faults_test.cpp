@@ -1,6 +1,5 @@
 // Every level can fail: each fault of the bad module is found by its check, with the right verdict and words.
 #include <algorithm>
-#include <cstring>
 #include <iterator>
 #include <ostream>
 
@@ -74,6 +73,9 @@ TEST_P(BadModule, IsFoundOut) {
   for (const Finding& finding : result.findings) all += finding.where + ": " + finding.what + "\n";
   ASSERT_FALSE(result.findings.empty());
   EXPECT_NE(all.find(GetParam().words), std::string::npos) << all;
+  if (GetParam().level != 11) return;
+  // Of all the hosts that are played only the one that shows the fault is named.
+  for (const Finding& finding : result.findings) EXPECT_TRUE(finding.where.starts_with(GetParam().words)) << all;
 }
 
 INSTANTIATE_TEST_SUITE_P(Faults, BadModule, testing::ValuesIn(kExpectations), [](const auto& info) {
@@ -81,37 +83,6 @@ INSTANTIATE_TEST_SUITE_P(Faults, BadModule, testing::ValuesIn(kExpectations), []
   std::erase(name, '-');
   return name;
 });
-
-// The default host never fires an event while another one runs, so no other level and no other host finds this fault.
-TEST_F(Validation, NamesTheHostOnWhichAModuleFails) {
-  choose(BadFault::GivesUpAtNestedEvents);
-  for (const CheckResult& result :
-       runChecks(orderOf(sampleModule("bad_module"), {"trip-property", "trip-renamer", "hosts-panels", "hosts-modeler"}))) {
-    const bool isFound = std::strcmp(result.check->name, "hosts-panels") == 0;
-    EXPECT_STREQ(nameOf(result.verdict), isFound ? "fail" : "pass") << result.check->name;
-    for (const Finding& finding : result.findings) {
-      EXPECT_TRUE(finding.where.starts_with("sets=fire, ")) << finding.where << ": " << finding.what;
-    }
-  }
-}
-
-TEST_F(Validation, PassesTheRealModuleOnEveryHost) {
-  RunOrder order = orderOf(modulePath(), {});
-  order.firstLevel = order.lastLevel = 11;
-  for (const CheckResult& result : runChecks(order)) {
-    EXPECT_STREQ(nameOf(result.verdict), "pass") << result.check->name;
-    for (const Finding& finding : result.findings) ADD_FAILURE() << finding.where << ": " << finding.what;
-  }
-}
-
-// The bad module shows it: what it fails on this host only, it fails in every level that is played there.
-TEST_F(Validation, PlaysEveryLevelOnTheHostThatIsChosen) {
-  choose(BadFault::GivesUpAtNestedEvents);
-  RunOrder order = orderOf(sampleModule("bad_module"), {"trip-renamer"});
-  EXPECT_STREQ(nameOf(runChecks(order).at(0).verdict), "pass");
-  ASSERT_EQ(order.host.take("sets=fire"), "");
-  EXPECT_STREQ(nameOf(runChecks(order).at(0).verdict), "fail");
-}
 
 TEST(BadModules, FailOnEveryLevel) {
   for (int level = kFirstLevel; level <= kLastLevel; ++level) {
@@ -145,43 +116,6 @@ TEST_F(Validation, NamesAWrongDescriptor) {
 
 TEST_F(Validation, NamesMissingServers) {
   EXPECT_STREQ(nameOf(run(sampleModule("sample_good"), "servers").verdict), "fail");
-}
-
-TEST_F(Validation, PassesTheRealModuleOnTheFirstLevels) {
-  const RunOrder order =
-      orderOf(modulePath(), {"file-exports", "file-imports", "descriptor", "servers", "versions", "products", "locales",
-                             "local-data", "withheld", "null-lookups", "gone-while-open"});
-  for (const CheckResult& result : runChecks(order)) {
-    EXPECT_TRUE(result.verdict == Verdict::pass || result.verdict == Verdict::skip) << result.check->name;
-    EXPECT_TRUE(result.findings.empty()) << result.check->name << ": " << result.findings.at(0).what;
-  }
-}
-
-TEST_F(Validation, PassesTheRealModulesPanelsAndTrips) {
-  for (const CheckResult& result :
-       runChecks(orderOf(modulePath(), {"opening", "geometry", "resizing", "trip-typical", "trip-property", "trip-renamer",
-                                        "trip-selector", "trip-conversion"}))) {
-    EXPECT_STREQ(nameOf(result.verdict), "pass") << result.check->name;
-    EXPECT_TRUE(result.findings.empty()) << result.check->name << ": " << result.findings.at(0).what;
-  }
-}
-
-// The conversion makes far more calls than this; each of them is refused in turn.
-TEST_F(Validation, CountsTheFaultsThatItPutIn) {
-  const CheckResult result = run(modulePath(), "calls-conversion");
-  EXPECT_STREQ(nameOf(result.verdict), "pass");
-  EXPECT_GT(result.injected, 500U);
-  EXPECT_EQ(result.cases, result.injected + 1);
-}
-
-// The switches are put back also where there is no memory to format a command.
-TEST_F(Validation, PassesTheRealConversionWithoutMemory) {
-  RunOrder order = orderOf(modulePath(), {"memory-conversion"});
-  order.share = 1;
-  const CheckResult result = runChecks(order).at(0);
-  if (result.verdict == Verdict::skip) GTEST_SKIP() << result.reason;
-  EXPECT_GT(result.injected, 200U);
-  EXPECT_TRUE(result.findings.empty()) << result.findings.at(0).what;
 }
 
 TEST_F(Validation, RepeatsAWalkByItsSeed) {

@@ -4,8 +4,10 @@
 
 #include <cstring>
 #include <set>
+#include <utility>
 
 #include "objectfile/file_bytes.h"
+#include "standin/variants/played_host.h"
 #include "standin/variants/variants.h"
 
 namespace standin {
@@ -189,6 +191,60 @@ TEST(MixedHosts, KeepWhatIsSettled) {
   for (std::uint64_t seed = 0; seed < 20; ++seed) {
     EXPECT_THAT(HostChoice::mixture(seed, settled).words(), testing::Contains(wordOf(firstSingle())));
   }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+
+template <class Played>
+void findsTablesCopied(const char* name) {
+  HostOptions options;
+  const auto twice = [&] {
+    const Played host(options);
+    return std::pair(Globals::lookup()(name, lw::kUseTransient), Globals::lookup()(name, lw::kUseTransient));
+  };
+  const auto [one, same] = twice();
+  EXPECT_EQ(one, same) << name;
+  options.program.copiedTables = true;
+  const Played host(options);
+  const void* const first = Globals::lookup()(name, lw::kUseTransient);
+  const void* const second = Globals::lookup()(name, lw::kUseTransient);
+  EXPECT_NE(first, second) << name;
+  EXPECT_EQ(std::memcmp(first, second, 16), 0) << name;
+}
+
+TEST(CopiedTables, AreOthersAtEachLookup) {
+  for (const char* name : {"Scene Objects 9", "Info Messages 4", "LWPanelServices 3", "Image Utility 6"}) {
+    findsTablesCopied<PlayedModeler>(name);
+    findsTablesCopied<PlayedLayout>(name);
+  }
+  findsTablesCopied<PlayedModeler>("LWM: State Query 5");
+  findsTablesCopied<PlayedLayout>("LW Item Info 9");
+}
+
+TEST(CopiedTables, LeaveFunctionsAndNumbersAsTheyAre) {
+  HostOptions options;
+  options.program.copiedTables = true;
+  const PlayedLayout host(options);
+  for (const char* name : {"Product Info", "Locale Info", "LW Command Interface"}) {
+    EXPECT_EQ(Globals::lookup()(name, lw::kUseTransient), Globals::lookup()(name, lw::kUseTransient)) << name;
+  }
+}
+
+TEST(CopiedTables, TakeTheLookupFunctionInOneOfThem) {
+  HostOptions options;
+  options.program.copiedTables = true;
+  const PlayedModeler host(options);
+  const auto services = [] {
+    return static_cast<lw::LWPanelFuncs*>(Globals::lookup()("LWPanelServices 3", lw::kUseTransient));
+  };
+  lw::LWPanelFuncs* const first = services();
+  first->create("early", nullptr);
+  EXPECT_THAT(witness().report(), HasSubstr("lookup function"));
+  witness().reset();
+  first->globalFun = Globals::lookup();
+  EXPECT_EQ(services()->globalFun, nullptr);
+  EXPECT_NE(first->create("in time", nullptr), nullptr);
+  EXPECT_EQ(witness().report(), "");
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
