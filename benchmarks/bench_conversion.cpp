@@ -5,9 +5,9 @@
 
 #include "benchmarks/loaded_module.h"
 #include "benchmarks/module_cost.h"
+#include "objectfile/rig_builder.h"
 #include "standin/core/tool_names.h"
 #include "standin/layout/layout_host.h"
-#include "standin/objectfile/rig_builder.h"
 
 namespace {
 

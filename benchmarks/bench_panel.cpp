@@ -5,9 +5,9 @@
 
 #include "benchmarks/loaded_module.h"
 #include "benchmarks/module_cost.h"
+#include "objectfile/sample_rigs.h"
 #include "standin/core/tool_names.h"
 #include "standin/modeler/modeler_host.h"
-#include "standin/objectfile/sample_rigs.h"
 
 namespace {
 

@@ -15,7 +15,7 @@
 
 #include "benchmarks/object_files.h"
 #include "benchmarks/timing.h"
-#include "layout/object_reader.h"
+#include "reader/object_reader.h"
 
 namespace {
 

@@ -2,9 +2,9 @@
 // and weight maps and once for all eighteen tags.
 #include "benchmarks/loaded_module.h"
 #include "benchmarks/module_cost.h"
+#include "objectfile/sample_rigs.h"
 #include "standin/core/tool_names.h"
 #include "standin/modeler/modeler_host.h"
-#include "standin/objectfile/sample_rigs.h"
 
 namespace {
 

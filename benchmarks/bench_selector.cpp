@@ -2,9 +2,9 @@
 // all, and one that expands or collapses.
 #include "benchmarks/loaded_module.h"
 #include "benchmarks/module_cost.h"
+#include "objectfile/rig_builder.h"
 #include "standin/core/tool_names.h"
 #include "standin/modeler/modeler_host.h"
-#include "standin/objectfile/rig_builder.h"
 
 namespace {
 

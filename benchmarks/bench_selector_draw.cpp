@@ -5,7 +5,7 @@
 #include <string>
 
 #include "benchmarks/module_cost.h"
-#include "modeler/tree_drawing.h"
+#include "modeler/selector/tree_drawing.h"
 #include "tests/unit/tree_fixture.h"
 
 namespace {

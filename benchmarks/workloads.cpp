@@ -7,10 +7,10 @@
 
 #include "benchmarks/loaded_module.h"
 #include "benchmarks/object_files.h"
+#include "objectfile/sample_rigs.h"
 #include "standin/core/tool_names.h"
 #include "standin/layout/layout_host.h"
 #include "standin/modeler/modeler_host.h"
-#include "standin/objectfile/sample_rigs.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <cstddef>
 #include <vector>
 
-#include "host/lightwave.h"
-#include "host/texts/texts.h"
+#include "interface/lightwave.h"
+#include "texts/texts.h"
 
 namespace lw {
 

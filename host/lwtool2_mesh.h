@@ -15,7 +15,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 
 namespace lw {
 

@@ -6,7 +6,7 @@
 
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_globals.h"
-#include "host/texts/whole_text.h"
+#include "texts/whole_text.h"
 
 namespace lw {
 namespace {

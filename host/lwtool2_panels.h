@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "host/lightwave.h"
-#include "host/texts/texts.h"
+#include "interface/lightwave.h"
+#include "texts/texts.h"
 
 namespace lw {
 

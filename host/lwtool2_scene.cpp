@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <unordered_set>
 
-#include "host/item_names.h"
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_eval.h"
 #include "host/lwtool2_globals.h"
+#include "skelegon/item_names.h"
 
 namespace lw {
 namespace {
@@ -94,7 +94,7 @@ std::string itemName(ItemId item) { return copied(itemInfo().name(item)); }
 ItemKind ClassifyItem(ItemId item) {
   switch (itemInfo().type(item)) {
     case kItemObject:
-      return isObjectFileName(copied(objectInfo().filename(item))) ? ItemKind::FileObject : ItemKind::OtherObject;
+      return skg::isObjectFileName(copied(objectInfo().filename(item))) ? ItemKind::FileObject : ItemKind::OtherObject;
     case kItemLight: return ItemKind::Light;
     case kItemCamera: return ItemKind::Camera;
     case kItemBone: return ItemKind::Bone;
@@ -102,7 +102,7 @@ ItemKind ClassifyItem(ItemId item) {
   }
 }
 
-std::string SplitItemName(ItemId item, int group) { return splitItemName(itemName(item), group); }
+std::string SplitItemName(ItemId item, int group) { return skg::splitItemName(itemName(item), group); }
 
 unsigned commandId(ItemId item) { return static_cast<unsigned>(reinterpret_cast<std::uintptr_t>(item)); }
 

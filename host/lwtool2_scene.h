@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 
 namespace lw {
 

@@ -3,10 +3,10 @@
 
 #include <string>
 
-#include "host/lightwave.h"
 #include "host/lwtool2_globals.h"
 #include "host/lwtool2_panels.h"
 #include "host/panel_life.h"
+#include "interface/lightwave.h"
 
 namespace lwp {
 

@@ -7,7 +7,7 @@
 #include <optional>
 #include <span>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 #include "skelegon/setting_groups.h"
 #include "skelegon/slots.h"
 

@@ -4,13 +4,13 @@
 #include <optional>
 #include <string>
 
-#include "host/item_names.h"
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_eval.h"
 #include "host/lwtool2_globals.h"
 #include "layout/ST_bone_set_params.h"
-#include "layout/object_reader.h"
-#include "layout/stored_properties.h"
+#include "reader/object_reader.h"
+#include "reader/stored_properties.h"
+#include "skelegon/item_names.h"
 
 namespace lwp {
 namespace {
@@ -89,7 +89,7 @@ ObjectNames namesOf(lw::ItemId object, const st::ObjectFileData& data) {
 // item's own: then the file is another one, and its only layer goes by the name of that.
 std::optional<st::ObjectLayer> layerNamed(const st::ObjectFileData& data, const std::string& name,
                                           const std::string& readPath) {
-  const std::string fileName = lw::fileBaseName(readPath);
+  const std::string fileName = skg::fileBaseName(readPath);
   for (const st::ObjectLayer layer : data.layers()) {
     if ((isNamedByFile(data) ? fileName : layer.name()) == name) return layer;
   }

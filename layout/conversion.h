@@ -2,8 +2,8 @@
 // Called in Layout, from the panel's button.
 #pragma once
 
-#include "host/lightwave.h"
 #include "host/lwtool2_scene.h"
+#include "interface/lightwave.h"
 #include "layout/narrow_path.h"
 
 namespace lwp {

@@ -1,8 +1,8 @@
 #include "modeler/tools.h"
 
-#include "modeler/MST_CSkgPropPanel.h"
-#include "modeler/MST_CSkgSelPanel.h"
-#include "modeler/MST_RenamerPanel.h"
+#include "modeler/property/MST_CSkgPropPanel.h"
+#include "modeler/renamer/MST_RenamerPanel.h"
+#include "modeler/selector/MST_CSkgSelPanel.h"
 
 namespace mst {
 

@@ -3,10 +3,6 @@
 
 namespace mst {
 
-inline constexpr const char* kSelectorName = "Orlo:SkelegonSelector";
-inline constexpr const char* kRenamerName = "Orlo:SkelegonRenamer";
-inline constexpr const char* kPropertyName = "Orlo:SkelegonProperty";
-
 int runSelector();
 int runRenamer();
 int runProperty();

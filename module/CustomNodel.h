@@ -1,7 +1,7 @@
 // What the host sees of the module: the descriptor, the servers and their activations.
 #pragma once
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 
 namespace varnel {
 

@@ -1,6 +1,7 @@
 // The one symbol that the module exports, and the table of its servers.
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 #include "layout/conversion.h"
+#include "modeler/shared/tool_names.h"
 #include "modeler/tools.h"
 #include "module/CustomNodel.h"
 

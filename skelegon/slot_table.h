@@ -7,8 +7,8 @@
 #include <cstddef>
 #include <optional>
 
-#include "host/texts/texts.h"
 #include "skelegon/slots.h"
+#include "texts/texts.h"
 
 namespace skg {
 

@@ -62,6 +62,28 @@ enum class SlotKind {
   Colour,
 };
 
+// How a panel shows and takes the value of a setting.
+enum class ValueKind { None, Integer, Real, Text, Colour };
+
+constexpr ValueKind valueKindOf(SlotKind kind) {
+  switch (kind) {
+    case SlotKind::Flag:
+    case SlotKind::Choice:
+    case SlotKind::Integer: return ValueKind::Integer;
+    case SlotKind::Percent:
+    case SlotKind::Distance:
+    case SlotKind::Number:
+    case SlotKind::Angle: return ValueKind::Real;
+    case SlotKind::ItemName:
+    case SlotKind::ObjectName:
+    case SlotKind::WeightMapName:
+    case SlotKind::Text: return ValueKind::Text;
+    case SlotKind::Colour: return ValueKind::Colour;
+    case SlotKind::Reserved: break;
+  }
+  return ValueKind::None;
+}
+
 constexpr std::size_t indexOf(Slot slot) { return static_cast<std::size_t>(slot); }
 
 // The default text of a slot. Compared and put in as exact text, never as a number.

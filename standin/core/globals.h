@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 
 namespace standin {
 

@@ -15,7 +15,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 #include "standin/core/module_file.h"
 #include "standin/layout/host_text.h"
 #include "standin/layout/layout_state.h"

@@ -13,12 +13,12 @@
 #include <unordered_map>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
+#include "objectfile/object_file.h"
 #include "standin/layout/envelope.h"
 #include "standin/layout/options.h"
 #include "standin/layout/settings.h"
 #include "standin/layout/transform.h"
-#include "standin/objectfile/object_file.h"
 
 namespace standin {
 

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 #include "standin/core/witness.h"
 #include "standin/layout/layout_host.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 
 namespace standin {
 

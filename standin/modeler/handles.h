@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 
 namespace standin {
 

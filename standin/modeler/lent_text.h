@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 
 namespace standin {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 #include "standin/modeler/lent_text.h"
 #include "standin/modeler/modeler_object.h"
 

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 #include "standin/core/globals.h"
 #include "standin/core/module_file.h"
 #include "standin/core/witness.h"

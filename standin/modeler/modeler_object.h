@@ -15,9 +15,9 @@
 #include <variant>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
+#include "objectfile/object_file.h"
 #include "standin/modeler/handles.h"
-#include "standin/objectfile/object_file.h"
 
 namespace standin {
 

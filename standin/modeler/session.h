@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 #include "standin/core/witness.h"
 #include "standin/modeler/handles.h"
 #include "standin/modeler/lent_text.h"

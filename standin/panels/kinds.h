@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 
 namespace standin {
 

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 #include "standin/panels/kinds.h"
 #include "standin/panels/options.h"
 

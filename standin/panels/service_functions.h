@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 #include "standin/core/witness.h"
 #include "standin/panels/panel.h"
 

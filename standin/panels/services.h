@@ -1,7 +1,7 @@
 // "LWPanelServices 3": the tables of functions through which the module makes and uses panels.
 #pragma once
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 #include "standin/panels/panel.h"
 
 namespace standin {

@@ -7,7 +7,7 @@
 #include <random>
 #include <stdexcept>
 
-#include "standin/objectfile/file_bytes.h"
+#include "objectfile/file_bytes.h"
 
 namespace standin::validate {
 namespace {

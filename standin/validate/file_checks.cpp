@@ -3,10 +3,10 @@
 #include <array>
 #include <cctype>
 
+#include "objectfile/file_bytes.h"
 #include "standin/core/module_file.h"
 #include "standin/core/shared_library.h"
 #include "standin/core/witness.h"
-#include "standin/objectfile/file_bytes.h"
 #include "standin/validate/check.h"
 #include "standin/validate/check_run.h"
 #include "standin/validate/pe_file.h"

@@ -3,7 +3,7 @@
 #include <array>
 #include <vector>
 
-#include "standin/objectfile/rig_builder.h"
+#include "objectfile/rig_builder.h"
 
 namespace standin::validate {
 namespace {

@@ -4,7 +4,7 @@
 #include <span>
 #include <string>
 
-#include "standin/objectfile/object_file.h"
+#include "objectfile/object_file.h"
 
 namespace standin::validate {
 

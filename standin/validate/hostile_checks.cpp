@@ -4,7 +4,7 @@
 #include <functional>
 #include <tuple>
 
-#include "standin/objectfile/file_bytes.h"
+#include "objectfile/file_bytes.h"
 #include "standin/panels/person.h"
 #include "standin/validate/check.h"
 #include "standin/validate/check_run.h"

@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <array>
 
+#include "objectfile/rig_builder.h"
 #include "standin/core/witness.h"
-#include "standin/objectfile/rig_builder.h"
 #include "standin/validate/panel_places.h"
 #include "standin/validate/touch.h"
 #include "standin/validate/traveller.h"

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "standin/objectfile/outcome.h"
+#include "objectfile/outcome.h"
 
 namespace standin::validate {
 

@@ -8,7 +8,7 @@
 #include <thread>
 #include <utility>
 
-#include "standin/objectfile/file_bytes.h"
+#include "objectfile/file_bytes.h"
 #include "standin/validate/child_process.h"
 
 namespace standin::validate {

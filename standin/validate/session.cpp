@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "objectfile/sample_rigs.h"
 #include "standin/core/witness.h"
-#include "standin/objectfile/sample_rigs.h"
 #include "standin/panels/person.h"
 #include "standin/validate/touch.h"
 

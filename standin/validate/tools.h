@@ -4,7 +4,7 @@
 #include <array>
 #include <span>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 #include "standin/core/tool_names.h"
 
 namespace standin::validate {

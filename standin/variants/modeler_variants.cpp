@@ -1,7 +1,7 @@
 // What is open about Modeler: edits, scans, tags, layers, maps, objects.
 #include <array>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 #include "standin/variants/variants.h"
 
 namespace standin {

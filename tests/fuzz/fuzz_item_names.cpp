@@ -5,7 +5,7 @@
 #include <regex>
 #include <string>
 
-#include "host/item_names.h"
+#include "skelegon/item_names.h"
 #include "tests/fuzz/fuzz_check.h"
 
 namespace {
@@ -29,10 +29,10 @@ bool isFileNameByExpression(const std::string& name) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   const std::string name(reinterpret_cast<const char*>(bytes), size);
-  const std::string object = lw::splitItemName(name, 1);
-  const std::string layer = lw::splitItemName(name, 2);
-  const bool isFileName = lw::isObjectFileName(name);
-  const std::string base = lw::fileBaseName(name);
+  const std::string object = skg::splitItemName(name, 1);
+  const std::string layer = skg::splitItemName(name, 2);
+  const bool isFileName = skg::isObjectFileName(name);
+  const std::string base = skg::fileBaseName(name);
   require(object.empty() == layer.empty(), "a name has both parts or none");
   require(object.find(':') == std::string::npos, "the object's part ends before the colon");
   require(layer.find(' ') == std::string::npos, "the layer's part has no blank");

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "modeler/rename_rules.h"
+#include "modeler/renamer/rename_rules.h"
 #include "tests/fuzz/fuzz_check.h"
 
 namespace {

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "module/CustomNodel.h"
+#include "objectfile/sample_rigs.h"
 #include "standin/core/witness.h"
 #include "standin/modeler/modeler_host.h"
-#include "standin/objectfile/sample_rigs.h"
 #include "standin/panels/person.h"
 #include "standin/validate/touch.h"
 

@@ -13,7 +13,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 #include "module/CustomNodel.h"
 
 #if defined(_WIN32)

@@ -4,9 +4,9 @@
 #include <filesystem>
 #include <optional>
 
+#include "objectfile/sample_rigs.h"
 #include "standin/core/program_folder.h"
 #include "standin/core/tool_names.h"
-#include "standin/objectfile/sample_rigs.h"
 #include "standin/windows/desk_window.h"
 #include "standin/windows/driver.h"
 

@@ -1,10 +1,10 @@
 // The selector's tree in a real window, painted by whichever callback: what is seen while a button is down.
 #include <gmock/gmock.h>
 
+#include "objectfile/sample_rigs.h"
 #include "standin/core/program_folder.h"
 #include "standin/core/tool_names.h"
 #include "standin/modeler/modeler_host.h"
-#include "standin/objectfile/sample_rigs.h"
 #include "standin/windows/driver.h"
 
 namespace standin {

@@ -1,11 +1,11 @@
 // The module's own panels as real windows: a setting is written by real hands, and nothing that a page shows is cut.
 #include <gmock/gmock.h>
 
+#include "objectfile/sample_rigs.h"
 #include "standin/core/program_folder.h"
 #include "standin/core/tool_names.h"
 #include "standin/layout/layout_host.h"
 #include "standin/modeler/modeler_host.h"
-#include "standin/objectfile/sample_rigs.h"
 #include "standin/panels/metrics.h"
 #include "standin/windows/driver.h"
 #include "standin/windows/painting.h"

@@ -2,7 +2,7 @@
 // laid down, and nothing left out. What the module draws has to look the same.
 #pragma once
 
-#include "modeler/tree_rows.h"
+#include "modeler/selector/tree_rows.h"
 
 namespace pictures {
 

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <string>
 
-#include "modeler/tree_drawing.h"
+#include "modeler/selector/tree_drawing.h"
 #include "standin/core/program_folder.h"
 #include "standin/windows/gl_state.h"
 #include "tests/pictures/gl_window.h"

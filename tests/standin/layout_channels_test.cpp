@@ -1,4 +1,4 @@
-#include "layout_fixture.h"
+#include "tests/standin/layout_fixture.h"
 
 namespace standin {
 namespace {

@@ -2,8 +2,8 @@
 #include <cmath>
 #include <cstdio>
 
-#include "layout_fixture.h"
 #include "standin/layout/command_table.h"
+#include "tests/standin/layout_fixture.h"
 
 namespace standin {
 namespace {

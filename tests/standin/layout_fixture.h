@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 #include "standin/core/globals.h"
 #include "standin/core/witness.h"
 #include "standin/layout/layout_host.h"

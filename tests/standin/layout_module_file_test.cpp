@@ -1,8 +1,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "layout_fixture.h"
 #include "standin/core/module_file.h"
+#include "tests/standin/layout_fixture.h"
 
 namespace standin {
 namespace {

@@ -1,6 +1,6 @@
-#include "layout_fixture.h"
 #include "standin/layout/number_text.h"
 #include "standin/layout/skelegon_bones.h"
+#include "tests/standin/layout_fixture.h"
 
 namespace standin {
 namespace {

@@ -2,7 +2,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "layout_fixture.h"
+#include "tests/standin/layout_fixture.h"
 
 namespace standin {
 namespace {

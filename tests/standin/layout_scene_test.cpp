@@ -1,7 +1,7 @@
 #include <cmath>
 
-#include "layout_fixture.h"
 #include "standin/layout/skelegon_bones.h"
+#include "tests/standin/layout_fixture.h"
 
 namespace standin {
 namespace {

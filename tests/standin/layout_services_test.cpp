@@ -3,7 +3,7 @@
 #include <functional>
 #include <limits>
 
-#include "layout_fixture.h"
+#include "tests/standin/layout_fixture.h"
 
 namespace standin {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <filesystem>
 
-#include "standin/objectfile/file_bytes.h"
-#include "standin/objectfile/sample_rigs.h"
+#include "objectfile/file_bytes.h"
+#include "objectfile/sample_rigs.h"
 #include "tests/standin/modeler_fixture.h"
 
 namespace standin {

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "objectfile/rig_builder.h"
 #include "standin/modeler/modeler_host.h"
-#include "standin/objectfile/rig_builder.h"
 
 namespace standin {
 

@@ -4,10 +4,10 @@
 #include <functional>
 #include <random>
 
-#include "standin/objectfile/chunks.h"
-#include "standin/objectfile/object_file.h"
-#include "standin/objectfile/rig_builder.h"
-#include "standin/objectfile/sample_rigs.h"
+#include "objectfile/chunks.h"
+#include "objectfile/object_file.h"
+#include "objectfile/rig_builder.h"
+#include "objectfile/sample_rigs.h"
 
 namespace standin {
 namespace {

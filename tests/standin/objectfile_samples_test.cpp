@@ -7,8 +7,8 @@
 #include <fstream>
 #include <nlohmann/json.hpp>
 
-#include "standin/objectfile/file_bytes.h"
-#include "standin/objectfile/object_file.h"
+#include "objectfile/file_bytes.h"
+#include "objectfile/object_file.h"
 
 namespace standin {
 namespace {

@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <set>
 
-#include "standin/objectfile/object_file.h"
-#include "standin/objectfile/rig_builder.h"
-#include "standin/objectfile/sample_rigs.h"
+#include "objectfile/object_file.h"
+#include "objectfile/rig_builder.h"
+#include "objectfile/sample_rigs.h"
 
 namespace standin {
 namespace {

@@ -6,9 +6,9 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "standin/program/replace_file.h"
-#include "standin/program/subcommands.h"
-#include "standin/program/support.h"
+#include "program/replace_file.h"
+#include "program/subcommands.h"
+#include "program/support.h"
 #include "tests/standin/rigs_fixture.h"
 
 namespace standin {

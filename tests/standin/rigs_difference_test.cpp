@@ -1,9 +1,9 @@
 // What differs between two states of a rig.
-#include "standin/rigs/difference.h"
+#include "rigs/difference.h"
 
 #include <gmock/gmock.h>
 
-#include "standin/rigs/report.h"
+#include "rigs/report.h"
 #include "tests/standin/rigs_fixture.h"
 
 namespace standin::rigs {

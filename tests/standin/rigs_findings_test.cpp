@@ -1,12 +1,12 @@
 // Each kind of finding: a rig that has it, and the sound rig that has none.
-#include "standin/rigs/findings.h"
+#include "rigs/findings.h"
 
 #include <gmock/gmock.h>
 
 #include "layout/narrow_path.h"
+#include "objectfile/chunk_records.h"
+#include "rigs/names_in_layout.h"
 #include "standin/layout/layout_host.h"
-#include "standin/objectfile/chunk_records.h"
-#include "standin/rigs/names_in_layout.h"
 #include "tests/standin/rigs_fixture.h"
 
 namespace standin::rigs {

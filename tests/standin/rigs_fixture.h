@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "standin/objectfile/file_bytes.h"
-#include "standin/objectfile/object_file.h"
-#include "standin/objectfile/rig_builder.h"
-#include "standin/rigs/rig.h"
+#include "objectfile/file_bytes.h"
+#include "objectfile/object_file.h"
+#include "objectfile/rig_builder.h"
+#include "rigs/rig.h"
 
 namespace standin::rigs {
 

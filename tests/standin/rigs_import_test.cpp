@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "standin/rigs/settings_json.h"
+#include "rigs/settings_json.h"
 #include "tests/standin/rigs_fixture.h"
 
 namespace standin::rigs {

@@ -1,5 +1,5 @@
 // Rigs as text.
-#include "standin/rigs/report.h"
+#include "rigs/report.h"
 
 #include <gmock/gmock.h>
 

@@ -1,14 +1,14 @@
 // Names and values of settings as a person reads them.
-#include "standin/rigs/settings.h"
+#include "rigs/settings.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
-#include "host/lightwave.h"
-#include "standin/rigs/code_page.h"
-#include "standin/rigs/text.h"
-#include "standin/rigs/values.h"
+#include "interface/lightwave.h"
+#include "rigs/code_page.h"
+#include "rigs/text.h"
+#include "rigs/values.h"
 
 namespace standin::rigs {
 namespace {

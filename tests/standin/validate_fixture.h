@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "objectfile/file_bytes.h"
 #include "standin/core/program_folder.h"
-#include "standin/objectfile/file_bytes.h"
 #include "standin/validate/runner.h"
 #include "tests/modules/bad_module.h"
 

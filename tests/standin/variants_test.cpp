@@ -5,7 +5,7 @@
 #include <cstring>
 #include <set>
 
-#include "standin/objectfile/file_bytes.h"
+#include "objectfile/file_bytes.h"
 #include "standin/variants/variants.h"
 
 namespace standin {

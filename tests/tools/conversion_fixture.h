@@ -11,11 +11,11 @@
 #include <utility>
 #include <vector>
 
+#include "objectfile/rig_builder.h"
 #include "standin/core/program_folder.h"
 #include "standin/core/tool_names.h"
 #include "standin/core/witness.h"
 #include "standin/layout/layout_host.h"
-#include "standin/objectfile/rig_builder.h"
 #include "standin/panels/person.h"
 
 namespace standin {

@@ -3,8 +3,8 @@
 #include <cstdio>
 #include <tuple>
 
+#include "objectfile/file_bytes.h"
 #include "standin/core/globals.h"
-#include "standin/objectfile/file_bytes.h"
 #include "tests/tools/conversion_fixture.h"
 
 namespace standin {

@@ -14,9 +14,9 @@
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_globals.h"
 #include "host/lwtool2_mesh.h"
+#include "objectfile/rig_builder.h"
 #include "skelegon/slots.h"
 #include "standin/modeler/modeler_host.h"
-#include "standin/objectfile/rig_builder.h"
 
 namespace varnel::test {
 

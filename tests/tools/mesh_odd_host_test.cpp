@@ -1,5 +1,5 @@
 // The mesh layer where polygons are damaged, or the host's records are.
-#include "modeler/skelegon_scan.h"
+#include "modeler/shared/skelegon_scan.h"
 #include "tests/tools/mesh_fixture.h"
 
 namespace varnel::test {

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "modeler/open_panels.h"
+#include "modeler/shared/open_panels.h"
 
 namespace varnel::test {
 

@@ -12,10 +12,10 @@
 #include <utility>
 #include <vector>
 
-#include "modeler/property_controls.h"
-#include "modeler/renamer_controls.h"
+#include "modeler/property/property_controls.h"
+#include "modeler/renamer/renamer_controls.h"
+#include "objectfile/rig_builder.h"
 #include "skelegon/slots.h"
-#include "standin/objectfile/rig_builder.h"
 #include "standin/panels/geometry.h"
 #include "tests/tools/modeler_session.h"
 #include "tests/tools/panels_walk_mesh.h"
@@ -158,7 +158,8 @@ class ThreePanels : public testing::Test, protected ModelerSession {
     for (const mst::ControlRow& row : mst::controlTable()) {
       if (!row.slot) continue;
       std::string expected = storedValue(shown, *row.slot);
-      if (row.value == mst::ValueKind::Real) expected = realText(std::strtod(expected.c_str(), nullptr));
+      if (mst::ControlSlotMap(row.number).value == mst::ValueKind::Real)
+        expected = realText(std::strtod(expected.c_str(), nullptr));
       EXPECT_EQ(valueOf(row, *field(row.number)), expected) << "control " << row.number;
     }
     expectChoosersAsMesh();

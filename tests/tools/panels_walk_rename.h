@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "modeler/rename_rules.h"
+#include "modeler/renamer/rename_rules.h"
 #include "tests/tools/panels_walk_mesh.h"
 
 namespace varnel::test::walk {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "modeler/text_cells.h"
+#include "modeler/selector/text_cells.h"
 
 namespace varnel::test::walk {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "modeler/tree_scroll.h"
+#include "modeler/selector/tree_scroll.h"
 #include "standin/panels/person.h"
 #include "tests/tools/panels_walk_mesh.h"
 

@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include "modeler/property_controls.h"
-#include "modeler/property_sections.h"
-#include "standin/objectfile/rig_builder.h"
+#include "modeler/property/property_controls.h"
+#include "modeler/property/property_layout.h"
+#include "objectfile/rig_builder.h"
 #include "standin/panels/geometry.h"
 #include "tests/tools/modeler_session.h"
 

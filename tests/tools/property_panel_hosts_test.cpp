@@ -176,7 +176,7 @@ TEST_F(PropertyPanel, ShowsEveryControlOfAPageAfterThoseOfAnotherAreErased) {
     showPage(page);
     for (std::size_t number = 0; number < mst::kControlCount; ++number) {
       if (number == kNamePopup) continue;
-      EXPECT_EQ(isVisible(number), mst::isShown(mst::sectionOf(number), page, kPositionGroup)) << page << " " << number;
+      EXPECT_EQ(isVisible(number), mst::isShown(mst::controlTable()[number], page, kPositionGroup)) << page << " " << number;
     }
   }
 }

@@ -98,7 +98,7 @@ TEST_P(EveryForm, ShowsExactlyItsControls) {
   openForm();
   const bool canEdit = GetParam().selected.size() == 1;
   for (std::size_t number = 0; number < mst::kControlCount; ++number) {
-    bool expected = mst::isShown(mst::sectionOf(number), GetParam().page, GetParam().group);
+    bool expected = mst::isShown(mst::controlTable()[number], GetParam().page, GetParam().group);
     if (number == kNameEdit) expected = canEdit;
     if (number == kNamePopup) expected = !canEdit;
     EXPECT_EQ(isVisible(number), expected) << number;

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "host/lwtool2_globals.h"
-#include "modeler/MST_CSkgPropPanel.h"
+#include "modeler/property/MST_CSkgPropPanel.h"
 #include "tests/tools/panel_listener.h"
 #include "tests/tools/property_panel_fixture.h"
 

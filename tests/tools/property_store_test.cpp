@@ -1,8 +1,8 @@
 // Bone settings read from and written to the mesh, and the skelegon tree built from it.
-#include "modeler/property_store.h"
+#include "modeler/property/property_store.h"
 #include "skelegon/slot_table.h"
 
-#include "modeler/skelegon_scan.h"
+#include "modeler/shared/skelegon_scan.h"
 #include "tests/tools/mesh_fixture.h"
 
 namespace varnel::test {

@@ -111,7 +111,7 @@ class PropertyWalk : public PropertyPanel {
 
   std::string changeValue() {
     const mst::ControlRow& row = mst::controlTable()[static_cast<std::size_t>(below(192))];
-    if (row.role != mst::Role::Value || row.value == mst::ValueKind::Colour) return "nothing";
+    if (row.role != mst::Role::Value || mst::ControlSlotMap(row.number).value == mst::ValueKind::Colour) return "nothing";
     const int slot = static_cast<int>(skg::indexOf(*row.slot));
     show(row.number);
     Control* const control = this->control(row.number);

@@ -9,10 +9,10 @@
 #include <utility>
 #include <vector>
 
-#include "modeler/rename_rules.h"
-#include "modeler/renamer_controls.h"
-#include "modeler/renamer_layout.h"
-#include "standin/objectfile/rig_builder.h"
+#include "modeler/renamer/rename_rules.h"
+#include "modeler/renamer/renamer_controls.h"
+#include "modeler/renamer/renamer_layout.h"
+#include "objectfile/rig_builder.h"
 #include "standin/panels/geometry.h"
 #include "tests/tools/modeler_session.h"
 

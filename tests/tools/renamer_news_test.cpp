@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "host/lwtool2_globals.h"
-#include "modeler/MST_RenamerPanel.h"
+#include "modeler/renamer/MST_RenamerPanel.h"
 #include "tests/tools/panel_listener.h"
 #include "tests/tools/renamer_fixture.h"
 

@@ -9,8 +9,8 @@
 #include <utility>
 #include <vector>
 
-#include "modeler/tree_rows.h"
-#include "standin/objectfile/rig_builder.h"
+#include "modeler/selector/tree_rows.h"
+#include "objectfile/rig_builder.h"
 #include "standin/panels/geometry.h"
 #include "tests/tools/modeler_session.h"
 

@@ -1,5 +1,5 @@
 // The selector among other open tool panels.
-#include "modeler/property_sections.h"
+#include "modeler/property/property_layout.h"
 #include "tests/tools/property_panel_fixture.h"
 #include "tests/tools/selector_fixture.h"
 

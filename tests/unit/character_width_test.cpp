@@ -1,5 +1,5 @@
 // The widths of characters, compared with the system's own tables of the font's code page.
-#include "modeler/character_width.h"
+#include "modeler/selector/character_width.h"
 
 #include <gtest/gtest.h>
 

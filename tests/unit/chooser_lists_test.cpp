@@ -1,4 +1,4 @@
-#include "modeler/chooser_lists.h"
+#include "modeler/property/chooser_lists.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The hand-written matchers against the patterns that they stand for.
-#include "host/item_names.h"
+#include "skelegon/item_names.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace lw {
+namespace skg {
 namespace {
 
 const std::regex& objectFilePattern() {
@@ -134,4 +134,4 @@ TEST(FileBaseName, AnswersForLongTexts) {
 }
 
 }  // namespace
-}  // namespace lw
+}  // namespace skg

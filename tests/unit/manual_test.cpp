@@ -6,11 +6,11 @@
 #include <random>
 #include <set>
 
-#include "host/texts/texts.h"
+#include "objectfile/file_bytes.h"
 #include "standin/core/program_folder.h"
-#include "standin/objectfile/file_bytes.h"
 #include "standin/validate/child_process.h"
 #include "tests/unit/documents.h"
+#include "texts/texts.h"
 
 namespace varnel::test {
 namespace {

@@ -1,5 +1,5 @@
 // One stream of mouse input made of the two ways in which a host may tell of it.
-#include "modeler/mouse_merge.h"
+#include "modeler/selector/mouse_merge.h"
 
 #include <gtest/gtest.h>
 

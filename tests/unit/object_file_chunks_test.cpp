@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "layout/CLWOFileStream.h"
-#include "layout/object_reader.h"
+#include "reader/CLWOFileStream.h"
+#include "reader/object_reader.h"
 #include "tests/unit/object_reader_fixture.h"
 
 namespace varnel::test {

@@ -10,7 +10,7 @@
 #include <locale>
 #include <streambuf>
 
-#include "layout/CFileStream.h"
+#include "reader/CFileStream.h"
 #include "tests/unit/object_reader_fixture.h"
 
 namespace lwp::st {

@@ -1,5 +1,5 @@
 // The open panels and how they hear of changes.
-#include "modeler/open_panels.h"
+#include "modeler/shared/open_panels.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "modeler/property_controls.h"
+#include "modeler/property/property_controls.h"
 #include "skelegon/slot_table.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "modeler/property_sections.h"
+#include "modeler/property/property_layout.h"
 
 namespace mst {
 namespace {
@@ -215,7 +215,7 @@ TEST(PropertyControls, EachPageAndGroupShowsItsRunOfControls) {
   for (int page = 0; page < kPageCount; ++page) {
     for (int group = 0; group < kMotionGroupCount; ++group) {
       for (std::size_t number = 0; number < kControlCount; ++number) {
-        EXPECT_EQ(isShown(sectionOf(number), page, group), isOnPage(number, page, group))
+        EXPECT_EQ(isShown(controlTable()[number], page, group), isOnPage(number, page, group))
             << number << " on page " << page << ", group " << group;
       }
     }

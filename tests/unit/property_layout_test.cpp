@@ -1,4 +1,4 @@
-#include "modeler/property_layout.h"
+#include "modeler/property/property_layout.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "modeler/property_sections.h"
+#include "modeler/property/property_layout.h"
 
 namespace mst {
 namespace {
@@ -138,7 +138,7 @@ std::string describe(const Form& form) {
 std::vector<Seen> seenIn(const Form& form) {
   std::vector<Seen> all;
   for (const ControlRow& row : controlTable()) {
-    if (!isShown(sectionOf(row.number), form.page, form.group)) continue;
+    if (!isShown(row, form.page, form.group)) continue;
     if (row.role == (form.nameCanBeEdited ? Role::NamePopup : Role::NameEdit)) continue;
     all.push_back(seen(row, form.language));
   }

@@ -5,7 +5,7 @@
 #include <set>
 #include <tuple>
 
-#include "modeler/property_store.h"
+#include "modeler/property/property_store.h"
 #include "skelegon/slot_table.h"
 
 namespace mst {
@@ -81,7 +81,7 @@ TEST(WritesForValue, EveryOtherSlotDropsItsDefault) {
     if (row.kind == skg::SlotKind::Reserved || stubborn.count(row.slot) != 0) continue;
     SCOPED_TRACE(row.setting);
     std::string shown = row.defaultText;
-    if (valueKindOf(row.kind) == ValueKind::Real) shown = formatReal(std::stod(shown));
+    if (skg::valueKindOf(row.kind) == ValueKind::Real) shown = formatReal(std::stod(shown));
     const TagWrites writes = writesForValue(kChestSelected, row.slot, shown);
     for (const std::string& value : writes.values) EXPECT_EQ(value, "");
     EXPECT_FALSE(writes.empty());
@@ -237,11 +237,11 @@ TEST(ValueTexts, ColourIndicesBeyondTheNamesGiveNoText) {
 }
 
 TEST(ValueTexts, EveryKindOfSettingHasAKindOfValue) {
-  EXPECT_EQ(valueKindOf(skg::SlotKind::Flag), ValueKind::Integer);
-  EXPECT_EQ(valueKindOf(skg::SlotKind::Angle), ValueKind::Real);
-  EXPECT_EQ(valueKindOf(skg::SlotKind::ItemName), ValueKind::Text);
-  EXPECT_EQ(valueKindOf(skg::SlotKind::Colour), ValueKind::Colour);
-  EXPECT_EQ(valueKindOf(skg::SlotKind::Reserved), ValueKind::None);
+  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::Flag), ValueKind::Integer);
+  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::Angle), ValueKind::Real);
+  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::ItemName), ValueKind::Text);
+  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::Colour), ValueKind::Colour);
+  EXPECT_EQ(skg::valueKindOf(skg::SlotKind::Reserved), ValueKind::None);
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "layout/object_reader.h"
+#include "reader/object_reader.h"
 #include "tests/unit/plain_object_reader.h"
 
 namespace varnel::test {

@@ -9,7 +9,7 @@
 #include <regex>
 #include <string>
 
-#include "modeler/regex_replace.h"
+#include "modeler/renamer/regex_replace.h"
 
 namespace varnel::test {
 namespace {

@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "modeler/regex_replace.h"
+#include "modeler/renamer/regex_replace.h"
 
 namespace varnel::test {
 namespace {

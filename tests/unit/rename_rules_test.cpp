@@ -1,5 +1,5 @@
 // The name rule, as a table, and the simple modes.
-#include "modeler/rename_rules.h"
+#include "modeler/renamer/rename_rules.h"
 
 #include <gtest/gtest.h>
 

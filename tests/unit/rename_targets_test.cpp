@@ -1,5 +1,5 @@
 // Which skelegons an advanced run renames, and how it counts them.
-#include "modeler/rename_targets.h"
+#include "modeler/renamer/rename_targets.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
 // The renamer panel's table and where its controls stand.
-#include "modeler/renamer_layout.h"
+#include "modeler/renamer/renamer_layout.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "modeler/renamer_controls.h"
+#include "modeler/renamer/renamer_controls.h"
 
 namespace varnel::test {
 namespace {

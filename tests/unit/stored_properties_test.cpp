@@ -1,4 +1,4 @@
-#include "layout/stored_properties.h"
+#include "reader/stored_properties.h"
 
 #include <gtest/gtest.h>
 

@@ -6,13 +6,13 @@
 #include <nlohmann/json.hpp>
 #include <span>
 
-#include "host/texts/texts.h"
-#include "layout/object_reader.h"
-#include "layout/stored_properties.h"
-#include "modeler/property_controls.h"
+#include "modeler/property/property_controls.h"
+#include "reader/object_reader.h"
+#include "reader/stored_properties.h"
 #include "skelegon/slot_table.h"
 #include "skelegon/slots.h"
 #include "tests/unit/documents.h"
+#include "texts/texts.h"
 
 namespace varnel::test {
 namespace {

@@ -1,5 +1,5 @@
 // Characters and cells of texts, valid or not.
-#include "modeler/text_cells.h"
+#include "modeler/selector/text_cells.h"
 
 #include <gtest/gtest.h>
 

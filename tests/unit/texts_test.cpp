@@ -1,4 +1,4 @@
-#include "host/texts/texts.h"
+#include "texts/texts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The drawing of the tree where something lies at or beyond the view's edges, where OpenGL refuses, and of the tree view itself.
-#include "modeler/selector_colours.h"
+#include "modeler/selector/selector_colours.h"
 #include "tests/unit/tree_drawing_fixture.h"
 #include "tests/unit/tree_view_fixture.h"
 

@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "modeler/tree_drawing.h"
+#include "modeler/selector/tree_drawing.h"
 #include "tests/unit/gl_recorder.h"
 #include "tests/unit/tree_fixture.h"
 

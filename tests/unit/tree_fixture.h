@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "modeler/tree_rows.h"
+#include "modeler/selector/tree_rows.h"
 
 namespace mst {
 

@@ -1,5 +1,5 @@
 // What a press at each place of the view hits, and what mouse bits ask for.
-#include "modeler/tree_hits.h"
+#include "modeler/selector/tree_hits.h"
 
 #include <gtest/gtest.h>
 

@@ -2,13 +2,13 @@
 #include <algorithm>
 #include <random>
 
-#include "host/texts/texts.h"
-#include "modeler/name_order.h"
-#include "modeler/selector_colours.h"
-#include "modeler/skelegon_parents.h"
+#include "modeler/selector/name_order.h"
+#include "modeler/selector/selector_colours.h"
+#include "modeler/selector/skelegon_parents.h"
 #include "skelegon/skelegon_tree.h"
 #include "skelegon/slots.h"
 #include "tests/unit/tree_view_fixture.h"
+#include "texts/texts.h"
 
 namespace mst {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "modeler/tree_drawing.h"
+#include "modeler/selector/tree_drawing.h"
 #include "tests/unit/gl_recorder.h"
 #include "tests/unit/tree_fixture.h"
 

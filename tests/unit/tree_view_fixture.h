@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "modeler/tree_view.h"
+#include "modeler/selector/tree_view.h"
 
 namespace mst {
 

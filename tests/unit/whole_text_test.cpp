@@ -1,5 +1,5 @@
 // Texts that are cut end with a whole character.
-#include "host/texts/whole_text.h"
+#include "texts/whole_text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // A module in miniature, built several times with one thing wrong each, to see that the loader says what it is.
 #include <stdexcept>
 
-#include "host/lightwave.h"
+#include "interface/lightwave.h"
 
 #ifndef SAMPLE_SYNC
 #define SAMPLE_SYNC lw::kSysSync

@@ -1,0 +1,390 @@
+#include "modeler/property/MST_CSkgPropPanel.h"
+
+#include <unordered_map>
+#include <utility>
+
+#include "host/lwtool2_errors.h"
+#include "host/lwtool2_eval.h"
+#include "host/lwtool2_globals.h"
+#include "host/lwtool2_messages.h"
+#include "host/raised_flag.h"
+#include "modeler/property/property_layout.h"
+#include "modeler/shared/tool_names.h"
+
+namespace mst {
+namespace {
+
+using skg::Slot;
+
+constexpr const char* kResetQuestion = "Reset selected skelegon's tag ?";
+constexpr const char* kResetAllQuestion = "Reset all skelegon's tag ?";
+
+bool objectIsLoaded() { return lw::stateQuery().object() != nullptr; }
+
+// Without an object there is nothing to scan, and the host begins no edit.
+std::vector<PanelSkelegon> scan() { return objectIsLoaded() ? ScanPanelSkelegons() : std::vector<PanelSkelegon>(); }
+
+bool isInObject(lw::PolygonId polygon) { return objectIsLoaded() && lw::IsLivingSkelegon(polygon); }
+
+void append(TagWrites& writes, const TagWrites& more) {
+  for (std::size_t i = 0; i < more.polygons.size(); ++i) writes.add(more.polygons[i], more.types[i], more.values[i]);
+}
+
+// The list of a custom popup; the name popup's for all others.
+ChooserList listOf(std::size_t number) {
+  switch (controlTable()[number].role) {
+    case Role::WeightMaps: return ChooserList::WeightMaps;
+    case Role::ItemNames: return ChooserList::Items;
+    default: return ChooserList::SelectedNames;
+  }
+}
+
+}  // namespace
+
+CSkgPropPanel::CSkgPropPanel()
+    : title_(lw::FormatString("%s(%d.%02d)%s", kPropertyName, VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR, " ")) {
+  for (std::size_t number = 0; number < kControlCount; ++number) links_[number] = {this, number};
+  enterPanel(this, &OnNews);
+}
+
+CSkgPropPanel::~CSkgPropPanel() {
+  removePanel(this);
+  if (form_) form_->abandon();
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Opening and closing
+
+bool CSkgPropPanel::OpenPropertyPanel() {
+  if (isBusy_) {  // while the host waits for an event of the panel's, it has to stay
+    take(look());
+  } else {
+    replace();
+  }
+  if (life_.isOpen()) {
+    form_->bringToFront();
+  } else {
+    life_.open([&] { return form_->open(); });
+  }
+  if (life_.mayBeOpen()) settle();
+  return life_.isOpen();
+}
+
+// Once the panel is on the screen. What was hidden before need not stay so, and the host may have chosen a size of its own.
+void CSkgPropPanel::settle() {
+  form_->show(page_, group_, selected().size() == 1);
+  form_->setSize(kPropertyWidth, kPropertyHeight);
+  widthToggle_ = 1;
+}
+
+FormHooks CSkgPropPanel::hooks() {
+  FormHooks hooks{&OnUsed, {&OnCount, &OnName}, &OnOpened, &OnClosed, this, {}};
+  for (std::size_t number = 0; number < kControlCount; ++number) hooks.controlUsers[number] = &links_[number];
+  return hooks;
+}
+
+// The host destroys no open panel.
+void CSkgPropPanel::takeDown() {
+  if (life_.mayBeOpen()) {
+    form_->close();
+    closed();
+  }
+  form_.reset();
+}
+
+// A new panel in place of the last run's. All that the host may refuse comes first: a run that fails costs no open panel.
+void CSkgPropPanel::replace() {
+  // Either panel may hold on to texts that it was given: each has its own.
+  CChooserLists former = std::exchange(choosers_, {});
+  std::optional<CPropertyForm> made;
+  Seen seen;
+  try {
+    made.emplace(build());
+    seen = look();
+  } catch (...) {
+    choosers_ = std::move(former);
+    throw;
+  }
+  takeDown();
+  form_.emplace(std::move(*made));
+  widthToggle_ = 0;
+  take(std::move(seen));
+}
+
+CPropertyForm CSkgPropPanel::build() {
+  CPropertyForm form(title_.c_str(), lw::propertyTexts(), hooks());
+  form.setChoice(control::kPages, page_);
+  form.setChoice(control::kGroups, group_);
+  return form;
+}
+
+void CSkgPropPanel::closed() {
+  life_.closed();
+  skelegons_.clear();
+  layerNames_.clear();
+  choosers_.clearLists();
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// What the panel knows of the mesh, and what it shows of it
+
+CSkgPropPanel::Seen CSkgPropPanel::look() {
+  Seen seen;
+  seen.skelegons = scan();
+  seen.layerNames = lw::LayerNames();
+  seen.weightMaps = lw::WeightMapNames();
+  const lw::PolygonIds polygons = selectedPolygons(seen.skelegons);
+  seen.properties = ReadSkelegonProperties(polygons.empty() ? nullptr : polygons.front());
+  return seen;
+}
+
+void CSkgPropPanel::take(Seen seen) {
+  choosers_.set(ChooserList::WeightMaps, weightMapChoices(seen.weightMaps));
+  skelegons_ = std::move(seen.skelegons);
+  layerNames_ = std::move(seen.layerNames);
+  refreshLists();
+  load(seen.properties);
+}
+
+// Names change by other ways than ours too: whatever writes names looks first.
+void CSkgPropPanel::refreshNames() {
+  std::unordered_map<lw::PolygonId, std::string> names;
+  for (PanelSkelegon& skelegon : scan()) names.emplace(skelegon.polygon, std::move(skelegon.name));
+  for (PanelSkelegon& skelegon : skelegons_) {
+    const auto found = names.find(skelegon.polygon);
+    if (found != names.end()) skelegon.name = found->second;
+  }
+}
+
+void CSkgPropPanel::refreshLists() {
+  ChooserTexts all, selected;
+  for (const PanelSkelegon& skelegon : skelegons_) {
+    all.push_back(skelegon.name);
+    if (skelegon.isSelected) selected.push_back(skelegon.name);
+  }
+  choosers_.set(ChooserList::Items, itemChoices(layerNames_, all));
+  choosers_.set(ChooserList::SelectedNames, selected);
+}
+
+void CSkgPropPanel::load(const skg::SkelegonProperties& properties) {
+  form_->showValues(properties);
+  form_->setChoice(control::kNamePopup, 0);
+  for (const ControlRow& row : controlTable()) {
+    if (row.role == Role::WeightMaps || row.role == Role::ItemNames) rest(row.number);
+  }
+  showPage();
+}
+
+// The width goes back and forth by one at each switch: that makes the host lay the panel out again.
+void CSkgPropPanel::showPage() {
+  form_->show(page_, group_, selected().size() == 1);
+  form_->setSize(kPropertyWidth + widthToggle_, kPropertyHeight);
+  widthToggle_ = 1 - widthToggle_;
+}
+
+void CSkgPropPanel::reload() {
+  take(look());
+  tell();
+}
+
+void CSkgPropPanel::tell() const { NotifyPanels(this, PanelNews::SelectionChanged); }
+
+// ---------------------------------------------------------------------------------------------------------------------
+// What the user does
+
+void CSkgPropPanel::use(std::size_t number) {
+  const ControlRow& row = controlTable()[number];
+  switch (row.role) {
+    case Role::Decoration: break;
+    case Role::PageTabs: choosePage(form_->choice(number)); break;
+    case Role::GroupTabs: chooseGroup(form_->choice(number)); break;
+    case Role::NameEdit: writeName(); break;
+    case Role::NamePopup: showSelected(form_->choice(number)); break;
+    case Role::Value: writeValue(number); break;
+    case Role::WeightMaps: chooseWeightMap(number); break;
+    case Role::WeightFill: fillWeightMaps(); break;
+    case Role::LinkedFill: fillLinkedNames(ControlSlotMap(number - 1).slot.value()); break;
+    case Role::ItemNames: chooseItem(number); break;
+    case Role::KeyFrames: preset(Controller::KeyFrames); break;
+    case Role::InverseKinematics: preset(Controller::InverseKinematics); break;
+    case Role::SameAsItem: preset(Controller::SameAsItem); break;
+    case Role::Reset: reset(kResetQuestion, false); break;
+    case Role::ResetAll: reset(kResetAllQuestion, true); break;
+    case Role::Sync: reload(); break;
+  }
+}
+
+void CSkgPropPanel::choosePage(int page) {
+  if (page < 0 || page >= kPageCount) return;
+  page_ = page;
+  showPage();
+}
+
+void CSkgPropPanel::chooseGroup(int group) {
+  if (group < 0 || group >= kMotionGroupCount) return;
+  group_ = group;
+  showPage();
+}
+
+void CSkgPropPanel::writeName() {
+  const std::string name = form_->storedText(control::kNameEdit);
+  applyWrites(writesForName(skelegons_, name));
+  for (PanelSkelegon& skelegon : skelegons_) {
+    if (skelegon.isSelected) skelegon.name = name;
+  }
+  refreshLists();
+  tell();
+}
+
+// The settings of another one of the selected skelegons in the controls. What is written still goes to all of them.
+void CSkgPropPanel::showSelected(int index) {
+  const lw::PolygonIds polygons = selected();
+  if (index < 0 || std::cmp_greater_equal(index, polygons.size())) return;
+  const lw::PolygonId polygon = polygons[static_cast<std::size_t>(index)];
+  if (!isInObject(polygon)) return reload();
+  form_->showValues(ReadSkelegonProperties(polygon));
+  form_->show(page_, group_, selected().size() == 1);
+}
+
+void CSkgPropPanel::writeValue(std::size_t number) {
+  const Slot slot = ControlSlotMap(number).slot.value();
+  if (slot == Slot::Colour) {
+    applyWrites(writesForColour(skelegons_, form_->choice(number)));
+  } else {
+    WriteSlotValue(skelegons_, slot, form_->storedText(number));
+  }
+  tell();
+}
+
+// The text of a chooser's choice.
+std::string CSkgPropPanel::takeChoice(std::size_t number) {
+  const int index = form_->choice(number);
+  rest(number);
+  form_->refresh(number);
+  return choosers_.chosen(listOf(number), index);
+}
+
+// Leaves a chooser on none of its entries: it is a menu, and hosts may fire only when the choice changes, so that an entry it
+// rests on could not be chosen. What a host makes of an index outside the list is not documented: where it holds indices to the
+// list, there is a blank entry to rest on. That one is not read back: a host that takes no index of its list either leaves nothing to
+// do, and the module goes by the choices that it is told of, never by where a chooser rests.
+void CSkgPropPanel::rest(std::size_t number) {
+  const ChooserList list = listOf(number);
+  for (const int outside : {-1, choosers_.count(list)}) {
+    form_->setChoice(number, outside);
+    if (!choosers_.has(list, form_->choice(number))) return;
+  }
+  choosers_.endWithBlank(list);
+  form_->setChoice(number, choosers_.count(list) - 1);
+}
+
+// A map makes the bone active, none makes it inactive. Two settings, but one act of the user's and so one step to undo.
+void CSkgPropPanel::chooseWeightMap(std::size_t number) {
+  const std::string map = takeChoice(number);
+  const char* const active = map.empty() ? "0" : "1";
+  form_->showText(Slot::BoneActive, active);
+  form_->showText(Slot::WeightMap, map);
+  TagWrites writes = writesForValue(skelegons_, Slot::BoneActive, active);
+  append(writes, writesForValue(skelegons_, Slot::WeightMap, map));
+  applyWrites(writes);
+  tell();
+}
+
+void CSkgPropPanel::chooseItem(std::size_t number) {
+  const Slot slot = ControlSlotMap(number - 1).slot.value();
+  const std::string item = takeChoice(number);
+  form_->showText(slot, item);
+  WriteSlotValue(skelegons_, slot, item);
+  tell();
+}
+
+void CSkgPropPanel::fillWeightMaps() {
+  refreshNames();
+  applyWrites(writesForWeightMapsByName(skelegons_, lw::WeightMapNames()));
+  reload();
+}
+
+void CSkgPropPanel::fillLinkedNames(Slot slot) {
+  refreshNames();
+  applyWrites(writesForLinkedNames(skelegons_, slot));
+  reload();
+}
+
+void CSkgPropPanel::preset(Controller controller) {
+  if (page_ != kControllersPage) return;
+  applyWrites(writesForControllerPreset(skelegons_, static_cast<skg::MotionGroup>(group_), controller));
+  reload();
+}
+
+void CSkgPropPanel::reset(const char* question, bool all) {
+  const lw::PolygonIds those = selected();  // closing the panel, while the question is open, empties the list
+  if (!lw::AskYesNo(kPropertyName, question)) return;
+  const lw::PolygonIds everyone = all && objectIsLoaded() ? lw::CollectSkelegons() : lw::PolygonIds();
+  applyWrites(writesForReset(all ? everyone : those));
+  if (life_.mayBeOpen()) {
+    reload();
+  } else {
+    tell();
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Called by the host and by other panels
+
+void CSkgPropPanel::OnUsed(lw::LWControl* control, void* user) {
+  lw::guarded([&] {
+    const auto* const link = static_cast<const ControlLink*>(user);
+    if (link == nullptr || !link->panel->life_.mayBeOpen()) return;
+    const CPropertyForm& form = *link->panel->form_;
+    if (!form.owns(link->number, control) || form.isSetting()) return;
+    const lw::CRaisedFlag busy(link->panel->isBusy_);
+    link->panel->use(link->number);
+  });
+}
+
+int CSkgPropPanel::OnCount(void* user) {
+  return lw::guarded(
+      [&] {
+        const auto* const link = static_cast<const ControlLink*>(user);
+        return link == nullptr ? 0 : link->panel->choosers_.count(listOf(link->number));
+      },
+      0);
+}
+
+const char* CSkgPropPanel::OnName(void* user, int index) {
+  return lw::guarded(
+      [&] {
+        const auto* const link = static_cast<const ControlLink*>(user);
+        return link == nullptr ? "" : link->panel->choosers_.name(listOf(link->number), index);
+      },
+      "");
+}
+
+void CSkgPropPanel::OnOpened(lw::PanelId panel, void* user) {
+  lw::guarded([&] {
+    auto* const self = static_cast<CSkgPropPanel*>(user);
+    if (self != nullptr && self->isPanel(panel) && self->life_.opened()) self->settle();
+  });
+}
+
+void CSkgPropPanel::OnClosed(lw::PanelId panel, void* user) {
+  lw::guarded([&] {
+    auto* const self = static_cast<CSkgPropPanel*>(user);
+    if (self != nullptr && self->isPanel(panel)) self->closed();
+  });
+}
+
+void CSkgPropPanel::OnNews(void* user, PanelNews news) {
+  lw::guarded([&] {
+    auto* const panel = static_cast<CSkgPropPanel*>(user);  // as it was entered
+    if (!panel->life_.mayBeOpen()) return;
+    switch (news) {
+      case PanelNews::Refresh:
+      case PanelNews::NamesChanged:
+      case PanelNews::PropertiesChanged:
+      case PanelNews::SelectionChanged: panel->reload(); break;
+    }
+  });
+}
+
+}  // namespace mst

@@ -1,0 +1,367 @@
+#include "modeler/property/property_controls.h"
+
+#include <algorithm>
+#include <initializer_list>
+
+#include "skelegon/setting_groups.h"
+#include "skelegon/slot_table.h"
+
+namespace mst {
+namespace {
+
+using skg::LinkedItem;
+using skg::Slot;
+using texts::ChoiceList;
+
+// ---------------------------------------------------------------------------------------------------------------------
+// The form's measures, in pixels. Hot areas begin at one of these lines, so that fields line up on and across pages.
+
+constexpr int kMargin = 5;
+constexpr int kEdge = 380;         // right end of the form
+constexpr int kWideColumn = 155;   // leaves room for the long labels
+constexpr int kCloseColumn = 136;  // where a linked item needs the width for its own controls
+constexpr int kMiddleColumn = 208;
+constexpr int kFarColumn = 310;
+
+constexpr int kFieldWidth = 70;
+constexpr int kCheckWidth = 18;
+constexpr int kChoiceWidth = 200;  // holds the longest choice of any list
+constexpr int kMethodWidth = 98;
+constexpr int kChannelWidth = 44;
+constexpr int kOffOnWidth = 52;
+constexpr int kColourWidth = 118;
+constexpr int kFillWidth = 24;
+constexpr int kChooserWidth = 24;
+constexpr int kShapeWidth = 26;
+constexpr int kPresetWidth = 70;
+constexpr int kFootButtonWidth = 65;
+constexpr int kGap = 2;  // between controls that belong together
+
+// Wide enough for whatever a scene may need: the host holds typed numbers to them.
+constexpr Range kBoneCounts = {0, 1000};
+constexpr Range kFrames = {-100000, 100000};
+
+constexpr Place from(int row, int left, int right) { return {row, left, right - left, Place::By::HotArea}; }
+constexpr Place at(int row, int left, int width) { return {row, left, width, Place::By::HotArea}; }
+constexpr Place endingAt(int row, int right, int width) { return {row, right, width, Place::By::RightEdge}; }
+
+// A field with small controls behind it that reach to the edge: what is left for the field.
+constexpr int edgeBefore(std::initializer_list<int> widths) {
+  int edge = kEdge;
+  for (const int width : widths) edge -= width + kGap;
+  return edge;
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Building the table: rows are added in the order of their numbers.
+
+class TableBuilder {
+ public:
+  constexpr const std::array<ControlRow, kControlCount>& rows() const { return rows_; }
+  constexpr std::size_t count() const { return count_; }
+
+  // What is added from here on belongs to this section.
+  constexpr void begin(Section section) { section_ = section; }
+
+  constexpr void plain(HostControl kind, Role role, Place place) { add({0, section_, kind, role, {}, {}, place, {}}); }
+  constexpr void tabs(Role role, ChoiceList list, Place place) {
+    add({0, section_, HostControl::Tabs, role, {}, list, place, {}});
+  }
+  // A setting in the control that its kind asks for.
+  constexpr void value(Slot slot, Place place) { add(slot, controlFor(skg::rowOf(slot).kind), place, {}); }
+  constexpr void shape(Slot slot, Place place) { add(slot, HostControl::BoolButton, place, {}); }
+  constexpr void slider(Slot slot, Range range, int row, int column) {
+    add(slot, HostControl::MiniSlider, at(row, column, kFieldWidth), range);
+  }
+  constexpr void flag(Slot slot, int row, int column) { value(slot, at(row, column, kCheckWidth)); }
+  constexpr void field(Slot slot, int row, int column) { value(slot, at(row, column, kFieldWidth)); }
+
+ private:
+  static constexpr HostControl controlFor(skg::SlotKind kind) {
+    using skg::SlotKind;
+    switch (kind) {
+      case SlotKind::Flag: return HostControl::Bool;
+      case SlotKind::Choice:
+      case SlotKind::Colour: return HostControl::Popup;
+      case SlotKind::Integer: return HostControl::MiniSlider;
+      case SlotKind::Percent: return HostControl::Percent;
+      case SlotKind::Distance: return HostControl::Distance;
+      case SlotKind::Number: return HostControl::Float;
+      case SlotKind::Angle: return HostControl::Angle;
+      case SlotKind::ItemName:
+      case SlotKind::ObjectName:
+      case SlotKind::WeightMapName:
+      case SlotKind::Text: return HostControl::Edit;
+      case SlotKind::Reserved: break;
+    }
+    throw "a reserved slot has no control";  // where the table is built, this does not compile
+  }
+
+  constexpr void add(Slot slot, HostControl kind, Place place, Range range) {
+    add({0, section_, kind, Role::Value, slot, skg::rowOf(slot).choices, place, range});
+  }
+  constexpr void add(ControlRow row) {
+    row.number = count_;
+    rows_[count_] = row;
+    ++count_;
+  }
+
+  std::array<ControlRow, kControlCount> rows_{};
+  std::size_t count_ = 0;
+  Section section_ = Section::Head;
+};
+
+// ---------------------------------------------------------------------------------------------------------------------
+// The patterns
+
+// The first three of a linked item, to the form's edge.
+constexpr void linkedName(TableBuilder& table, const LinkedItem& item, int row, int left, int edge) {
+  const int shape = edge - kShapeWidth;
+  const int fill = shape - kGap - kFillWidth;
+  table.value(item.name, from(row, left, fill - kGap));
+  table.plain(HostControl::Button, Role::LinkedFill, at(row, fill, kFillWidth));
+  table.shape(item.shape, at(row, shape, kShapeWidth));
+}
+
+// A linked item without a parent: name, fill button and shape; visibility and colour below.
+constexpr void linkedItem(TableBuilder& table, Slot name, int row, int left) {
+  const LinkedItem& item = *skg::linkedItemOf(name);
+  linkedName(table, item, row, left, kEdge);
+  table.value(item.visibility, at(row + 1, left, kOffOnWidth));
+  table.value(item.colour, from(row + 1, kEdge - kColourWidth, kEdge));
+}
+
+// A linked item with a parent: name, fill button, shape and visibility; the parent, its chooser and the colour below.
+constexpr void linkedItemWithParent(TableBuilder& table, Slot name, int row) {
+  constexpr int kVisibilityLabel = 68;
+  constexpr int kColourLabel = 40;
+  constexpr int kVisibility = kEdge - kOffOnWidth;
+  constexpr int kColour = kEdge - kColourWidth;
+  constexpr int kChooser = kColour - kColourLabel - kChooserWidth;
+  const LinkedItem& item = *skg::linkedItemOf(name);
+  linkedName(table, item, row, kCloseColumn, kVisibility - kVisibilityLabel);
+  table.value(item.visibility, at(row, kVisibility, kOffOnWidth));
+  table.value(item.colour, at(row + 1, kColour, kColourWidth));
+  table.value(item.parent, from(row + 1, kCloseColumn, kChooser - kGap));
+  table.plain(HostControl::CustomPopup, Role::ItemNames, at(row + 1, kChooser, kChooserWidth));
+}
+
+// A flag with its amount on one row.
+constexpr void flagAndAmount(TableBuilder& table, Slot flag, Slot amount, int row) {
+  table.flag(flag, row, kWideColumn);
+  table.field(amount, row, kMiddleColumn);
+}
+
+// A flag of a range, with the least and the greatest value side by side behind it.
+constexpr void limits(TableBuilder& table, Slot flag, Slot least, Slot greatest, int row, int column) {
+  table.flag(flag, row, column);
+  table.field(least, row, kMiddleColumn);
+  table.field(greatest, row, kFarColumn);
+}
+
+inline constexpr int kAxisRows = 4;
+
+constexpr void axis(TableBuilder& table, const skg::AxisSettings& axis, int row) {
+  table.value(axis.controller, at(row, kCloseColumn, kChoiceWidth));
+  limits(table, axis.limits, axis.least, axis.greatest, row + 1, kCloseColumn);
+  table.value(axis.follow, at(row + 2, kCloseColumn, kChannelWidth));
+  table.field(axis.factor, row + 2, kMiddleColumn);
+  table.field(axis.offset, row + 2, kFarColumn);
+  table.field(axis.stiffness, row + 3, kCloseColumn);
+}
+
+struct BlendSettings {
+  std::optional<Slot> world;  // the host has no world coordinates for scaling
+  Slot item, method, amount;
+};
+
+constexpr void motionGroup(TableBuilder& table, skg::MotionGroup group, const BlendSettings& blend) {
+  constexpr int kBlendRow = 2;
+  constexpr int kFirstAxisRow = 3;
+  if (blend.world) table.flag(*blend.world, kBlendRow, kCloseColumn);
+  linkedItemWithParent(table, blend.item, 0);
+  table.value(blend.method, at(kBlendRow, kMiddleColumn, kMethodWidth));
+  table.field(blend.amount, kBlendRow, kFarColumn);
+  int row = kFirstAxisRow;
+  for (const skg::AxisSettings& settings : skg::kAxes) {
+    if (settings.group != group) continue;
+    axis(table, settings, row);
+    row += kAxisRows;
+  }
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// The pages, control by control
+
+constexpr void addFrame(TableBuilder& table) {
+  table.begin(Section::Head);
+  table.plain(HostControl::Border, Role::Decoration, from(2, kMargin, kEdge));  // a line below the head
+  table.begin(Section::Frame);
+  table.plain(HostControl::Border, Role::Decoration, from(0, kMargin, kEdge));  // the frame of the bottom row
+  table.begin(Section::Buttons);
+  table.plain(HostControl::Button, Role::Reset, endingAt(0, 95, kFootButtonWidth));
+  table.plain(HostControl::Button, Role::ResetAll, endingAt(0, 165, kFootButtonWidth));
+  table.plain(HostControl::Button, Role::Sync, endingAt(0, 275, kFootButtonWidth));
+  table.begin(Section::Head);
+  table.tabs(Role::PageTabs, ChoiceList::Pages, at(0, kMargin, 0));
+  table.begin(Section::GroupChoice);
+  table.tabs(Role::GroupTabs, ChoiceList::MotionGroups, at(0, kWideColumn, 0));
+  table.begin(Section::Head);
+  // Both in the same place: one of the two is hidden.
+  table.plain(HostControl::Edit, Role::NameEdit, from(1, kWideColumn, kEdge));
+  table.plain(HostControl::CustomPopup, Role::NamePopup, from(1, kWideColumn, kEdge));
+}
+
+constexpr void addGroupPage(TableBuilder& table) {
+  table.begin(Section::GroupPage);
+  table.value(Slot::UseBonesFromObject, from(0, kWideColumn, kEdge));
+  table.value(Slot::FalloffType, at(1, kWideColumn, kChoiceWidth));
+  table.value(Slot::BoneCalc, at(2, kWideColumn, kChoiceWidth));
+  table.slider(Slot::LimitBoneNum, kBoneCounts, 3, kWideColumn);
+}
+
+constexpr void addBonePage(TableBuilder& table) {
+  table.begin(Section::BonePage);
+  constexpr int kMapEnd = edgeBefore({kFillWidth, kChooserWidth});
+  constexpr int kMapFill = edgeBefore({kChooserWidth}) - kFillWidth;
+  table.value(Slot::BoneType, at(0, kWideColumn, kChoiceWidth));
+  table.flag(Slot::BoneActive, 1, kWideColumn);
+  table.value(Slot::WeightMap, from(2, kWideColumn, kMapEnd));
+  table.plain(HostControl::CustomPopup, Role::WeightMaps, from(2, kEdge - kChooserWidth, kEdge));
+  table.plain(HostControl::Button, Role::WeightFill, at(2, kMapFill, kFillWidth));
+  table.flag(Slot::WeightMapOnly, 3, kWideColumn);
+  table.flag(Slot::WeightNormalization, 3, kFarColumn);
+  table.field(Slot::Strength, 4, kWideColumn);
+  table.flag(Slot::StrengthMultiply, 5, kFarColumn);
+  limits(table, Slot::LimitedRange, Slot::RangeMin, Slot::RangeMax, 6, kWideColumn);
+  flagAndAmount(table, Slot::JointComp, Slot::JointCompAmount, 7);
+  flagAndAmount(table, Slot::JointCompParent, Slot::JointCompParentAmount, 8);
+  flagAndAmount(table, Slot::MuscleFlex, Slot::MuscleFlexAmount, 9);
+  flagAndAmount(table, Slot::MuscleFlexParent, Slot::MuscleFlexParentAmount, 10);
+  flagAndAmount(table, Slot::Bulge, Slot::BulgeAmount, 11);
+  flagAndAmount(table, Slot::BulgeParent, Slot::BulgeParentAmount, 12);
+  flagAndAmount(table, Slot::Twist, Slot::TwistAmount, 13);
+  table.field(Slot::IconSize, 14, kWideColumn);
+  table.value(Slot::Visibility, at(15, kWideColumn, kOffOnWidth));
+  table.value(Slot::Colour, from(15, kEdge - kColourWidth, kEdge));
+  linkedItem(table, Slot::InitialPositionItem, 16, kWideColumn);
+}
+
+constexpr void addIKPage(TableBuilder& table) {
+  table.begin(Section::IKPage);
+  constexpr int kParentEnd = edgeBefore({kChooserWidth});
+  table.value(Slot::ParentItem, from(0, kCloseColumn, kParentEnd));
+  table.plain(HostControl::CustomPopup, Role::ItemNames, from(0, kEdge - kChooserWidth, kEdge));
+  linkedItemWithParent(table, Slot::TargetItem, 1);
+  linkedItemWithParent(table, Slot::PoleItem, 3);
+  table.value(Slot::RotationOrder, at(5, kCloseColumn, kChoiceWidth));
+  table.flag(Slot::UnaffectedByIK, 6, kFarColumn);
+  linkedItemWithParent(table, Slot::GoalObject, 7);
+  table.value(Slot::Objective, at(9, kCloseColumn, kChoiceWidth));
+  table.value(Slot::IKInitialState, at(10, kCloseColumn, kChoiceWidth));
+  table.slider(Slot::IKInitialStateFrame, kFrames, 11, kCloseColumn);
+  table.flag(Slot::Chain, 12, kCloseColumn);
+  table.field(Slot::IKFKBlending, 12, kFarColumn);
+  table.field(Slot::GoalStrength, 13, kCloseColumn);
+  table.value(Slot::SoftIK, at(14, kCloseColumn, kChoiceWidth));
+  table.value(Slot::SoftIKDistanceType, at(15, kCloseColumn, kChoiceWidth));
+  table.field(Slot::SoftIKMin, 16, kMiddleColumn);
+  table.field(Slot::SoftIKMax, 16, kFarColumn);
+  table.flag(Slot::MatchGoalOrientation, 17, kFarColumn);
+  table.flag(Slot::KeepGoalInReach, 17, kCloseColumn);
+  table.flag(Slot::FullTimeIK, 18, kCloseColumn);
+}
+
+constexpr void addControllersPage(TableBuilder& table) {
+  table.begin(Section::ControllersPage);
+  table.field(Slot::PathLookAhead, 0, kWideColumn);
+  table.field(Slot::PathMaxSteps, 0, kFarColumn);
+  table.field(Slot::PathReliableDistance, 1, kWideColumn);
+  // Below the choice of the group whose controllers they set.
+  table.plain(HostControl::Button, Role::KeyFrames, at(3, kWideColumn, kPresetWidth));
+  table.plain(HostControl::Button, Role::InverseKinematics, at(3, kWideColumn + kPresetWidth + kGap, kPresetWidth));
+  table.plain(HostControl::Button, Role::SameAsItem, at(3, kWideColumn + 2 * (kPresetWidth + kGap), kPresetWidth));
+}
+
+constexpr TableBuilder build() {
+  TableBuilder table;
+  addFrame(table);
+  addGroupPage(table);
+  addBonePage(table);
+  addIKPage(table);
+  addControllersPage(table);
+  using skg::MotionGroup;
+  table.begin(Section::PositionGroup);
+  motionGroup(table, MotionGroup::Position,
+              {Slot::PositionItemWorld, Slot::PositionItem, Slot::PositionBlendMethod, Slot::PositionBlend});
+  table.begin(Section::RotationGroup);
+  motionGroup(table, MotionGroup::Rotation,
+              {Slot::RotationItemWorld, Slot::RotationItem, Slot::RotationBlendMethod, Slot::RotationBlend});
+  table.begin(Section::ScaleGroup);
+  motionGroup(table, MotionGroup::Scale, {{}, Slot::ScaleItem, Slot::ScaleBlendMethod, Slot::ScaleBlend});
+  return table;
+}
+
+constexpr TableBuilder kBuilt = build();
+static_assert(kBuilt.count() == kControlCount);
+
+constexpr const std::array<ControlRow, kControlCount>& kControls = kBuilt.rows();
+
+// ---------------------------------------------------------------------------------------------------------------------
+// What must hold of the table
+
+constexpr std::size_t kReservedSlots = 22;
+constexpr std::size_t kValueControls = skg::kSlotCount - kReservedSlots - 1;  // the name has a field of its own rule
+
+constexpr bool everySlotIsShownOnce() {
+  std::array<int, skg::kSlotCount> shown{};
+  std::size_t values = 0;
+  for (const ControlRow& row : kControls) {
+    if (!row.slot) continue;
+    ++values;
+    if (++shown[skg::indexOf(*row.slot)] > 1) return false;
+  }
+  return values == kValueControls && shown[skg::indexOf(Slot::Name)] == 0;
+}
+static_assert(everySlotIsShownOnce());
+
+// A chooser or a fill button works on the field before it.
+constexpr bool fillersFollowTheirField() {
+  for (const ControlRow& row : kControls) {
+    if (row.role != Role::WeightMaps && row.role != Role::LinkedFill && row.role != Role::ItemNames) continue;
+    const ControlRow& field = kControls[row.number - 1];
+    if (field.kind != HostControl::Edit || !field.slot) return false;
+  }
+  return true;
+}
+static_assert(fillersFollowTheirField());
+
+static_assert(kControls[control::kHeadLine].role == Role::Decoration);
+static_assert(kControls[control::kFrame].role == Role::Decoration);
+static_assert(kControls[control::kReset].role == Role::Reset);
+static_assert(kControls[control::kResetAll].role == Role::ResetAll);
+static_assert(kControls[control::kSync].role == Role::Sync);
+static_assert(kControls[control::kPages].role == Role::PageTabs);
+static_assert(kControls[control::kGroups].role == Role::GroupTabs);
+static_assert(kControls[control::kNameEdit].role == Role::NameEdit);
+static_assert(kControls[control::kNamePopup].role == Role::NamePopup);
+
+}  // namespace
+
+const std::array<ControlRow, kControlCount>& controlTable() { return kControls; }
+
+ControlSlot ControlSlotMap(std::size_t control) {
+  if (control >= kControlCount) return {};
+  const std::optional<Slot> slot = kControls[control].slot;
+  return {slot ? skg::valueKindOf(skg::rowOf(*slot).kind) : ValueKind::None, slot};
+}
+
+std::optional<std::size_t> controlOf(skg::Slot slot) {
+  if (slot == Slot::Name) return control::kNameEdit;
+  const auto found =
+      std::find_if(kControls.begin(), kControls.end(), [slot](const ControlRow& row) { return row.slot == slot; });
+  if (found == kControls.end()) return std::nullopt;
+  return found->number;
+}
+
+}  // namespace mst

@@ -1,0 +1,144 @@
+#include "modeler/property/property_form.h"
+
+#include <algorithm>
+
+#include "host/raised_flag.h"
+#include "modeler/property/property_layout.h"
+#include "modeler/property/property_store.h"
+#include "skelegon/numbers.h"
+#include "texts/whole_text.h"
+
+namespace mst {
+namespace {
+
+// The host wants the width of an edit field in characters: fewer than fit, for the field is brought to its width anyway.
+int charactersIn(int width) {
+  constexpr int kWidestCharacter = 8;
+  return std::max(1, width / kWidestCharacter);
+}
+
+int entriesOf(texts::ChoiceList list) {
+  return static_cast<int>(texts::propertyChoices()[static_cast<std::size_t>(list)].count) - 1;  // without the null
+}
+
+// What a control shows of a stored number. An index outside its list, which a host may not bear, shows as the default; what is
+// stored stays, until the user chooses.
+int shownNumber(const ControlRow& row, int stored) {
+  if (row.kind == HostControl::Bool || row.kind == HostControl::BoolButton) return stored != 0 ? 1 : 0;
+  if (!row.choices || (stored >= 0 && stored < entriesOf(*row.choices))) return stored;
+  return skg::leadingInteger(skg::SlotDefaults(row.slot.value()));
+}
+
+// The field of a slider, which the host puts a handle beside.
+constexpr int kHandleWidth = 20;
+
+}  // namespace
+
+CPropertyForm::CPropertyForm(const char* title, const lw::PropertyTexts& texts, const FormHooks& hooks) : panel_(title) {
+  for (const ControlRow& row : controlTable()) controls_[row.number] = make(row, texts, hooks.lists);
+  for (const ControlRow& row : controlTable()) {
+    place(row);
+    controls_[row.number].setUser(hooks.controlUsers[row.number]);
+    if (row.role != Role::Decoration) controls_[row.number].onEvent(hooks.used);
+  }
+  panel_.setUser(hooks.panelUser);
+  panel_.onOpen(hooks.opened);
+  panel_.onClose(hooks.closed);
+  panel_.setSize(kPropertyWidth, kPropertyHeight);
+}
+
+lw::CControl CPropertyForm::make(const ControlRow& row, const lw::PropertyTexts& texts, lw::PopupFunctions lists) const {
+  const char* const label = (*texts.labels)[row.number];
+  const int width = row.place.width;
+  const auto choices = [&] { return texts.choices.at(static_cast<std::size_t>(row.choices.value())); };
+  switch (row.kind) {
+    case HostControl::Angle: return panel_.addAngle(label);
+    case HostControl::Bool: return panel_.addBool(label);
+    case HostControl::BoolButton: return panel_.addBoolButton(label, width);
+    case HostControl::Border: return panel_.addBorder(width, heightOf(row));
+    case HostControl::Button: return panel_.addButton(label, width);
+    case HostControl::CustomPopup: return panel_.addCustomPopup(label, width, lists);
+    case HostControl::Distance: return panel_.addDistance(label);
+    case HostControl::Edit: return panel_.addEdit(label, charactersIn(width));
+    case HostControl::Float: return panel_.addFloat(label);
+    case HostControl::MiniSlider:
+      return panel_.addMiniSlider(label, width - kHandleWidth, row.range.least, row.range.greatest);
+    case HostControl::Percent: return panel_.addPercent(label);
+    case HostControl::Popup: return panel_.addPopup(label, width, choices());
+    case HostControl::Tabs: return panel_.addTabs(label, choices());
+  }
+  return {};
+}
+
+void CPropertyForm::place(const ControlRow& row) const {
+  const lw::CControl& control = controls_[row.number];
+  // Check marks and tabs are as wide as the host makes them.
+  if (row.place.width > 0 && row.kind != HostControl::Bool) control.setHotWidth(row.place.width);
+  const Position position = positionOf(row, {control.measure(lw::kControlWidth), control.measure(lw::kControlLabelWidth)});
+  control.moveTo(position.x, position.y);
+}
+
+// Erasing a control paints over whatever is where it was: all that go, go before the first one is shown.
+void CPropertyForm::show(int page, int group, bool nameCanBeEdited) const {
+  const auto isVisible = [&](const ControlRow& row) {
+    if (row.role == Role::NameEdit) return nameCanBeEdited;
+    if (row.role == Role::NamePopup) return !nameCanBeEdited;
+    return isShown(row, page, group);
+  };
+  for (const bool visible : {false, true}) {
+    for (const ControlRow& row : controlTable()) {
+      if (isVisible(row) == visible) controls_[row.number].show(visible);
+    }
+  }
+}
+
+void CPropertyForm::setText(std::size_t number, const std::string& text) {
+  const bool isWhole = texts::withoutCutCharacter(text).size() == text.size();
+  textEnds_[number] = isWhole ? lw::TextEnd::Whole : lw::TextEnd::AsItIs;
+  controls_[number].setText(text);
+}
+
+void CPropertyForm::setValue(std::size_t number, const std::string& text) {
+  const lw::CControl& control = controls_[number];
+  switch (ControlSlotMap(number).value) {
+    case ValueKind::Integer: control.setInteger(shownNumber(controlTable()[number], skg::leadingInteger(text))); break;
+    case ValueKind::Real: control.setReal(skg::leadingReal(text)); break;
+    case ValueKind::Text: setText(number, text); break;
+    case ValueKind::Colour: control.setInteger(skg::colourIndex(text)); break;
+    case ValueKind::None: break;
+  }
+}
+
+void CPropertyForm::showValues(const skg::SkelegonProperties& properties) {
+  const lw::CRaisedFlag setting(isSetting_);
+  setText(control::kNameEdit, properties[skg::Slot::Name]);
+  for (const ControlRow& row : controlTable()) {
+    if (row.slot) setValue(row.number, properties[*row.slot]);
+  }
+}
+
+void CPropertyForm::showText(skg::Slot slot, const std::string& text) {
+  const std::size_t number = controlOf(slot).value();
+  const lw::CRaisedFlag setting(isSetting_);
+  setValue(number, text);
+  controls_[number].show(true);  // the host does not redraw a field by itself
+}
+
+std::string CPropertyForm::storedText(std::size_t number) const {
+  const lw::CControl& control = controls_[number];
+  switch (ControlSlotMap(number).value) {
+    case ValueKind::Integer: return formatInteger(control.integer());
+    case ValueKind::Real: return formatReal(control.real());
+    case ValueKind::Colour: return std::string(colourName(control.integer()));
+    case ValueKind::Text:
+    case ValueKind::None: break;
+  }
+  return control.text(textEnds_[number]);
+}
+
+void CPropertyForm::setChoice(std::size_t number, int index) {
+  const lw::CRaisedFlag setting(isSetting_);
+  controls_[number].setInteger(index);
+}
+
+}  // namespace mst

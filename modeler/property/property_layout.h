@@ -1,0 +1,37 @@
+// When and where the property panel's controls are seen. The table names sections, rows and columns; this turns them into pages and
+// positions. No host here.
+#pragma once
+
+#include "modeler/property/property_controls.h"
+#include "skelegon/setting_groups.h"
+
+namespace mst {
+
+inline constexpr int kPropertyWidth = 385;
+inline constexpr int kPropertyHeight = 700;
+inline constexpr int kFootHeight = 35;  // of the frame around the bottom row
+
+inline constexpr int kPageCount = 4;
+inline constexpr int kControllersPage = 3;  // the page that has groups
+inline constexpr int kMotionGroupCount = static_cast<int>(skg::kMotionGroupCount);
+
+// Whether a control is to be seen while a page and, on the last page, a group is chosen.
+bool isShown(const ControlRow& row, int page, int group);
+
+// What the host says of a control, in pixels.
+struct Measured {
+  int width = 0;       // of the whole, label included
+  int labelWidth = 0;  // 0 for a control that draws its label inside
+};
+
+// The upper left corner of a whole control.
+struct Position {
+  int x = 0;
+  int y = 0;
+};
+Position positionOf(const ControlRow& row, const Measured& measured);
+
+// The height of a control, where the host has to be told one; 0 where it has its own.
+int heightOf(const ControlRow& row);
+
+}  // namespace mst

@@ -1,0 +1,83 @@
+// The controls of the renamer panel as one table: what each one is, its label and default, and where it stands. Making,
+// placing and reading them all walk this table. No host here.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+
+#include "texts/texts.h"
+
+namespace mst {
+
+// In the order of creation.
+enum class RenamerItem : std::size_t {
+  Mode,
+  FirstText,
+  SecondText,
+  Target,
+  RegisteredCount,
+  Add,
+  Clear,
+  ConversionHeading,
+  BaseNameOn,
+  BaseName,
+  PrefixOn,
+  Prefix,
+  SuffixOn,
+  Suffix,
+  ReplaceOn,
+  ReplaceFrom,
+  ReplaceTo,
+  RegexOn,
+  RegexPattern,
+  RegexFormat,
+  ColumnOn,
+  Order,
+  ColumnStart,
+  Invert,
+  RowOn,
+  RowDigits,
+  RowStart,
+  TagHeading,
+  SkelegonName,
+  WeightMap,
+  BoneProperty,
+  OverlapCheck,
+  Border,
+  Run,
+};
+inline constexpr std::size_t kRenamerItemCount = 34;
+constexpr std::size_t indexOf(RenamerItem item) { return static_cast<std::size_t>(item); }
+
+// The kinds of the host's controls that the panel uses.
+enum class RenamerKind { Bool, Border, Button, Edit, Heading, Number, NumberInfo, Popup };
+
+// Controls beside a check mark line up with each other, block by block.
+enum class RenamerBlock { None, Names, Columns, Rows };
+
+// The x of a control: of its left edge, of its hot area with the label left of it, or of the column beside the check marks of
+// its block.
+struct RenamerPlace {
+  enum class By { LeftEdge, HotArea, Beside };
+
+  By by = By::LeftEdge;
+  int x = 0;
+  int y = 0;
+  RenamerBlock block = RenamerBlock::None;
+};
+
+struct RenamerRow {
+  RenamerItem item = RenamerItem::Mode;
+  RenamerKind kind = RenamerKind::Border;
+  std::optional<std::size_t> label;  // place in the label table; none: no label
+  int width = 0;                     // of the hot area in pixels, of fields in characters; 0: the host's
+  RenamerPlace place;
+  int number = 0;         // what it shows at first: index, count, on or off
+  const char* text = "";  // likewise of fields
+  std::optional<texts::RenamerList> choices;
+};
+
+const std::array<RenamerRow, kRenamerItemCount>& renamerTable();
+
+}  // namespace mst

@@ -1,0 +1,27 @@
+// The rigs that are shipped, made by the stand-in's own writer.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+#include "objectfile/object_file.h"
+
+namespace standin {
+
+// A lizard of two layers, "Lizard" and "Tail": meshes, weight maps and 24 skelegons that together store every bone setting,
+// helper nulls of all seven kinds among them.
+ObjectFile makeDemoRig();
+
+// A small rig with names, weight map and linked items in Japanese.
+ObjectFile makeJapaneseRig();
+
+// `skelegons` in one chain, each with its first `settingsEach` (0 to 20) settings stored, for measurements. Names are unique up to 50,000
+// skelegons and begin again after that, since a file can number 65,536 different texts.
+ObjectFile makeChainRig(std::size_t skelegons, std::size_t settingsEach);
+
+// Write them as object files. Empty when written, else the failure.
+std::optional<Failure> writeDemoRig(const std::string& path);
+std::optional<Failure> writeJapaneseRig(const std::string& path);
+
+}  // namespace standin

@@ -1,0 +1,84 @@
+// The one file that knows the library for command lines: its header takes longer to compile than all that is said here.
+#include "program/command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <iostream>
+#include <stdexcept>
+#include <type_traits>
+
+namespace standin {
+namespace {
+
+CLI::Option* addOption(CLI::App& app, const CommandOption& option) {
+  return std::visit(
+      [&](auto* target) {
+        if constexpr (std::is_same_v<decltype(target), bool*>) {
+          return app.add_flag(option.name, *target, option.text);
+        } else {
+          return app.add_option(option.name, *target, option.text);
+        }
+      },
+      option.target);
+}
+
+// The limits are shown as numbers of the target's kind.
+CLI::Range rangeFor(const OptionTarget& target, std::pair<double, double> limits) {
+  if (std::holds_alternative<double*>(target)) return {limits.first, limits.second};
+  return {static_cast<int>(limits.first), static_cast<int>(limits.second)};
+}
+
+void addRow(CLI::App& app, const CommandOption& row) {
+  const OptionRules& rules = row.rules;
+  CLI::Option* const option = addOption(app, row);
+  option->required(rules.isRequired);
+  if (rules.showsDefault) option->capture_default_str();
+  if (!rules.choices.empty()) option->check(CLI::IsMember(rules.choices));
+  if (rules.range) option->check(rangeFor(row.target, *rules.range));
+  if (rules.separator != 0) option->delimiter(rules.separator);
+  if (rules.isRepeated) option->allow_extra_args(false);
+  if (rules.refusal) option->check(rules.refusal);
+  if (!rules.excludes.empty()) option->excludes(app.get_option(rules.excludes));
+}
+
+void addCommand(CLI::App& app, const Command& command, int& result) {
+  CLI::App* const subcommand = app.add_subcommand(command.name, command.text);
+  if (command.isHidden) subcommand->group("");
+  if (command.takesAnything) subcommand->allow_extras();
+  for (const CommandOption& option : command.options) addRow(*subcommand, option);
+  subcommand->footer(command.footer);
+  subcommand->callback([&command, &result] { result = command.run(); });
+}
+
+}  // namespace
+
+int runCommandLine(const Program& program, std::vector<std::string> words) {
+  CLI::App app{program.text, "varnel"};
+  app.require_subcommand(1);
+  app.allow_windows_style_options(false);  // a path may begin with a slash
+  app.set_help_all_flag("--help-all", "Print the help of every command and exit");
+  app.set_version_flag("--version", program.version);
+  int result = 0;
+  for (const Command& command : program.commands) addCommand(app, command, result);
+  std::reverse(words.begin(), words.end());  // the parser takes them from the back
+  try {
+    app.parse(words);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? 0 : kWrongUsage;
+  } catch (const std::runtime_error& error) {
+    // A host that this system cannot play.
+    std::cerr << "varnel: " << error.what() << "\n";
+    return kCannotBePlayed;
+  }
+  return result;
+}
+
+CommandOption moduleOption(std::string& target) {
+  return {"--module", &target, "The module's file (the one beside this program by default)"};
+}
+
+CommandOption languageOption(OptionTarget target, const std::string& text) {
+  return {"--lang", target, text, {.choices = {"en", "ja"}}};
+}
+
+}  // namespace standin

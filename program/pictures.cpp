@@ -1,0 +1,209 @@
+#include <array>
+#include <functional>
+#include <iostream>
+#include <memory>
+
+#include "objectfile/sample_rigs.h"
+#include "program/host_option.h"
+#include "program/property_panel.h"
+#include "program/subcommands.h"
+#include "program/support.h"
+#include "standin/variants/played_host.h"
+#include "standin/windows/desk_window.h"
+#include "standin/windows/driver.h"
+
+namespace standin {
+namespace {
+
+struct PicturesOptions {
+  std::string folder = "pictures";
+  std::string module;
+  HostWords host;
+  std::vector<std::string> languages = {"en", "ja"};
+  std::vector<std::string> only;
+};
+
+// Takes the pictures of one tool in one language.
+class Album {
+ public:
+  Album(const PicturesOptions& options, std::string language) : options_(options), language_(std::move(language)) {}
+
+  const std::string& language() const { return language_; }
+  const std::string& module() const { return options_.module; }
+  HostOptions host() const { return options_.host.options(); }
+
+  void take(Driver& driver, const Panel& panel, const std::string& tool, const std::string& name) const {
+    keep(driver.picture(panel), tool, name);
+  }
+  // Writes "TOOL-LANGUAGE-NAME.png", without the name where it is empty.
+  void keep(const Picture& picture, const std::string& tool, const std::string& name) const {
+    const std::string file = tool + "-" + language_ + (name.empty() ? "" : "-" + name) + ".png";
+    const std::string path = utf8Of(pathOf(options_.folder) / pathOf(file));
+    if (!savePng(picture, path)) throw Trouble{path + " could not be written"};
+    std::cout << file << std::endl;
+  }
+
+ private:
+  const PicturesOptions& options_;
+  std::string language_;
+};
+
+// Modeler with the demonstration's rig, in real windows.
+struct Workplace {
+  ModelerHost& host;
+  ModuleFile& module;
+  WindowsFront& front;
+  Driver& driver;
+};
+
+template <class Action>
+void inModeler(const Album& album, const std::vector<std::string>& selected, Action&& action) {
+  PlayedModeler host(album.host());
+  host.options().localeInfo = localeOf(album.language());
+  host.add(makeDemoRig(), "lizard.lwo");
+  host.showLayers({0, 1});
+  host.select(selected);
+  ModuleFile module;
+  loadModule(module, album.module());
+  {
+    WindowsFront front;
+    Driver driver(front);
+    std::forward<Action>(action)(Workplace{host, module, front, driver});
+  }
+  endSession(module);
+}
+
+void takePropertyPanel(const Album& album) {
+  inModeler(album, {"Tail_01"}, [&](const Workplace& at) {
+    const Panel& panel = openTool(at.host, at.module, kPropertyTool);
+    const Control* const pages = panel.find(ControlKind::TabChoice, 0);
+    for (int page = 0; page < kPropertyPages; ++page) {
+      must(at.driver.chooseTab(*pages, page));
+      const std::string name = "page" + std::to_string(page + 1);
+      if (page != kControllersPage) {
+        album.take(at.driver, panel, "property", name);
+        continue;
+      }
+      for (int group = 0; group < kMotionGroups; ++group) {
+        must(at.driver.chooseTab(*panel.find(ControlKind::TabChoice, 1), group));
+        album.take(at.driver, panel, "property", name + "-group" + std::to_string(group + 1));
+      }
+    }
+  });
+}
+
+void takeConversionPanel(const Album& album) {
+  PlayedLayout host(album.host());
+  host.setLocale(localeOf(album.language()));
+  ModuleFile module;
+  loadModule(module, album.module());
+  {
+    WindowsFront front;
+    Driver driver(front);
+    album.take(driver, openTool(host, module, kConversionTool), "conversion", "");
+  }
+  endSession(module);
+}
+
+void takeSelector(const Album& album) {
+  inModeler(album, {}, [&](const Workplace& at) {
+    const Panel& panel = openTool(at.host, at.module, kSelectorTool);
+    const Control& tree = *must(panel.find(ControlKind::OpenGL), "the tree");
+    album.take(at.driver, panel, "selector", "plain");
+    must(at.driver.resize(panel, 150, 220));
+    album.take(at.driver, panel, "selector", "resized");
+    constexpr int rowHeight = 14;
+    const auto clickRow = [&](int row, Held held) {
+      must(at.driver.clickAt(tree, 60, row * rowHeight + rowHeight / 2, MouseButton::Left, held));
+    };
+    clickRow(3, {});
+    clickRow(6, {.shift = true});
+    clickRow(9, {.control = true});
+    album.take(at.driver, panel, "selector", "selections");
+    must(at.driver.resize(panel, -180, -520));  // fewer rows than there are
+    const POINT thumb{tree.hot().right() - 6, tree.hot().y + 20};
+    must(at.driver.drag(panel, thumb, {thumb.x, thumb.y + 60}));
+    album.take(at.driver, panel, "selector", "scrolled");
+  });
+}
+
+void takeRenamer(const Album& album) {
+  inModeler(album, {"Tail_01"}, [&](const Workplace& at) {
+    const Panel& panel = openTool(at.host, at.module, kRenamerTool);
+    const Control& mode = *must(panel.find(ControlKind::Popup, 0), "the list of modes");
+    const int advanced = static_cast<int>(mode.items().size()) - 1;
+    must(at.driver.choose(mode, 0));
+    album.take(at.driver, panel, "renamer", "simple");
+    must(at.driver.choose(mode, advanced));
+    album.take(at.driver, panel, "renamer", "advanced");
+  });
+}
+
+void takeDesk(const Album& album) {
+  inModeler(album, {"Tail_01", "Tail_02"}, [&](const Workplace& at) {
+    const DeskWindow desk(at.host, at.module, at.front);
+    at.front.settle();
+    album.keep(pictureOf(desk.handle()), "desk", "");
+  });
+}
+
+// What the manual's first trip does: picks a skelegon in the tree, chooses its falloff in the panel.
+void takeFirstTrip(const Album& album) {
+  inModeler(album, {}, [&](const Workplace& at) {
+    const Panel& selector = openTool(at.host, at.module, kSelectorTool);
+    constexpr int rowHeight = 14;
+    constexpr int rowOfTail = 21;
+    const Control& tree = *must(selector.find(ControlKind::OpenGL), "the tree");
+    must(at.driver.clickAt(tree, 60, rowOfTail * rowHeight + rowHeight / 2, MouseButton::Left, {}));
+    if (at.host.selectedNames() != std::vector<std::string>{"Tail_01"}) throw Trouble{"another row was picked"};
+    album.take(at.driver, selector, "first-trip", "selector");
+
+    Panel& properties = openTool(at.host, at.module, kPropertyTool);
+    must(at.driver.choose(*must(falloffControl(properties), "the falloff control"), kInverseDistance4));
+    album.take(at.driver, properties, "first-trip", "property");
+  });
+}
+
+struct Subject {
+  const char* name;
+  void (*take)(const Album&);
+};
+constexpr std::array kSubjects{
+    Subject{"property", &takePropertyPanel}, Subject{"conversion", &takeConversionPanel}, Subject{"selector", &takeSelector},
+    Subject{"renamer", &takeRenamer},        Subject{"first-trip", &takeFirstTrip},       Subject{"desk", &takeDesk},
+};
+
+int run(const PicturesOptions& options) {
+  int result = reporting([&] { std::filesystem::create_directories(pathOf(options.folder)); });
+  for (const std::string& language : options.languages) {
+    const Album album(options, language);
+    for (const Subject& subject : kSubjects) {
+      const bool isWanted =
+          options.only.empty() || std::find(options.only.begin(), options.only.end(), subject.name) != options.only.end();
+      if (isWanted) result |= reporting([&] { subject.take(album); });
+    }
+  }
+  return result;
+}
+
+}  // namespace
+
+Command picturesCommand() {
+  const auto options = std::make_shared<PicturesOptions>();
+  return {
+      .name = "pictures",
+      .text = "Write pictures of the tools' panels as real windows (Windows only)",
+      .options =
+          {
+              {"folder", &options->folder, "Where the pictures go"},
+              moduleOption(options->module),
+              hostOption(options->host),
+              languageOption(&options->languages, "Languages to show"),
+              {"--only", &options->only, "Tools to show"},
+          },
+      .footer = "Example:\n  varnel pictures --lang ja build/pictures",
+      .run = [options] { return run(*options); },
+  };
+}
+
+}  // namespace standin

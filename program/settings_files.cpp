@@ -1,0 +1,106 @@
+// The subcommands export and import.
+#include <iostream>
+#include <memory>
+
+#include "objectfile/file_bytes.h"
+#include "program/replace_file.h"
+#include "program/rig_tool_support.h"
+#include "program/subcommands.h"
+#include "rigs/settings_json.h"
+
+namespace standin {
+namespace {
+
+struct ExportOptions {
+  std::string file;
+  std::string out;
+};
+
+struct ImportOptions {
+  std::string file;
+  std::string json;
+  std::string out;
+  bool inPlace = false;
+};
+
+int runExport(const ExportOptions& options) {
+  return exitCodeOf([&] {
+    const std::string json = rigs::exportSettings(rigs::rigOf(readRigFile(options.file), fileNameOf(options.file)));
+    if (options.out.empty()) {
+      std::cout << json;
+    } else {
+      mustBeWritten(writeNewFile(options.out, json));
+    }
+    return 0;
+  });
+}
+
+int runImport(const ImportOptions& options) {
+  return exitCodeOf([&] {
+    if (options.out.empty() && !options.inPlace) throw Trouble{"name the file to write with -o, or give --in-place"};
+    ObjectFile object = readRigFile(options.file);
+    const Outcome<std::string> json = readFileBytes(options.json);
+    if (!json) throw Trouble{json.why()};
+    const Outcome<std::size_t> changes = rigs::importSettings(object, *json);
+    if (!changes) throw Trouble{options.json + ": " + changes.why()};
+    const Outcome<std::string> bytes = serializeObject(object);
+    if (!bytes) throw Trouble{options.file + ": " + bytes.why()};
+    if (!options.inPlace) {
+      mustBeWritten(writeNewFile(options.out, *bytes));
+    } else if (*changes > 0) {
+      mustBeWritten(replaceFile(options.file, *bytes));
+    }
+    std::cout << (options.inPlace ? options.file : options.out) << ": " << *changes << (*changes == 1 ? " tag" : " tags")
+              << " changed\n";
+    return 0;
+  });
+}
+
+}  // namespace
+
+Command exportCommand() {
+  const auto options = std::make_shared<ExportOptions>();
+  return {
+      .name = "export",
+      .text = "Write the stored settings of a rig as JSON",
+      .options =
+          {
+              {"file", &options->file, "Object file", {.isRequired = true}},
+              {"-o,--output", &options->out, "File to write, which must not exist (the standard output by default)"},
+          },
+      .footer =
+          "Listed is what each skelegon stores, by layer and name. The same rig always gives the same text, whatever its "
+          "file "
+          "is\n"
+          "called, so that it serves version control as a textconv. Exit codes: 0; 2 trouble.\n"
+          "Examples:\n"
+          "  varnel export biped.lwo\n"
+          "  varnel export biped.lwo -o biped.json",
+      .run = [options] { return runExport(*options); },
+  };
+}
+
+Command importCommand() {
+  const auto options = std::make_shared<ImportOptions>();
+  return {
+      .name = "import",
+      .text = "Put settings from JSON into a rig",
+      .options =
+          {
+              {"file", &options->file, "Object file", {.isRequired = true}},
+              {"json", &options->json, "Settings, as export writes them", {.isRequired = true}},
+              {"-o,--output", &options->out, "Object file to write, which must not exist"},
+              {"--in-place", &options->inPlace, "Write over the object file", {.excludes = "--output"}},
+          },
+      .footer =
+          "Every skelegon that the JSON names gets exactly the settings that stand there; the others stay as they are. Only "
+          "tags are\n"
+          "written. JSON that is not understood whole is refused, and nothing is written. Exit codes: 0; 2 trouble.\n"
+          "Examples:\n"
+          "  varnel import biped.lwo biped.json -o biped-2.lwo\n"
+          "  varnel import biped.lwo biped.json --in-place",
+      .run = [options] { return runImport(*options); },
+  };
+}
+
+}  // namespace standin

@@ -1,0 +1,81 @@
+// What the subcommands of the program share.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <utility>
+
+#include "interface/lightwave.h"
+#include "standin/core/module_file.h"
+#include "standin/core/tool_names.h"
+#include "standin/panels/panel.h"
+#include "standin/panels/person.h"
+
+namespace standin {
+
+// What ends a subcommand: a sentence for the user.
+struct Trouble {
+  std::string why;
+};
+
+std::filesystem::path pathOf(const std::string& utf8);
+std::string utf8Of(const std::filesystem::path& path);
+std::string fileNameOf(const std::string& path);
+
+// A folder of its own for files that are made on the way; gone at the end.
+class TemporaryFolder {
+ public:
+  TemporaryFolder();
+  ~TemporaryFolder();
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  std::string path() const;
+  std::string file(const std::string& name) const;
+
+ private:
+  std::filesystem::path path_;
+};
+
+// Prints the text with each line moved in.
+void indent(const std::string& text);
+
+// Throws Trouble unless it could be done.
+void must(const Done& done);
+// The same for a result that has to be there.
+template <class T>
+T* must(T* thing, const std::string& what) {
+  if (thing == nullptr) throw Trouble{what + " is missing"};
+  return thing;
+}
+
+// The module of --module, else the one beside the program. Throws Trouble.
+void loadModule(ModuleFile& module, const std::string& chosen);
+
+// Runs a tool in Modeler or Layout; the panel that it opened. Throws Trouble.
+template <class Host>
+Panel& openTool(Host& host, ModuleFile& module, const char* tool) {
+  if (host.activate(module, tool) != 0) throw Trouble{std::string(tool) + " could not be activated"};
+  return *must(panels().find(tool), std::string("the panel of ") + tool);
+}
+
+// Ends the module's stay; throws Trouble with the faults that the host noted.
+void endSession(ModuleFile& module);
+
+// The locale of --lang: "en" or "ja".
+std::uint32_t localeOf(const std::string& language);
+
+void printTrouble(const Trouble& trouble);
+
+// Runs the action and prints what ended it. The exit code.
+template <class Action>
+int reporting(Action&& action) {
+  try {
+    std::forward<Action>(action)();
+    return 0;
+  } catch (const Trouble& trouble) {
+    printTrouble(trouble);
+    return 1;
+  }
+}
+
+}  // namespace standin

@@ -1,0 +1,38 @@
+// What differs between two states of a rig, by skelegon and setting.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "rigs/rig.h"
+
+namespace standin::rigs {
+
+enum class DifferenceKind {
+  LayerAdded,
+  LayerRemoved,
+  LayerRenamed,
+  Added,
+  Removed,
+  Renamed,  // another name at the same points
+  Moved,    // head or tail
+  Parent,
+  Setting,
+  Tag,  // any other tag
+};
+
+struct Difference {
+  DifferenceKind kind;
+  std::string layer;     // as shown, of the new state where there is one
+  std::string skelegon;  // the same
+  std::string what;      // the setting or the tag
+  // As shown; absent where there is nothing: not stored, or the skelegon is new.
+  std::optional<std::string> from;
+  std::optional<std::string> to;
+};
+
+// In the order of the new state, with what was removed behind.
+std::vector<Difference> differencesOf(const Rig& before, const Rig& after, Language language);
+
+}  // namespace standin::rigs

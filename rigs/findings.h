@@ -1,0 +1,76 @@
+// What a rigger should know before Layout turns a rig's skelegons into bones: each finding says where and what will happen.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "rigs/code_page.h"
+#include "rigs/rig.h"
+
+namespace standin::rigs {
+
+enum class FindingKind : std::size_t {
+  FileExtension,
+  LayerName,
+  LayerTwice,
+  NoName,
+  NameTwice,
+  NameInTwoLayers,
+  NameOfItem,
+  BecomesNull,
+  ParentMissing,
+  BonesFromMissing,
+  ChoiceOutside,
+  FlagOutside,
+  ColourUnknown,
+  ColourEmpty,
+  NumberUnreadable,
+  NumberPartly,
+  CommandTooLong,
+  PathTooLong,
+  PathCodePage,
+  CommandCodePage,
+  UnknownSlot,
+  TagRepeated,
+  TextMissing,
+};
+inline constexpr std::size_t kFindingKinds = 23;
+
+struct FindingRow {
+  FindingKind kind;
+  const char* id;       // on the command line and in JSON
+  const char* english;  // what will happen; {text}, {other} and {number} stand for what the finding is about
+  const char* japanese;
+  const char* in(Language language) const { return language == Language::Japanese ? japanese : english; }
+};
+const std::array<FindingRow, kFindingKinds>& findingTable();
+
+struct Finding {
+  FindingKind kind;
+  std::optional<std::size_t> layer;     // place in Rig::layers
+  std::optional<std::size_t> skelegon;  // place in Rig::skelegons
+  const Setting* setting = nullptr;
+  std::string text;
+  std::string other;
+  std::string number;
+};
+
+// In the order of the file: the file itself, then each layer with its skelegons and their settings; the names that become nulls
+// stand last.
+std::vector<Finding> findingsOf(const Rig& rig, const CodePage& codePage);
+
+// "Rig / Toe_L / Color (bone)"; empty for the file itself.
+std::string placeOf(const Rig& rig, const Finding& finding, Language language);
+// What will happen, as a sentence.
+std::string sentenceOf(const Finding& finding, Language language);
+
+// The longest command that the module formats, in bytes. What is longer comes out empty, and an empty command ends the run.
+inline constexpr std::size_t kLongestCommand = 511;
+
+// The longest path that the module opens, in units of UTF-16. For a longer one it opens the one before.
+inline constexpr std::size_t kLongestPath = 259;
+
+}  // namespace standin::rigs

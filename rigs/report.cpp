@@ -1,0 +1,274 @@
+#include "rigs/report.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "rigs/json_text.h"
+#include "rigs/text.h"
+#include "rigs/values.h"
+
+namespace standin::rigs {
+namespace {
+
+// Deeper skelegons are not moved in any further: a chain of thousands would fill the screen with lines.
+constexpr std::size_t kDeepestShown = 40;
+
+std::string plural(std::size_t count, const char* noun) {
+  return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+// The bone's colour alone has no default: Layout takes the first of its two places that is stored.
+bool storesColour(const Skelegon& skelegon) {
+  return std::any_of(skelegon.tags.begin(), skelegon.tags.end(), [](const PolygonTag& tag) {
+    const Setting* const setting = settingOfTag(tag.type);
+    return setting != nullptr && setting->slot == skg::Slot::Colour;
+  });
+}
+
+// What a skelegon says, line by line.
+std::vector<std::string> settingLines(const Skelegon& skelegon, const ReportOptions& options) {
+  const bool japanese = options.language == Language::Japanese;
+  std::vector<std::string> lines;
+  for (const Setting& setting : allSettings()) {
+    const std::string* const text = skelegon.stored(setting);
+    if (text == nullptr && setting.slot == skg::Slot::Colour) continue;  // told below
+    const bool differs = text != nullptr && !meansTheSame(setting, *text, setting.defaultText);
+    if (!differs && !options.all) continue;
+    const std::string value =
+        shown(setting, text == nullptr ? setting.defaultText : std::string_view(*text), options.language);
+    const char* const remark = text != nullptr ? "" : japanese ? " (既定値)" : " (default)";
+    lines.push_back(setting.name(options.language) + ": " + value + remark);
+  }
+  if (options.all && !storesColour(skelegon)) {
+    lines.emplace_back(japanese ? "色 (ボーン): 保存なし、オレンジになる" : "Color (bone): not stored, will become orange");
+  }
+  for (const PolygonTag& tag : skelegon.tags) {
+    const bool isOwn = settingOfTag(tag.type) != nullptr || tag.type == lw::kTagBone;
+    if (isUnknownSlot(tag.type) || (options.all && !isOwn)) {
+      lines.push_back((japanese ? "タグ " : "tag ") + tagName(tag.type) + ": " + inQuotes(tag.text));
+    }
+  }
+  return lines;
+}
+
+// Walks a layer's skelegons from the topmost down, without recursion. A ring of skelegons begins at its first in the file.
+class Tree {
+ public:
+  Tree(const Rig& rig, const Layer& layer, const ReportOptions& options)
+      : rig_(rig), options_(options), done_(rig.skelegons.size()) {
+    for (const std::size_t i : layer.skelegons) {
+      if (!rig.skelegons[i].parent) walk(i);
+    }
+    for (const std::size_t i : layer.skelegons) walk(i);
+  }
+
+  std::string text() { return std::move(text_); }
+
+ private:
+  struct Step {
+    std::size_t skelegon;
+    std::string indent;  // of the lines below its name
+    std::string branch;  // before its name
+    std::size_t depth;
+  };
+
+  void walk(std::size_t top) {
+    std::vector<Step> steps = {{top, "  ", "  ", 0}};
+    while (!steps.empty()) {
+      const Step step = std::move(steps.back());
+      steps.pop_back();
+      if (done_[step.skelegon]) continue;
+      done_[step.skelegon] = true;
+      write(step);
+      const auto& children = rig_.skelegons[step.skelegon].children;
+      for (std::size_t c = children.size(); c-- > 0;) {
+        const bool deeper = step.depth < kDeepestShown;
+        const bool last = c + 1 == children.size();
+        steps.push_back({children[c], deeper ? step.indent + (last ? "   " : "│  ") : step.indent,
+                         step.indent + (last ? "└─ " : "├─ "), step.depth + 1});
+      }
+    }
+  }
+
+  void write(const Step& step) {
+    const Skelegon& skelegon = rig_.skelegons[step.skelegon];
+    text_ += step.branch + nameShown(skelegon, options_.language) + '\n';
+    const char* const line = skelegon.children.empty() ? "   " : "│  ";
+    for (const std::string& setting : settingLines(skelegon, options_)) text_.append(step.indent + line + setting + '\n');
+  }
+
+  const Rig& rig_;
+  const ReportOptions& options_;
+  std::vector<bool> done_;
+  std::string text_;
+};
+
+std::string layerHead(const Rig& rig, const Layer& layer, Language language) {
+  const std::string count = std::to_string(layer.skelegons.size());
+  const std::string name = layer.name.empty() ? "" : " " + inQuotes(layer.name);
+  const std::string stored =
+      std::to_string(std::count_if(rig.skelegons.begin(), rig.skelegons.end(), [&](const Skelegon& s) {
+        return &rig.layers[s.layer] == &layer && std::any_of(s.tags.begin(), s.tags.end(), [](const PolygonTag& tag) {
+          return settingOfTag(tag.type) != nullptr;
+        });
+      }));
+  if (language == Language::Japanese) {
+    return "レイヤー " + std::to_string(layer.number) + name + "、レイアウトでは " + inQuotes(layer.itemName) +
+           ": スケルゴン " + count + "、設定あり " + stored + "\n";
+  }
+  return "layer " + std::to_string(layer.number) + name + ", in Layout " + inQuotes(layer.itemName) + ": " +
+         plural(layer.skelegons.size(), "skelegon") + ", " + stored + " with settings\n";
+}
+
+Json optionalText(const std::optional<std::string>& text) { return text ? Json(*text) : Json(); }
+
+struct KindRow {
+  DifferenceKind kind;
+  const char* id;
+  const char* english;
+  const char* japanese;
+};
+constexpr KindRow kKinds[] = {
+    {DifferenceKind::LayerAdded, "layer-added", "layer added", "レイヤー追加"},
+    {DifferenceKind::LayerRemoved, "layer-removed", "layer removed", "レイヤー削除"},
+    {DifferenceKind::LayerRenamed, "layer-renamed", "layer renamed", "レイヤー改名"},
+    {DifferenceKind::Added, "added", "added", "追加"},
+    {DifferenceKind::Removed, "removed", "removed", "削除"},
+    {DifferenceKind::Renamed, "renamed", "renamed", "改名"},
+    {DifferenceKind::Moved, "moved", "moved", "移動"},
+    {DifferenceKind::Parent, "parent", "parent", "親"},
+    {DifferenceKind::Setting, "setting", "", ""},
+    {DifferenceKind::Tag, "tag", "tag", "タグ"},
+};
+
+const KindRow& rowOf(DifferenceKind kind) {
+  return *std::find_if(std::begin(kKinds), std::end(kKinds), [&](const KindRow& row) { return row.kind == kind; });
+}
+
+std::string differenceLine(const Difference& difference, Language language) {
+  const KindRow& row = rowOf(difference.kind);
+  const bool japanese = language == Language::Japanese;
+  std::string line = japanese ? row.japanese : row.english;
+  if (!difference.what.empty()) line += (line.empty() ? "" : " ") + difference.what;
+  if (!difference.from && !difference.to) return line;
+  const std::string none = japanese ? "(なし)" : "(none)";
+  return line + ": " + difference.from.value_or(none) + " -> " + difference.to.value_or(none);
+}
+
+Json skelegonJson(const Rig& rig, std::size_t index, const ReportOptions& options) {
+  const Skelegon& skelegon = rig.skelegons[index];
+  Json json{{"name", skelegon.name}};
+  if (skelegon.namesakes > 1) json["nth"] = skelegon.number + 1;
+  json["parent"] = skelegon.parent ? Json(nameShown(rig.skelegons[*skelegon.parent])) : Json();
+  Json settings = Json::array();
+  for (const Setting& setting : allSettings()) {
+    const std::string* const text = skelegon.stored(setting);
+    if (text == nullptr && (!options.all || setting.slot == skg::Slot::Colour)) continue;
+    if (text != nullptr && !options.all && meansTheSame(setting, *text, setting.defaultText)) continue;
+    const std::string value = text == nullptr ? std::string(setting.defaultText) : *text;
+    settings.push_back(Json{{"name", setting.name(options.language)},
+                            {"tag", tagName(setting.tag)},
+                            {"text", value},
+                            {"shown", shown(setting, value, options.language)},
+                            {"stored", text != nullptr}});
+  }
+  json["settings"] = std::move(settings);
+  return json;
+}
+
+Json findingJson(const Rig& rig, const Finding& finding, Language language) {
+  Json json{{"id", findingTable()[static_cast<std::size_t>(finding.kind)].id}};
+  json["layer"] = finding.layer ? Json(rig.layers[*finding.layer].name) : Json();
+  json["skelegon"] = finding.skelegon ? Json(nameShown(rig.skelegons[*finding.skelegon])) : Json();
+  json["setting"] = finding.setting != nullptr ? Json(finding.setting->name(language)) : Json();
+  json["text"] = sentenceOf(finding, language);
+  return json;
+}
+
+Json fileJson(const Inspected& file, const ReportOptions& options) {
+  Json json{{"file", file.path}};
+  if (!file.trouble.empty()) {
+    json["trouble"] = file.trouble;
+    return json;
+  }
+  Json layers = Json::array();
+  for (const Layer& layer : file.rig.layers) {
+    Json skelegons = Json::array();
+    for (const std::size_t i : layer.skelegons) skelegons.push_back(skelegonJson(file.rig, i, options));
+    layers.push_back(
+        Json{{"number", layer.number}, {"name", layer.name}, {"item", layer.itemName}, {"skelegons", std::move(skelegons)}});
+  }
+  json["layers"] = std::move(layers);
+  Json findings = Json::array();
+  for (const Finding& finding : file.findings) findings.push_back(findingJson(file.rig, finding, options.language));
+  json["findings"] = std::move(findings);
+  return json;
+}
+
+}  // namespace
+
+std::string treeText(const Rig& rig, const ReportOptions& options) {
+  std::string text;
+  for (const Layer& layer : rig.layers) {
+    text += layerHead(rig, layer, options.language);
+    text += Tree(rig, layer, options).text();
+  }
+  return text;
+}
+
+std::string findingsText(const Rig& rig, const std::vector<Finding>& findings, int codePage, Language language) {
+  const bool japanese = language == Language::Japanese;
+  const std::string count = std::to_string(findings.size());
+  const std::string page = std::to_string(codePage);
+  std::string text = japanese ? "指摘 " + count + " 件 (コードページ " + page + ")\n"
+                              : plural(findings.size(), "finding") + " (code page " + page + ")\n";
+  for (const Finding& finding : findings) {
+    const std::string place = placeOf(rig, finding, language);
+    text.append("  [").append(findingTable()[static_cast<std::size_t>(finding.kind)].id).append("] ");
+    text += (place.empty() ? "" : place + ": ") + sentenceOf(finding, language) + '\n';
+  }
+  return text;
+}
+
+std::string differencesText(const std::vector<Difference>& differences, Language language) {
+  std::string text;
+  std::string subject;
+  for (const Difference& difference : differences) {
+    const std::string now = difference.layer + (difference.skelegon.empty() ? "" : " / " + difference.skelegon);
+    if (now != subject) text += now + '\n';
+    subject = now;
+    text += "  " + differenceLine(difference, language) + '\n';
+  }
+  return text;
+}
+
+std::string inspectionJson(const std::vector<Inspected>& files, const ReportOptions& options) {
+  Json json = Json::array();
+  for (const Inspected& file : files) json.push_back(fileJson(file, options));
+  return dumpJson(json);
+}
+
+std::string differencesJson(const std::vector<Difference>& differences) {
+  Json json = Json::array();
+  for (const Difference& difference : differences) {
+    json.push_back(Json{{"kind", rowOf(difference.kind).id},
+                        {"layer", difference.layer},
+                        {"skelegon", difference.skelegon},
+                        {"what", difference.what},
+                        {"from", optionalText(difference.from)},
+                        {"to", optionalText(difference.to)}});
+  }
+  return dumpJson(json);
+}
+
+std::string commandsJson(const std::vector<SentCommand>& commands) {
+  Json json = Json::array();
+  for (const SentCommand& command : commands) {
+    Json entry{{"command", command.text}, {"result", command.result}};
+    if (!command.why.empty()) entry["why"] = command.why;
+    json.push_back(std::move(entry));
+  }
+  return dumpJson(json);
+}
+
+}  // namespace standin::rigs

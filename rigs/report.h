@@ -1,0 +1,40 @@
+// Rigs, findings and differences as text for people and as JSON for programs. All is UTF-8 and ends with a line end; it depends
+// on nothing but what it is given, so that it can be compared from one day to the next.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "rigs/difference.h"
+#include "rigs/findings.h"
+#include "rigs/rig.h"
+
+namespace standin::rigs {
+
+struct ReportOptions {
+  Language language = Language::English;
+  bool all = false;  // defaults and other tags too
+};
+
+std::string treeText(const Rig& rig, const ReportOptions& options);
+std::string findingsText(const Rig& rig, const std::vector<Finding>& findings, int codePage, Language language);
+std::string differencesText(const std::vector<Difference>& differences, Language language);
+
+// One object of a file.
+struct Inspected {
+  std::string path;
+  std::string trouble;  // why the file cannot be read; the rest is empty then
+  Rig rig;
+  std::vector<Finding> findings;
+};
+std::string inspectionJson(const std::vector<Inspected>& files, const ReportOptions& options);
+std::string differencesJson(const std::vector<Difference>& differences);
+
+struct SentCommand {
+  std::string text;
+  std::string result;  // "accepted", "rejected" or "asked"
+  std::string why;
+};
+std::string commandsJson(const std::vector<SentCommand>& commands);
+
+}  // namespace standin::rigs
