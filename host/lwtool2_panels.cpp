@@ -1,6 +1,7 @@
 #include "host/lwtool2_panels.h"
 
 #include <array>
+#include <string_view>
 #include <utility>
 
 #include "host/lwtool2_errors.h"
@@ -116,12 +117,14 @@ void CControl::setReal(double number) const {
   control_->set(control_, kControlValue, &value);
 }
 
-std::string CControl::text() const {
+std::string CControl::text(TextEnd end) const {
   // One byte more than the host is told of: a text that fills the buffer may come without its final zero.
   std::array<char, kLongestText + 1> buffer{};
   LWValue value = stringValue(buffer.data(), kLongestText);
   control_->get(control_, kControlValue, &value);
-  return std::string(texts::withoutCutCharacter(buffer.data()));
+  const std::string_view text = buffer.data();
+  const bool fillsBuffer = text.size() + 1 >= kLongestText;  // with its final zero or without
+  return std::string(end == TextEnd::Whole || fillsBuffer ? texts::withoutCutCharacter(text) : text);
 }
 
 void CControl::setText(const std::string& text) const {

@@ -9,6 +9,10 @@
 
 namespace lw {
 
+// What users type ends with a whole character: half a one shows that the host holds no more. A text that ended with half a one when
+// it was set may end so still.
+enum class TextEnd { Whole, AsItIs };
+
 // One control of a panel. A light view: the panel owns the control, which lives as long as the panel does.
 class CControl {
  public:
@@ -24,7 +28,7 @@ class CControl {
   double real() const;
   void setReal(double value) const;
   // Texts longer than the limit are cut, and a host may hold fewer bytes yet: both end with a whole character.
-  std::string text() const;
+  std::string text(TextEnd end = TextEnd::Whole) const;
   void setText(const std::string& text) const;
 
   // In bytes: what fits into the buffer that the host copies a text to.

@@ -1,5 +1,6 @@
 #include "host/lwtool2_scene.h"
 
+#include <cmath>
 #include <cstdint>
 #include <unordered_set>
 
@@ -41,15 +42,25 @@ EnvelopeId envelopeOf(ItemId item, const char* pathName) {
   return envelope;
 }
 
+// Whether a key stands at that time, and not beside it: how far from the time asked for a host finds keys is not documented. A key
+// whose time the host does not tell is taken for the one asked for.
+bool standsAt(EnvelopeId envelope, KeyId key, double time) {
+  constexpr double kRounding = 1e-4;  // of a host that keeps times as floats; frames are much further apart
+  double found = time;
+  return envelopes().keyGet(envelope, key, kKeyTime, &found) == 0 || std::abs(found - time) <= kRounding;
+}
+
 // A new key at the current time. What a host answers where a key stands already is not documented: one that makes none there is
-// given the value for the key that it has. Whatever comes of it, the run goes on.
-void addKey(EnvelopeId envelope, double value) {
+// given the value for the key that it has, but no key beside that time is changed. Whatever comes of it, the run goes on.
+void addKey(EnvelopeId envelope, const char* pathName, double value) {
   RefreshTimeInfo();
   const double now = timeInfo().time;
   const LWEnvelopeFuncs& keys = envelopes();
   if (keys.createKey(envelope, now, value) != nullptr) return;
   const KeyId there = keys.findKey(envelope, now);
-  if (there != nullptr) keys.keySet(envelope, there, kKeyValue, &value);
+  const bool isSet =
+      there != nullptr && standsAt(envelope, there, now) && keys.keySet(envelope, there, kKeyValue, &value) != 0;
+  if (!isSet) ReportStatusError(FormatString("createKey() returned NULL !(%s)", pathName));
 }
 
 // Shows every item to `visit`, in the order in which names are looked up, until it answers true: the item at which it did.
@@ -164,7 +175,7 @@ void SetChannelValue(ItemId item, const char* pathName, double value) {
   const LWEnvelopeFuncs& keys = envelopes();
   const KeyId first = keys.nextKey(envelope, nullptr);
   const bool onlyKey = first != nullptr && keys.nextKey(envelope, first) == nullptr;
-  if (!onlyKey) return addKey(envelope, value);
+  if (!onlyKey) return addKey(envelope, pathName, value);
   if (keys.keySet(envelope, first, kKeyValue, &value) == 0) {
     throw ex::CBaseEx(FormatString("g_envf->keySet() !(%s)", pathName));
   }

@@ -266,6 +266,23 @@ bool parentByName(lw::CSceneItems& scene, const std::string& childName, const st
   return child == nullptr || parent == nullptr || parentTo(child, parent);
 }
 
+// The null of that name among the new selected items, which need not all be ours: other plug-ins may add items, too. The host may
+// have put a counter behind the name. Null when none is called so.
+lw::ItemId namedSo(const lw::Selection& fresh, const std::string& name) {
+  for (const bool exactly : {true, false}) {
+    for (const lw::ItemId item : fresh) {
+      const std::string called = lw::itemName(item);
+      if (exactly ? called == name : called.starts_with(name + " (")) return item;
+    }
+  }
+  return nullptr;
+}
+
+lw::Selection without(lw::Selection items, const lw::Selection& gone) {
+  std::erase_if(items, [&](lw::ItemId item) { return std::find(gone.begin(), gone.end(), item) != gone.end(); });
+  return items;
+}
+
 // Asks Layout for a null; of the name that the scene has no item of, or of any for an empty one. Null when Layout refused, or
 // selects nothing.
 lw::ItemId addNull(lw::CSceneItems& scene, const std::string& missingName, const lw::Selection& before) {
@@ -273,18 +290,18 @@ lw::ItemId addNull(lw::CSceneItems& scene, const std::string& missingName, const
   // Eval, not EvalF: only a null that was really made may be moved. The name is a text, never a format.
   const bool refused = lw::Eval(lw::FormatString("AddNull %s", name.c_str()));
   const lw::Selection after = refused ? lw::Selection() : lw::SaveSelection();
-  const auto made = std::find_if(after.begin(), after.end(), [&](lw::ItemId item) {
-    return std::find(before.begin(), before.end(), item) == before.end();
-  });
-  if (made != after.end()) {
-    scene.added(*made, name);
-    return *made;
+  const lw::Selection fresh = without(after, before);
+  if (const lw::ItemId made = namedSo(fresh, name)) {
+    scene.added(made, name);
+    return made;
   }
   // What the scene holds now is not known.
   scene.forget();
   // A host that leaves the selection as it was does not show the null that it made: the first selected item is the bone still,
   // which must not be taken for it. It is the item of the name that was missing.
-  return after.empty() || missingName.empty() ? nullptr : scene.FindItemByName(name);
+  const lw::ItemId found = after.empty() || missingName.empty() ? nullptr : scene.FindItemByName(name);
+  if (found != nullptr || fresh.empty()) return found;
+  return fresh.front();  // by whatever name
 }
 
 }  // namespace

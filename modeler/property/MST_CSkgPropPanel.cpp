@@ -37,7 +37,8 @@ ChooserList listOf(std::size_t number) {
 
 }  // namespace
 
-CSkgPropPanel::CSkgPropPanel() {
+CSkgPropPanel::CSkgPropPanel()
+    : title_(lw::FormatString("%s(%d.%02d)%s", kPropertyName, VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR, " ")) {
   for (std::size_t number = 0; number < kControlCount; ++number) links_[number] = {this, number};
   enterPanel(this, &OnNews);
 }
@@ -51,9 +52,11 @@ CSkgPropPanel::~CSkgPropPanel() {
 // Opening and closing
 
 bool CSkgPropPanel::OpenPropertyPanel() {
-  if (!isBusy_) build();  // while the host waits for an event of the panel's, it has to stay
-  rescan();
-  load();
+  if (isBusy_) {  // while the host waits for an event of the panel's, it has to stay
+    take(look());
+  } else {
+    replace();
+  }
   if (life_.isOpen()) {
     form_->bringToFront();
   } else {
@@ -85,14 +88,30 @@ void CSkgPropPanel::takeDown() {
   form_.reset();
 }
 
-void CSkgPropPanel::build() {
+// A new panel in place of the last run's. All that the host may refuse comes first: a run that fails costs no open panel.
+void CSkgPropPanel::replace() {
+  // Either panel may hold on to texts that it was given: each has its own.
+  CChooserLists former = std::exchange(choosers_, {});
+  std::optional<CPropertyForm> made;
+  Seen seen;
+  try {
+    made.emplace(build());
+    seen = look();
+  } catch (...) {
+    choosers_ = std::move(former);
+    throw;
+  }
   takeDown();
-  choosers_.forgetTexts();
-  title_ = lw::FormatString("%s(%d.%02d)%s", kPropertyName, VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR, " ");
-  form_.emplace(title_.c_str(), lw::propertyTexts(), hooks());
-  form_->setChoice(control::kPages, page_);
-  form_->setChoice(control::kGroups, group_);
+  form_.emplace(std::move(*made));
   widthToggle_ = 0;
+  take(std::move(seen));
+}
+
+CPropertyForm CSkgPropPanel::build() {
+  CPropertyForm form(title_.c_str(), lw::propertyTexts(), hooks());
+  form.setChoice(control::kPages, page_);
+  form.setChoice(control::kGroups, group_);
+  return form;
 }
 
 void CSkgPropPanel::closed() {
@@ -105,13 +124,22 @@ void CSkgPropPanel::closed() {
 // ---------------------------------------------------------------------------------------------------------------------
 // What the panel knows of the mesh, and what it shows of it
 
-void CSkgPropPanel::rescan() {
-  std::vector<skg::SkelegonInfo> skelegons = scan();
-  std::vector<std::string> layerNames = lw::LayerNames();
-  choosers_.set(ChooserList::WeightMaps, weightMapChoices(lw::WeightMapNames()));
-  skelegons_ = std::move(skelegons);
-  layerNames_ = std::move(layerNames);
+CSkgPropPanel::Seen CSkgPropPanel::look() {
+  Seen seen;
+  seen.skelegons = scan();
+  seen.layerNames = lw::LayerNames();
+  seen.weightMaps = lw::WeightMapNames();
+  const lw::PolygonIds polygons = selectedPolygons(seen.skelegons);
+  seen.properties = ReadSkelegonProperties(polygons.empty() ? nullptr : polygons.front());
+  return seen;
+}
+
+void CSkgPropPanel::take(Seen seen) {
+  choosers_.set(ChooserList::WeightMaps, weightMapChoices(seen.weightMaps));
+  skelegons_ = std::move(seen.skelegons);
+  layerNames_ = std::move(seen.layerNames);
   refreshLists();
+  load(seen.properties);
 }
 
 // Names change by other ways than ours too: whatever writes names looks first.
@@ -134,9 +162,8 @@ void CSkgPropPanel::refreshLists() {
   choosers_.set(ChooserList::SelectedNames, selected);
 }
 
-void CSkgPropPanel::load() {
-  const lw::PolygonIds polygons = selected();
-  form_->showValues(ReadSkelegonProperties(polygons.empty() ? nullptr : polygons.front()));
+void CSkgPropPanel::load(const skg::SkelegonProperties& properties) {
+  form_->showValues(properties);
   form_->setChoice(control::kNamePopup, 0);
   for (const ControlRow& row : controlTable()) {
     if (row.role == Role::WeightMaps || row.role == Role::ItemNames) rest(row.number);
@@ -152,8 +179,7 @@ void CSkgPropPanel::showPage() {
 }
 
 void CSkgPropPanel::reload() {
-  rescan();
-  load();
+  take(look());
   tell();
 }
 
@@ -236,7 +262,8 @@ std::string CSkgPropPanel::takeChoice(std::size_t number) {
 
 // Leaves a chooser on none of its entries: it is a menu, and hosts may fire only when the choice changes, so that an entry it
 // rests on could not be chosen. What a host makes of an index outside the list is not documented: where it holds indices to the
-// list, there is a blank entry to rest on.
+// list, there is a blank entry to rest on. That one is not read back: a host that takes no index of its list either leaves nothing to
+// do, and the module goes by the choices that it is told of, never by where a chooser rests.
 void CSkgPropPanel::rest(std::size_t number) {
   const ChooserList list = listOf(number);
   for (const int outside : {-1, choosers_.count(list)}) {

@@ -47,19 +47,27 @@ class CSkgPropPanel {
   static void OnNews(void* panel, PanelNews news);
 
   FormHooks hooks();
-  void build();
+  void replace();
+  CPropertyForm build();
   void takeDown();
   void settle();
   void closed();
   bool isPanel(lw::PanelId panel) const { return form_ && form_->is(panel); }
 
-  // What the panel knows of the mesh.
-  void rescan();
+  // What the panel knows of the mesh, and shows of it.
+  struct Seen {
+    std::vector<skg::SkelegonInfo> skelegons;
+    std::vector<std::string> layerNames;
+    std::vector<std::string> weightMaps;
+    skg::SkelegonProperties properties;  // of the first that is selected
+  };
+  static Seen look();
+  void take(Seen seen);
   void refreshNames();
   void refreshLists();
   lw::PolygonIds selected() const { return selectedPolygons(skelegons_); }
 
-  void load();
+  void load(const skg::SkelegonProperties& properties);
   void showPage();
   void reload();
   // To the other open panels: values have changed.
@@ -81,7 +89,7 @@ class CSkgPropPanel {
   void preset(Controller controller);
   void reset(const char* question, bool all);
 
-  std::string title_;
+  const std::string title_;
   std::optional<CPropertyForm> form_;  // the panel of the last run, open or not
   std::array<ControlLink, kControlCount> links_;
   lw::CPanelLife life_;

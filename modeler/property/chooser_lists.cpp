@@ -36,12 +36,6 @@ void CChooserLists::clearLists() {
   for (Names& names : lists_) names.clear();
 }
 
-void CChooserLists::forgetTexts() {
-  clearLists();
-  texts_.clear();
-  hasBlank_ = {};
-}
-
 int CChooserLists::count(ChooserList list) const {
   return static_cast<int>(lists_[indexOf(list)].size()) + (hasBlank_[indexOf(list)] ? 1 : 0);
 }

@@ -20,15 +20,13 @@ ChooserTexts weightMapChoices(const ChooserTexts& mapNames);
 // skelegons.
 ChooserTexts itemChoices(const ChooserTexts& layerNames, const ChooserTexts& skelegonNames);
 
-// The present lists. The host may keep a text that it got: every one lives until forgetTexts(), also when a list changes.
+// The present lists. The host may keep a text that it got: every one lives as long as this does, also when a list changes.
 class CChooserLists {
  public:
   void set(ChooserList list, const ChooserTexts& texts);
   void clearLists();
-  // Only when the panel that may hold the texts is gone.
-  void forgetTexts();
 
-  // From now on the list ends with a blank entry, for a host that lets a popup rest on an entry only. Until forgetTexts().
+  // From now on the list ends with a blank entry, for a host that lets a popup rest on an entry only.
   void endWithBlank(ChooserList list) { hasBlank_[static_cast<std::size_t>(list)] = true; }
 
   // With the blank entry.

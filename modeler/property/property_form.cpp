@@ -6,6 +6,7 @@
 #include "modeler/property/property_layout.h"
 #include "modeler/property/property_store.h"
 #include "skelegon/numbers.h"
+#include "texts/whole_text.h"
 
 namespace mst {
 namespace {
@@ -81,12 +82,18 @@ void CPropertyForm::show(int page, int group, bool nameCanBeEdited) const {
   }
 }
 
-void CPropertyForm::setValue(std::size_t number, const std::string& text) const {
+void CPropertyForm::setText(std::size_t number, const std::string& text) {
+  const bool isWhole = texts::withoutCutCharacter(text).size() == text.size();
+  textEnds_[number] = isWhole ? lw::TextEnd::Whole : lw::TextEnd::AsItIs;
+  controls_[number].setText(text);
+}
+
+void CPropertyForm::setValue(std::size_t number, const std::string& text) {
   const lw::CControl& control = controls_[number];
   switch (ControlSlotMap(number).value) {
     case ValueKind::Integer: control.setInteger(shownNumber(controlTable()[number], skg::leadingInteger(text))); break;
     case ValueKind::Real: control.setReal(skg::leadingReal(text)); break;
-    case ValueKind::Text: control.setText(text); break;
+    case ValueKind::Text: setText(number, text); break;
     case ValueKind::Colour: control.setInteger(skg::colourIndex(text)); break;
     case ValueKind::None: break;
   }
@@ -94,7 +101,7 @@ void CPropertyForm::setValue(std::size_t number, const std::string& text) const 
 
 void CPropertyForm::showValues(const skg::SkelegonProperties& properties) {
   const lw::CRaisedFlag setting(isSetting_);
-  controls_[control::kNameEdit].setText(properties[skg::Slot::Name]);
+  setText(control::kNameEdit, properties[skg::Slot::Name]);
   for (const ControlRow& row : controlTable()) {
     if (row.slot) setValue(row.number, properties[*row.slot]);
   }
@@ -116,7 +123,7 @@ std::string CPropertyForm::storedText(std::size_t number) const {
     case ValueKind::Text:
     case ValueKind::None: break;
   }
-  return control.text();
+  return control.text(textEnds_[number]);
 }
 
 void CPropertyForm::setChoice(std::size_t number, int index) {

@@ -52,9 +52,11 @@ class CPropertyForm : public lw::CPanel {
  private:
   lw::CControl make(const ControlRow& row, const lw::PropertyTexts& texts, lw::PopupFunctions lists) const;
   void place(const ControlRow& row) const;
-  void setValue(std::size_t number, const std::string& text) const;
+  void setText(std::size_t number, const std::string& text);
+  void setValue(std::size_t number, const std::string& text);
 
   std::array<lw::CControl, kControlCount> controls_;
+  std::array<lw::TextEnd, kControlCount> textEnds_{};  // of the texts last set
   bool isSetting_ = false;
 };
 

@@ -35,8 +35,12 @@ bool CMouseWay::repeatsLast(const MouseReport& report) const {
 
 bool CMouseWay::movesFromLast(const MouseReport& report) const { return distance(report, last_) > 0; }
 
-MouseStep CMouseWay::down(const MouseReport& report, bool repeatsMeanNothing) {
-  const MouseStep step = isDown_ ? downAgain(report, repeatsMeanNothing) : MouseStep::Press;
+bool CMouseWay::tremblesFromLast(const MouseReport& report) const {
+  return distance(report, last_) <= kTremble && report.bits == last_.bits && report.clicks == last_.clicks;
+}
+
+MouseStep CMouseWay::down(const MouseReport& report) {
+  const MouseStep step = isDown_ ? downAgain(report) : MouseStep::Press;
   if (isPress(step)) {
     clicks_ = report.clicks;
     hasGuessed_ = step == MouseStep::Guess;
@@ -45,13 +49,12 @@ MouseStep CMouseWay::down(const MouseReport& report, bool repeatsMeanNothing) {
   return step;
 }
 
-MouseStep CMouseWay::downAgain(const MouseReport& report, bool repeatsMeanNothing) const {
+MouseStep CMouseWay::downAgain(const MouseReport& report) const {
   if (!haveSame(kButtonBits, report, last_) || report.clicks > clicks_) return MouseStep::Press;  // no move does that
-  if (repeatsLast(report)) return tellsReleases_ || repeatsMeanNothing ? MouseStep::Nothing : MouseStep::Guess;
-  if (tellsReleases_ || !report.isInside || report.isOnDraggedBar) return MouseStep::Move;
-  const bool isElsewhere = distance(report, last_) > kTremble;
-  const bool countsAnew = report.clicks != clicks_ && report.clicks > 0;
-  return isElsewhere || countsAnew || !haveSame(kQualifierBits, report, last_) ? MouseStep::Guess : MouseStep::Move;
+  if (repeatsLast(report)) return tellsReleases_ ? MouseStep::Nothing : MouseStep::Guess;
+  // However short the step is: a second press beside the first is as usual as a hand that trembles, and only one of the two can
+  // be taken back.
+  return tellsReleases_ || !report.isInside || report.isOnDraggedBar ? MouseStep::Move : MouseStep::Guess;
 }
 
 MouseStep CMouseWay::up(const MouseReport& report, bool isTold) {
@@ -82,7 +85,7 @@ void CMouseMerge::reset(const MouseReport& standing) {
 MouseStep CMouseMerge::button(const MouseReport& report) {
   hasJustPainted_ = false;
   if (!isDown(report)) return released(report, true);
-  const MouseStep step = hooks_.down(report, false);
+  const MouseStep step = hooks_.down(report);
   if (haveHooksPressed_ && isPress(step)) event_.forgetButton();  // the event has not told of this one
   if (haveHooksPressed_ || !isPress(step) || !report.isInside) return step;
   haveHooksPressed_ = true;
@@ -119,8 +122,8 @@ MouseStep CMouseMerge::event(const MouseReport& report) {
     event_.forgetButton();
     return MouseStep::Nothing;
   }
-  if (doesEventPaint_ && event_.repeatsLast(report)) isPaintDue_ = false;
-  const MouseStep step = event_.down(report, doesEventPaint_);
+  if (event_.isDown() && isPaintOf(report)) return paintWithButton(report);
+  const MouseStep step = event_.down(report);
   if (isPress(step)) eventsPress_ = report;
   return step;
 }
@@ -128,6 +131,18 @@ MouseStep CMouseMerge::event(const MouseReport& report) {
 // The host paints while the bits are still those of before the panel opened, or while a button is down elsewhere.
 bool CMouseMerge::isNoPress(const MouseReport& report, bool mayBePaint) const {
   return event_.repeatsLast(report) || (doesEventPaint_ && mayBePaint && !event_.movesFromLast(report));
+}
+
+// With the button down, the paint that was asked for: the hand may have trembled since the press.
+bool CMouseMerge::isPaintOf(const MouseReport& report) const {
+  return doesEventPaint_ && (isPaintDue_ ? event_.tremblesFromLast(report) : event_.repeatsLast(report));
+}
+
+MouseStep CMouseMerge::paintWithButton(const MouseReport& report) {
+  isPaintDue_ = false;
+  const bool isMove = event_.movesFromLast(report);
+  event_.note(report);
+  return isMove ? MouseStep::Move : MouseStep::Nothing;
 }
 
 // A release, or the host paints. Where a release may have been seen by chance only, nothing is concluded from it.

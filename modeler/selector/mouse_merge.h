@@ -27,15 +27,16 @@ enum class MouseStep {
 };
 
 // What one way has told. A report with the button down that follows another one is a move where releases are told, and a press
-// where they are not. Until the first release is heard that is open: then a short step and one that no press can make are moves.
+// where they are not. Until the first release is heard that is open: then only a step that no press can make is a move.
 class CMouseWay {
  public:
   bool isDown() const { return isDown_; }
   bool repeatsLast(const MouseReport& report) const;
   bool movesFromLast(const MouseReport& report) const;
+  bool tremblesFromLast(const MouseReport& report) const;  // no further than a hand does without meaning to
 
-  // A report with the button down. One that repeats the last is a second press at the same place, or means nothing.
-  MouseStep down(const MouseReport& report, bool repeatsMeanNothing);
+  // A report with the button down. One that repeats the last is a second press at the same place where no releases are told.
+  MouseStep down(const MouseReport& report);
   // One with no button down. `isTold` is false when the host may not have called because of the release.
   MouseStep up(const MouseReport& report, bool isTold);
   // Keeps a report to compare the next one with.
@@ -43,7 +44,7 @@ class CMouseWay {
   void forgetButton() { isDown_ = false; }
 
  private:
-  MouseStep downAgain(const MouseReport& report, bool repeatsMeanNothing) const;
+  MouseStep downAgain(const MouseReport& report) const;
 
   bool isDown_ = false;
   bool tellsReleases_ = false;
@@ -73,6 +74,8 @@ class CMouseMerge {
  private:
   MouseStep released(const MouseReport& report, bool isTold);
   bool isNoPress(const MouseReport& report, bool mayBePaint) const;
+  bool isPaintOf(const MouseReport& report) const;
+  MouseStep paintWithButton(const MouseReport& report);
   MouseStep eventWithoutButton(const MouseReport& report);
   MouseStep eventBesideHooks(const MouseReport& report);
 

@@ -11,6 +11,7 @@ constexpr int kOtherRow = 5;     // another one's
 constexpr int kScrolledRow = 1;  // shows another row when the tree is scrolled
 constexpr int kBar = 6;          // from the edge, the middle of a scroll bar
 constexpr int kSteps = 4;        // of a drag
+constexpr int kBeside = 2;       // pixels, where a hand that clicks twice comes to click
 
 int middleOf(int row) { return row * TreeUser::kRow + TreeUser::kRow / 2; }
 
@@ -91,6 +92,8 @@ void clickInOtherWays(TreeUser& tree) {
   tree.finds(tree.host().selectedNames().size() == 2, "Ctrl and a click add a row");
   tree.click(TreeUser::kLabel + 8, kOneRow, lw::kMouseCtrl);
   tree.finds(isSelected(other), "Ctrl and a second click take it out again");
+  tree.click(TreeUser::kLabel + 8 + kBeside, kOneRow, lw::kMouseCtrl);
+  tree.finds(tree.host().selectedNames().size() == 2, "a click a few pixels beside the last is one");
   tree.click(TreeUser::kLabel, kOneRow, 0, 1);
   tree.click(TreeUser::kLabel, kOtherRow, 0, 2);
   tree.finds(isSelected(other), "of two quick clicks on two rows the second selects its own");

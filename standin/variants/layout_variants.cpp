@@ -114,6 +114,14 @@ void addsItems(Scene& scene, std::string_view command) {
   if (changesItems(command) && scene.objects().size() < kMostOthers) scene.addNull(kOther);
 }
 
+// Its own item, which is selected instead of the new null.
+void selectsItems(Scene& scene, std::string_view command) {
+  if (!command.starts_with("AddNull") || scene.objects().size() >= kMostOthers) return;
+  Item& own = scene.addNull(kOther);
+  scene.deselectAll();
+  scene.addToSelection(own);
+}
+
 // Its own item, which goes by another name each time.
 void renamesItems(Scene& scene, std::string_view command) {
   if (!changesItems(command)) return;
@@ -134,13 +142,15 @@ void sortsItems(Scene& scene, std::string_view command) {
 
 constexpr VariantValue kOtherPlugin[]{{"none"},
                                       {"adds", [](HostOptions& host) { host.layout.otherPlugin = addsItems; }},
+                                      {"selects", [](HostOptions& host) { host.layout.otherPlugin = selectsItems; }},
                                       {"renames", [](HostOptions& host) { host.layout.otherPlugin = renamesItems; }},
                                       {"sorts", [](HostOptions& host) { host.layout.otherPlugin = sortsItems; }}};
 
 constexpr std::array kLayoutVariants{
     HostVariant{
         "new-null", "What AddNull does to the selection", "not documented; a new item is usually selected",
-        "takes the first item that was not selected before; with none, the item of the name, which was missing before",
+        "of the items that were not selected before, takes the one of the name; with none, the item of the name, which was "
+        "missing before",
         kNewNull},
     HostVariant{"new-null-parent", "Whether AddNull parents the new null",
                 "not documented; the command page tells of a name alone",
@@ -197,7 +207,7 @@ constexpr std::array kLayoutVariants{
     HostVariant{"key-at-key", "What createKey does and answers where a key stands", "not documented",
                 "takes null for no failure, and sets the value of the key that is there", kKeyAtKey},
     HostVariant{"key-tolerance", "How far apart two times are the same to findKey and createKey", "not documented",
-                "asks for the very time that it set", kKeyTolerance},
+                "asks for the very time that it set, and changes no key that stands at another", kKeyTolerance},
     HostVariant{"channels", "Where the motion channels of an item stand",
                 "samples find Position.X in the item's group; paths of nested groups are not documented",
                 "puts the path together from the groups on the way", kChannels},
@@ -221,7 +231,8 @@ constexpr std::array kLayoutVariants{
                 "copies or compares each before its next call", kTextLife},
     HostVariant{"other-plugin", "What another plug-in does to the scene in answer to commands",
                 "plug-ins of the host are told of changes and may make their own",
-                "asks a kept item its name, and looks a missing name up in the scene", kOtherPlugin},
+                "asks a kept item its name, looks a missing name up in the scene, and knows a new null by its name",
+                kOtherPlugin},
 };
 
 }  // namespace

@@ -86,9 +86,11 @@ constexpr std::array kMouseVariants{
         "mouse", "By which calls the mouse over the tree arrives, for a panel opened without flag 8",
         "documented are the hooks, which need flag 8, and the control's event; of what the event tells is not said: all, "
         "presses and releases, or presses only. With hooks-beside a press that a control hears reaches no hook",
-        "takes each press once. Until the first release is heard, a long step with the button down counts as a press; the "
-        "first release shows such presses to have been moves and takes them back. Where the event tells of presses only and "
-        "paints too, a second press at the same pixel cannot be told from a paint and is taken for one",
+        "takes each press once. Until the first release is heard, a step with the button down counts as a press, however "
+        "short; the first release shows such presses to have been moves and takes them back, but not where the event "
+        "paints too, for a paint may show the button up: there a hand that trembles at the very first click clicks twice. "
+        "Where the event tells of presses only and paints, a second press at the same pixel is told in the words of a "
+        "paint and is taken for one, unless the host counts it",
         kMouse},
     HostVariant{"mouse-order", "Which call comes first where a press arrives in both ways", "not documented",
                 "knows the press by place and bits; later on counts presses by the hooks only", kFirst},

@@ -321,6 +321,30 @@ TEST_F(OtherPlugin, ThatTakesANameAwayCostsANull) {
   EXPECT_NE(item("Bone").settings.pole, &carrier);
 }
 
+TEST_F(OtherPlugin, ThatSelectsAnItemOfItsOwnFirstIsToldFromTheNull) {
+  convertWith({{52, "tar"}}, "AddNull tar", [](Scene& scene) {
+    Item& made = *scene.find("tar");
+    scene.deselectAll();
+    scene.addToSelection(scene.addNull("Other"));
+    scene.addToSelection(made);
+  });
+  EXPECT_EQ(item("Bone").settings.target, &item("tar"));
+}
+
+TEST_F(OtherPlugin, ThatSelectsAnItemOfItsOwnAloneIsToldFromTheNull) {
+  convertWith({{52, "tar"}}, "AddNull tar", [](Scene& scene) {
+    scene.deselectAll();
+    scene.addToSelection(scene.addNull("Other"));
+  });
+  EXPECT_EQ(item("Bone").settings.target, &item("tar"));
+}
+
+// The name is not free any more, so that the null is called by it and a counter.
+TEST_F(OtherPlugin, ThatTakesTheNameOfANullIsToldFromIt) {
+  convertWith({{52, "tar"}}, "AddNull tar", [](Scene& scene) { scene.rename(*scene.find("tar"), "tar (2)"); });
+  EXPECT_EQ(item("Bone").settings.target, &item("tar (2)"));
+}
+
 TEST_F(OtherPlugin, ThatAddsAParentInTimeIsNotOverlooked) {
   convertWith({{52, "tar"}, {130, "late"}}, "TargetItem", [](Scene& scene) { scene.addNull("late"); });
   EXPECT_EQ(item("tar").parent, &item("late"));
@@ -354,6 +378,35 @@ TEST_F(ManyKeys, GetANewKeyAtTheCurrentTime) {
   const auto& keys = item("tar").motion[kAxisX].keys();
   ASSERT_EQ(keys.size(), 4u);
   EXPECT_EQ(keys[1].time, 0.5);
+}
+
+// A host that takes times half a frame apart for one, and makes no second key there.
+class KeyBeside : public HelperItems {
+ protected:
+  static LayoutOptions coarse() {
+    LayoutOptions options;
+    options.keysOnNewItems = 2;
+    options.keyTolerance = 0.5 / options.framesPerSecond;
+    options.keyAtSameTime = KeyAtSameTime::Refused;
+    return options;
+  }
+  KeyBeside() : HelperItems(coarse()) {}
+};
+
+TEST_F(KeyBeside, TheCurrentTimeIsNotChanged) {
+  host.setTime(0.01);
+  convert(load(twoBones({{52, "tar"}})));
+  for (std::size_t i = 0; i < 3; ++i) {
+    for (const Key& key : item("tar").motion[kAxisX + i].keys()) EXPECT_EQ(key.value, 0);
+  }
+  EXPECT_TRUE(statusSays("*** ERROR: createKey() returned NULL !(Position.Y) ***")) << host.transcript().text();
+  EXPECT_EQ(item("Bone").settings.target, &item("tar"));
+}
+
+TEST_F(KeyBeside, IsSetAtItsOwnTime) {
+  host.setTime(1);
+  convert(load(twoBones({{52, "tar"}})));
+  EXPECT_EQ(Scene::motionAt(item("tar"), kAxisX, 1)[1], host.scene().placement(item("Bone"), 1).position[1]);
 }
 
 class OneKey : public HelperItems {};

@@ -120,6 +120,40 @@ TEST(PropertyPanelRefusals, AResetRemovesEverythingOrNothing) {
       });
 }
 
+// What the host refuses of the new panel, or of what it is to show.
+class RefusedNewPanel : public testing::TestWithParam<const char*>, protected PropertySession {};
+INSTANTIATE_TEST_SUITE_P(PropertyPanel, RefusedNewPanel,
+                         testing::Values("panel create", "panel addControl", "LWModCommand::editBegin2"),
+                         [](const testing::TestParamInfo<const char*>& info) {
+                           const std::string function = info.param;
+                           return function.substr(function.find_last_of(" :") + 1);
+                         });
+
+TEST_P(RefusedNewPanel, CostsNoOpenPanel) {
+  openWith({"Hips"});
+  const standin::Panel* const before = panel;
+  host.select({"Chest"});
+  standin::witness().refuseNext(GetParam());
+  EXPECT_EQ(host.activate(module, kPropertyTool), 0);
+  ASSERT_TRUE(standin::witness().refusalHappened());
+  ASSERT_EQ(standin::panels().find(kPropertyTool), before);
+  EXPECT_TRUE(panel->isOpen());
+  EXPECT_EQ(standin::panels().all().size(), 1U);
+  show(Slot::WeightMap);
+  EXPECT_EQ(person::menu(behind(Slot::WeightMap)), (Names{"(none)", "Head", "Spine"}));
+  enter(Slot::Strength, 40);
+  EXPECT_EQ(stored("Hips", Slot::Strength), "40.000000");
+}
+
+TEST_P(RefusedNewPanel, IsMadeByTheNextRun) {
+  openWith({"Hips"});
+  standin::witness().refuseNext(GetParam());
+  EXPECT_EQ(host.activate(module, kPropertyTool), 0);
+  openWith({"Chest"});
+  EXPECT_EQ(control(mst::control::kNameEdit)->text, "Chest");
+  EXPECT_EQ(standin::panels().all().size(), 1U);
+}
+
 // The host is called thousands of times while it makes the panel: of those calls every 23rd is refused, of all others every
 // third.
 TEST(PropertyPanelRefusals, AFailedRunLeavesTheNextOneWhole) {

@@ -250,6 +250,18 @@ TEST_P(CutTexts, EndWithAWholeCharacter) {
   }
 }
 
+// Stored by another program, in another encoding: what looks like the beginning of a character at the end is none.
+TEST_P(CutTexts, AreOnlyThoseThatWereCut) {
+  const std::string odd = "caf\xE9";
+  store("Hips", Slot::TargetItem, odd);
+  openWith({"Hips"});
+  show(Slot::TargetItem);
+  EXPECT_TRUE(standin::oddhost::fire(control(Slot::TargetItem)));
+  EXPECT_EQ(stored("Hips", Slot::TargetItem), odd);
+  type(Slot::TargetItem, "more " + odd);
+  EXPECT_EQ(stored("Hips", Slot::TargetItem), "more " + odd);
+}
+
 TEST_P(CutTexts, AreShownInWholeCharacters) {
   std::string text = "ab";
   for (int i = 0; i < 2'000; ++i) text += "骨";

@@ -153,6 +153,15 @@ TEST_P(SelectorHosts, CtrlTogglesEachTime) {
   EXPECT_EQ(selected(), Names{});
 }
 
+TEST_P(SelectorHosts, AClickAFewPixelsBesideTheLastIsOne) {
+  open();
+  int clicks = 0;
+  for (const int x : {0, 1, 3, 6, 10}) {
+    useAt(labelX(row::kChest) + x, middleOf(row::kChest), kCtrl);
+    EXPECT_EQ(selected().size(), ++clicks % 2) << x;
+  }
+}
+
 TEST_P(SelectorHosts, TheTreeIsPaintedAfterEachClick) {
   open();
   for (const SeenRow row : {row::kHips, row::kChest, row::kHips}) {
@@ -283,6 +292,15 @@ TEST_F(SelectorDelivery, TheFirstDragOfAllEndsWithWhatWasPressed) {
   moveTo(labelX(row::kHead), middleOf(row::kHead));
   moveTo(labelX(row::kTail1), middleOf(row::kTail1));
   releaseAt(labelX(row::kTail1), middleOf(row::kTail1));
+  EXPECT_EQ(selected(), Names{"Hips"});
+}
+
+TEST_F(SelectorDelivery, ATrembleOfTheFirstClickOfAllChangesNothing) {
+  deliver(Delivery::ControlOnly);
+  openTool();
+  pressAt(labelX(row::kHips), middleOf(row::kHips), kCtrl);
+  moveTo(labelX(row::kHips) + 2, middleOf(row::kHips));
+  releaseAt(labelX(row::kHips) + 2, middleOf(row::kHips));
   EXPECT_EQ(selected(), Names{"Hips"});
 }
 

@@ -111,7 +111,9 @@ class SelectorSession : public ModelerSession {
   }
 
   // Position from the tree's corner, button still down.
-  void pressAt(int x, int y) { EXPECT_TRUE(person::mousePress(panel, tree()->x + x, tree()->y + y)); }
+  void pressAt(int x, int y, int qualifiers = 0) {
+    EXPECT_TRUE(person::mousePress(panel, tree()->x + x, tree()->y + y, standin::MouseButton::Left, qualifiers));
+  }
   void moveTo(int x, int y) { EXPECT_TRUE(person::mouseMove(panel, tree()->x + x, tree()->y + y)); }
   void releaseAt(int x, int y) { EXPECT_TRUE(person::mouseRelease(panel, tree()->x + x, tree()->y + y)); }
 

@@ -57,13 +57,6 @@ TEST(ChooserLists, HoldEqualNamesAsOftenAsTheyAreThere) {
   EXPECT_EQ(lists.chosen(kItems, 2), "Bone");
 }
 
-TEST(ChooserLists, ForgetEverythingWithTheirTexts) {
-  CChooserLists lists;
-  lists.set(kItems, {"(none)"});
-  lists.forgetTexts();
-  EXPECT_EQ(lists.count(kItems), 0);
-}
-
 TEST(ChooserLists, EndWithABlankEntryForAHostThatNeedsOne) {
   CChooserLists lists;
   lists.set(ChooserList::WeightMaps, {"(none)", "Head"});
@@ -75,9 +68,6 @@ TEST(ChooserLists, EndWithABlankEntryForAHostThatNeedsOne) {
   EXPECT_EQ(lists.count(ChooserList::Items), 0);
   lists.set(ChooserList::WeightMaps, {"(none)"});
   EXPECT_EQ(lists.count(ChooserList::WeightMaps), 2);
-  lists.forgetTexts();
-  lists.set(ChooserList::WeightMaps, {"(none)"});
-  EXPECT_EQ(lists.count(ChooserList::WeightMaps), 1);
 }
 
 }  // namespace

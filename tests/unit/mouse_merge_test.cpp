@@ -115,6 +115,12 @@ TEST_F(MouseMerge, PressesAtOnePlaceAreOneEach) {
   EXPECT_EQ(steps, "PGG");
 }
 
+TEST_F(MouseMerge, APressAFewPixelsBesideTheLastIsOne) {
+  event(kPress);
+  for (int pixels = 1; pixels <= 4; ++pixels) event(at(10 + pixels, 20));
+  EXPECT_EQ(steps, "PGGGG");
+}
+
 TEST_F(MouseMerge, ACountThatRisesShowsAPress) {
   event(kPress);
   event(at(10, 20, kLeftDown, 2));
@@ -160,7 +166,15 @@ TEST_F(MouseMerge, WhereReleasesAreToldARepeatedPressIsNone) {
   EXPECT_EQ(steps, "P-");
 }
 
-TEST_F(MouseMerge, AShortStepIsAMoveFromTheBeginning) {
+TEST_F(MouseMerge, AShortStepIsTakenBackByTheFirstRelease) {
+  event(kPress);
+  event(at(13, 17));
+  event(at(13, 17, kLeftUp));
+  EXPECT_EQ(steps, "PGT");
+}
+
+TEST_F(MouseMerge, WhereReleasesAreToldAShortStepIsAMove) {
+  eventHasTold();
   event(kPress);
   event(at(13, 17));
   EXPECT_EQ(steps, "PM");
@@ -263,6 +277,25 @@ TEST_F(MouseMerge, AfterThePaintTheReleaseIsHeard) {
   event(at(10, 60));
   event(at(10, 90));
   EXPECT_EQ(steps, "P-RPM");
+}
+
+TEST_F(MouseMerge, APressAFewPixelsBesideTheLastIsOneWhereTheEventPaintsToo) {
+  eventHasPainted();
+  event(kPress);
+  mouse.askedToPaint();
+  event(kPress);
+  event(at(12, 20));
+  EXPECT_EQ(steps, "P-G");
+}
+
+// The mouse is where it is when the host comes to painting.
+TEST_F(MouseMerge, APaintWhileTheHandTremblesIsNoPress) {
+  eventHasPainted();
+  event(kPress);
+  mouse.askedToPaint();
+  event(at(12, 20));
+  event(at(14, 20));
+  EXPECT_EQ(steps, "PMG");
 }
 
 // Such a release may be no more than the state that a paint shows.
