@@ -31,7 +31,7 @@ struct TreeChange {
   bool operator==(const TreeChange&) const = default;
 };
 
-class CTreeView : private TreeOwner {
+class CTreeView : private CTreeOwner {
  public:
   // Other nodes; without any the tree is empty. Offsets stay as far as they are in range, the anchor stays with its skelegon.
   void setNodes(SelectorNodes nodes);
