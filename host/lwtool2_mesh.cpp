@@ -181,6 +181,8 @@ int setPolygonTag(const MeshEditOp& edit, PolygonId polygon, std::uint32_t type,
 // ---------------------------------------------------------------------------------------------------------------------
 // Skelegons
 
+bool objectIsLoaded() { return stateQuery().object() != nullptr; }
+
 PolygonIds CollectSkelegons() { return collect(kEditForTags, kLayersAll, kNotDeleted); }
 
 PolygonIds CollectSelectedSkelegons() { return collect(kEditSeesSelection, kLayersForeground, kSelectedNotDeleted); }

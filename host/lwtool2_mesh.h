@@ -90,6 +90,9 @@ int setPolygonTag(const MeshEditOp& edit, PolygonId polygon, std::uint32_t type,
 // ---------------------------------------------------------------------------------------------------------------------
 // Skelegons
 
+// Without an object there is nothing to scan, and the host begins no edit.
+bool objectIsLoaded();
+
 // The skelegons of all layers, in the order in which the host scans them. Deleted ones never count.
 PolygonIds CollectSkelegons();
 

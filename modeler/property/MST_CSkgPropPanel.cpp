@@ -19,12 +19,12 @@ using skg::Slot;
 constexpr const char* kResetQuestion = "Reset selected skelegon's tag ?";
 constexpr const char* kResetAllQuestion = "Reset all skelegon's tag ?";
 
-bool objectIsLoaded() { return lw::stateQuery().object() != nullptr; }
-
 // Without an object there is nothing to scan, and the host begins no edit.
-std::vector<skg::SkelegonInfo> scan() { return objectIsLoaded() ? ScanPanelSkelegons() : std::vector<skg::SkelegonInfo>(); }
+std::vector<skg::SkelegonInfo> scan() {
+  return lw::objectIsLoaded() ? ScanPanelSkelegons() : std::vector<skg::SkelegonInfo>();
+}
 
-bool isInObject(lw::PolygonId polygon) { return objectIsLoaded() && lw::IsLivingSkelegon(polygon); }
+bool isInObject(lw::PolygonId polygon) { return lw::objectIsLoaded() && lw::IsLivingSkelegon(polygon); }
 
 // The list of a custom popup; the name popup's for all others.
 ChooserList listOf(std::size_t number) {
@@ -315,7 +315,7 @@ void CSkgPropPanel::preset(Controller controller) {
 void CSkgPropPanel::reset(const char* question, bool all) {
   const lw::PolygonIds those = selected();  // closing the panel, while the question is open, empties the list
   if (!lw::AskYesNo(kPropertyName, question)) return;
-  const lw::PolygonIds everyone = all && objectIsLoaded() ? lw::CollectSkelegons() : lw::PolygonIds();
+  const lw::PolygonIds everyone = all && lw::objectIsLoaded() ? lw::CollectSkelegons() : lw::PolygonIds();
   applyWrites(writesForReset(all ? everyone : those));
   if (life_.mayBeOpen()) {
     reload();

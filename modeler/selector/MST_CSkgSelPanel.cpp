@@ -15,16 +15,14 @@ namespace {
 
 constexpr lw::ReportSource kSelectorReport = {"MST_CSkgSelPanel", 573};
 
-bool objectIsLoaded() { return lw::stateQuery().object() != nullptr; }
-
 // Without an object there is nothing to scan, and the host begins no edit.
 SkelegonInfos scan() {
-  return objectIsLoaded() ? lw::ScanSkelegons(lw::kLayersForeground, kSelectorReport, kScannedTags) : SkelegonInfos();
+  return lw::objectIsLoaded() ? lw::ScanSkelegons(lw::kLayersForeground, kSelectorReport, kScannedTags) : SkelegonInfos();
 }
 
 // Makes these the selected ones. Gives how many are selected then.
 std::size_t select(const lw::PolygonIds& polygons) {
-  if (!objectIsLoaded()) return 0;
+  if (!lw::objectIsLoaded()) return 0;
   lw::SelectSkelegons(polygons);
   return lw::CollectSelectedSkelegons().size();
 }
