@@ -4,6 +4,8 @@
 #include <array>
 #include <iterator>
 
+#include "skelegon/slot_table.h"
+
 namespace lwp {
 namespace {
 
@@ -173,6 +175,32 @@ constexpr std::size_t countedRows() {
   return rows - kCommandsSharingARow;
 }
 static_assert(countedRows() == kBoneCommandRows);
+
+// By a command of its own, in the group of its axis, or with the linked item that it belongs to.
+constexpr bool isSent(Slot slot) {
+  for (const BoneCommand& command : kCommands) {
+    if (command.slot == slot || command.second == slot) return true;
+  }
+  for (const skg::AxisSettings& axis : skg::kAxes) {
+    for (const Slot one :
+         {axis.controller, axis.limits, axis.least, axis.greatest, axis.stiffness, axis.follow, axis.factor, axis.offset}) {
+      if (one == slot) return true;
+    }
+  }
+  for (const skg::LinkedItem& item : skg::kLinkedItems) {
+    for (const Slot one : {item.name, item.parent, item.shape, item.visibility, item.colour}) {
+      if (one == slot) return true;
+    }
+  }
+  return slot == Slot::Name || slot == Slot::ParentItem;  // by which the bone and its parent are found
+}
+constexpr bool everySettingIsSent() {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
+    if (row.kind != skg::SlotKind::Reserved && !isSent(row.slot)) return false;
+  }
+  return true;
+}
+static_assert(everySettingIsSent());
 
 }  // namespace
 

@@ -101,6 +101,7 @@ class CTableBuilder {
     add({0, section_, kind, Role::Value, slot, skg::rowOf(slot).choices, place, range});
   }
   constexpr void add(ControlRow row) {
+    if (count_ == kControlCount) throw "more controls than there are numbers";
     row.number = count_;
     rows_[count_] = row;
     ++count_;
@@ -310,20 +311,19 @@ constexpr const std::array<ControlRow, kControlCount>& kControls = kBuilt.rows()
 // ---------------------------------------------------------------------------------------------------------------------
 // What must hold of the table
 
-constexpr std::size_t kReservedSlots = 22;
-constexpr std::size_t kValueControls = skg::kSlotCount - kReservedSlots - 1;  // the name has a field of its own rule
-
-constexpr bool everySlotIsShownOnce() {
+// The name has a field of its own rule.
+constexpr bool everySettingIsShownOnce() {
   std::array<int, skg::kSlotCount> shown{};
-  std::size_t values = 0;
   for (const ControlRow& row : kControls) {
-    if (!row.slot) continue;
-    ++values;
-    if (++shown[skg::indexOf(*row.slot)] > 1) return false;
+    if (row.slot) ++shown[skg::indexOf(*row.slot)];
   }
-  return values == kValueControls && shown[skg::indexOf(Slot::Name)] == 0;
+  for (const skg::SlotRow& row : skg::kSlotTable) {
+    const bool isShown = row.kind != skg::SlotKind::Reserved && row.slot != Slot::Name;
+    if (shown[skg::indexOf(row.slot)] != (isShown ? 1 : 0)) return false;
+  }
+  return true;
 }
-static_assert(everySlotIsShownOnce());
+static_assert(everySettingIsShownOnce());
 
 // A chooser or a fill button works on the field before it.
 constexpr bool fillersFollowTheirField() {
