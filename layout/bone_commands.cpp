@@ -21,10 +21,10 @@ constexpr AxisRow kAxes[] = {
     // axis              bit  limits    gate    limit may fail
     //                                                 lines; inside a group spaced as X's are
     {"X",  Axis::X,  0x1, 1,        Axis::X,  false, { 725,  731,  741,  747,  752,  758}},
-    // A LimitY that fails is reported and the sequence goes on, unlike the others: rigs that were made with it count on the rest.
+    // A LimitY that fails is reported and the sequence goes on, unlike the others, on purpose: the rest of the bone is set all the same.
     {"Y",  Axis::Y,  0x2, 1,        Axis::Y,  true,  { 763,  770,  781,  787,  792,  798}},
     {"Z",  Axis::Z,  0x4, 1,        Axis::Z,  false, { 803,  809,  819,  825,  830,  836}},
-    // Only the limits of a rotation are turned into degrees. The transform goes as it is stored: its factor is no angle.
+    // Only the limits of a rotation are turned into degrees. The transform goes as it is stored, on purpose.
     {"H",  Axis::H,  0x1, kDegrees, Axis::H,  false, { 864,  870,  882,  888,  893,  899}},
     {"P",  Axis::P,  0x2, kDegrees, Axis::P,  false, { 904,  910,  922,  928,  933,  939}},
     {"B",  Axis::B,  0x4, kDegrees, Axis::B,  false, { 944,  950,  962,  968,  973,  979}},
@@ -107,7 +107,7 @@ constexpr BoneCommand kCommands[] = {
     real    ("BoneStrength",            Slot::Strength,               kPercent, 430),
     toggle  ("BoneStrengthMultiply",    Slot::StrengthMultiply,       kBone, lw::kBoneStrengthMultiply,    436),
     toggle  ("BoneLimitedRange",        Slot::LimitedRange,           kBone, lw::kBoneLimitedRange,        445),
-    // The range is stored in metres and sent as if it were a percentage, on purpose: riggers have set the values that come out right.
+    // The range is stored in metres and sent as if it were a percentage, on purpose: that is what stored rigs get.
     real    ("BoneMinRange",            Slot::RangeMin,               kPercent, 455, When::LimitedRangeOn),
     real    ("BoneMaxRange",            Slot::RangeMax,               kPercent, 456, When::LimitedRangeOn),
     toggle  ("BoneJointComp",           Slot::JointComp,              kBone, lw::kBoneJointComp,           463),
@@ -131,7 +131,7 @@ constexpr BoneCommand kCommands[] = {
     integer ("GoalObjective",           Slot::Objective,              609, When::HasGoal),
     integer ("IKInitialState",          Slot::IKInitialState,         615),
     integer ("IKInitialStateFrame",     Slot::IKInitialStateFrame,    621, When::StartsAtFrame),
-    // What is kept of it is the bit of UnaffectedByIK, not its own, on purpose: it decides which commands follow in stored rigs.
+    // What is kept of it is the bit of UnaffectedByIK, not its own, on purpose: nothing that is sent later asks for either.
     updating(toggle("UseIKChainVals",   Slot::Chain,                  kItem, lw::kItemUseIKChain,          633, When::FollowsIKParent),
              lw::kItemUnaffectedByIK),
     real    ("IKFKBlending",            Slot::IKFKBlending,           kPercent, 642),

@@ -63,7 +63,7 @@ int ActivateSelector(int version, lw::GlobalFunc global, void* local, void* /*se
   return activation([&]() -> int {
     if (!fits(version, lw::kModCommandVersion, global)) return lw::kActivationBadVersion;
     const bool acquired = lw::AcquireHostGlobals(lw::Program::Modeler, global, local);
-    // Also when something was missing, before the check, unlike in the renamer: an open panel goes on with what there is.
+    // Before the check, unlike in the renamer, on purpose: the functions are taken at the first activation of all, complete or not.
     lw::AcquireModelerFunctions(lw::modelerFunctions(), global, local);
     if (!acquired) return lw::kActivationBadGlobal;
     lw::LoadModelerStrings(global);

@@ -97,6 +97,7 @@ void CSkgSelPanel::refresh() {
 // What the user does
 
 MouseReport CSkgSelPanel::placed(MouseReport report) const {
+  report.isBarDragged = tree_.isBarDragged();
   report.isOnDraggedBar = tree_.isOnDraggedBar(report.x, report.y);
   return report;
 }
@@ -157,7 +158,7 @@ void CSkgSelPanel::OnTreeUsed(lw::LWControl* control, void* user) {
   lw::onTool<CSkgSelPanel>(user, [&](CSkgSelPanel& panel) {
     if (!panel.form_ || !panel.form_->isTree(control)) return;
     if (panel.isAskingToPaint_) {
-      panel.mouse_.painted();
+      panel.mouse_.paintedByEvent();
     } else if (panel.life_.mayBeOpen()) {
       const MouseReport report = panel.placed(panel.form_->mouseOfControl());
       panel.act(panel.mouse_.event(report), report);
