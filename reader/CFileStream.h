@@ -40,55 +40,51 @@ class CFileStream {
   // What was not read yet.
   std::span<const std::byte> rest() const { return bytes_.subspan(position_); }
 
-  // Each reads one value and goes on behind it. False when the bytes are not there: then neither the position nor the
-  // value is touched.
-  bool readU2(std::uint16_t& value);
-  bool readU4(std::uint32_t& value);
-  bool readF4(float& value);
-  bool readVEC12(Vec12& value);
+  // Each reads one value and goes on behind it. False when the bytes are not there: then the position is not touched.
+  bool readU2(std::uint16_t& value) { return read(value, loadU2, kBytesOfU2); }
+  bool readU4(std::uint32_t& value) { return read(value, loadU4, kBytesOfU4); }
+  bool readF4(float& value) { return read(value, loadF4, kBytesOfU4); }
+  bool readVEC12(Vec12& value) { return read(value, loadVec12, kBytesOfVec12); }
   // A text up to its zero, padded to even length. 'text' refers to the stream's bytes.
   bool readS0(std::string_view& text);
-  // A point or polygon number of two or four bytes.
-  bool readVX(std::uint32_t& index);
+  // A point or polygon number of two or four bytes, or a row of them: as many as there is room for.
+  bool readVX(std::uint32_t& index) { return readVX(std::span(&index, 1)); }
+  bool readVX(std::span<std::uint32_t> indices);
   // The next 'size' bytes as a stream of their own, which refers to this stream's bytes.
   bool readWindow(std::uint32_t size, CFileStream& window);
 
  private:
-  // The address of the next 'size' bytes, which are passed; null when there are fewer.
-  const std::byte* take(std::size_t size);
+  template <class Value>
+  bool read(Value& value, Value (*load)(const std::byte*), std::uint32_t bytes) {
+    if (bytes > left()) return false;
+    value = load(bytes_.data() + position_);
+    position_ += bytes;
+    return true;
+  }
 
   std::unique_ptr<std::byte[]> file_;
   std::span<const std::byte> bytes_;
   std::uint32_t position_ = 0;
 };
 
-inline const std::byte* CFileStream::take(std::size_t size) {
-  if (size > left()) return nullptr;
-  const std::byte* at = bytes_.data() + position_;
-  position_ += static_cast<std::uint32_t>(size);
-  return at;
-}
-
-inline bool CFileStream::readU2(std::uint16_t& value) {
-  const std::byte* at = take(kBytesOfU2);
-  if (at == nullptr) return false;
-  value = loadU2(at);
-  return true;
-}
-
-inline bool CFileStream::readU4(std::uint32_t& value) {
-  const std::byte* at = take(kBytesOfU4);
-  if (at == nullptr) return false;
-  value = loadU4(at);
-  return true;
-}
-
-inline bool CFileStream::readVX(std::uint32_t& index) {
-  if (atEnd()) return false;
-  const std::size_t size = bytesOfIndexAt(bytes_.data() + position_);
-  const std::byte* at = take(size);
-  if (at == nullptr) return false;
-  index = size == kBytesOfLongIndex ? loadLongIndex(at) : loadU2(at);
+inline bool CFileStream::readVX(std::span<std::uint32_t> indices) {
+  // Nearly everywhere there are bytes for the longest form of all, and no number has to ask.
+  const bool isAllThere = left() >= indices.size() * kBytesOfU4;
+  const std::span<const std::byte> bytes = rest();
+  std::size_t at = 0;
+  for (std::uint32_t& index : indices) {
+    const std::byte* const from = bytes.data() + at;
+    if (!isAllThere && (at == bytes.size() || bytes.size() - at < (isLongIndex(from) ? kBytesOfU4 : kBytesOfU2)))
+      return false;
+    if (isLongIndex(from)) [[likely]] {
+      index = loadLongIndex(from);
+      at += kBytesOfU4;
+    } else {
+      index = loadU2(from);
+      at += kBytesOfU2;
+    }
+  }
+  position_ += static_cast<std::uint32_t>(at);
   return true;
 }
 

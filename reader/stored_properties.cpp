@@ -5,7 +5,7 @@
 namespace lwp {
 
 skg::SkelegonProperties storedProperties(const st::ObjectFileData& data, const st::SkelegonRecord& skelegon) {
-  const auto texts = data.tags();
+  const auto& texts = data.tags();
   std::vector<skg::StoredTag> tags;
   tags.reserve(skelegon.tags.size());
   for (const st::PolygonTag& tag : skelegon.tags) {

@@ -17,8 +17,8 @@ TEST(ObjectReader, GivesSkelegonsTheirTagsInTheOrderOfTheFile) {
                             .polygonTags("BONE", {{1, 2}, {1, 1}}));
   ASSERT_TRUE(reading.isSound);
   const ObjectLayer layer = reading.data.layer(0);
-  EXPECT_EQ(tagsOf(layer.skelegon(0)), (Tags{{idOf("sg1A"), 4}}));
-  EXPECT_EQ(tagsOf(layer.skelegon(1)), (Tags{{idOf("sg1A"), 5}, {idOf("sg1A"), 3}, {idOf("BONE"), 2}, {idOf("BONE"), 1}}));
+  EXPECT_EQ(tagsOf(layer.skelegons()[0]), (Tags{{idOf("sg1A"), 4}}));
+  EXPECT_EQ(tagsOf(layer.skelegons()[1]), (Tags{{idOf("sg1A"), 5}, {idOf("sg1A"), 3}, {idOf("BONE"), 2}, {idOf("BONE"), 1}}));
 }
 
 TEST(ObjectReader, CountsTheSkelegonsOfATagWithinTheLayer) {
@@ -32,9 +32,9 @@ TEST(ObjectReader, CountsTheSkelegonsOfATagWithinTheLayer) {
                             .polygons("BONE", {{0, 1}})
                             .polygonTags("BONE", {{0, 2}}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(0)), Tags{});
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(1)), (Tags{{idOf("BONE"), 1}}));
-  EXPECT_EQ(tagsOf(reading.data.layer(1).skelegon(0)), (Tags{{idOf("BONE"), 2}}));
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), Tags{});
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[1]), (Tags{{idOf("BONE"), 1}}));
+  EXPECT_EQ(tagsOf(reading.data.layer(1).skelegons()[0]), (Tags{{idOf("BONE"), 2}}));
 }
 
 TEST(ObjectReader, CountsTheSkelegonsOfATagFromTheLayersFirstNotTheLastChunks) {
@@ -46,16 +46,16 @@ TEST(ObjectReader, CountsTheSkelegonsOfATagFromTheLayersFirstNotTheLastChunks) {
                             .polygons("BONE", {{1, 0}})
                             .polygonTags("BONE", {{0, 8}, {1, 9}}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(0)), (Tags{{idOf("BONE"), 7}, {idOf("BONE"), 8}}));
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(1)), (Tags{{idOf("BONE"), 9}}));
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), (Tags{{idOf("BONE"), 7}, {idOf("BONE"), 8}}));
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[1]), (Tags{{idOf("BONE"), 9}}));
 }
 
 TEST(ObjectReader, GivesTagsAlsoToSkelegonsWithoutPoints) {
   const Reading reading(ObjectBytes().layer(0, "a").polygons("BONE", {{}, {}}).polygonTags("BONE", {{1, 0}}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(0)), Tags{});
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(1)), (Tags{{idOf("BONE"), 0}}));
-  EXPECT_TRUE(reading.data.layer(0).skelegon(1).points.empty());
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), Tags{});
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[1]), (Tags{{idOf("BONE"), 0}}));
+  EXPECT_TRUE(reading.data.layer(0).skelegons()[1].points.empty());
 }
 
 TEST(ObjectReader, IgnoresTagsOfFaces) {
@@ -66,7 +66,7 @@ TEST(ObjectReader, IgnoresTagsOfFaces) {
                             .polygons("FACE", {{0, 1}})
                             .polygonTags("PART", {{0, 1}, {99, 1}}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(0)), Tags{});
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), Tags{});
 }
 
 TEST(ObjectReader, IgnoresTagsOfOtherPolygons) {
@@ -77,14 +77,14 @@ TEST(ObjectReader, IgnoresTagsOfOtherPolygons) {
                             .polygons("CURV", {{0, 1}})
                             .polygonTags("BONE", {{0, 1}, {99, 1}}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(0)), Tags{});
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), Tags{});
 }
 
 TEST(ObjectReader, IgnoresTagsOfALayerWithoutPolygons) {
   const Reading reading(
       ObjectBytes().layer(0, "a").points(2).polygons("BONE", {{0, 1}}).layer(1, "b").polygonTags("BONE", {{0, 1}, {99, 1}}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(0)), Tags{});
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), Tags{});
 }
 
 TEST(ObjectReader, IgnoresEvenBrokenTagsOfFaces) {
@@ -97,7 +97,7 @@ TEST(ObjectReader, KeepsATagWhoseTextTheListDoesNotHave) {
   const Reading reading(
       ObjectBytes().layer(0, "a").points(2).polygons("BONE", {{0, 1}}).polygonTags("BONE", {{0, 65535}}).tags({"late"}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(0)), (Tags{{idOf("BONE"), 65535}}));
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), (Tags{{idOf("BONE"), 65535}}));
 }
 
 // Tags are placed for some skelegons at a time when all lists ascend, else list by list, and so many lists at once.
