@@ -7,18 +7,6 @@
 
 namespace lwp::st {
 
-namespace {
-
-// A folder opens as a file on some systems; its length is then senseless or reading it fails.
-std::streamoff lengthOf(std::ifstream& file) {
-  file.seekg(0, std::ios::end);
-  const std::streamoff length = file.tellg();
-  file.seekg(0, std::ios::beg);
-  return file ? length : -1;
-}
-
-}  // namespace
-
 bool readInBlocks(std::istream& file, std::span<std::byte> bytes, std::size_t perRead) {
   while (!bytes.empty()) {
     const std::span<std::byte> block = bytes.first(std::min(perRead, bytes.size()));
@@ -35,10 +23,10 @@ bool CFileStream::load(const std::string& narrowPath) {
   *this = {};
   std::ifstream file;
   file.imbue(std::locale::classic());  // a locale set in the host's process may convert what is read
-  file.open(narrowPath, std::ios::binary);
-  if (!file) return false;
-  const std::streamoff length = lengthOf(file);
-  if (length < 0 || static_cast<std::uintmax_t>(length) > kLongestFile) return false;
+  file.open(narrowPath, std::ios::binary | std::ios::ate);
+  // A folder opens as a file on some systems; its length is then senseless or reading it fails.
+  const std::streamoff length = file ? std::streamoff{file.tellg()} : -1;
+  if (length < 0 || static_cast<std::uintmax_t>(length) > kLongestFile || !file.seekg(0)) return false;
 
   const auto size = static_cast<std::size_t>(length);
   auto bytes = std::make_unique_for_overwrite<std::byte[]>(size);

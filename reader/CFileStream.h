@@ -17,7 +17,6 @@ namespace lwp::st {
 
 // Bytes that one read asks for. Windows counts those of a read with 31 bits and refuses more.
 inline constexpr std::size_t kBytesPerRead = 67'108'864;
-
 // Fills 'bytes' from where the file stands, with at most 'perRead' bytes in each read. False when the file has fewer.
 bool readInBlocks(std::istream& file, std::span<std::byte> bytes, std::size_t perRead = kBytesPerRead);
 
@@ -29,7 +28,6 @@ class CFileStream {
   CFileStream() = default;
   // Reads bytes that somebody else keeps for as long as the stream is used. More than kLongestFile count as none.
   explicit CFileStream(std::span<const std::byte> bytes);
-
   // Loads the whole file into memory of the stream's own and stands at its start. 'narrowPath' is in the system's narrow
   // code page. False, and nothing loaded, when the file cannot be opened or read, or is too long.
   bool load(const std::string& narrowPath);
@@ -69,22 +67,19 @@ class CFileStream {
 
 inline bool CFileStream::readVX(std::span<std::uint32_t> indices) {
   // Nearly everywhere there are bytes for the longest form of all, and no number has to ask.
-  const bool isAllThere = left() >= indices.size() * kBytesOfU4;
-  const std::span<const std::byte> bytes = rest();
-  std::size_t at = 0;
+  const bool areAllThere = left() >= indices.size() * kBytesOfU4;
+  std::span<const std::byte> bytes = rest();
   for (std::uint32_t& index : indices) {
-    const std::byte* const from = bytes.data() + at;
-    if (!isAllThere && (at == bytes.size() || bytes.size() - at < (isLongIndex(from) ? kBytesOfU4 : kBytesOfU2)))
-      return false;
-    if (isLongIndex(from)) [[likely]] {
-      index = loadLongIndex(from);
-      at += kBytesOfU4;
+    if (!areAllThere && bytes.size() < (bytes.empty() || !isLongIndex(bytes) ? kBytesOfU2 : kBytesOfU4)) return false;
+    if (isLongIndex(bytes)) [[likely]] {
+      index = loadLongIndex(bytes.data());
+      bytes = bytes.subspan(kBytesOfU4);
     } else {
-      index = loadU2(from);
-      at += kBytesOfU2;
+      index = loadU2(bytes.data());
+      bytes = bytes.subspan(kBytesOfU2);
     }
   }
-  position_ += static_cast<std::uint32_t>(at);
+  position_ = static_cast<std::uint32_t>(bytes_.size() - bytes.size());
   return true;
 }
 

@@ -1,7 +1,5 @@
 #include "reader/CLWOFileStream.h"
 
-#include <utility>
-
 namespace lwp::st {
 
 namespace {
@@ -37,7 +35,7 @@ bool CLWOFileStream::enterForm() {
   return readU4(type) && (type == id("LWO2") || type == id("LWO3"));
 }
 
-bool CLWOFileStream::readChunks(const std::function<bool(Chunk)>& take) {
+bool CLWOFileStream::readChunks(const std::function<bool(const Chunk&)>& take) {
   bool isInLayer = false;
   std::uint32_t polygonType = 0;
   while (!atEnd()) {
@@ -53,7 +51,7 @@ bool CLWOFileStream::readChunks(const std::function<bool(Chunk)>& take) {
     const ChunkKind kind = kindOf(chunkId, polygonType);
     std::uint32_t tagType = 0;
     if (kind == kSkelegonTags && !body.readU4(tagType)) return false;
-    if (kind != kOther && !take({kind, std::move(body), tagType})) return false;
+    if (kind != kOther && !take({kind, body.rest(), tagType})) return false;
   }
   return true;
 }

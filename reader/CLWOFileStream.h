@@ -10,12 +10,12 @@
 namespace lwp::st {
 
 // The chunks that are of use. Points, polygons and tags belong to the layer that came last; there is one.
-enum ChunkKind { kTagTexts, kLayer, kPoints, kFaces, kSkelegons, kSkelegonTags, kOther };
+enum ChunkKind : std::size_t { kTagTexts, kLayer, kPoints, kFaces, kSkelegons, kSkelegonTags, kOther };
 
-// The body of one chunk: of polygons and their tags, what follows the type. The tags have 'tagType'.
+// The body of one chunk: of polygons and their tags, what follows the type. Tags are of 'tagType'.
 struct Chunk {
   ChunkKind kind;
-  CFileStream body;
+  std::span<const std::byte> body;
   std::uint32_t tagType = 0;
 };
 
@@ -29,7 +29,7 @@ class CLWOFileStream : public CFileStream {
 
   // [inside the form] Hands every chunk of use to 'take', in the order of the file; it answers whether the chunk is sound. True
   // when all were and the last ended at the end of the form.
-  bool readChunks(const std::function<bool(Chunk chunk)>& take);
+  bool readChunks(const std::function<bool(const Chunk& chunk)>& take);
 };
 
 }  // namespace lwp::st

@@ -5,6 +5,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 namespace lwp::st {
 
@@ -30,7 +31,7 @@ inline Vec12 loadVec12(const std::byte* from) { return {loadF4(from), loadF4(fro
 
 // A point or polygon number takes two bytes, or four when the first is 0xFF; that one is then dropped.
 inline constexpr std::uint32_t kIndexLimit = 0x01000000;
-inline bool isLongIndex(const std::byte* from) { return *from == std::byte{0xFF}; }
+inline bool isLongIndex(std::span<const std::byte> bytes) { return bytes.front() == std::byte{0xFF}; }
 inline std::uint32_t loadLongIndex(const std::byte* from) { return loadU4(from) % kIndexLimit; }
 
 }  // namespace lwp::st

@@ -30,36 +30,12 @@ struct SkelegonRecord {
   std::span<const PolygonTag> tags;
 };
 
-// The texts of the TAGS chunks, in the order of the file.
-class TagTexts {
- public:
-  // Takes memory for texts of so many bytes in the file, where the shortest has two.
-  void reserve(std::size_t bytes);
-  void add(std::string_view text);
-
-  std::size_t size() const { return count_; }
-  // 'at' is below size().
-  std::string_view operator[](std::size_t at) const;
-
- private:
-  // Each with a zero behind it. Only every second has its start noted: more would be too much beside texts of one letter.
-  std::string texts_;
-  std::vector<std::uint32_t> starts_;
-  std::size_t count_ = 0;
-};
-
 // A layer's own values, and where its part of the lists ends, which is where the next layer's begins.
 struct LayerRecord {
   Vec12 pivot{};
-  std::uint16_t number = 0;
-  std::uint16_t flags = 0;
-  std::uint16_t parent = 0;
-  std::uint32_t nameEnd = 0;
-  std::uint32_t pointEnd = 0;
+  std::uint16_t number = 0, flags = 0, parent = 0;
   std::uint32_t faceCount = 0;
-  std::uint32_t faceEnd = 0;
-  std::uint32_t skelegonEnd = 0;
-  std::uint32_t skelegonPointEnd = 0;
+  std::uint32_t nameEnd = 0, pointEnd = 0, faceEnd = 0, skelegonEnd = 0, skelegonPointEnd = 0;
 };
 
 struct ObjectStore {
@@ -68,13 +44,15 @@ struct ObjectStore {
   // Stands for the numbers of a face that has none.
   static constexpr std::uint32_t kFaceWithoutCorners = 0xFFFFFFFFU;
 
-  TagTexts texts;
+  // Each with a zero behind it. Only every second has its start noted: more would be too much beside texts of one letter.
+  std::string texts;
+  std::vector<std::uint32_t> textStarts;
+  std::size_t textCount = 0;
   // Behind one that is no layer, whose part of every list is empty.
   std::vector<LayerRecord> layers;
   std::string layerNames;
   std::unique_ptr<Vec12[]> points;
-  std::unique_ptr<std::uint32_t[]> faces;
-  std::unique_ptr<std::uint32_t[]> skelegonPoints;
+  std::unique_ptr<std::uint32_t[]> faces, skelegonPoints;
   std::unique_ptr<PolygonTag[]> tags;
   // Where the tags of skelegon i end there is tagEnds[i + 1], with the mark when it has points. The first one is 0.
   std::vector<std::uint32_t> tagEnds;
@@ -83,8 +61,8 @@ struct ObjectStore {
 // A layer of an ObjectFileData: to be used while that stands where it is and keeps its contents.
 class ObjectLayer {
  public:
-  ObjectLayer(const ObjectStore& store, std::size_t layer)
-      : store_(&store), before_(&store.layers[layer]), record_(&store.layers[layer + 1]) {}
+  ObjectLayer(const ObjectStore& store, std::size_t at)
+      : store_(&store), before_(&store.layers[at]), record_(&store.layers[at + 1]) {}
 
   std::uint16_t number() const { return record_->number; }
   std::uint16_t flags() const { return record_->flags; }
@@ -93,14 +71,11 @@ class ObjectLayer {
   std::string name() const;
   // The number of the parent layer; 0 also when the file says nothing of one.
   std::uint16_t parent() const { return record_->parent; }
-
   std::span<const Vec12> points() const;
-
   // FACE polygons: the numbers of their points. A file may name points that the layer does not have, or has in no chunk that is
   // read: who looks a number up in points() compares it with points().size() first.
   std::size_t faceCount() const { return record_->faceCount; }
   std::vector<std::vector<std::uint32_t>> faces() const;
-
   // BONE polygons. Of their point numbers the same holds; their tags may name texts that the tag list lacks.
   std::size_t skelegonCount() const { return record_->skelegonEnd - before_->skelegonEnd; }
   std::vector<SkelegonRecord> skelegons() const;
@@ -118,7 +93,9 @@ class ObjectFileData {
 
   // The path that was read; empty when nothing was read.
   const std::string& path() const { return path_; }
-  const TagTexts& tags() const { return store_.texts; }
+  // The tag texts of the file, in its order.
+  std::size_t tagCount() const { return store_.textCount; }
+  std::string_view tag(std::size_t at) const;
   std::size_t layerCount() const { return store_.layers.empty() ? 0 : store_.layers.size() - 1; }
   ObjectLayer layer(std::size_t at) const { return {store_, at}; }
 

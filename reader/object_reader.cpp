@@ -15,18 +15,19 @@ constexpr std::uint32_t kMark = ObjectStore::kMark;
 // The upper six bits beside the number of a polygon's corners are flags.
 constexpr std::size_t kCornerCountMask = 0x03FF;
 
-// Reads the polygons of a list: fills what room(number of corners) gives with the numbers of the points, and marks the last. Asks for
-// no more than a number for each two bytes of the list. False when a polygon runs past its end.
-template <class Room>
-bool readPolygons(CFileStream list, Room room) {
+// Reads the polygons of a list: calls start(number of corners) for each, puts the numbers of its points where 'room' begins, marks the
+// last, and goes on behind them. Takes no more room than a number for each two bytes. False when a polygon runs past the end.
+template <class Start>
+bool readPolygons(CFileStream list, std::span<std::uint32_t>& room, Start start) {
   while (!list.atEnd()) {
     std::uint16_t count = 0;
     if (!list.readU2(count)) return false;
     const std::size_t corners = count & kCornerCountMask;
     if (corners * kBytesOfU2 > list.left()) return false;
-    const std::span<std::uint32_t> numbers = room(corners);
-    if (!list.readVX(numbers)) return false;
-    if (corners > 0) numbers.back() |= kMark;
+    start(corners);
+    if (!list.readVX(room.first(corners))) return false;
+    if (corners > 0) room[corners - 1] |= kMark;
+    room = room.subspan(corners);
   }
   return true;
 }
@@ -36,7 +37,7 @@ template <class Take>
 std::span<const std::byte> readTags(std::span<const std::byte> list, std::uint32_t limit, Take take) {
   while (list.size() >= kBytesOfU2 + kBytesOfU2) {
     const std::byte* const from = list.data();
-    if (!isLongIndex(from)) {
+    if (!isLongIndex(list)) {
       if (loadU2(from) >= limit) break;
       take(loadU2(from), loadU2(from + kBytesOfU2));
       list = list.subspan(kBytesOfU2 + kBytesOfU2);
@@ -52,14 +53,15 @@ std::span<const std::byte> readTags(std::span<const std::byte> list, std::uint32
 // What there is of everything, at most. Memory is taken for that once: what is touched for the first time costs more than all
 // reading, and lists that grow would touch twice as much of it.
 struct Sizes {
-  bool add(Chunk chunk) {
+  bool add(const Chunk& chunk) {
     ++chunks[chunk.kind];
-    bytes[chunk.kind] += chunk.body.left();
+    bytes[chunk.kind] += chunk.body.size();
     if (chunk.kind != kSkelegons) return true;
     std::array<std::uint32_t, kCornerCountMask> points{};
-    return readPolygons(std::move(chunk.body), [&](std::size_t count) {
+    std::span<std::uint32_t> room;
+    return readPolygons(CFileStream(chunk.body), room, [&](std::size_t /*corners*/) {
       ++skelegons;
-      return std::span(points).first(count);
+      room = points;
     });
   }
 
@@ -81,10 +83,12 @@ class Reading {
  public:
   Reading(ObjectStore& store, const Sizes& sizes)
       : store_(store),
+        sizes_(sizes),
         points_(roomFor(sizes.bytes[kPoints] / kBytesOfVec12, store.points)),
         faces_(roomFor(sizes.bytes[kFaces] / kBytesOfU2, store.faces)),
         skelegonPoints_(roomFor(sizes.bytes[kSkelegons] / kBytesOfU2 - sizes.skelegons, store.skelegonPoints)) {
     store.texts.reserve(sizes.bytes[kTagTexts]);
+    store.textStarts.reserve(sizes.bytes[kTagTexts] / (2 * kBytesOfU2) + 1);  // no text has less than two bytes
     store.layers.reserve(sizes.chunks[kLayer] + 1);
     store.layers.emplace_back();
     const std::size_t besideNames = sizes.chunks[kLayer] * (2 * kBytesOfU2 + kBytesOfVec12);
@@ -94,14 +98,14 @@ class Reading {
     tagLists_.reserve(sizes.chunks[kSkelegonTags]);
   }
 
-  bool add(Chunk chunk) {
+  bool add(const Chunk& chunk) {
     switch (chunk.kind) {
-      case kTagTexts: return addTexts(std::move(chunk.body));
-      case kLayer: return addLayer(std::move(chunk.body));
-      case kPoints: return addPoints(chunk.body.rest());
-      case kFaces: return addFaces(std::move(chunk.body));
-      case kSkelegons: return addSkelegons(std::move(chunk.body));
-      default: return addTags({chunk.tagType, firstSkelegon_, chunk.body.rest()});
+      case kTagTexts: return addTexts(CFileStream(chunk.body));
+      case kLayer: return addLayer(CFileStream(chunk.body));
+      case kPoints: return addPoints(chunk.body);
+      case kFaces: return addFaces(CFileStream(chunk.body));
+      case kSkelegons: return addSkelegons(CFileStream(chunk.body));
+      default: return addTags({chunk.tagType, firstSkelegon_, chunk.body});
     }
   }
 
@@ -111,11 +115,12 @@ class Reading {
     std::uint32_t tags = 0;
     for (std::uint32_t& end : store_.tagEnds) tags += std::exchange(end, (end & kMark) | tags) & ~kMark;
     roomFor(tags, store_.tags);
-    for (auto begin = tagLists_.begin(); begin != tagLists_.end();) {
-      const auto isOther = [&](const TagList& list) { return list.firstSkelegon != begin->firstSkelegon; };
-      const auto end = std::find_if(begin, tagLists_.end(), isOther);
-      placeTagsOfLayer({begin, end});
-      begin = end;
+    // One list after the other would be a walk through all of the tags for each. Where the lists ascend and have something for
+    // most skelegons, these are done some at a time: as many as fit into the smallest cache with some dozens of tags.
+    const bool isForMost = sizes_.bytes[kSkelegonTags] >= tagLists_.size() * store_.tagEnds.size();
+    const std::size_t step = listsAscend_ && isForMost ? 128 : store_.tagEnds.size();
+    for (std::size_t end = step; end < store_.tagEnds.size() + step; end += step) {
+      for (TagList& list : tagLists_) placeTags(list, end);
     }
   }
 
@@ -129,7 +134,10 @@ class Reading {
   LayerRecord& layer() { return store_.layers.back(); }
 
   bool addTexts(CFileStream body) {
-    for (std::string_view text; body.readS0(text);) store_.texts.add(text);
+    for (std::string_view text; body.readS0(text); ++store_.textCount) {
+      if (store_.textCount % 2 == 0) store_.textStarts.push_back(static_cast<std::uint32_t>(store_.texts.size()));
+      store_.texts.append(text).push_back('\0');
+    }
     return body.atEnd();
   }
 
@@ -156,29 +164,24 @@ class Reading {
   }
 
   bool addFaces(CFileStream body) {
-    std::span<std::uint32_t> room = faces_;
+    const std::size_t room = faces_.size();
     std::uint32_t count = 0;
-    const bool isSound = readPolygons(std::move(body), [&](std::size_t corners) {
+    const bool isSound = readPolygons(std::move(body), faces_, [&](std::size_t corners) {
       ++count;
-      if (corners == 0) room[0] = ObjectStore::kFaceWithoutCorners;
-      const std::span<std::uint32_t> numbers = room.first(corners);
-      room = room.subspan(std::max<std::size_t>(corners, 1));
-      return numbers;
+      if (corners > 0) return;
+      faces_[0] = ObjectStore::kFaceWithoutCorners;
+      faces_ = faces_.subspan(1);
     });
     layer().faceCount += count;
-    layer().faceEnd += static_cast<std::uint32_t>(faces_.size() - room.size());
-    faces_ = room;
+    layer().faceEnd += static_cast<std::uint32_t>(room - faces_.size());
     return isSound;
   }
 
   bool addSkelegons(CFileStream body) {
-    return readPolygons(std::move(body), [&](std::size_t points) {
+    return readPolygons(std::move(body), skelegonPoints_, [&](std::size_t points) {
       store_.tagEnds.push_back(points > 0 ? kMark : 0);
       ++layer().skelegonEnd;
       layer().skelegonPointEnd += static_cast<std::uint32_t>(points);
-      const std::span<std::uint32_t> numbers = skelegonPoints_.first(points);
-      skelegonPoints_ = skelegonPoints_.subspan(points);
-      return numbers;
     });
   }
 
@@ -197,28 +200,18 @@ class Reading {
     return isSound;
   }
 
-  // One list after the other would be a walk through all of the tags for each. Where the lists ascend and have something for most
-  // skelegons, these are done some at a time: as many as fit into the smallest cache with some dozens of tags.
-  void placeTagsOfLayer(std::span<TagList> lists) {
-    std::size_t bytes = 0;
-    for (const TagList& list : lists) bytes += list.pairs.size();
-    const bool isForMost = bytes >= lists.size() * store_.tagEnds.size();
-    const std::uint32_t step = listsAscend_ && isForMost ? 128 : kIndexLimit;
-    const std::span ends = std::span(store_.tagEnds).subspan(lists.front().firstSkelegon + 1);
-    bool areDone = false;
-    for (std::uint32_t limit = step; !areDone; limit += step) {
-      areDone = true;
-      for (TagList& list : lists) {
-        const auto place = [ends, tags = store_.tags.get(), type = list.type](std::uint32_t skelegon, std::uint16_t text) {
-          tags[ends[skelegon]++ & ~kMark] = {type, text};
-        };
-        list.pairs = readTags(list.pairs, limit, place);
-        areDone &= list.pairs.empty();
-      }
-    }
+  // Those of the skelegons in front of 'end'.
+  void placeTags(TagList& list, std::size_t end) {
+    if (end <= list.firstSkelegon) return;
+    const std::span ends = std::span(store_.tagEnds).subspan(list.firstSkelegon + 1);
+    const auto place = [ends, tags = store_.tags.get(), type = list.type](std::uint32_t skelegon, std::uint16_t text) {
+      tags[ends[skelegon]++ & ~kMark] = {type, text};
+    };
+    list.pairs = readTags(list.pairs, static_cast<std::uint32_t>(end - list.firstSkelegon), place);
   }
 
   ObjectStore& store_;
+  const Sizes& sizes_;
   std::span<Vec12> points_;
   std::span<std::uint32_t> faces_;
   std::span<std::uint32_t> skelegonPoints_;
@@ -230,10 +223,10 @@ class Reading {
 bool readForm(ObjectFileData& data, CLWOFileStream& file, std::string path) {
   if (!file.enterForm()) return false;
   Sizes sizes;
-  if (!CLWOFileStream(file.rest()).readChunks([&](Chunk chunk) { return sizes.add(std::move(chunk)); })) return false;
+  if (!CLWOFileStream(file.rest()).readChunks([&](const Chunk& chunk) { return sizes.add(chunk); })) return false;
   ObjectStore store;
   Reading reading(store, sizes);
-  if (!file.readChunks([&](Chunk chunk) { return reading.add(std::move(chunk)); })) return false;
+  if (!file.readChunks([&](const Chunk& chunk) { return reading.add(chunk); })) return false;
   reading.placeTags();
   data = ObjectFileData(std::move(path), std::move(store));
   return true;

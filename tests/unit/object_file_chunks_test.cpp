@@ -40,7 +40,8 @@ TEST(ObjectChunkWalk, HandsOutTheChunksOfUseAndNoOther) {
   using namespace lwp::st;
   const auto [kinds, isAtEnd] = walk(smallRig());
   EXPECT_TRUE(isAtEnd);
-  EXPECT_EQ(kinds, (std::vector{kTagTexts, kLayer, kPoints, kFaces, kLayer, kPoints, kSkelegons, kSkelegonTags, kSkelegonTags}));
+  EXPECT_EQ(kinds,
+            (std::vector{kTagTexts, kLayer, kPoints, kFaces, kLayer, kPoints, kSkelegons, kSkelegonTags, kSkelegonTags}));
 }
 
 TEST(ObjectChunkWalk, EndsWhereTheOneWhoTakesTheChunksIsNotContent) {

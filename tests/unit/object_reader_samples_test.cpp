@@ -49,11 +49,10 @@ std::string factName(std::uint32_t type) {
 
 nlohmann::json factsOf(const SkelegonRecord& skelegon, const ObjectFileData& data) {
   nlohmann::json facts{{"head", skelegon.points[0]}, {"tail", skelegon.points[1]}, {"tags", nlohmann::json::object()}};
-  const auto& texts = data.tags();
   for (const PolygonTag& tag : skelegon.tags) {
     // The facts leave the surface out, which every polygon has.
     if (tag.type == idOf("SURF")) continue;
-    facts["tags"][factName(tag.type)] = tag.index < texts.size() ? texts[tag.index] : "(no such text)";
+    facts["tags"][factName(tag.type)] = tag.index < data.tagCount() ? data.tag(tag.index) : "(no such text)";
   }
   return facts;
 }

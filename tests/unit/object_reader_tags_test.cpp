@@ -18,7 +18,8 @@ TEST(ObjectReader, GivesSkelegonsTheirTagsInTheOrderOfTheFile) {
   ASSERT_TRUE(reading.isSound);
   const ObjectLayer layer = reading.data.layer(0);
   EXPECT_EQ(tagsOf(layer.skelegons()[0]), (Tags{{idOf("sg1A"), 4}}));
-  EXPECT_EQ(tagsOf(layer.skelegons()[1]), (Tags{{idOf("sg1A"), 5}, {idOf("sg1A"), 3}, {idOf("BONE"), 2}, {idOf("BONE"), 1}}));
+  EXPECT_EQ(tagsOf(layer.skelegons()[1]),
+            (Tags{{idOf("sg1A"), 5}, {idOf("sg1A"), 3}, {idOf("BONE"), 2}, {idOf("BONE"), 1}}));
 }
 
 TEST(ObjectReader, CountsTheSkelegonsOfATagWithinTheLayer) {

@@ -3,8 +3,8 @@
 
 #include <array>
 #include <bit>
-#include <cstdint>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -22,12 +22,12 @@ using lwp::st::ReadObjectFile;
 using lwp::st::SkelegonRecord;
 
 inline bool isEmpty(const ObjectFileData& data) {
-  return data.path().empty() && data.tags().size() == 0 && data.layerCount() == 0;
+  return data.path().empty() && data.tagCount() == 0 && data.layerCount() == 0;
 }
 
 inline std::vector<std::string> textsOf(const ObjectFileData& data) {
   std::vector<std::string> texts;
-  for (std::size_t i = 0; i < data.tags().size(); ++i) texts.emplace_back(data.tags()[i]);
+  for (std::size_t i = 0; i < data.tagCount(); ++i) texts.emplace_back(data.tag(i));
   return texts;
 }
 
