@@ -26,7 +26,8 @@ bool CFileStream::load(const std::string& narrowPath) {
   file.open(narrowPath, std::ios::binary | std::ios::ate);
   // A folder opens as a file on some systems; its length is then senseless or reading it fails.
   const std::streamoff length = file ? std::streamoff{file.tellg()} : -1;
-  if (length < 0 || static_cast<std::uintmax_t>(length) > kLongestFile || !file.seekg(0)) return false;
+  if (length < 0 || static_cast<std::uintmax_t>(length) > kLongestFile) return false;
+  file.seekg(0);
 
   const auto size = static_cast<std::size_t>(length);
   auto bytes = std::make_unique_for_overwrite<std::byte[]>(size);

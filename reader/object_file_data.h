@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-#include "reader/big_endian.h"
+#include "reader/CFileStream.h"
 
 namespace lwp::st {
 

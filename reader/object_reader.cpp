@@ -14,16 +14,17 @@ namespace {
 constexpr std::uint32_t kMark = ObjectStore::kMark;
 // The upper six bits beside the number of a polygon's corners are flags.
 constexpr std::size_t kCornerCountMask = 0x03FF;
+constexpr std::size_t kMostCorners = kCornerCountMask;
 
 // Reads the polygons of a list: calls start(number of corners) for each, puts the numbers of its points where 'room' begins, marks the
-// last, and goes on behind them. Takes no more room than a number for each two bytes. False when a polygon runs past the end.
+// last, and goes on behind them. That takes no more than a number for each two bytes of the list, and behind these room for a polygon
+// of the most corners, which may show to be too long only then. False when one runs past the end.
 template <class Start>
 bool readPolygons(CFileStream list, std::span<std::uint32_t>& room, Start start) {
   while (!list.atEnd()) {
     std::uint16_t count = 0;
     if (!list.readU2(count)) return false;
     const std::size_t corners = count & kCornerCountMask;
-    if (corners * kBytesOfU2 > list.left()) return false;
     start(corners);
     if (!list.readVX(room.first(corners))) return false;
     if (corners > 0) room[corners - 1] |= kMark;
@@ -57,7 +58,7 @@ struct Sizes {
     ++chunks[chunk.kind];
     bytes[chunk.kind] += chunk.body.size();
     if (chunk.kind != kSkelegons) return true;
-    std::array<std::uint32_t, kCornerCountMask> points{};
+    std::array<std::uint32_t, kMostCorners> points{};
     std::span<std::uint32_t> room;
     return readPolygons(CFileStream(chunk.body), room, [&](std::size_t /*corners*/) {
       ++skelegons;
@@ -85,8 +86,9 @@ class Reading {
       : store_(store),
         sizes_(sizes),
         points_(roomFor(sizes.bytes[kPoints] / kBytesOfVec12, store.points)),
-        faces_(roomFor(sizes.bytes[kFaces] / kBytesOfU2, store.faces)),
-        skelegonPoints_(roomFor(sizes.bytes[kSkelegons] / kBytesOfU2 - sizes.skelegons, store.skelegonPoints)) {
+        faces_(roomFor(sizes.bytes[kFaces] / kBytesOfU2 + kMostCorners, store.faces)),
+        skelegonPoints_(
+            roomFor(sizes.bytes[kSkelegons] / kBytesOfU2 - sizes.skelegons + kMostCorners, store.skelegonPoints)) {
     store.texts.reserve(sizes.bytes[kTagTexts]);
     store.textStarts.reserve(sizes.bytes[kTagTexts] / (2 * kBytesOfU2) + 1);  // no text has less than two bytes
     store.layers.reserve(sizes.chunks[kLayer] + 1);
@@ -164,16 +166,17 @@ class Reading {
   }
 
   bool addFaces(CFileStream body) {
-    const std::size_t room = faces_.size();
+    std::span<std::uint32_t> room = faces_;  // of its own, for a compiler to keep in registers
     std::uint32_t count = 0;
-    const bool isSound = readPolygons(std::move(body), faces_, [&](std::size_t corners) {
+    const bool isSound = readPolygons(std::move(body), room, [&](std::size_t corners) {
       ++count;
       if (corners > 0) return;
-      faces_[0] = ObjectStore::kFaceWithoutCorners;
-      faces_ = faces_.subspan(1);
+      room[0] = ObjectStore::kFaceWithoutCorners;
+      room = room.subspan(1);
     });
     layer().faceCount += count;
-    layer().faceEnd += static_cast<std::uint32_t>(room - faces_.size());
+    layer().faceEnd += static_cast<std::uint32_t>(faces_.size() - room.size());
+    faces_ = room;
     return isSound;
   }
 

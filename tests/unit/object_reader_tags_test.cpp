@@ -101,8 +101,8 @@ TEST(ObjectReader, KeepsATagWhoseTextTheListDoesNotHave) {
   EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), (Tags{{idOf("BONE"), 65535}}));
 }
 
-// Tags are placed for some skelegons at a time when all lists ascend, else list by list, and so many lists at once.
-// What comes out must not depend on it.
+// Tags are placed for some skelegons at a time when all lists ascend and are long, else list by list. What comes out must not
+// depend on it.
 struct TagOrder {
   const char* name;
   std::uint32_t skelegons;
@@ -141,10 +141,29 @@ INSTANTIATE_TEST_SUITE_P(
     , ObjectReaderTagOrder,
     testing::Values(TagOrder{"DenseAscending", 1000, 20, true, true}, TagOrder{"DenseMixed", 1000, 20, false, true},
                     TagOrder{"SparseAscending", 1000, 20, true, false}, TagOrder{"SparseMixed", 1000, 20, false, false},
-                    TagOrder{"MoreListsThanAreKept", 300, 200, true, true}, TagOrder{"OneSkelegon", 1, 187, true, true},
+                    TagOrder{"ManyLists", 300, 200, true, true}, TagOrder{"OneSkelegon", 1, 187, true, true},
                     TagOrder{"AsManyAsAreDoneAtATime", 128, 3, true, true},
                     TagOrder{"OneMoreThanAreDoneAtATime", 129, 3, true, true}),
     [](const auto& info) { return std::string(info.param.name); });
+
+// The skelegons that are done at a time are those of the object, whichever layer they are in.
+TEST(ObjectReader, GivesTagsToTheSkelegonsOfSeveralLargeLayers) {
+  ObjectBytes object;
+  for (unsigned layer = 0; layer < 3; ++layer) {
+    Bytes bones;
+    Bytes names;
+    bones.id("BONE");
+    names.id("BONE");
+    for (std::uint32_t i = 0; i < 200; ++i) {
+      bones.u2(1).vx(i);
+      names.vx(i).u2(1000 * layer + i);
+    }
+    object.layer(layer, "a").chunk("POLS", bones).chunk("PTAG", names).chunk("PTAG", names);
+  }
+  EXPECT_TRUE(readersAgree(object.file()));
+  const Reading reading(object);
+  EXPECT_EQ(tagsOf(reading.data.layer(2).skelegons()[199]), (Tags{{idOf("BONE"), 2199}, {idOf("BONE"), 2199}}));
+}
 
 }  // namespace
 }  // namespace varnel::test
