@@ -16,9 +16,9 @@ constexpr std::uint32_t kMark = ObjectStore::kMark;
 constexpr std::size_t kCornerCountMask = 0x03FF;
 constexpr std::size_t kMostCorners = kCornerCountMask;
 
-// Reads the polygons of a list: calls start(number of corners) for each, puts the numbers of its points where 'room' begins, marks the
-// last, and goes on behind them. That takes no more than a number for each two bytes of the list, and behind these room for a polygon
-// of the most corners, which may show to be too long only then. False when one runs past the end.
+// Reads the polygons of a list: calls start(number of corners) for each, puts the numbers of its points where 'room' begins,
+// marks the last, and goes on behind them. That takes no more than a number for each two bytes of the list, and behind these
+// room for a polygon of the most corners, which may show to be too long only then. False when one runs past the end.
 template <class Start>
 bool readPolygons(CFileStream list, std::span<std::uint32_t>& room, Start start) {
   while (!list.atEnd()) {
