@@ -3,6 +3,7 @@
 #include <exception>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_eval.h"
@@ -89,8 +90,8 @@ ObjectNames namesOf(lw::ItemId object, const st::ObjectFileData& data) {
 std::optional<st::ObjectLayer> layerNamed(const st::ObjectFileData& data, const std::string& name,
                                           const std::string& readPath) {
   const std::string fileName = skg::fileBaseName(readPath);
-  for (const st::ObjectLayer layer : data.layers()) {
-    if ((isNamedByFile(data) ? fileName : layer.name()) == name) return layer;
+  for (std::size_t i = 0; i < data.layerCount(); ++i) {
+    if ((isNamedByFile(data) ? fileName : data.layer(i).name()) == name) return data.layer(i);
   }
   return std::nullopt;
 }
@@ -114,10 +115,10 @@ const char* applyAll(lw::CSceneItems& scene, lw::ItemId bone, const SkelegonProp
 
 void applyToLayer(lw::CSceneItems& scene, const st::ObjectFileData& data, const st::ObjectLayer& layer,
                   const std::string& objectName, bool recordPivot) {
-  const std::size_t count = layer.skelegonCount();
-  for (std::size_t k = 0; k < count; ++k) {
-    lw::StatusProgress(static_cast<float>(k) / static_cast<float>(count), "%s", "Now setting bone properties...");
-    SkelegonProperties properties = storedProperties(data, layer.skelegon(k));
+  const std::vector<st::SkelegonRecord> skelegons = layer.skelegons();
+  for (std::size_t k = 0; k < skelegons.size(); ++k) {
+    lw::StatusProgress(static_cast<float>(k) / static_cast<float>(skelegons.size()), "%s", "Now setting bone properties...");
+    SkelegonProperties properties = storedProperties(data, skelegons[k]);
     putObjectName(properties, objectName);
     const std::string& name = properties[Slot::Name];
     if (name.empty()) continue;
