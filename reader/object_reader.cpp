@@ -80,9 +80,9 @@ std::span<Item> roomFor(std::size_t size, std::unique_ptr<Item[]>& memory) {
 
 // Reads all chunks. The tags of skelegons, which stand far apart in the file, in a list for each type, are only counted then, and
 // brought together by a counting sort in the end.
-class Reading {
+class CReading {
  public:
-  Reading(ObjectStore& store, const Sizes& sizes)
+  CReading(ObjectStore& store, const Sizes& sizes)
       : store_(store),
         sizes_(sizes),
         points_(roomFor(sizes.bytes[kPoints] / kBytesOfVec12, store.points)),
@@ -228,7 +228,7 @@ bool readForm(ObjectFileData& data, CLWOFileStream& file, std::string path) {
   Sizes sizes;
   if (!CLWOFileStream(file.rest()).readChunks([&](const Chunk& chunk) { return sizes.add(chunk); })) return false;
   ObjectStore store;
-  Reading reading(store, sizes);
+  CReading reading(store, sizes);
   if (!file.readChunks([&](const Chunk& chunk) { return reading.add(chunk); })) return false;
   reading.placeTags();
   data = ObjectFileData(std::move(path), std::move(store));
