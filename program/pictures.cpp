@@ -61,7 +61,7 @@ void inModeler(const Album& album, const std::vector<std::string>& selected, Act
   PlayedModeler host(album.host());
   host.options().localeInfo = localeOf(album.language());
   host.add(makeDemoRig(), "lizard.lwo");
-  host.showLayers({0, 1});
+  host.showAllLayers();
   host.select(selected);
   ModuleFile module;
   loadModule(module, album.module());

@@ -107,10 +107,8 @@ class Rigger {
  public:
   Rigger(const RenameOptions& options, ObjectFile rig) : host(options.host.options()) {
     host.options().localeInfo = localeOf(options.language);
-    ModelerObject& object = host.add(std::move(rig), "rig.lwo");
-    std::vector<int> layers;
-    for (const MeshLayer& layer : object.layers()) layers.push_back(layer.number);
-    host.showLayers(layers);
+    host.add(std::move(rig), "rig.lwo");
+    host.showAllLayers();
     loadModule(module_, options.module);
     panel_ = &openTool(host, module_, kRenamerTool);
   }

@@ -42,7 +42,7 @@ void inModeler(const TripOptions& options, const std::string& path, Steps& steps
   steps.say("Modeler opens " + fileNameOf(path));
   const auto object = host.open(path);
   if (!object) throw Trouble{object.why()};
-  host.showLayers({0, 1});
+  host.showAllLayers();
   ModuleFile module;
   loadModule(module, options.module);
 

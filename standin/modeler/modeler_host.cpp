@@ -193,6 +193,13 @@ void ModelerHost::showLayers(const std::vector<int>& foreground, const std::vect
   if (current() != nullptr) current()->showLayers(foreground, background, options().layerSwitchDeselects);
 }
 
+void ModelerHost::showAllLayers() {
+  std::vector<int> numbers;
+  if (current() != nullptr)
+    for (const MeshLayer& layer : current()->layers()) numbers.push_back(layer.number);
+  showLayers(numbers);
+}
+
 void ModelerHost::deleteSkelegons(const std::vector<std::string>& names) {
   if (current() == nullptr) return;
   std::vector<const MeshPolygon*> chosen;

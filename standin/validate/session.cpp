@@ -24,10 +24,8 @@ Rig japaneseRig(const std::string& folder) { return rigOf(makeJapaneseRig(), fol
 Session::Session(Program program, const Rig& rig, const std::string& module, const HostOptions& host) : path_(module) {
   if (program == Program::Modeler) {
     modeler_ = std::make_unique<PlayedModeler>(host);
-    const ModelerObject& object = modeler_->add(rig.object, rig.path);
-    std::vector<int> layers;
-    for (const MeshLayer& layer : object.layers()) layers.push_back(layer.number);
-    modeler_->showLayers(layers);
+    modeler_->add(rig.object, rig.path);
+    modeler_->showAllLayers();
   } else {
     layout_ = std::make_unique<PlayedLayout>(host);
     layout_->select(layout_->scene().addObject(rig.object, rig.path));
