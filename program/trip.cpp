@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "objectfile/sample_rigs.h"
+#include "objectfile/temporary_folder.h"
 #include "program/host_option.h"
 #include "program/property_panel.h"
 #include "program/subcommands.h"

@@ -3,10 +3,10 @@
 
 #include <cctype>
 #include <optional>
-#include <random>
 #include <set>
 
 #include "objectfile/file_bytes.h"
+#include "objectfile/temporary_folder.h"
 #include "standin/core/program_folder.h"
 #include "standin/validate/child_process.h"
 #include "tests/unit/documents.h"
@@ -228,19 +228,10 @@ TEST(Manual, ExplainsEveryCommandAndOptionOfTheProgram) {
 // What the built program prints for "--help-all".
 std::string helpOfTheProgram() {
   const fs::path program = standin::pathFromUtf8(standin::programFolder()).parent_path() / VARNEL_PROGRAM;
-  const fs::path printed = fs::temp_directory_path() / ("varnel-help-" + std::to_string(std::random_device()()));
-  const auto utf8 = [](const fs::path& path) {
-    const std::u8string text = path.u8string();
-    return std::string(text.begin(), text.end());
-  };
-  std::string help;
-  {
-    standin::validate::ChildProcess process(utf8(program), {"--help-all"}, utf8(printed));
-    if (process.why().empty() && process.wait(60'000)) help = textOf(printed);
-  }
-  std::error_code ignored;
-  fs::remove(printed, ignored);
-  return help;
+  const standin::TemporaryFolder folder;
+  const std::string printed = folder.file("help.txt");
+  standin::validate::ChildProcess process(standin::utf8Of(program), {"--help-all"}, printed);
+  return process.why().empty() && process.wait(60'000) ? textOf(standin::pathFromUtf8(printed)) : "";
 }
 
 // Commands with their options and positionals, as the help lists them: a command stands at the beginning of a line, what it takes
