@@ -191,9 +191,9 @@ std::optional<std::string> quotedAfter(const std::string& line, std::string_view
 // has more names than one, counts once for each: "-o,--output".
 std::vector<CommandOption> commandOptions() {
   std::vector<CommandOption> found;
-  for (const std::string& file : filesIn(repository() / "standin" / "program", ".cpp")) {
+  for (const std::string& file : filesIn(repository() / "program", ".cpp")) {
     std::string command;
-    for (const std::string& line : linesOf(textOf(repository() / "standin" / "program" / file))) {
+    for (const std::string& line : linesOf(textOf(repository() / "program" / file))) {
       if (const auto name = quotedAfter(line, ".name = ")) {
         command = *name == "validate-check" ? "" : *name;
         if (!command.empty()) found.push_back({command, {}});
@@ -273,7 +273,7 @@ TEST(Manual, ExplainsWhatTheProgramsOwnHelpLists) {
 }
 
 TEST(Manual, ExplainsEveryFindingOfTheProgram) {
-  const std::string source = textOf(repository() / "standin" / "rigs" / "findings.cpp");
+  const std::string source = textOf(repository() / "rigs" / "findings.cpp");
   std::size_t count = 0;
   for (std::size_t row = source.find("{FindingKind::"); row != std::string::npos;
        row = source.find("{FindingKind::", row + 1)) {
