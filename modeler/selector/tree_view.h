@@ -66,7 +66,6 @@ class CTreeView : private TreeOwner {
   std::size_t anchor() const { return anchor_; }
   // In eighths of a pixel.
   int viewWidth() const { return width_; }
-  int viewHeight() const { return height_; }
   int scrollX() const { return horizontal_.offset(); }
   int scrollY() const { return vertical_.offset(); }
 
