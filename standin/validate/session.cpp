@@ -77,6 +77,11 @@ std::string Session::complaints() {
   return text;
 }
 
+bool Session::isSwitchedBack() const {
+  const LayoutState& state = layout_->state();
+  return state.ikEnabled && state.motionControllersEnabled && state.deformationsEnabled && state.autoConfirm == 0;
+}
+
 bool Session::reload() {
   panels().moduleUnloaded();
   module_.unload();
