@@ -14,7 +14,6 @@ namespace standin {
 namespace {
 
 constexpr const char* kSkelegon = "Tail_01";
-constexpr std::uint8_t kFalloffSetting = 13;
 
 struct TripOptions {
   std::string module;
