@@ -5,14 +5,12 @@
 #include "objectfile/sample_rigs.h"
 #include "standin/core/tool_names.h"
 #include "standin/modeler/modeler_host.h"
+#include "standin/validate/panel_places.h"
 
 namespace {
 
 using namespace standin;
 using namespace varnel::bench;
-
-// Places of the panel's controls in their order of creation.
-enum Place { kMode = 0, kTarget = 3, kBaseNameOn = 8, kColumnOn = 20, kRowOn = 24, kBoneProperty = 30, kRun = 33 };
 
 void run(std::size_t size, bool withProperties, CostTable& costs) {
   ModelerHost host;
@@ -20,11 +18,11 @@ void run(std::size_t size, bool withProperties, CostTable& costs) {
   LoadedModule module;
   costs.measure("open", size, [&] { host.activate(module, kRenamerTool); });
   const Panel& panel = opened(kRenamerTool);
-  must(person::choose(panel.at(kMode), 5));
+  must(person::choose(panel.at(kMode), kAdvanced));
   host.selectPolygons(host.current()->skelegons());
   costs.measure("register all", size, [&] { must(person::press(panel.find("Add"))); });
-  must(person::choose(panel.at(kTarget), 3));
-  for (const Place place : {kBaseNameOn, kColumnOn, kRowOn}) must(person::toggle(panel.at(place)));
+  must(person::choose(panel.at(kTarget), kAll));
+  for (const RenamerControl place : {kBaseName, kColumns, kRows}) must(person::toggle(panel.at(place)));
   must(person::switchTo(panel.at(kBoneProperty), withProperties));
   costs.measure(withProperties ? "rename, all 18 texts" : "rename, 2 texts", size,
                 [&] { must(person::press(panel.at(kRun))); });

@@ -3,14 +3,14 @@
 #pragma once
 
 #include <cstddef>
-#include <filesystem>
-#include <fstream>
 #include <random>
 #include <span>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "objectfile/file_bytes.h"
+#include "objectfile/temporary_folder.h"
 #include "tests/unit/object_bytes.h"
 
 namespace varnel::bench {
@@ -72,30 +72,15 @@ inline std::vector<std::byte> makeRig(std::uint32_t skelegons, unsigned settings
 }
 
 // A folder of the run's own, removed with everything in it.
-class BenchFolder {
+class BenchFolder : public standin::TemporaryFolder {
  public:
-  BenchFolder()
-      : path_(std::filesystem::temp_directory_path() / ("varnel-bench-" + std::to_string(std::random_device()()))) {
-    std::filesystem::create_directories(path_);
-  }
-  BenchFolder(const BenchFolder&) = delete;
-  BenchFolder& operator=(const BenchFolder&) = delete;
-  ~BenchFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-
   // Writes a file and gives its path.
   std::string write(const std::string& name, std::span<const std::byte> bytes) const {
-    const std::filesystem::path path = path_ / name;
-    std::ofstream file(path, std::ios::binary);
-    file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    if (!file.flush()) throw std::runtime_error("cannot write " + path.string());
-    return path.string();
+    if (const auto failure =
+            standin::writeFileBytes(file(name), std::string(reinterpret_cast<const char*>(bytes.data()), bytes.size())))
+      throw std::runtime_error(failure->text);
+    return file(name);
   }
-
- private:
-  std::filesystem::path path_;
 };
 
 }  // namespace varnel::bench

@@ -1,27 +1,11 @@
 // The narrow encoding of these systems is UTF-8 itself.
 #include "host/platform.h"
+#include "texts/utf8.h"
 
 namespace platform {
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
-
-// Takes one character off the front; kReplacement for a byte that begins no valid sequence.
-char32_t takeCharacter(std::string_view& text) {
-  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-  const unsigned char lead = byte(0);
-  const std::size_t length = lead < 0x80 ? 1 : lead >> 5 == 0x6 ? 2 : lead >> 4 == 0xE ? 3 : lead >> 3 == 0x1E ? 4 : 0;
-  constexpr char32_t kLeast[] = {0, 0, 0x80, 0x800, 0x10000};
-  char32_t value = length <= 1 ? lead : lead & (0x7Fu >> length);
-  bool valid = length != 0 && length <= text.size();
-  for (std::size_t i = 1; valid && i < length; ++i) {
-    valid = byte(i) >> 6 == 0x2;
-    value = value << 6 | (byte(i) & 0x3Fu);
-  }
-  valid = valid && value >= kLeast[length] && value <= 0x10FFFF && !(value >= 0xD800 && value <= 0xDFFF);
-  text.remove_prefix(valid ? length : 1);
-  return valid ? value : kReplacement;
-}
 
 void appendUtf8(std::string& to, char32_t c) {
   const auto put = [&](char32_t bits) { to.push_back(static_cast<char>(bits)); };
@@ -51,7 +35,8 @@ std::u16string utf16FromUtf8(std::string_view utf8) {
   std::u16string text;
   text.reserve(utf8.size());
   while (!utf8.empty()) {
-    const char32_t c = takeCharacter(utf8);
+    const char32_t taken = texts::takeCharacter(utf8);
+    const char32_t c = taken == texts::kNoCharacter ? kReplacement : taken;
     if (c >= 0x10000) text.push_back(static_cast<char16_t>(0xD7C0 + (c >> 10)));
     text.push_back(static_cast<char16_t>(c >= 0x10000 ? 0xDC00 | (c & 0x3FF) : c));
   }

@@ -8,6 +8,11 @@ namespace standin {
 
 std::filesystem::path pathFromUtf8(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
 
+std::string utf8Of(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
 Outcome<std::string> readFileBytes(const std::string& path) {
   std::ifstream file(pathFromUtf8(path), std::ios::binary | std::ios::ate);
   if (!file) return Failure{"cannot open " + path};

@@ -10,6 +10,7 @@
 namespace standin {
 
 std::filesystem::path pathFromUtf8(const std::string& utf8);
+std::string utf8Of(const std::filesystem::path& path);
 
 Outcome<std::string> readFileBytes(const std::string& path);
 

@@ -1,6 +1,7 @@
 #include <iostream>
 #include <memory>
 
+#include "objectfile/temporary_folder.h"
 #include "program/host_option.h"
 #include "program/shipped_rigs.h"
 #include "program/subcommands.h"

@@ -23,9 +23,7 @@ void openObject(ModelerHost& host, const std::string& file) {
   } else if (const auto object = host.open(file); !object) {
     throw Trouble{object.why()};
   }
-  std::vector<int> numbers;
-  for (const MeshLayer& layer : host.current()->layers()) numbers.push_back(layer.number);
-  host.showLayers(numbers);
+  host.showAllLayers();
 }
 
 int run(const DeskOptions& options) {

@@ -32,7 +32,7 @@ void showInModeler(const PanelsOptions& options, const std::string& language, co
   PlayedModeler host(options.host.options());
   host.options().localeInfo = localeOf(language);
   host.add(makeDemoRig(), "lizard.lwo");
-  host.showLayers({0, 1});
+  host.showAllLayers();
   host.select({"Tail_01"});
   ModuleFile module;
   loadModule(module, options.module);

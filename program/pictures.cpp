@@ -38,7 +38,7 @@ class Album {
   // Writes "TOOL-LANGUAGE-NAME.png", without the name where it is empty.
   void keep(const Picture& picture, const std::string& tool, const std::string& name) const {
     const std::string file = tool + "-" + language_ + (name.empty() ? "" : "-" + name) + ".png";
-    const std::string path = utf8Of(pathOf(options_.folder) / pathOf(file));
+    const std::string path = utf8Of(pathFromUtf8(options_.folder) / pathFromUtf8(file));
     if (!savePng(picture, path)) throw Trouble{path + " could not be written"};
     std::cout << file << std::endl;
   }
@@ -61,7 +61,7 @@ void inModeler(const Album& album, const std::vector<std::string>& selected, Act
   PlayedModeler host(album.host());
   host.options().localeInfo = localeOf(album.language());
   host.add(makeDemoRig(), "lizard.lwo");
-  host.showLayers({0, 1});
+  host.showAllLayers();
   host.select(selected);
   ModuleFile module;
   loadModule(module, album.module());
@@ -174,7 +174,7 @@ constexpr std::array kSubjects{
 };
 
 int run(const PicturesOptions& options) {
-  int result = reporting([&] { std::filesystem::create_directories(pathOf(options.folder)); });
+  int result = reporting([&] { std::filesystem::create_directories(pathFromUtf8(options.folder)); });
   for (const std::string& language : options.languages) {
     const Album album(options, language);
     for (const Subject& subject : kSubjects) {

@@ -2,13 +2,12 @@
 #pragma once
 
 #include "standin/panels/panel.h"
+#include "standin/validate/panel_places.h"
 
 namespace standin {
 
 inline constexpr int kPropertyPages = 4;
-inline constexpr int kControllersPage = 3;
 inline constexpr int kMotionGroups = 3;
-inline constexpr int kInverseDistance4 = 2;  // place in the list of falloffs, in both languages
 
 // Turns to a page, and on the last page to a group. Throws Trouble.
 void showPage(Panel& panel, int page);

@@ -9,34 +9,11 @@
 #include "program/subcommands.h"
 #include "program/support.h"
 #include "standin/panels/metrics.h"
+#include "standin/validate/panel_places.h"
 #include "standin/variants/played_host.h"
 
 namespace standin {
 namespace {
-
-// Places of the panel's controls in their order of creation.
-enum Place {
-  kMode = 0,
-  kFirstText = 1,
-  kTarget = 3,
-  kAdd = 5,
-  kBaseNameOn = 8,
-  kBaseName = 9,
-  kPrefixOn = 10,
-  kPrefix = 11,
-  kSuffixOn = 12,
-  kSuffix = 13,
-  kRegexOn = 17,
-  kColumnOn = 20,
-  kRowOn = 24,
-  kRowDigits = 25,
-  kRowStart = 26,
-  kBoneProperty = 30,
-  kOverlapCheck = 31,
-  kRun = 33,
-};
-enum Mode { kChange = 0, kReplace = 3, kAdvanced = 5 };
-enum Target { kSelection, kRegistration, kRegistrationAndChildren, kAll };
 
 struct RenameOptions {
   std::string module;
@@ -107,19 +84,17 @@ class Rigger {
  public:
   Rigger(const RenameOptions& options, ObjectFile rig) : host(options.host.options()) {
     host.options().localeInfo = localeOf(options.language);
-    ModelerObject& object = host.add(std::move(rig), "rig.lwo");
-    std::vector<int> layers;
-    for (const MeshLayer& layer : object.layers()) layers.push_back(layer.number);
-    host.showLayers(layers);
+    host.add(std::move(rig), "rig.lwo");
+    host.showAllLayers();
     loadModule(module_, options.module);
     panel_ = &openTool(host, module_, kRenamerTool);
   }
 
-  void choose(Place place, int index) { must(person::choose(control(place), index)); }
-  void type(Place place, std::string_view text) { must(person::type(control(place), text)); }
-  void enter(Place place, int number) { must(person::enter(control(place), number)); }
-  void switchOn(Place place, bool on = true) { must(person::switchTo(control(place), on)); }
-  void press(Place place) { must(person::press(control(place))); }
+  void choose(RenamerControl place, int index) { must(person::choose(control(place), index)); }
+  void type(RenamerControl place, std::string_view text) { must(person::type(control(place), text)); }
+  void enter(RenamerControl place, int number) { must(person::enter(control(place), number)); }
+  void switchOn(RenamerControl place, bool on = true) { must(person::switchTo(control(place), on)); }
+  void press(RenamerControl place) { must(person::press(control(place))); }
   void registerThese(const std::vector<std::string>& names) {
     host.select(names);
     press(kAdd);
@@ -147,7 +122,7 @@ class Rigger {
   PlayedModeler host;
 
  private:
-  Control* control(Place place) const { return panel_->at(place); }
+  Control* control(RenamerControl place) const { return panel_->at(place); }
 
   ModuleFile module_;
   Panel* panel_ = nullptr;
@@ -158,10 +133,10 @@ const std::vector<std::string> kFrontLegs = {"FrontLeg_L_01", "FrontLeg_L_02", "
 
 void setCounters(Rigger& rigger, const char* baseName, int start, int digits) {
   rigger.choose(kMode, kAdvanced);
-  rigger.switchOn(kBaseNameOn);
-  rigger.type(kBaseName, baseName);
-  rigger.switchOn(kColumnOn);
-  rigger.switchOn(kRowOn);
+  rigger.switchOn(kBaseName);
+  rigger.type(kBaseText, baseName);
+  rigger.switchOn(kColumns);
+  rigger.switchOn(kRows);
   rigger.enter(kRowStart, start);
   rigger.enter(kRowDigits, digits);
 }
@@ -190,7 +165,7 @@ ObjectFile manyHeads() {
 void wrapColumns(Rigger& rigger) {
   rigger.choose(kMode, kAdvanced);
   rigger.choose(kTarget, kAll);
-  rigger.switchOn(kColumnOn);
+  rigger.switchOn(kColumns);
   rigger.run();
 }
 
@@ -229,9 +204,9 @@ void emptyNames(Rigger& rigger) {
   rigger.choose(kMode, kAdvanced);
   rigger.choose(kTarget, kAll);
   rigger.switchOn(kPrefixOn);
-  rigger.type(kPrefix, "My_");
+  rigger.type(kPrefixText, "My_");
   rigger.switchOn(kSuffixOn);
-  rigger.type(kSuffix, "_end");
+  rigger.type(kSuffixText, "_end");
   std::cout << "   (then \"My_\" is added to the head and \"_end\" to the end of all)\n";
   rigger.run();
 }
@@ -239,13 +214,13 @@ void emptyNames(Rigger& rigger) {
 void registrationHasNoRows(Rigger& rigger) {
   setCounters(rigger, "Bone_[col]_[row]", 1, 2);
   rigger.registerThese({"Tail_01", "Tail_02", "Tail_03"});
-  rigger.choose(kTarget, kRegistration);
+  rigger.choose(kTarget, kRegistered);
   rigger.run();
 }
 
 void nothingChosen(Rigger& rigger) {
   rigger.choose(kMode, kAdvanced);
-  rigger.choose(kTarget, kRegistration);
+  rigger.choose(kTarget, kRegistered);
   rigger.run();
 }
 

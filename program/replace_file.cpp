@@ -34,14 +34,14 @@ std::optional<Failure> writeThrough(const fs::path& path, const std::string& byt
 
 std::optional<Failure> writeNewFile(const std::string& path, const std::string& bytes) {
   std::error_code error;
-  const fs::file_status status = fs::symlink_status(pathOf(path), error);
+  const fs::file_status status = fs::symlink_status(pathFromUtf8(path), error);
   if (fs::exists(status)) return Failure{path + " exists and is not written over"};
-  return writeThrough(pathOf(path), bytes, {});
+  return writeThrough(pathFromUtf8(path), bytes, {});
 }
 
 std::optional<Failure> replaceFile(const std::string& path, const std::string& bytes) {
   std::error_code error;
-  const fs::path target = fs::canonical(pathOf(path), error);
+  const fs::path target = fs::canonical(pathFromUtf8(path), error);
   if (error) return Failure{"cannot write " + path + ": " + error.message()};
   const fs::file_status status = fs::status(target, error);
   if (!fs::is_regular_file(status)) return Failure{"cannot write " + path + ": it is no file"};

@@ -24,7 +24,7 @@ constexpr std::array kShippedRigs{
 int run(const std::string& folder) {
   return reporting([&] {
     std::error_code error;
-    std::filesystem::create_directories(pathOf(folder), error);
+    std::filesystem::create_directories(pathFromUtf8(folder), error);
     if (error) throw Trouble{"the folder " + folder + " cannot be made"};
     for (const std::string& path : writeShippedRigs(folder)) std::cout << path << "\n";
   });
@@ -35,7 +35,7 @@ int run(const std::string& folder) {
 std::vector<std::string> writeShippedRigs(const std::string& folder) {
   std::vector<std::string> paths;
   for (const ShippedRig& rig : kShippedRigs) {
-    const std::string path = utf8Of(pathOf(folder) / pathOf(rig.file));
+    const std::string path = utf8Of(pathFromUtf8(folder) / pathFromUtf8(rig.file));
     if (const auto failure = rig.write(path)) throw Trouble{failure->text};
     paths.push_back(path);
   }

@@ -1,7 +1,6 @@
 #include "program/support.h"
 
 #include <iostream>
-#include <random>
 #include <sstream>
 
 #include "standin/core/program_folder.h"
@@ -10,30 +9,7 @@
 
 namespace standin {
 
-namespace fs = std::filesystem;
-
-fs::path pathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
-
-std::string utf8Of(const fs::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
-
-std::string fileNameOf(const std::string& path) { return utf8Of(pathOf(path).filename()); }
-
-TemporaryFolder::TemporaryFolder()
-    : path_(fs::temp_directory_path() / ("varnel-" + std::to_string(std::random_device()()))) {
-  fs::create_directories(path_);
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  fs::remove_all(path_, ignored);
-}
-
-std::string TemporaryFolder::path() const { return utf8Of(path_); }
-
-std::string TemporaryFolder::file(const std::string& name) const { return utf8Of(path_ / pathOf(name)); }
+std::string fileNameOf(const std::string& path) { return utf8Of(pathFromUtf8(path).filename()); }
 
 void indent(const std::string& text) {
   std::istringstream lines(text);

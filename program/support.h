@@ -1,11 +1,11 @@
 // What the subcommands of the program share.
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <utility>
 
 #include "interface/lightwave.h"
+#include "objectfile/file_bytes.h"
 #include "standin/core/module_file.h"
 #include "standin/core/tool_names.h"
 #include "standin/panels/panel.h"
@@ -18,23 +18,7 @@ struct Trouble {
   std::string why;
 };
 
-std::filesystem::path pathOf(const std::string& utf8);
-std::string utf8Of(const std::filesystem::path& path);
 std::string fileNameOf(const std::string& path);
-
-// A folder of its own for files that are made on the way; gone at the end.
-class TemporaryFolder {
- public:
-  TemporaryFolder();
-  ~TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  std::string path() const;
-  std::string file(const std::string& name) const;
-
- private:
-  std::filesystem::path path_;
-};
 
 // Prints the text with each line moved in.
 void indent(const std::string& text);

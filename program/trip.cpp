@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "objectfile/sample_rigs.h"
+#include "objectfile/temporary_folder.h"
 #include "program/host_option.h"
 #include "program/property_panel.h"
 #include "program/subcommands.h"
@@ -13,7 +14,6 @@ namespace standin {
 namespace {
 
 constexpr const char* kSkelegon = "Tail_01";
-constexpr std::uint8_t kFalloffSetting = 13;
 
 struct TripOptions {
   std::string module;
@@ -42,7 +42,7 @@ void inModeler(const TripOptions& options, const std::string& path, Steps& steps
   steps.say("Modeler opens " + fileNameOf(path));
   const auto object = host.open(path);
   if (!object) throw Trouble{object.why()};
-  host.showLayers({0, 1});
+  host.showAllLayers();
   ModuleFile module;
   loadModule(module, options.module);
 

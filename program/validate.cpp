@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "objectfile/file_bytes.h"
+#include "objectfile/temporary_folder.h"
 #include "program/host_option.h"
 #include "program/subcommands.h"
 #include "program/support.h"
@@ -64,10 +65,10 @@ std::string today() {
 
 void writeReports(const std::string& folder, const v::ReportHead& head, const std::vector<v::CheckResult>& results) {
   std::error_code error;
-  std::filesystem::create_directories(pathOf(folder), error);
+  std::filesystem::create_directories(pathFromUtf8(folder), error);
   for (const auto& [name, content] :
        {std::pair("report.txt", v::reportText(head, results)), std::pair("report.html", v::reportPage(head, results))}) {
-    if (const auto failure = writeFileBytes(utf8Of(pathOf(folder) / name), content)) throw Trouble{failure->text};
+    if (const auto failure = writeFileBytes(utf8Of(pathFromUtf8(folder) / name), content)) throw Trouble{failure->text};
   }
 }
 
@@ -85,9 +86,9 @@ int validateModule(const ValidateOptions& options) {
   takeNames(options.only, order);
   if (v::chosenChecks(order).empty()) throw Trouble{"no check fits: the selection is empty"};
   if (options.list) return list(order);
-  order.module = options.module.empty() ? modulePath() : utf8Of(std::filesystem::absolute(pathOf(options.module)));
+  order.module = options.module.empty() ? modulePath() : utf8Of(std::filesystem::absolute(pathFromUtf8(options.module)));
   if (order.module.empty()) throw Trouble{"there is no module beside the program; name one"};
-  if (!std::filesystem::exists(pathOf(order.module))) throw Trouble{"there is no file " + order.module};
+  if (!std::filesystem::exists(pathFromUtf8(order.module))) throw Trouble{"there is no file " + order.module};
   const TemporaryFolder folder;
   order.program = programFile();
   order.folder = folder.path();

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
+#include "skelegon/numbers.h"
+
 namespace skg {
 namespace {
 
 bool endsWith(std::string_view text, std::string_view end) {
   return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
 }
-
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 // The length of a counter such as " (2)" at the end of the text; 0 when it has none.
 std::size_t counterLength(std::string_view text) {

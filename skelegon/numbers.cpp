@@ -8,8 +8,6 @@
 namespace skg {
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
 // The text from its number on: leading blanks and a plus sign are allowed, and the conversions know neither.
 std::string_view fromNumberOn(std::string_view text) {
   const std::size_t start = text.find_first_not_of(" \t\n\v\f\r");

@@ -10,4 +10,6 @@ namespace skg {
 int leadingInteger(std::string_view text);
 double leadingReal(std::string_view text);
 
+constexpr bool isDigit(char character) { return character >= '0' && character <= '9'; }
+
 }  // namespace skg

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "skelegon/numbers.h"
+
 namespace mst {
 namespace {
 
@@ -14,8 +16,6 @@ namespace error = std::regex_constants;
 
 // ---------------------------------------------------------------------------------------------------------------------
 // What the library would make of a pattern
-
-bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
 // A part of the automaton.
 struct Part {
@@ -71,7 +71,7 @@ class CPatternSize {
     switch (const char character = next(); character) {
       case '\\':
         if (left_.empty()) return false;
-        refersBack_ = refersBack_ || isDigit(left_.front());
+        refersBack_ = refersBack_ || skg::isDigit(left_.front());
         next();
         begin({1, 0});
         return true;
@@ -118,7 +118,7 @@ class CPatternSize {
   // A number, or 0; as large as matters.
   std::uint64_t number() {
     std::uint64_t value = 0;
-    while (!left_.empty() && isDigit(left_.front()))
+    while (!left_.empty() && skg::isDigit(left_.front()))
       value = std::min(value * 10 + static_cast<unsigned>(next() - '0'), kHuge);
     return value;
   }

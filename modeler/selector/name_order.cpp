@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "skelegon/numbers.h"
+
 namespace mst {
 namespace {
 
-bool isDigit(char character) { return character >= '0' && character <= '9'; }
-
 // Takes the number off the front of a text; without its leading zeros, as digits, for it may be of any length.
 std::string_view takeNumber(std::string_view& text) {
-  const auto isOther = [](char character) { return !isDigit(character); };
+  const auto isOther = [](char character) { return !skg::isDigit(character); };
   const auto length = static_cast<std::size_t>(std::find_if(text.begin(), text.end(), isOther) - text.begin());
   std::string_view digits = text.substr(0, length);
   text.remove_prefix(length);
@@ -28,7 +28,7 @@ int compareNumbers(std::string_view first, std::string_view second) {
 
 bool comesBefore(std::string_view first, std::string_view second) {
   while (!first.empty() && !second.empty()) {
-    if (isDigit(first.front()) && isDigit(second.front())) {
+    if (skg::isDigit(first.front()) && skg::isDigit(second.front())) {
       const int order = compareNumbers(takeNumber(first), takeNumber(second));
       if (order != 0) return order < 0;
       continue;

@@ -67,7 +67,6 @@ class CTreeView : private CTreeOwner {
   std::size_t anchor() const { return anchor_; }
   // In eighths of a pixel.
   int viewWidth() const { return width_; }
-  int viewHeight() const { return height_; }
   int scrollX() const { return horizontal_.offset(); }
   int scrollY() const { return vertical_.offset(); }
 

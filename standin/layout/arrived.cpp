@@ -1,17 +1,16 @@
 #include "standin/layout/arrived.h"
 
-#include <array>
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <functional>
 #include <iterator>
 #include <optional>
 
+#include "standin/layout/skelegon_bones.h"
+
 namespace standin {
 namespace {
-
-constexpr std::array<const char*, 15> kColours = {"Black", "DkBlu", "DkGrn", "DkCyn", "DkRed", "Purple", "Brown", "Gray",
-                                                  "Blue",  "Green", "Cyan",  "Red",   "Magen", "Orang",  "White"};
 
 struct Look {
   const Scene& scene;
@@ -36,9 +35,11 @@ struct Look {
 // The value of a numeric setting in the form in which it is stored.
 using Numeric = std::function<double(const Item&)>;
 
+// The first slots of each axis, and of what it follows.
+constexpr int kFirst[kAxisCount] = {76, 81, 86, 95, 100, 105, 113, 118, 123};
+constexpr int kFollow[kAxisCount] = {159, 162, 165, 168, 171, 174, 177, 180, 183};
+
 void addAxes(std::map<int, Numeric>& table) {
-  constexpr int kFirst[kAxisCount] = {76, 81, 86, 95, 100, 105, 113, 118, 123};
-  constexpr int kFollow[kAxisCount] = {159, 162, 165, 168, 171, 174, 177, 180, 183};
   for (std::size_t axis = 0; axis < kAxisCount; ++axis) {
     const bool turns = axis >= kAxisH && axis <= kAxisB;
     const double unit = turns ? kPi / 180 : 1;
@@ -140,8 +141,6 @@ bool isHeldBack(const Look& look, int slot) {
   if (slot == 75) return look.text(73).empty();
   if (slot == 94) return look.text(92).empty();
   if (slot == 112) return look.text(110).empty();
-  constexpr int kFirst[kAxisCount] = {76, 81, 86, 95, 100, 105, 113, 118, 123};
-  constexpr int kFollow[kAxisCount] = {159, 162, 165, 168, 171, 174, 177, 180, 183};
   for (std::size_t axis = 0; axis < kAxisCount; ++axis) {
     const double controller = look.number(kFirst[axis]);
     if (slot == kFirst[axis] + 2 || slot == kFirst[axis] + 3) return !look.on(kFirst[axis] + 1);
@@ -152,18 +151,9 @@ bool isHeldBack(const Look& look, int slot) {
   return false;
 }
 
-struct HelperSlots {
-  int name, parent, shape, visibility, colour;
-};
-constexpr HelperSlots kHelpers[] = {
-    {52, 130, 136, 145, 152}, {53, 131, 137, 146, 153},  {55, 132, 138, 147, 154},  {73, 133, 139, 148, 155},
-    {92, 134, 140, 149, 156}, {110, 135, 141, 150, 157}, {142, 133, 143, 151, 158},
-};
-
 std::optional<int> colourNumber(const std::string& word) {
-  for (std::size_t i = 0; i < kColours.size(); ++i) {
-    if (word == kColours[i]) return static_cast<int>(i);
-  }
+  const auto found = std::find(kColourNames.begin(), kColourNames.end(), word);
+  if (found != kColourNames.end()) return static_cast<int>(found - kColourNames.begin());
   return word == "Modeler" ? std::nullopt : std::optional<int>(13);
 }
 
@@ -186,7 +176,7 @@ const Item* linked(const Item& bone, int slot) {
 std::optional<Arrival> arrivalOnHelper(const Look& look, int slot) {
   for (const HelperSlots& helper : kHelpers) {
     if (slot == helper.name && slot == 142) return is(look.scene.find(look.text(142)) != nullptr);
-    if (slot != helper.parent && slot != helper.shape && slot != helper.visibility && slot != helper.colour) continue;
+    if (!helper.hold(slot)) continue;
     const Item* const item = look.text(helper.name).empty() ? nullptr : look.scene.find(look.text(helper.name));
     if (item == nullptr) return Arrival::NotSent;
     if (slot == helper.parent) {

@@ -7,6 +7,7 @@
 
 #include "standin/core/gap_slots.h"
 #include "standin/core/globals.h"
+#include "standin/core/service_names.h"
 #include "standin/core/witness.h"
 #include "standin/layout/commands.h"
 #include "standin/layout/services.h"
@@ -21,20 +22,9 @@ namespace {
 
 LayoutHost* theHost = nullptr;
 
-// Services that a module looks for and never calls.
-const std::vector<std::string>& presentOnly() {
-  static const std::vector<std::string> names{
-      "LW Fog Info",          "LW Camera Info 10",     "LW Scene Info 12", "Color Picker",        "ContextMenuServices 2",
-      "Directory Info 2",     "File Request",          "File Request 3",   "Image Utility 6",     "LW Image List 9",
-      "Instance Update",      "RasterServices 4",      "LWShelfFuncs 2",   "Surface Functions 6", "LWXPanel 3",
-      "LSUniversalRequester", "LW Communication Ring", "NodeInputFuncs 5", "NodeOutputFuncs 4",   "NodeFuncs 3",
-      "LW Light Info 6",
-  };
-  return names;
-}
-
 void offerServices(LayoutHost& host) {
   Globals& offered = globals();
+  offered.offerPresence(layoutServices());
   offered.offerTable("LW Item Info 9", itemInfoTable());
   offered.offerTable("LW Object Info 14", objectInfoTable());
   offered.offerTable("LW Bone Info 7", boneInfoTable());
@@ -45,7 +35,6 @@ void offerServices(LayoutHost& host) {
   offered.offer("LW Command Interface", reinterpret_cast<void*>(commandFunction()));
   offered.offer("LW Interface Info 8", std::function<void*()>([&host] { return host.freshInterfaceInfo(); }));
   offered.offer("LW Time Info", std::function<void*()>([&host] { return host.freshTimeInfo(); }));
-  offered.offerPresence(presentOnly());
   offerPanelServices();
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "standin/core/service_names.h"
 #include "standin/modeler/repeated_tags.h"
 #include "standin/panels/services.h"
 
@@ -15,41 +16,10 @@ constexpr std::uint32_t kMapMorph = lw::fourCharacters('M', 'O', 'R', 'F');
 ModelerSession* theSession = nullptr;
 std::uint32_t sessionCount = 0;
 
-// Services that are there in Modeler, needed or asked for by modules, but called by none.
-const std::vector<std::string>& presentOnly() {
-  static const std::vector<std::string> names = {"LWM: Dynamic Monitor 2",
-                                                 "Animation Envelopes 4",
-                                                 "Channel Info 3",
-                                                 "Color Picker",
-                                                 "ContextMenuServices 2",
-                                                 "Directory Info 2",
-                                                 "File Request",
-                                                 "File Request 3",
-                                                 "Image Utility 6",
-                                                 "LW Image List 9",
-                                                 "Instance Update",
-                                                 "RasterServices 4",
-                                                 "LWShelfFuncs 2",
-                                                 "Surface Functions 6",
-                                                 "LWXPanel 3",
-                                                 "LSUniversalRequester",
-                                                 "LW Communication Ring",
-                                                 "NodeInputFuncs 5",
-                                                 "NodeOutputFuncs 4",
-                                                 "NodeFuncs 3",
-                                                 "LW Light Info 6",
-                                                 "Texture Functions 6",
-                                                 "LWVParmFuncs 4",
-                                                 "NodeEditorFuncs 7",
-                                                 "File Type Pattern",
-                                                 "LWColorSpace",
-                                                 "LWM: Dynamic Monitor",
-                                                 "File IO 5",
-                                                 "Mesh Functions 2",
-                                                 "SurfaceEditor Functions 2",
-                                                 "Texture Editor 3"};
-  return names;
-}
+// Services that are there in Modeler as well; some modules ask for them.
+const ServiceNames kMore = {
+    "Texture Functions 6",  "LWVParmFuncs 4", "NodeEditorFuncs 7", "File Type Pattern",         "LWColorSpace",
+    "LWM: Dynamic Monitor", "File IO 5",      "Mesh Functions 2",  "SurfaceEditor Functions 2", "Texture Editor 3"};
 
 }  // namespace
 
@@ -107,12 +77,13 @@ void ModelerHost::offerGlobals() {
   const auto number = [](std::uint32_t value) {
     return reinterpret_cast<void*>(static_cast<std::uintptr_t>(value));  // NOLINT(performance-no-int-to-ptr)
   };
+  globals().offerPresence(modelerServices());
+  globals().offerPresence(kMore);
   globals().offer("Product Info", [this, number] { return number(session_.options.productInfo); });
   globals().offer("Locale Info", [this, number] { return number(session_.options.localeInfo); });
   globals().offerTable("LWM: State Query 5", stateQuery());
   globals().offerTable("Scene Objects 9", sceneObjects());
   globals().offerTable("Info Messages 4", messageServices());
-  globals().offerPresence(presentOnly());
 }
 
 // --- the module ----------------------------------------------------------------------------------------------------------
@@ -191,6 +162,13 @@ void ModelerHost::deselectAll() { selectPolygons({}); }
 
 void ModelerHost::showLayers(const std::vector<int>& foreground, const std::vector<int>& background) {
   if (current() != nullptr) current()->showLayers(foreground, background, options().layerSwitchDeselects);
+}
+
+void ModelerHost::showAllLayers() {
+  std::vector<int> numbers;
+  if (current() != nullptr)
+    for (const MeshLayer& layer : current()->layers()) numbers.push_back(layer.number);
+  showLayers(numbers);
 }
 
 void ModelerHost::deleteSkelegons(const std::vector<std::string>& names) {

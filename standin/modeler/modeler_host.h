@@ -66,6 +66,7 @@ class ModelerHost {
   void deselectAll();
   // Layer numbers from 0.
   void showLayers(const std::vector<int>& foreground, const std::vector<int>& background = {});
+  void showAllLayers();
   void deleteSkelegons(const std::vector<std::string>& names);
   void deletePolygons(const std::vector<const MeshPolygon*>& polygons);
   void removeWeightMap(const std::string& name);

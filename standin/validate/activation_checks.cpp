@@ -5,6 +5,7 @@
 #include <set>
 
 #include "standin/core/globals.h"
+#include "standin/core/service_names.h"
 #include "standin/core/witness.h"
 #include "standin/panels/person.h"
 #include "standin/validate/check.h"
@@ -108,9 +109,8 @@ void localData(CheckRun& run) {
 
 // --- the third level ------------------------------------------------------------------------------------------------------
 
-bool isRequired(const Tool& tool, const std::string& name) {
-  const auto required = requiredServices(tool.program);
-  return std::any_of(required.begin(), required.end(), [&](const char* one) { return name == one; });
+std::vector<std::string> requiredServices(const Tool& tool) {
+  return tool.program == Program::Modeler ? modelerServices() : layoutServices();
 }
 
 std::set<std::string> servicesToWithhold(Session& session, const Tool& tool) {
@@ -118,7 +118,7 @@ std::set<std::string> servicesToWithhold(Session& session, const Tool& tool) {
   session.activate(tool);
   for (Panel* panel : panels().open()) std::ignore = person::close(panel);
   std::set<std::string> names(globals().asked().begin(), globals().asked().end());
-  for (const char* const name : requiredServices(tool.program)) names.insert(name);
+  for (const std::string& name : requiredServices(tool)) names.insert(name);
   return names;
 }
 
@@ -132,14 +132,15 @@ void withheld(CheckRun& run) {
       if (!session.refusal().empty()) return run.fail(session.refusal());
       names = servicesToWithhold(session, tool);
     }
+    const std::vector<std::string> required = requiredServices(tool);
     for (const std::string& name : names) {
       if (!run.step(n++, std::string(tool.server) + " without " + name)) continue;
       Session session(tool.program, rig, run.module(), run.host().options());
       globals().withhold(name);
       run.injected();
-      const int wanted = name == "Product Info"   ? lw::kActivationBadVersion
-                         : isRequired(tool, name) ? lw::kActivationBadGlobal
-                                                  : lw::kActivationOk;
+      const int wanted = name == "Product Info"                   ? lw::kActivationBadVersion
+                         : std::ranges::count(required, name) > 0 ? lw::kActivationBadGlobal
+                                                                  : lw::kActivationOk;
       expectAnswer(run, session, tool, session.activate(tool), wanted, "without " + name);
       globals().giveBack(name);
       expectAnswer(run, session, tool, session.activate(tool), lw::kActivationOk, "with " + name + " again");
@@ -173,15 +174,11 @@ void nullLookups(CheckRun& run) {
 
 // Services that are gone while panels are open: what a user touches may fail, but nothing else may happen.
 void goneWhileOpen(CheckRun& run) {
-  const Rig rig = lizardRig(run.file(""));
-  for (std::size_t i = 0; i < kTools.size(); ++i) {
-    if (!run.step(i, kTools[i].server)) continue;
-    Session session(kTools[i].program, rig, run.module(), run.host().options());
-    Panel* const panel = session.open(kTools[i]);
-    if (panel == nullptr) continue;
-    for (const std::string& name : std::set<std::string>(globals().asked().begin(), globals().asked().end())) {
+  withEachTool(run, [&](Session& session, const Tool& tool) {
+    Panel* const panel = session.open(tool);
+    if (panel == nullptr) return;
+    for (const std::string& name : std::set<std::string>(globals().asked().begin(), globals().asked().end()))
       globals().withhold(name);
-    }
     everyPage(*panel, [&](const std::string& page) {
       for (Control* control : usableControls(*panel)) {
         if (control->is(ControlKind::TabChoice)) continue;
@@ -191,8 +188,7 @@ void goneWhileOpen(CheckRun& run) {
         std::ignore = touch(*control, 3);
       }
     });
-    run.judge(session.end());
-  }
+  });
 }
 
 constexpr std::array kActivationChecks{

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <exception>
-#include <filesystem>
 #include <iostream>
 
+#include "objectfile/file_bytes.h"
 #include "standin/validate/check.h"
 #include "standin/validate/child_process.h"
 
@@ -33,9 +33,7 @@ std::string oneLine(std::string_view text) {
 
 }  // namespace
 
-CheckRun::CheckRun(const Order& order)
-    : order_(order),
-      log_(std::filesystem::path(std::u8string(order.log.begin(), order.log.end())), std::ios::binary | std::ios::app) {}
+CheckRun::CheckRun(const Order& order) : order_(order), log_(pathFromUtf8(order.log), std::ios::binary | std::ios::app) {}
 
 std::size_t CheckRun::shareOf(std::size_t whole, std::size_t least) const {
   return std::max(least, static_cast<std::size_t>(std::lround(static_cast<double>(whole) * order_.share)));

@@ -29,16 +29,6 @@ constexpr std::array kLinks{Link{"TargetItem 0x", Match::Position},   Link{"Pole
                             Link{"GoalItem 0x", Match::Rotation},     Link{"PositionItem 0x", Match::Position},
                             Link{"RotationItem 0x", Match::Rotation}, Link{"ScaleItem 0x", Match::Scale}};
 
-// The settings of an item that several skelegons may name.
-struct HelperSlots {
-  int name;
-  std::array<int, 4> of;
-};
-constexpr std::array kHelpers{HelperSlots{52, {130, 136, 145, 152}}, HelperSlots{53, {131, 137, 146, 153}},
-                              HelperSlots{55, {132, 138, 147, 154}}, HelperSlots{73, {133, 139, 148, 155}},
-                              HelperSlots{92, {134, 140, 149, 156}}, HelperSlots{110, {135, 141, 150, 157}},
-                              HelperSlots{142, {133, 143, 151, 158}}};
-
 int slotOf(std::uint32_t type) {
   if (type == lw::kTagBoneWeight) return kWeightMap;
   if (type == lw::kTagColour) return kColour;
@@ -131,7 +121,7 @@ bool ConversionJudge::isOverridden(std::size_t at, int slot) const {
     return true;
   }
   for (const HelperSlots& helper : kHelpers) {
-    if (std::find(helper.of.begin(), helper.of.end(), slot) == helper.of.end()) continue;
+    if (!helper.hold(slot)) continue;
     const auto name = stored.find(helper.name);
     if (name == stored.end()) continue;
     for (std::size_t other = at + 1; other < skelegons_.size(); ++other) {

@@ -62,10 +62,8 @@ class Flatness {
 void bringToRest(Session& session, const Rig& rig) {
   ModelerHost& host = *session.modeler();
   host.closeAll();
-  const ModelerObject& object = host.add(rig.object, rig.path);
-  std::vector<int> layers;
-  for (const MeshLayer& layer : object.layers()) layers.push_back(layer.number);
-  host.showLayers(layers);
+  host.add(rig.object, rig.path);
+  host.showAllLayers();
   for (const Tool& tool : kTools) {
     if (tool.program == Program::Modeler) session.activate(tool);
   }

@@ -50,12 +50,7 @@ void useRig(CheckRun& run, const Rig& rig, const std::string* type = nullptr) {
       session.modeler()->selectPolygons({skelegons.begin(), skelegons.end()});
     }
     useEverything(run, session, program, type);
-    if (LayoutHost* const host = session.layout()) {
-      const LayoutState& state = host->state();
-      if (!state.ikEnabled || !state.motionControllersEnabled || !state.deformationsEnabled) {
-        run.fail("something stays switched off after the conversion");
-      }
-    }
+    if (session.layout() != nullptr && !session.isSwitchedBack()) run.fail("something stays switched off");
     run.judge(session.end());
   }
 }
@@ -100,10 +95,7 @@ void convertDamaged(CheckRun& run, const std::function<void(const std::string& p
   damage(rig.path);
   run.injected();
   if (const Done done = person::press(panel->find(ControlKind::Button, 0)); !done) run.fail(done.why);
-  const LayoutState& state = session.layout()->state();
-  if (!state.ikEnabled || !state.motionControllersEnabled || !state.deformationsEnabled || state.autoConfirm != 0) {
-    run.fail("something stays switched off");
-  }
+  if (!session.isSwitchedBack()) run.fail("something stays switched off");
   run.judge(session.end());
   std::error_code ignored;
   std::filesystem::remove_all(pathFromUtf8(rig.path), ignored);

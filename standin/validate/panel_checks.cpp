@@ -20,26 +20,9 @@ constexpr int kReopenings = 20;
 const char* languageName(std::uint32_t locale) { return locale == kJapanese ? "Japanese" : "English"; }
 
 // Hosts as they may be, beside the well-behaved one.
-struct Habit {
-  const char* name;
-  void (*take)(PanelOptions&);
-};
-constexpr std::array kHabits{
-    Habit{"a well-behaved host", [](PanelOptions&) {}},
-    Habit{"a host that fires events on sets", [](PanelOptions& options) { options.setsFireEvents = true; }},
-    Habit{"a host that copies texts", [](PanelOptions& options) { options.copiesTexts = true; }},
-    Habit{"a host that fires only on changes", [](PanelOptions& options) { options.repeatedChoiceFires = false; }},
-    Habit{"a host that delivers the mouse to hooks only",
-          [](PanelOptions& options) {
-            options.mouse = MouseDelivery::Hooks;
-            options.hooksNeedMouseFlag = false;
-          }},
-    Habit{"a host that delivers the mouse to controls only",
-          [](PanelOptions& options) { options.mouse = MouseDelivery::Control; }},
-    Habit{"a host that calls the resize hook on sets", [](PanelOptions& options) { options.resizeHookOnSet = true; }},
-    Habit{"a host that ends cut texts", [](PanelOptions& options) { options.terminatesTexts = true; }},
-    Habit{"a host whose controls are padded", [](PanelOptions& options) { options.rightPadding = 3; }},
-};
+constexpr const char* kHabits[]{
+    "",           "sets=fire",        "texts=copied",         "same-choice=silent", "mouse=hooks",
+    "mouse=both", "resize-hook=sets", "cut-texts=terminated", "padding=3"};
 
 // Each tool in each language, in a session of its own with its panel open.
 template <class Act>
@@ -181,9 +164,11 @@ class EveryControl {
 
 void controls(CheckRun& run) {
   std::uint64_t n = 0;
-  for (const Habit& habit : kHabits) {
-    withEachPanel(run, n, std::string(", ") + habit.name, [&](Session& session, const Tool& tool) {
-      habit.take(panels().options);
+  for (const std::string habit : kHabits) {
+    HostChoice host = run.host();
+    if (!habit.empty()) run.judge(host.take(habit));
+    withEachPanel(run, n, ", on " + host.text(), [&](Session& session, const Tool& tool) {
+      panels().options = host.options().panels;
       if (session.modeler() != nullptr) session.modeler()->select({"Tail_01", "Tail_02"});
       if (session.open(tool) == nullptr) return run.fail("opens no panel");
       EveryControl(run, session, tool).touchAll();

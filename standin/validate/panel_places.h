@@ -1,10 +1,10 @@
-// Places of controls in the tools' panels, in order of creation, and what the trips choose there. A module with other panels would
+// Places of controls in the tools' panels, in order of creation, and what is chosen there. A module with other panels would
 // not be this one.
 #pragma once
 
 #include <cstdint>
 
-namespace standin::validate {
+namespace standin {
 
 enum PropertyControl : int {
   kResetAll = 3,
@@ -43,10 +43,20 @@ enum RenamerControl : int {
   kClear = 6,
   kBaseName = 8,
   kBaseText = 9,
+  kPrefixOn = 10,
+  kPrefixText = 11,
+  kSuffixOn = 12,
+  kSuffixText = 13,
+  kRegexOn = 17,
   kColumns = 20,
+  kRows = 24,
+  kRowDigits = 25,
+  kRowStart = 26,
+  kBoneProperty = 30,
+  kOverlapCheck = 31,
   kRun = 33,
 };
 enum RenamerMode : int { kChange, kPrefix, kSuffix, kReplace, kExpression, kAdvanced };
-constexpr int kRegistered = 1;  // target
+enum RenamerTarget : int { kSelected, kRegistered, kRegisteredAndChildren, kAll };
 
-}  // namespace standin::validate
+}  // namespace standin

@@ -24,10 +24,8 @@ Rig japaneseRig(const std::string& folder) { return rigOf(makeJapaneseRig(), fol
 Session::Session(Program program, const Rig& rig, const std::string& module, const HostOptions& host) : path_(module) {
   if (program == Program::Modeler) {
     modeler_ = std::make_unique<PlayedModeler>(host);
-    const ModelerObject& object = modeler_->add(rig.object, rig.path);
-    std::vector<int> layers;
-    for (const MeshLayer& layer : object.layers()) layers.push_back(layer.number);
-    modeler_->showLayers(layers);
+    modeler_->add(rig.object, rig.path);
+    modeler_->showAllLayers();
   } else {
     layout_ = std::make_unique<PlayedLayout>(host);
     layout_->select(layout_->scene().addObject(rig.object, rig.path));
@@ -77,6 +75,11 @@ std::string Session::complaints() {
   for (; told_ < faults.size(); ++told_) text += faults[told_].function + ": " + faults[told_].what + "\n";
   if (modeler_ && modelerSession()->edits.isOpen()) text += "a mesh edit is still open\n";
   return text;
+}
+
+bool Session::isSwitchedBack() const {
+  const LayoutState& state = layout_->state();
+  return state.ikEnabled && state.motionControllersEnabled && state.deformationsEnabled && state.autoConfirm == 0;
 }
 
 bool Session::reload() {

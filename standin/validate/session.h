@@ -54,6 +54,8 @@ class Session {
 
   // Which rules of the host the module has broken since the last call; empty when none.
   std::string complaints();
+  // In Layout: what the conversion switches off is on again, and the user is asked before something is deleted.
+  bool isSwitchedBack() const;
   // Ends the module's stay and loads it afresh, in the same session. False when it cannot be loaded again.
   bool reload();
   // Ends the module's stay; complaints, also of panels without end.

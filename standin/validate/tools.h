@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <span>
 
 #include "interface/lightwave.h"
 #include "standin/core/tool_names.h"
@@ -24,9 +23,6 @@ inline constexpr Tool kProperty{kPropertyTool, "CommandSequence", Program::Model
 inline constexpr Tool kConversion{kConversionTool, "LayoutGeneric", Program::Layout, lw::kLayoutGenericVersion};
 // In the order of the server table.
 inline constexpr std::array kTools{kSelector, kRenamer, kProperty, kConversion};
-
-// Services without which a tool of the program must not run.
-std::span<const char* const> requiredServices(Program program);
 
 constexpr const char* nameOf(Program program) { return program == Program::Modeler ? "Modeler" : "Layout"; }
 

@@ -47,18 +47,6 @@ bool Traveller::wasDeceived() const {
   return std::find(kSilent.begin(), kSilent.end(), refused_) != kSilent.end();
 }
 
-void Traveller::does(const Done& done) {
-  if (!done) report_.troubles.push_back(done.why);
-}
-
-void Traveller::finds(bool isSo, const std::string& what) {
-  if (!isSo) report_.troubles.push_back("not so: " + what);
-}
-
-void Traveller::notes(const std::vector<std::string>& troubles) {
-  report_.troubles.insert(report_.troubles.end(), troubles.begin(), troubles.end());
-}
-
 void Traveller::mustHold(bool holds, const std::string& rule) {
   if (!holds) report_.broken.push_back("broken: " + rule);
 }
@@ -84,6 +72,7 @@ TripReport Traveller::finish() {
   if (const std::string complaints = notOfDeception(session_.end()); !complaints.empty()) {
     report_.broken.push_back(complaints);
   }
+  report_.troubles = troubles();
   return std::move(report_);
 }
 

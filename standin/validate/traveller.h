@@ -5,12 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "standin/panels/person.h"
+#include "standin/validate/tries.h"
 #include "standin/validate/trips.h"
 
 namespace standin::validate {
 
-class Traveller {
+class Traveller : public Tries {
  public:
   Traveller(const TripOrder& order, Program program);
 
@@ -23,9 +23,6 @@ class Traveller {
   // A call that gives nothing back was dropped: no module can know, so the panel may be wrong until it is made anew.
   bool wasDeceived() const;
 
-  void does(const Done& done);
-  void finds(bool isSo, const std::string& what);
-  void notes(const std::vector<std::string>& troubles);
   void mustHold(bool holds, const std::string& rule);
 
   // Whatever failed, the next run of the property tool shows what is stored, as a module that was never disturbed does.

@@ -58,12 +58,8 @@ void TreeUser::release(int x, int y) {
 }
 
 void TreeUser::after(const Done& done) {
-  if (!done) troubles_.push_back(done.why);
+  does(done);
   panels().paintWanted(panel_);
-}
-
-void TreeUser::finds(bool isSo, const std::string& what) {
-  if (!isSo) troubles_.push_back("not so: " + what);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------

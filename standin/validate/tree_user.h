@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "standin/modeler/modeler_host.h"
-#include "standin/panels/person.h"
+#include "standin/validate/tries.h"
 
 namespace standin::validate {
 
-class TreeUser {
+class TreeUser : public Tries {
  public:
   static constexpr int kLabel = 200;  // from the left, where every row has its label
   static constexpr int kRow = 14;
@@ -28,10 +28,6 @@ class TreeUser {
   // How often the host has had the tree painted.
   int paints() const;
 
-  void finds(bool isSo, const std::string& what);
-  // What could not be done, or was found not to be so.
-  const std::vector<std::string>& troubles() const { return troubles_; }
-
  private:
   void press(int x, int y, int qualifiers, int quick);
   void move(int x, int y);
@@ -41,7 +37,6 @@ class TreeUser {
   ModelerHost& host_;
   Panel& panel_;
   Control* tree_;
-  std::vector<std::string> troubles_;
 };
 
 // Every click counts, once, and is seen.

@@ -16,7 +16,7 @@ std::vector<std::string> tryProperty(Session& session, std::uint32_t language);
 // With the open panel, in the advanced mode.
 std::vector<std::string> tryRenamer(Session& session, std::uint32_t language, const Panel& panel);
 
-// Collects what a user meets.
+// Collects what a user could not do or found wrong.
 class Tries {
  public:
   void does(const Done& done) {
@@ -25,7 +25,10 @@ class Tries {
   void finds(bool isSo, const std::string& what) {
     if (!isSo) troubles_.push_back("not so: " + what);
   }
-  std::vector<std::string> troubles() const { return troubles_; }
+  void notes(const std::vector<std::string>& troubles) {
+    troubles_.insert(troubles_.end(), troubles.begin(), troubles.end());
+  }
+  const std::vector<std::string>& troubles() const { return troubles_; }
 
  private:
   std::vector<std::string> troubles_;

@@ -130,7 +130,7 @@ TripReport selectorTrip(const TripOrder& order) {
     user.does(person::wheel(panel, 50, 50, -1));
     user.does(person::press(panel->find(ControlKind::Button, 0)));
     panels().paintWanted(*panel);
-    for (const std::string& trouble : tree.troubles()) user.finds(false, trouble);
+    user.notes(tree.troubles());
   }
   user.end();
   user.judgeNextRun();
@@ -150,10 +150,6 @@ std::string refusedCommand(const Transcript& transcript) {
 bool isSwitch(const std::string& command) {
   constexpr std::array kSwitches{"EnableIK ", "EnableMC ", "EnableDeformations ", "AutoConfirm "};
   return std::any_of(kSwitches.begin(), kSwitches.end(), [&](const char* one) { return command.starts_with(one); });
-}
-
-bool allSwitchedBack(const LayoutState& state) {
-  return state.ikEnabled && state.motionControllersEnabled && state.deformationsEnabled && state.autoConfirm == 0;
 }
 
 // Commands that the host did not do. A switch that it refuses to take an argument for is its own affair.
@@ -193,7 +189,7 @@ TripReport conversionTrip(const TripOrder& order) {
   for (const std::string& wrong : judge.verdict()) user.finds(false, wrong);
   // A switch whose own command was refused stays where it is.
   const std::string refused = refusedCommand(host.transcript());
-  if (!isSwitch(refused)) user.mustHold(allSwitchedBack(host.state()), "everything is switched on again");
+  if (!isSwitch(refused)) user.mustHold(session.isSwitchedBack(), "everything is switched on again");
   // The next run, with nothing in its way, works. So does one with nothing selected.
   for (const std::vector<Item*>& next : {selected, std::vector<Item*>()}) {
     host.select(next);
@@ -201,7 +197,7 @@ TripReport conversionTrip(const TripOrder& order) {
     user.mustHold(panel != nullptr, "the next run of the conversion opens its panel");
     if (panel == nullptr) continue;
     user.mustHold(person::press(panel->find(ControlKind::Button, 0)).ok, "the next conversion can be run");
-    user.mustHold(allSwitchedBack(host.state()), "everything is switched on after the next conversion");
+    user.mustHold(session.isSwitchedBack(), "everything is switched on after the next conversion");
   }
   return user.finish();
 }

@@ -95,10 +95,8 @@ std::string Walk::changeObjects() {
     return "close the object";
   }
   if (host.objects().size() > 3) host.closeAll();
-  const ModelerObject& object = host.add(rig_.object, rig_.path);
-  std::vector<int> layers;
-  for (const MeshLayer& layer : object.layers()) layers.push_back(layer.number);
-  host.showLayers(layers);
+  host.add(rig_.object, rig_.path);
+  host.showAllLayers();
   return "open an object";
 }
 

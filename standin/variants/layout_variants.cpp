@@ -5,106 +5,90 @@
 #include <string>
 
 #include "standin/layout/scene.h"
-#include "standin/variants/variants.h"
+#include "standin/variants/set.h"
 
 namespace standin {
 namespace {
 
-// Sets one of Layout's options.
-template <auto Member, auto Value>
-void with(HostOptions& host) {
-  host.layout.*Member = Value;
-}
-
-using O = LayoutOptions;
-
 // --- the selection ---
 
 constexpr VariantValue kNewNull[]{
-    {"selected"}, {"left", &with<&O::newNull, NewItems::Left>}, {"added", &with<&O::newNull, NewItems::Added>}};
-constexpr VariantValue kNewNullParent[]{{"none"}, {"selected-item", &with<&O::newNullBelowSelection, true>}};
+    {"selected"}, {"left", set<&L::newNull, NewItems::Left>}, {"added", set<&L::newNull, NewItems::Added>}};
+constexpr VariantValue kNewNullParent[]{{"none"}, {"selected-item", set<&L::newNullBelowSelection, true>}};
 constexpr VariantValue kNewBones[]{{"left"},
-                                   {"selected", &with<&O::newBones, NewItems::Selected>},
-                                   {"added", &with<&O::newBones, NewItems::Added>},
-                                   {"none", &with<&O::newBones, NewItems::Cleared>}};
-constexpr VariantValue kEmptySelection[]{{"list"}, {"null", &with<&O::selectedItemsNullWhenEmpty, true>}};
-constexpr VariantValue kSelectionArray[]{{"snapshot"}, {"follows", &with<&O::selectionFollows, true>}};
+                                   {"selected", set<&L::newBones, NewItems::Selected>},
+                                   {"added", set<&L::newBones, NewItems::Added>},
+                                   {"none", set<&L::newBones, NewItems::Cleared>}};
+constexpr VariantValue kEmptySelection[]{{"list"}, {"null", set<&L::selectedItemsNullWhenEmpty, true>}};
+constexpr VariantValue kSelectionArray[]{{"snapshot"}, {"follows", set<&L::selectionFollows, true>}};
 constexpr VariantValue kSelectionOrder[]{{"as-selected"},
-                                         {"newest-first", &with<&O::selectionOrder, SelectionOrder::NewestFirst>},
-                                         {"scene", &with<&O::selectionOrder, SelectionOrder::AsInScene>}};
+                                         {"newest-first", set<&L::selectionOrder, SelectionOrder::NewestFirst>},
+                                         {"scene", set<&L::selectionOrder, SelectionOrder::AsInScene>}};
 
 // --- items ---
 
-constexpr VariantValue kTopParent[]{{"object"}, {"null", &with<&O::topBoneHasParent, false>}};
+constexpr VariantValue kTopParent[]{{"object"}, {"null", set<&L::topBoneHasParent, false>}};
 constexpr VariantValue kFileOfNull[]{{"null"},
-                                     {"empty", &with<&O::nullFileName, NoFileName::Empty>},
-                                     {"blank", &with<&O::nullFileName, NoFileName::Blank>},
-                                     {"own-name", &with<&O::nullFileName, NoFileName::OwnName>}};
-constexpr VariantValue kNoWeightMap[]{{"null"}, {"empty", &with<&O::noWeightMapIsEmpty, true>}};
-constexpr VariantValue kLayerBase[]{{"0"}, {"1", &with<&O::layerBase, 1>}};
+                                     {"empty", set<&L::nullFileName, NoFileName::Empty>},
+                                     {"blank", set<&L::nullFileName, NoFileName::Blank>},
+                                     {"own-name", set<&L::nullFileName, NoFileName::OwnName>}};
+constexpr VariantValue kNoWeightMap[]{{"null"}, {"empty", set<&L::noWeightMapIsEmpty, true>}};
+constexpr VariantValue kLayerBase[]{{"0"}, {"1", set<&L::layerBase, 1>}};
 constexpr VariantValue kCounters[]{{"all"},
-                                   {"from-2", &with<&O::counters, Counters::FromTwo>},
-                                   {"from-1", &with<&O::counters, Counters::FromOne>},
-                                   {"none", &with<&O::counters, Counters::None>}};
+                                   {"from-2", set<&L::counters, Counters::FromTwo>},
+                                   {"from-1", set<&L::counters, Counters::FromOne>},
+                                   {"none", set<&L::counters, Counters::None>}};
 constexpr VariantValue kItemNumbers[]{
-    {"apart"}, {"small", &with<&O::itemNumbers, ItemNumbers::Small>}, {"high", &with<&O::itemNumbers, ItemNumbers::High>}};
+    {"apart"}, {"small", set<&L::itemNumbers, ItemNumbers::Small>}, {"high", set<&L::itemNumbers, ItemNumbers::High>}};
 constexpr VariantValue kHighBits[]{{"pattern"},
-                                   {"zero", &with<&O::highIdBits, std::uint64_t{0}>},
-                                   {"ones", &with<&O::highIdBits, std::uint64_t{0xFFFFFFFF00000000}>}};
-constexpr VariantValue kOrderOfItems[]{{"kept"}, {"behind-parent", &with<&O::parentingReorders, true>}};
-constexpr VariantValue kParentInPlace[]{{"off"}, {"on", &with<&O::parentInPlace, true>}};
-constexpr VariantValue kChildOrigin[]{{"pivot"}, {"origin", &with<&O::childFromOrigin, true>}};
-constexpr VariantValue kPivotRotation[]{{"orientation-kept"}, {"angles-added", &with<&O::pivotRotationsAdd, true>}};
+                                   {"zero", set<&L::highIdBits, std::uint64_t{0}>},
+                                   {"ones", set<&L::highIdBits, std::uint64_t{0xFFFFFFFF00000000}>}};
+constexpr VariantValue kOrderOfItems[]{{"kept"}, {"behind-parent", set<&L::parentingReorders, true>}};
+constexpr VariantValue kParentInPlace[]{{"off"}, {"on", set<&L::parentInPlace, true>}};
+constexpr VariantValue kChildOrigin[]{{"pivot"}, {"origin", set<&L::childFromOrigin, true>}};
+constexpr VariantValue kPivotRotation[]{{"orientation-kept"}, {"angles-added", set<&L::pivotRotationsAdd, true>}};
 
 // --- SkelegonsToBones ---
 
 constexpr VariantValue kBoneOrder[]{
-    {"file"}, {"tree", &with<&O::boneOrder, BoneOrder::AsInTree>}, {"reversed", &with<&O::boneOrder, BoneOrder::Reversed>}};
+    {"file"}, {"tree", set<&L::boneOrder, BoneOrder::AsInTree>}, {"reversed", set<&L::boneOrder, BoneOrder::Reversed>}};
 // The second command for the file then finds no skelegons left.
-constexpr VariantValue kBonesOf[]{{"layer"}, {"file", [](HostOptions& host) {
-                                                host.layout.bonesOfWholeFile = true;
-                                                host.layout.noSkelegonsIsRefused = false;
-                                              }}};
-constexpr VariantValue kBoneColour[]{{"skelegon"}, {"fresh", &with<&O::bonesTakeColour, false>}};
-constexpr VariantValue kSkelegonsAfter[]{{"gone"}, {"stay", &with<&O::skelegonsStay, true>}};
-constexpr VariantValue kNoSkelegons[]{{"refused"}, {"accepted", &with<&O::noSkelegonsIsRefused, false>}};
+constexpr VariantValue kBonesOf[]{{"layer"}, {"file", set<&L::bonesOfWholeFile, true, &L::noSkelegonsIsRefused, false>}};
+constexpr VariantValue kBoneColour[]{{"skelegon"}, {"fresh", set<&L::bonesTakeColour, false>}};
+constexpr VariantValue kSkelegonsAfter[]{{"gone"}, {"stay", set<&L::skelegonsStay, true>}};
+constexpr VariantValue kNoSkelegons[]{{"refused"}, {"accepted", set<&L::noSkelegonsIsRefused, false>}};
 
 // --- channels and keys ---
 
-constexpr VariantValue kKeys[]{{"1"}, {"0", &with<&O::keysOnNewItems, 0>}, {"2", &with<&O::keysOnNewItems, 2>}};
+constexpr VariantValue kKeys[]{{"1"}, {"0", set<&L::keysOnNewItems, 0>}, {"2", set<&L::keysOnNewItems, 2>}};
 
 // Only items with more keys than one get a new key.
 template <KeyAtSameTime Answer>
-void twoKeys(HostOptions& host) {
-  host.layout.keysOnNewItems = 2;
-  host.layout.keyAtSameTime = Answer;
-}
+constexpr auto twoKeys = set<&L::keysOnNewItems, 2, &L::keyAtSameTime, Answer>;
 constexpr VariantValue kKeyAtKey[]{{"changed"},
-                                   {"changed-null", &twoKeys<KeyAtSameTime::ChangedSilently>},
-                                   {"refused-null", &twoKeys<KeyAtSameTime::Refused>},
-                                   {"second", &twoKeys<KeyAtSameTime::Second>}};
+                                   {"changed-null", twoKeys<KeyAtSameTime::ChangedSilently>},
+                                   {"refused-null", twoKeys<KeyAtSameTime::Refused>},
+                                   {"second", twoKeys<KeyAtSameTime::Second>}};
 constexpr VariantValue kKeyTolerance[]{
-    {"microsecond"},
-    {"none", [](HostOptions& host) { host.layout.keyTolerance = 0; }},
-    {"half-frame", [](HostOptions& host) { host.layout.keyTolerance = 0.5 / host.layout.framesPerSecond; }},
-};
-constexpr VariantValue kChannels[]{{"direct"}, {"nested", &with<&O::nestedChannels, true>}};
-constexpr VariantValue kDecoy[]{{"none"}, {"below", &with<&O::decoyChannel, true>}};
+    {"microsecond"}, {"none", set<&L::keyTolerance, 0>}, {"half-frame", [](HostOptions& host) {
+                                                            host.layout.keyTolerance = 0.5 / host.layout.framesPerSecond;
+                                                          }}};
+constexpr VariantValue kChannels[]{{"direct"}, {"nested", set<&L::nestedChannels, true>}};
+constexpr VariantValue kDecoy[]{{"none"}, {"below", set<&L::decoyChannel, true>}};
 constexpr VariantValue kEnvelopes[]{{"all"},
                                     {"not-of-scale", [](HostOptions& host) { host.layout.channelWithoutKeys = "Scale"; }}};
 
 // --- commands and services ---
 
 constexpr VariantValue kSwitches[]{{"set"},
-                                   {"toggle", &with<&O::switchArgument, SwitchArgument::Ignored>},
-                                   {"refuse", &with<&O::switchArgument, SwitchArgument::Refused>}};
-constexpr VariantValue kAccepted[]{{"1"}, {"2", &with<&O::acceptedResult, 2>}, {"minus-1", &with<&O::acceptedResult, -1>}};
-constexpr VariantValue kStatus[]{{"1"}, {"0", &with<&O::statusResult, 0>}};
-constexpr VariantValue kInterfaceRecord[]{{"new"}, {"one", &with<&O::oneInterfaceRecord, true>}};
-constexpr VariantValue kTimeRecord[]{{"new"}, {"one", &with<&O::oneTimeRecord, true>}};
-constexpr VariantValue kTextLife[]{{"until-next"},
-                                   {"one-place", &with<&O::textLife, TextLife::OnePlace>},
-                                   {"session", &with<&O::textLife, TextLife::Session>}};
+                                   {"toggle", set<&L::switchArgument, SwitchArgument::Ignored>},
+                                   {"refuse", set<&L::switchArgument, SwitchArgument::Refused>}};
+constexpr VariantValue kAccepted[]{{"1"}, {"2", set<&L::acceptedResult, 2>}, {"minus-1", set<&L::acceptedResult, -1>}};
+constexpr VariantValue kStatus[]{{"1"}, {"0", set<&L::statusResult, 0>}};
+constexpr VariantValue kInterfaceRecord[]{{"new"}, {"one", set<&L::oneInterfaceRecord, true>}};
+constexpr VariantValue kTimeRecord[]{{"new"}, {"one", set<&L::oneTimeRecord, true>}};
+constexpr VariantValue kTextLife[]{
+    {"until-next"}, {"one-place", set<&L::textLife, TextLife::OnePlace>}, {"session", set<&L::textLife, TextLife::Session>}};
 
 // --- another plug-in ---
 
@@ -152,10 +136,10 @@ void sortsItems(Scene& scene, std::string_view command) {
 }
 
 constexpr VariantValue kOtherPlugin[]{{"none"},
-                                      {"adds", [](HostOptions& host) { host.layout.otherPlugin = addsItems; }},
-                                      {"selects", [](HostOptions& host) { host.layout.otherPlugin = selectsItems; }},
-                                      {"renames", [](HostOptions& host) { host.layout.otherPlugin = renamesItems; }},
-                                      {"sorts", [](HostOptions& host) { host.layout.otherPlugin = sortsItems; }}};
+                                      {"adds", set<&L::otherPlugin, addsItems>},
+                                      {"selects", set<&L::otherPlugin, selectsItems>},
+                                      {"renames", set<&L::otherPlugin, renamesItems>},
+                                      {"sorts", set<&L::otherPlugin, sortsItems>}};
 
 constexpr std::array kLayoutVariants{
     HostVariant{

@@ -2,94 +2,40 @@
 #include <array>
 
 #include "interface/lightwave.h"
-#include "standin/variants/variants.h"
+#include "standin/variants/set.h"
 
 namespace standin {
 namespace {
 
-constexpr VariantValue kRefusalCode[]{
-    {"memory"},
-    {"layer", [](HostOptions& host) { host.modeler.refusalCode = lw::kEditBadLayer; }},
-    {"abort", [](HostOptions& host) { host.modeler.refusalCode = lw::kEditUserAbort; }},
-    {"arguments", [](HostOptions& host) { host.modeler.refusalCode = lw::kEditBadArguments; }},
-    {"unknown", [](HostOptions& host) { host.modeler.refusalCode = 99; }},
-    {"negative", [](HostOptions& host) { host.modeler.refusalCode = -1; }},
-};
-constexpr VariantValue kEditWithoutObject[]{
-    {"null"},
-    {"empty", [](HostOptions& host) { host.modeler.editWithoutObject = true; }},
-};
-constexpr VariantValue kOwnChanges[]{
-    {"hidden"},
-    {"seen", [](HostOptions& host) { host.modeler.editsShowOwnChanges = true; }},
-};
-constexpr VariantValue kSelectionUndo[]{
-    {"step"},
-    {"none", [](HostOptions& host) { host.modeler.selectionIsStep = false; }},
-};
-constexpr VariantValue kScanOrder[]{
-    {"layers"},
-    {"newest", [](HostOptions& host) { host.modeler.newestFirst = true; }},
-};
-constexpr VariantValue kDeletedPolygons[]{
-    {"left-out"},
-    {"flagged", [](HostOptions& host) { host.modeler.scansDeliverDeleted = true; }},
-};
-constexpr VariantValue kScanQuestions[]{
-    {"answered"},
-    {"refused", [](HostOptions& host) { host.modeler.scansRefuseQuestions = true; }},
-};
-constexpr VariantValue kRecordLife[]{
-    {"next-record"},
-    {"any-call", [](HostOptions& host) { host.modeler.recordsEndAtAnyCall = true; }},
-};
-constexpr VariantValue kIdentifiers[]{
-    {"once"},
-    {"again", [](HostOptions& host) { host.modeler.identifiersAreUsedAgain = true; }},
-};
-constexpr VariantValue kEmptyTag[]{
-    {"kept"},
-    {"removed", [](HostOptions& host) { host.modeler.emptyTagRemoves = true; }},
-};
-constexpr VariantValue kMissingTag[]{
-    {"null"},
-    {"empty", [](HostOptions& host) { host.modeler.missingTagIsEmpty = true; }},
-};
-constexpr VariantValue kRepeatedTag[]{
-    {"last"},
-    {"first", [](HostOptions& host) { host.modeler.firstTagCounts = true; }},
-};
-constexpr VariantValue kUnnamedLayer[]{
-    {"null"},
-    {"empty", [](HostOptions& host) { host.modeler.unnamedLayerIsEmpty = true; }},
-};
-constexpr VariantValue kLayerSwitch[]{
-    {"deselects"},
-    {"keeps", [](HostOptions& host) { host.modeler.layerSwitchDeselects = false; }},
-};
-constexpr VariantValue kUnnamedMap[]{
-    {"null"},
-    {"empty", [](HostOptions& host) { host.modeler.unnamedMapIsEmpty = true; }},
-};
-constexpr VariantValue kMapOwner[]{
-    {"program"},
-    {"object", [](HostOptions& host) { host.modeler.mapsAreTheObjects = true; }},
-};
-constexpr VariantValue kOtherMaps[]{
-    {"none"},
-    {"named-alike", [](HostOptions& host) { host.modeler.otherMapsBearNames = true; }},
-};
+constexpr VariantValue kRefusalCode[]{{"memory"},
+                                      {"layer", set<&M::refusalCode, lw::kEditBadLayer>},
+                                      {"abort", set<&M::refusalCode, lw::kEditUserAbort>},
+                                      {"arguments", set<&M::refusalCode, lw::kEditBadArguments>},
+                                      {"unknown", set<&M::refusalCode, 99>},
+                                      {"negative", set<&M::refusalCode, -1>}};
+constexpr VariantValue kEditWithoutObject[]{{"null"}, {"empty", set<&M::editWithoutObject, true>}};
+constexpr VariantValue kOwnChanges[]{{"hidden"}, {"seen", set<&M::editsShowOwnChanges, true>}};
+constexpr VariantValue kSelectionUndo[]{{"step"}, {"none", set<&M::selectionIsStep, false>}};
+constexpr VariantValue kScanOrder[]{{"layers"}, {"newest", set<&M::newestFirst, true>}};
+constexpr VariantValue kDeletedPolygons[]{{"left-out"}, {"flagged", set<&M::scansDeliverDeleted, true>}};
+constexpr VariantValue kScanQuestions[]{{"answered"}, {"refused", set<&M::scansRefuseQuestions, true>}};
+constexpr VariantValue kRecordLife[]{{"next-record"}, {"any-call", set<&M::recordsEndAtAnyCall, true>}};
+constexpr VariantValue kIdentifiers[]{{"once"}, {"again", set<&M::identifiersAreUsedAgain, true>}};
+constexpr VariantValue kEmptyTag[]{{"kept"}, {"removed", set<&M::emptyTagRemoves, true>}};
+constexpr VariantValue kMissingTag[]{{"null"}, {"empty", set<&M::missingTagIsEmpty, true>}};
+constexpr VariantValue kRepeatedTag[]{{"last"}, {"first", set<&M::firstTagCounts, true>}};
+constexpr VariantValue kUnnamedLayer[]{{"null"}, {"empty", set<&M::unnamedLayerIsEmpty, true>}};
+constexpr VariantValue kLayerSwitch[]{{"deselects"}, {"keeps", set<&M::layerSwitchDeselects, false>}};
+constexpr VariantValue kUnnamedMap[]{{"null"}, {"empty", set<&M::unnamedMapIsEmpty, true>}};
+constexpr VariantValue kMapOwner[]{{"program"}, {"object", set<&M::mapsAreTheObjects, true>}};
+constexpr VariantValue kOtherMaps[]{{"none"}, {"named-alike", set<&M::otherMapsBearNames, true>}};
 
-void neverSaved(HostOptions& host, UnsavedFileName answer) {
-  host.modeler.objectsAreUnsaved = true;
-  host.modeler.unsavedFileName = answer;
-}
-constexpr VariantValue kObjectName[]{
-    {"file"},
-    {"reference", [](HostOptions& host) { neverSaved(host, UnsavedFileName::Reference); }},
-    {"unsaved-null", [](HostOptions& host) { neverSaved(host, UnsavedFileName::Null); }},
-    {"unsaved-empty", [](HostOptions& host) { neverSaved(host, UnsavedFileName::Empty); }},
-};
+template <UnsavedFileName Answer>
+constexpr auto neverSaved = set<&M::objectsAreUnsaved, true, &M::unsavedFileName, Answer>;
+constexpr VariantValue kObjectName[]{{"file"},
+                                     {"reference", neverSaved<UnsavedFileName::Reference>},
+                                     {"unsaved-null", neverSaved<UnsavedFileName::Null>},
+                                     {"unsaved-empty", neverSaved<UnsavedFileName::Empty>}};
 
 constexpr std::array kModelerVariants{
     HostVariant{"refusal-code", "With which code a refused scan, tag or selection answers",

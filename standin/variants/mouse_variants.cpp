@@ -1,85 +1,33 @@
 // What is open about the mouse over a panel, and about who paints when.
 #include <array>
 
-#include "standin/variants/variants.h"
+#include "standin/variants/set.h"
 
 namespace standin {
 namespace {
 
-void hooksOnly(HostOptions& host) {
-  host.panels.mouse = MouseDelivery::Hooks;
-  host.panels.hooksNeedMouseFlag = false;
-}
-void eventOnly(HostOptions& host) { host.panels.mouse = MouseDelivery::Control; }
-
 constexpr VariantValue kMouse[]{
     {"event"},
-    {"event-buttons",
-     [](HostOptions& host) {
-       eventOnly(host);
-       host.panels.eventMouse = EventMouse::Buttons;
-     }},
-    {"event-presses",
-     [](HostOptions& host) {
-       eventOnly(host);
-       host.panels.eventMouse = EventMouse::Presses;
-     }},
-    {"hooks", hooksOnly},
-    {"both", [](HostOptions& host) { host.panels.hooksNeedMouseFlag = false; }},
-    {"both-presses",
-     [](HostOptions& host) {
-       host.panels.hooksNeedMouseFlag = false;
-       host.panels.eventMouse = EventMouse::Presses;
-     }},
-    {"hooks-beside",
-     [](HostOptions& host) {
-       host.panels.hooksNeedMouseFlag = false;
-       host.panels.hooksBesideControlsOnly = true;
-     }},
-};
-constexpr VariantValue kFirst[]{
-    {"hooks"},
-    {"event", [](HostOptions& host) { host.panels.eventBeforeHooks = true; }},
-};
-constexpr VariantValue kDragHook[]{
-    {"motion"},
-    {"button", [](HostOptions& host) { host.panels.dragHook = DragHook::Button; }},
-};
-constexpr VariantValue kClicks[]{
-    {"place"},
-    {"time", [](HostOptions& host) { host.panels.clickCount = ClickCount::ByTime; }},
-    {"constant", [](HostOptions& host) { host.panels.clickCount = ClickCount::Constant; }},
-    {"never", [](HostOptions& host) { host.panels.clickCount = ClickCount::Never; }},
-};
-constexpr VariantValue kQualifiers[]{
-    {"last"},
-    {"told", [](HostOptions& host) { host.panels.qualifiersAreOfTold = true; }},
-};
-constexpr VariantValue kPosition[]{
-    {"panel"},
-    {"control", [](HostOptions& host) { host.panels.mouseFromControl = true; }},
-};
-constexpr VariantValue kWheel[]{
-    {"up"},
-    {"down", [](HostOptions& host) { host.panels.wheelCountsDown = true; }},
-};
+    {"event-buttons", set<&P::mouse, MouseDelivery::Control, &P::eventMouse, EventMouse::Buttons>},
+    {"event-presses", set<&P::mouse, MouseDelivery::Control, &P::eventMouse, EventMouse::Presses>},
+    {"hooks", set<&P::mouse, MouseDelivery::Hooks, &P::hooksNeedMouseFlag, false>},
+    {"both", set<&P::hooksNeedMouseFlag, false>},
+    {"both-presses", set<&P::hooksNeedMouseFlag, false, &P::eventMouse, EventMouse::Presses>},
+    {"hooks-beside", set<&P::hooksNeedMouseFlag, false, &P::hooksBesideControlsOnly, true>}};
+constexpr VariantValue kFirst[]{{"hooks"}, {"event", set<&P::eventBeforeHooks, true>}};
+constexpr VariantValue kDragHook[]{{"motion"}, {"button", set<&P::dragHook, DragHook::Button>}};
+constexpr VariantValue kClicks[]{{"place"},
+                                 {"time", set<&P::clickCount, ClickCount::ByTime>},
+                                 {"constant", set<&P::clickCount, ClickCount::Constant>},
+                                 {"never", set<&P::clickCount, ClickCount::Never>}};
+constexpr VariantValue kQualifiers[]{{"last"}, {"told", set<&P::qualifiersAreOfTold, true>}};
+constexpr VariantValue kPosition[]{{"panel"}, {"control", set<&P::mouseFromControl, true>}};
+constexpr VariantValue kWheel[]{{"up"}, {"down", set<&P::wheelCountsDown, true>}};
 constexpr VariantValue kPainter[]{
-    {"draw"},
-    {"event", [](HostOptions& host) { host.panels.painter = Painter::EventCallback; }},
-    {"both", [](HostOptions& host) { host.panels.painter = Painter::Both; }},
-};
-constexpr VariantValue kPaintTime[]{
-    {"later"},
-    {"within", [](HostOptions& host) { host.panels.paintsAtOnce = true; }},
-};
-constexpr VariantValue kContext[]{
-    {"callbacks"},
-    {"hooks", [](HostOptions& host) { host.panels.contextInHooks = true; }},
-};
-constexpr VariantValue kOpenResize[]{
-    {"silent"},
-    {"told", [](HostOptions& host) { host.panels.resizeHookOnOpen = true; }},
-};
+    {"draw"}, {"event", set<&P::painter, Painter::EventCallback>}, {"both", set<&P::painter, Painter::Both>}};
+constexpr VariantValue kPaintTime[]{{"later"}, {"within", set<&P::paintsAtOnce, true>}};
+constexpr VariantValue kContext[]{{"callbacks"}, {"hooks", set<&P::contextInHooks, true>}};
+constexpr VariantValue kOpenResize[]{{"silent"}, {"told", set<&P::resizeHookOnOpen, true>}};
 
 constexpr std::array kMouseVariants{
     HostVariant{

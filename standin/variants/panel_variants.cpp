@@ -1,131 +1,48 @@
 // What is open about the panel services.
 #include <array>
 
-#include "standin/variants/variants.h"
+#include "standin/variants/set.h"
 
 namespace standin {
 namespace {
 
-constexpr VariantValue kSetsFire[]{
-    {"silent"},
-    {"fire", [](HostOptions& host) { host.panels.setsFireEvents = true; }},
-};
+constexpr VariantValue kSetsFire[]{{"silent"}, {"fire", set<&P::setsFireEvents, true>}};
 constexpr VariantValue kOpenAnswer[]{
-    {"1"},
-    {"0", [](HostOptions& host) { host.panels.openAnswer = 0; }},
-    {"minus-1", [](HostOptions& host) { host.panels.openAnswer = -1; }},
-    {"any", [](HostOptions& host) { host.panels.openAnswer = 0x5A5A5A5A; }},
-};
-constexpr VariantValue kOpenHook[]{
-    {"shown"},
-    {"before", [](HostOptions& host) { host.panels.openHook = OpenHook::Before; }},
-    {"later", [](HostOptions& host) { host.panels.openHook = OpenHook::Later; }},
-    {"later-after-0",
-     [](HostOptions& host) {
-       host.panels.openHook = OpenHook::Later;
-       host.panels.openAnswer = 0;
-     }},
-};
-constexpr VariantValue kCloseHook[]{
-    {"always"},
-    {"user", [](HostOptions& host) { host.panels.closeCallsHook = false; }},
-};
-constexpr VariantValue kPanelSize[]{
-    {"resizable"},
-    {"always", [](HostOptions& host) { host.panels.sizeNeedsResizable = false; }},
-};
-constexpr VariantValue kResizeHook[]{
-    {"user"},
-    {"sets", [](HostOptions& host) { host.panels.resizeHookOnSet = true; }},
-};
-constexpr VariantValue kRepeatedChoice[]{
-    {"fires"},
-    {"silent", [](HostOptions& host) { host.panels.repeatedChoiceFires = false; }},
-};
-constexpr VariantValue kOutsideIndex[]{
-    {"kept"},
-    {"clamped", [](HostOptions& host) { host.panels.outsideIndex = OutsideIndex::Clamped; }},
-    {"not-negative", [](HostOptions& host) { host.panels.outsideIndex = OutsideIndex::NotNegative; }},
-    {"ignored", [](HostOptions& host) { host.panels.outsideIndex = OutsideIndex::Ignored; }},
-};
+    {"1"}, {"0", set<&P::openAnswer, 0>}, {"minus-1", set<&P::openAnswer, -1>}, {"any", set<&P::openAnswer, 0x5A5A5A5A>}};
+constexpr VariantValue kOpenHook[]{{"shown"},
+                                   {"before", set<&P::openHook, OpenHook::Before>},
+                                   {"later", set<&P::openHook, OpenHook::Later>},
+                                   {"later-after-0", set<&P::openHook, OpenHook::Later, &P::openAnswer, 0>}};
+constexpr VariantValue kCloseHook[]{{"always"}, {"user", set<&P::closeCallsHook, false>}};
+constexpr VariantValue kPanelSize[]{{"resizable"}, {"always", set<&P::sizeNeedsResizable, false>}};
+constexpr VariantValue kResizeHook[]{{"user"}, {"sets", set<&P::resizeHookOnSet, true>}};
+constexpr VariantValue kRepeatedChoice[]{{"fires"}, {"silent", set<&P::repeatedChoiceFires, false>}};
+constexpr VariantValue kOutsideIndex[]{{"kept"},
+                                       {"clamped", set<&P::outsideIndex, OutsideIndex::Clamped>},
+                                       {"not-negative", set<&P::outsideIndex, OutsideIndex::NotNegative>},
+                                       {"ignored", set<&P::outsideIndex, OutsideIndex::Ignored>}};
 // A host of both habits: where an index is clamped, only a change of the choice tells.
 constexpr VariantValue kMenu[]{
     {"free"},
-    {"clamped-and-silent",
-     [](HostOptions& host) {
-       host.panels.outsideIndex = OutsideIndex::Clamped;
-       host.panels.repeatedChoiceFires = false;
-     }},
-    {"ignored-and-silent",
-     [](HostOptions& host) {
-       host.panels.outsideIndex = OutsideIndex::Ignored;
-       host.panels.repeatedChoiceFires = false;
-     }},
-    {"not-negative-and-silent",
-     [](HostOptions& host) {
-       host.panels.outsideIndex = OutsideIndex::NotNegative;
-       host.panels.repeatedChoiceFires = false;
-     }},
-};
-constexpr VariantValue kPopupFunctions[]{
-    {"menu"},
-    {"anytime", [](HostOptions& host) { host.panels.asksPopupsAnytime = true; }},
-};
-constexpr VariantValue kErasing[]{
-    {"covers"},
-    {"spares", [](HostOptions& host) { host.panels.eraseCovers = false; }},
-};
-constexpr VariantValue kMoving[]{
-    {"seen"},
-    {"drawn", [](HostOptions& host) { host.panels.movesRepaint = false; }},
-};
-constexpr VariantValue kSetting[]{
-    {"seen"},
-    {"drawn", [](HostOptions& host) { host.panels.setsRepaint = false; }},
-};
-constexpr VariantValue kEarlyDrawing[]{
-    {"holds"},
-    {"lost", [](HostOptions& host) { host.panels.drawBeforeOpenHolds = false; }},
-};
-constexpr VariantValue kTyping[]{
-    {"at-the-end"},
-    {"letters", [](HostOptions& host) { host.panels.firesAtEachLetter = true; }},
-};
-constexpr VariantValue kRange[]{
-    {"whole-numbers"},
-    {"all-typed", [](HostOptions& host) { host.panels.limitsTypedValues = true; }},
-    {"all", [](HostOptions& host) { host.panels.limitsTypedValues = host.panels.limitsSetValues = true; }},
-    {"none", [](HostOptions& host) { host.panels.slidersLimitTyped = false; }},
-};
-constexpr VariantValue kRangeUnit[]{
-    {"shown"},
-    {"value",
-     [](HostOptions& host) {
-       host.panels.rangesInValueUnit = true;
-       host.panels.limitsTypedValues = true;
-     }},
-};
-constexpr VariantValue kTextKeeping[]{
-    {"read"},
-    {"copied", [](HostOptions& host) { host.panels.copiesTexts = true; }},
-};
-constexpr VariantValue kCutTexts[]{
-    {"full"},
-    {"terminated", [](HostOptions& host) { host.panels.terminatesTexts = true; }},
-};
-constexpr VariantValue kFieldLength[]{
-    {"any"},
-    {"255", [](HostOptions& host) { host.panels.longestText = 255; }},
-};
-constexpr VariantValue kPadding[]{
-    {"0"},
-    {"3", [](HostOptions& host) { host.panels.rightPadding = 3; }},
-};
-constexpr VariantValue kRows[]{
-    {"20"},
-    {"18", [](HostOptions& host) { host.panels.rowHeight = 18; }},
-    {"22", [](HostOptions& host) { host.panels.rowHeight = 22; }},
-};
+    {"clamped-and-silent", set<&P::outsideIndex, OutsideIndex::Clamped, &P::repeatedChoiceFires, false>},
+    {"ignored-and-silent", set<&P::outsideIndex, OutsideIndex::Ignored, &P::repeatedChoiceFires, false>},
+    {"not-negative-and-silent", set<&P::outsideIndex, OutsideIndex::NotNegative, &P::repeatedChoiceFires, false>}};
+constexpr VariantValue kPopupFunctions[]{{"menu"}, {"anytime", set<&P::asksPopupsAnytime, true>}};
+constexpr VariantValue kErasing[]{{"covers"}, {"spares", set<&P::eraseCovers, false>}};
+constexpr VariantValue kMoving[]{{"seen"}, {"drawn", set<&P::movesRepaint, false>}};
+constexpr VariantValue kSetting[]{{"seen"}, {"drawn", set<&P::setsRepaint, false>}};
+constexpr VariantValue kEarlyDrawing[]{{"holds"}, {"lost", set<&P::drawBeforeOpenHolds, false>}};
+constexpr VariantValue kTyping[]{{"at-the-end"}, {"letters", set<&P::firesAtEachLetter, true>}};
+constexpr VariantValue kRange[]{{"whole-numbers"},
+                                {"all-typed", set<&P::limitsTypedValues, true>},
+                                {"all", set<&P::limitsTypedValues, true, &P::limitsSetValues, true>},
+                                {"none", set<&P::slidersLimitTyped, false>}};
+constexpr VariantValue kRangeUnit[]{{"shown"}, {"value", set<&P::rangesInValueUnit, true, &P::limitsTypedValues, true>}};
+constexpr VariantValue kTextKeeping[]{{"read"}, {"copied", set<&P::copiesTexts, true>}};
+constexpr VariantValue kCutTexts[]{{"full"}, {"terminated", set<&P::terminatesTexts, true>}};
+constexpr VariantValue kFieldLength[]{{"any"}, {"255", set<&P::longestText, 255>}};
+constexpr VariantValue kPadding[]{{"0"}, {"3", set<&P::rightPadding, 3>}};
+constexpr VariantValue kRows[]{{"20"}, {"18", set<&P::rowHeight, 18>}, {"22", set<&P::rowHeight, 22>}};
 
 constexpr std::array kPanelVariants{
     HostVariant{"sets", "Whether setting a value fires the control's event",

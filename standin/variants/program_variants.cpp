@@ -1,20 +1,14 @@
 // What is open about the process that the module is loaded into, whichever program it is.
 #include <array>
 
-#include "standin/variants/variants.h"
+#include "standin/variants/set.h"
 
 namespace standin {
 namespace {
 
-constexpr VariantValue kLocale[]{
-    {"c"},
-    {"comma", [](HostOptions& host) { host.program.commaLocale = true; }},
-};
+constexpr VariantValue kLocale[]{{"c"}, {"comma", set<&G::commaLocale, true>}};
 
-constexpr VariantValue kServiceTables[]{
-    {"one"},
-    {"copies", [](HostOptions& host) { host.program.copiedTables = true; }},
-};
+constexpr VariantValue kServiceTables[]{{"one"}, {"copies", set<&G::copiedTables, true>}};
 
 constexpr std::array kProgramVariants{
     HostVariant{"locale", "How numbers are formatted in the host's process",

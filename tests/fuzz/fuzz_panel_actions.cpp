@@ -32,10 +32,8 @@ ModelerHost& host() {
 
 void loadObject() {
   host().closeAll();
-  const standin::ModelerObject& object = host().add(standin::makeJapaneseRig(), "rig.lwo");
-  std::vector<int> layers;
-  for (const standin::MeshLayer& layer : object.layers()) layers.push_back(layer.number);
-  host().showLayers(layers);
+  host().add(standin::makeJapaneseRig(), "rig.lwo");
+  host().showAllLayers();
 }
 
 void openPanels() {

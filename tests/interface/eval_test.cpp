@@ -8,6 +8,7 @@
 
 #include "host/lwtool2_globals.h"
 #include "standin/core/globals.h"
+#include "standin/core/service_names.h"
 #include "standin/core/witness.h"
 
 namespace lw {
@@ -32,17 +33,8 @@ class Host : public testing::Test {
   void offerAll() {
     standin::witness().reset();
     standin::globals().reset();
-    standin::globals().offerPresence({"LW Bone Info 7",       "LW Fog Info",           "LW Camera Info 10",
-                                      "LW Interface Info 8",  "LW Item Info 9",        "LW Object Info 14",
-                                      "LW Scene Info 12",     "LW Time Info",          "LWM: Dynamic Monitor 2",
-                                      "LWM: State Query 5",   "Animation Envelopes 4", "Channel Info 3",
-                                      "Color Picker",         "ContextMenuServices 2", "Directory Info 2",
-                                      "File Request",         "File Request 3",        "Image Utility 6",
-                                      "LW Image List 9",      "Info Messages 4",       "Instance Update",
-                                      "LWPanelServices 3",    "RasterServices 4",      "Scene Objects 9",
-                                      "LWShelfFuncs 2",       "Surface Functions 6",   "LWXPanel 3",
-                                      "LSUniversalRequester", "LW Communication Ring", "NodeInputFuncs 5",
-                                      "NodeOutputFuncs 4",    "NodeFuncs 3",           "LW Light Info 6"});
+    standin::globals().offerPresence(standin::modelerServices());
+    standin::globals().offerPresence(standin::layoutServices());
     standin::globals().offerNumber("Locale Info", 0x409);
     standin::globals().offer("LW Command Interface", reinterpret_cast<void*>(&layoutCommandOfHost));
     received.clear();

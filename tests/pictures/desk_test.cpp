@@ -19,7 +19,7 @@ class Desk : public testing::Test {
  protected:
   void SetUp() override {
     host.add(makeDemoRig(), "lizard.lwo");
-    host.showLayers({0, 1});
+    host.showAllLayers();
     ASSERT_EQ("", module.load(modulePath()));
     front.emplace();
     driver.emplace(*front);

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "modeler/selector/tree_drawing.h"
+#include "objectfile/file_bytes.h"
 #include "standin/core/program_folder.h"
 #include "standin/windows/gl_state.h"
 #include "tests/pictures/gl_window.h"
@@ -45,7 +46,7 @@ inline int countOf(const standin::Picture& picture, Pixel colour) {
 inline void save(const standin::Picture& picture, const std::string& name) {
   const std::string folder = standin::programFolder() + "/../pictures";
   std::error_code error;
-  std::filesystem::create_directories(std::filesystem::path(std::u8string(folder.begin(), folder.end())), error);
+  std::filesystem::create_directories(standin::pathFromUtf8(folder), error);
   EXPECT_TRUE(standin::savePng(picture, folder + "/" + name + ".png")) << name;
 }
 

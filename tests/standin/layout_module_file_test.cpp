@@ -1,6 +1,5 @@
-#include <filesystem>
-#include <fstream>
-
+#include "objectfile/file_bytes.h"
+#include "objectfile/temporary_folder.h"
 #include "standin/core/module_file.h"
 #include "tests/standin/layout_fixture.h"
 
@@ -71,12 +70,10 @@ TEST(ModuleFile, ThatIsMissingIsSaidSo) {
 }
 
 TEST(ModuleFile, ThatIsNoLibraryCannotBeLoaded) {
-  const std::filesystem::path path = std::filesystem::temp_directory_path() / "standin_no_library.p";
-  std::ofstream(path) << "not a library";
+  const TemporaryFolder folder;
+  ASSERT_FALSE(writeFileBytes(folder.file("no_library.p"), "not a library"));
   ModuleFile module;
-  const std::u8string text = path.u8string();
-  EXPECT_NE(module.load(std::string(text.begin(), text.end())).find("cannot be loaded"), std::string::npos);
-  std::filesystem::remove(path);
+  EXPECT_NE(module.load(folder.file("no_library.p")).find("cannot be loaded"), std::string::npos);
 }
 
 TEST(ModuleFile, WithoutADescriptorIsSaidSo) {

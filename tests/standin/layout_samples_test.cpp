@@ -1,21 +1,9 @@
 // Real object files, loaded as Layout loads them. The samples stand beside the project, not in it.
-#include <cstdlib>
-#include <filesystem>
-
 #include "tests/standin/layout_fixture.h"
+#include "tests/standin/samples.h"
 
 namespace standin {
 namespace {
-
-std::string utf8(const std::filesystem::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
-
-std::filesystem::path samples() {
-  if (const char* folder = std::getenv("VARNEL_SAMPLES")) return folder;
-  return std::filesystem::path(VARNEL_REPOSITORY).parent_path() / "shared" / "samples";
-}
 
 // The objects' skelegons become bones, as a person would do it.
 std::size_t convert(LayoutSession& session, const std::vector<Item*>& objects) {
@@ -48,11 +36,11 @@ INSTANTIATE_TEST_SUITE_P(Files, SampleRig,
                          [](const auto& info) { return "File" + std::to_string(info.index); });
 
 TEST_P(SampleRig, IsLoadedAndGetsItsBones) {
-  const std::filesystem::path path = samples() / "rigs" / GetParam().file;
-  if (!std::filesystem::exists(path)) GTEST_SKIP() << "there is no sample " << utf8(path);
+  const std::filesystem::path path = samplesFolder() / "rigs" / GetParam().file;
+  if (!std::filesystem::exists(path)) GTEST_SKIP() << "there is no sample " << utf8Of(path);
   LayoutSession session;
   std::string why;
-  const std::vector<Item*> objects = session.host.loadObject(utf8(path), &why);
+  const std::vector<Item*> objects = session.host.loadObject(utf8Of(path), &why);
   EXPECT_EQ(why, "");
   std::vector<std::string> names;
   names.reserve(objects.size());

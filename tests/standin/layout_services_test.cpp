@@ -11,21 +11,6 @@ namespace {
 // ---------------------------------------------------------------------------------------------------------------------
 // Globals
 
-TEST(LayoutGlobals, OfEveryNameAreThere) {
-  LayoutSession session;
-  for (const char* name : {"LW Bone Info 7",        "LW Fog Info",           "LW Camera Info 10", "LW Interface Info 8",
-                           "LW Item Info 9",        "LW Object Info 14",     "LW Scene Info 12",  "LW Time Info",
-                           "LW Command Interface",  "Animation Envelopes 4", "Channel Info 3",    "Color Picker",
-                           "ContextMenuServices 2", "Directory Info 2",      "File Request",      "File Request 3",
-                           "Image Utility 6",       "LW Image List 9",       "Info Messages 4",   "Instance Update",
-                           "Locale Info",           "LWPanelServices 3",     "RasterServices 4",  "Scene Objects 9",
-                           "LWShelfFuncs 2",        "Surface Functions 6",   "LWXPanel 3",        "LSUniversalRequester",
-                           "LW Communication Ring", "NodeInputFuncs 5",      "NodeOutputFuncs 4", "NodeFuncs 3",
-                           "LW Light Info 6",       "Product Info"}) {
-    EXPECT_NE(Globals::lookup()(name, lw::kUseTransient), nullptr) << name;
-  }
-}
-
 TEST(LayoutGlobals, CanBeWithheld) {
   LayoutSession session;
   globals().withhold("LW Item Info 9");

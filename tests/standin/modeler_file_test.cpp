@@ -6,6 +6,7 @@
 #include "objectfile/chunk_records.h"
 #include "objectfile/file_bytes.h"
 #include "objectfile/sample_rigs.h"
+#include "objectfile/temporary_folder.h"
 #include "tests/standin/modeler_fixture.h"
 
 namespace standin {
@@ -13,18 +14,7 @@ namespace {
 
 class ModelerFiles : public testing::Test {
  protected:
-  ModelerFiles() { std::filesystem::create_directories(folder_); }
-  ~ModelerFiles() override {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
-  }
-  ModelerFiles(const ModelerFiles&) = delete;
-  ModelerFiles& operator=(const ModelerFiles&) = delete;
-
-  std::string path(const std::string& name) const {
-    const std::u8string text = (folder_ / pathFromUtf8(name)).u8string();
-    return {text.begin(), text.end()};
-  }
+  std::string path(const std::string& name) const { return folder_.file(name); }
 
   ModelerObject& opened(const std::string& file) {
     const auto object = host.open(file);
@@ -35,8 +25,7 @@ class ModelerFiles : public testing::Test {
   ModelerHost host;
 
  private:
-  std::filesystem::path folder_ = std::filesystem::temp_directory_path() /
-                                  (std::string("varnel-") + testing::UnitTest::GetInstance()->current_test_info()->name());
+  TemporaryFolder folder_;
 };
 
 TEST_F(ModelerFiles, AnObjectSavedUnchangedIsTheSameByteForByte) {

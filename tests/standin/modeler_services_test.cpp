@@ -47,37 +47,8 @@ TEST_F(ModelerServices, NumbersOfTheHostCanBeSetAtAnyTime) {
   EXPECT_EQ(number("Locale Info"), 0x411U);
 }
 
-TEST_F(ModelerServices, EveryServiceThatModelerModeNeedsIsThere) {
-  for (const char* name : {"LWM: Dynamic Monitor 2",
-                           "LWM: State Query 5",
-                           "Animation Envelopes 4",
-                           "Channel Info 3",
-                           "Color Picker",
-                           "ContextMenuServices 2",
-                           "Directory Info 2",
-                           "File Request",
-                           "File Request 3",
-                           "Image Utility 6",
-                           "LW Image List 9",
-                           "Info Messages 4",
-                           "Instance Update",
-                           "Locale Info",
-                           "LWPanelServices 3",
-                           "RasterServices 4",
-                           "Scene Objects 9",
-                           "LWShelfFuncs 2",
-                           "Surface Functions 6",
-                           "LWXPanel 3",
-                           "LSUniversalRequester",
-                           "LW Communication Ring",
-                           "NodeInputFuncs 5",
-                           "NodeOutputFuncs 4",
-                           "NodeFuncs 3",
-                           "LW Light Info 6",
-                           "Product Info"}) {
-    EXPECT_NE(Globals::lookup()(name, lw::kUseTransient), nullptr) << name;
-  }
-  EXPECT_EQ(Globals::lookup()("LW Command Interface", lw::kUseTransient), nullptr) << "that is Layout's";
+TEST_F(ModelerServices, AServiceOfLayoutIsNotThere) {
+  EXPECT_EQ(Globals::lookup()("LW Command Interface", lw::kUseTransient), nullptr);
 }
 
 TEST_F(ModelerServices, ANewHostBeginsANewSession) {

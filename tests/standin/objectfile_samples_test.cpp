@@ -2,44 +2,20 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
 
 #include "objectfile/file_bytes.h"
 #include "objectfile/object_file.h"
+#include "tests/standin/samples.h"
 
 namespace standin {
 namespace {
 
-namespace fs = std::filesystem;
+class SampleObjects : public OnSamples {};
 
-fs::path samples() {
-  const char* given = std::getenv("VARNEL_SAMPLES");
-  return given != nullptr ? fs::path(given) : fs::path(VARNEL_REPOSITORY) / ".." / "shared" / "samples";
-}
-
-std::string utf8(const fs::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
-
-std::vector<fs::path> objectsIn(const std::string& folder) {
-  std::vector<fs::path> paths;
-  for (const auto& entry : fs::directory_iterator(samples() / folder)) {
-    if (entry.path().extension() == ".lwo") paths.push_back(entry.path());
-  }
-  std::sort(paths.begin(), paths.end());
-  return paths;
-}
-
-class SampleObjects : public testing::Test {
- protected:
-  void SetUp() override {
-    if (!fs::exists(samples())) GTEST_SKIP() << "the folder of sample objects is missing: " << samples();
-  }
-};
+// The one object of the form before LWO2.
+bool isOlder(const std::string& path) { return path.ends_with("old-format-lwob.lwo"); }
 
 // A tag as the facts name it: "BONE", or "sg1+13" for a setting.
 std::uint32_t tagType(const std::string& name) {
@@ -78,13 +54,13 @@ void expectLayer(const ObjectLayer& layer, const nlohmann::json& facts) {
 }
 
 TEST_F(SampleObjects, RigsHoldWhatTheirFactsSay) {
-  const auto paths = objectsIn("rigs");
+  const auto paths = sampleObjects("rigs");
   ASSERT_EQ(paths.size(), 8U);
-  for (const fs::path& path : paths) {
-    SCOPED_TRACE(utf8(path.filename()));
-    const auto object = readObject(utf8(path));
+  for (const std::string& path : paths) {
+    SCOPED_TRACE(path);
+    const auto object = readObject(path);
     ASSERT_TRUE(object) << object.why();
-    std::ifstream stream(fs::path(path).replace_extension(".facts.json"));
+    std::ifstream stream(pathFromUtf8(path).replace_extension(".facts.json"));
     const auto facts = nlohmann::json::parse(stream);
     EXPECT_EQ(chunkName(object->form), facts["form"].get<std::string>());
     ASSERT_EQ(object->layers.size(), facts["layers"].size());
@@ -93,14 +69,13 @@ TEST_F(SampleObjects, RigsHoldWhatTheirFactsSay) {
 }
 
 TEST_F(SampleObjects, MeshesOfOtherProgramsAreReadButNotTheOlderForm) {
-  const auto paths = objectsIn("meshes");
+  const auto paths = sampleObjects("meshes");
   ASSERT_EQ(paths.size(), 9U);
-  for (const fs::path& path : paths) {
-    SCOPED_TRACE(utf8(path.filename()));
-    const auto object = readObject(utf8(path));
-    const bool older = path.filename() == "old-format-lwob.lwo";
-    EXPECT_EQ(static_cast<bool>(object), !older) << object.why();
-    if (older) {
+  for (const std::string& path : paths) {
+    SCOPED_TRACE(path);
+    const auto object = readObject(path);
+    EXPECT_EQ(static_cast<bool>(object), !isOlder(path)) << object.why();
+    if (isOlder(path)) {
       EXPECT_NE(object.why().find("LWOB"), std::string::npos);
     } else {
       ASSERT_FALSE(object->layers.empty());
@@ -112,12 +87,12 @@ TEST_F(SampleObjects, MeshesOfOtherProgramsAreReadButNotTheOlderForm) {
 
 TEST_F(SampleObjects, OpenedAndSavedUnchangedIsTheSameByteForByte) {
   for (const char* folder : {"rigs", "meshes"}) {
-    for (const fs::path& path : objectsIn(folder)) {
-      SCOPED_TRACE(utf8(path.filename()));
-      const auto bytes = readFileBytes(utf8(path));
+    for (const std::string& path : sampleObjects(folder)) {
+      SCOPED_TRACE(path);
+      const auto bytes = readFileBytes(path);
       ASSERT_TRUE(bytes) << bytes.why();
       const auto object = parseObject(*bytes);
-      if (path.filename() == "old-format-lwob.lwo") continue;
+      if (isOlder(path)) continue;
       ASSERT_TRUE(object) << object.why();
       const auto saved = serializeObject(*object);
       ASSERT_TRUE(saved) << saved.why();
@@ -143,10 +118,10 @@ std::vector<Chunk> missingFrom(const std::vector<Chunk>& all, const std::vector<
 }
 
 TEST_F(SampleObjects, AnAddedSkelegonTouchesNoOtherChunk) {
-  for (const fs::path& path : objectsIn("meshes")) {
-    if (path.filename() == "old-format-lwob.lwo") continue;
-    SCOPED_TRACE(utf8(path.filename()));
-    auto object = readObject(utf8(path));
+  for (const std::string& path : sampleObjects("meshes")) {
+    if (isOlder(path)) continue;
+    SCOPED_TRACE(path);
+    auto object = readObject(path);
     ASSERT_TRUE(object) << object.why();
     ObjectPolygon skelegon;
     skelegon.points = {0, 1};
@@ -167,7 +142,7 @@ TEST_F(SampleObjects, AnAddedSkelegonTouchesNoOtherChunk) {
 }
 
 TEST_F(SampleObjects, ARemovedWeightMapTakesItsOptionsAlongAndNothingElse) {
-  auto object = readObject(utf8(samples() / "meshes" / "hierarchy.lwo"));
+  auto object = readObject(utf8Of(samplesFolder() / "meshes" / "hierarchy.lwo"));
   ASSERT_TRUE(object) << object.why();
   ASSERT_EQ(object->layers[1].maps.size(), 2U);
   object->layers[1].maps.erase(object->layers[1].maps.begin());

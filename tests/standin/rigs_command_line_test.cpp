@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
+#include "objectfile/temporary_folder.h"
 #include "program/replace_file.h"
 #include "program/subcommands.h"
 #include "program/support.h"
@@ -60,7 +61,7 @@ class RigCommandLine : public testing::Test {
   }
   static std::string bytesOf(const std::string& path) { return *readFileBytes(path); }
   std::size_t filesInFolder() const {
-    const std::filesystem::directory_iterator entries(pathOf(folder_.path()));
+    const std::filesystem::directory_iterator entries(pathFromUtf8(folder_.path()));
     return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
   }
 
@@ -220,12 +221,12 @@ TEST_F(RigCommandLine, ImportInPlaceKeepsPermissionsAndLeavesNoOtherFile) {
   const std::string other = write("other.lwo", rig);
   const std::string json = folder_.file("rig.json");
   run({"export", other, "-o", json});
-  fs::permissions(pathOf(file), fs::perms::owner_read | fs::perms::owner_write);
-  const fs::perms before = fs::status(pathOf(file)).permissions();
+  fs::permissions(pathFromUtf8(file), fs::perms::owner_read | fs::perms::owner_write);
+  const fs::perms before = fs::status(pathFromUtf8(file)).permissions();
   EXPECT_EQ(run({"import", file, json, "--in-place"}), 0) << error_;
   EXPECT_THAT(out_, HasSubstr("1 tag changed"));
   EXPECT_EQ(run({"diff", file, other}), 0);
-  EXPECT_EQ(fs::status(pathOf(file)).permissions(), before);
+  EXPECT_EQ(fs::status(pathFromUtf8(file)).permissions(), before);
   EXPECT_EQ(filesInFolder(), 3U);
 }
 
@@ -245,10 +246,10 @@ TEST_F(RigCommandLine, ALinkIsFollowedWhenAFileIsReplaced) {
   const std::string file = write("file", "old");
   const std::string link = folder_.file("link");
   std::error_code error;
-  fs::create_symlink(pathOf(file), pathOf(link), error);
+  fs::create_symlink(pathFromUtf8(file), pathFromUtf8(link), error);
   if (error) GTEST_SKIP() << "no links here: " << error.message();
   EXPECT_FALSE(replaceFile(link, "new"));
-  EXPECT_TRUE(fs::is_symlink(pathOf(link)));
+  EXPECT_TRUE(fs::is_symlink(pathFromUtf8(link)));
   EXPECT_EQ(bytesOf(file), "new");
 }
 

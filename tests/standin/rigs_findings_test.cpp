@@ -293,10 +293,10 @@ TEST(FindingTable, HasAnIdAndASentenceInBothLanguagesInEachRow) {
 class ItemNames : public OnSamples {};
 
 TEST_F(ItemNames, AreThoseOfTheItemsThatLayoutMakes) {
-  for (const std::string& path : sampleRigs()) {
+  for (const std::string& path : sampleObjects("rigs")) {
     LayoutHost host;
     const auto items = host.loadObject(path);
-    const Rig rig = rigOf(*readObject(path), utf8(pathFromUtf8(path).filename()));
+    const Rig rig = rigOf(*readObject(path), utf8Of(pathFromUtf8(path).filename()));
     ASSERT_EQ(items.size(), rig.layers.size()) << path;
     for (std::size_t i = 0; i < items.size(); ++i) EXPECT_EQ(host.scene().nameOf(*items[i]), rig.layers[i].itemName) << path;
   }

@@ -1,4 +1,4 @@
-// Small rigs, and where the sample objects are.
+// Small rigs.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -13,6 +13,7 @@
 #include "objectfile/object_file.h"
 #include "objectfile/rig_builder.h"
 #include "rigs/rig.h"
+#include "tests/standin/samples.h"
 
 namespace standin::rigs {
 
@@ -39,33 +40,6 @@ struct SoundRig {
   }
   const ObjectFile& object() const { return builder.object(); }
   Rig rig(const std::string& fileName = kFileName) const { return rigOf(object(), fileName); }
-};
-
-inline std::filesystem::path samplesFolder() {
-  const char* const given = std::getenv("VARNEL_SAMPLES");
-  const auto repository = pathFromUtf8(VARNEL_REPOSITORY);
-  return given != nullptr ? std::filesystem::path(given) : repository / ".." / "shared" / "samples";
-}
-
-inline std::string utf8(const std::filesystem::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
-
-inline std::vector<std::string> sampleRigs() {
-  std::vector<std::string> paths;
-  for (const auto& entry : std::filesystem::directory_iterator(samplesFolder() / "rigs")) {
-    if (entry.path().extension() == ".lwo") paths.push_back(utf8(entry.path()));
-  }
-  std::sort(paths.begin(), paths.end());
-  return paths;
-}
-
-class OnSamples : public testing::Test {
- protected:
-  void SetUp() override {
-    if (!std::filesystem::exists(samplesFolder())) GTEST_SKIP() << "the folder of sample objects is missing";
-  }
 };
 
 }  // namespace standin::rigs

@@ -218,7 +218,7 @@ TEST_F(Import, ALayerNumberThatTheObjectHasTwiceIsRefused) {
 class ImportOnSamples : public OnSamples {};
 
 TEST_F(ImportOnSamples, AnUnchangedExportGivesEveryRigBackByteForByte) {
-  for (const std::string& path : sampleRigs()) {
+  for (const std::string& path : sampleObjects("rigs")) {
     const auto bytes = readFileBytes(path);
     ObjectFile object = *parseObject(*bytes);
     const auto changes = importSettings(object, exportSettings(rigOf(object, kFileName)));
@@ -228,7 +228,7 @@ TEST_F(ImportOnSamples, AnUnchangedExportGivesEveryRigBackByteForByte) {
 }
 
 TEST_F(ImportOnSamples, SettingsTakenAwayAndPutBackReadTheSame) {
-  for (const std::string& path : sampleRigs()) {
+  for (const std::string& path : sampleObjects("rigs")) {
     const ObjectFile before = *readObject(path);
     const std::string settings = exportSettings(rigOf(before, kFileName));
     Json none = Json::parse(settings);

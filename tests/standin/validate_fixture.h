@@ -5,40 +5,28 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <random>
 #include <string>
 #include <vector>
 
 #include "objectfile/file_bytes.h"
+#include "objectfile/temporary_folder.h"
 #include "standin/core/program_folder.h"
 #include "standin/validate/runner.h"
 #include "tests/modules/bad_module.h"
 
 namespace standin::validate {
 
-inline std::string utf8Text(const std::filesystem::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
-
 // The test programs lie in a folder below the program's.
 inline std::filesystem::path testFolder() { return pathFromUtf8(programFolder()); }
-inline std::string programPath() { return utf8Text(testFolder().parent_path() / VARNEL_PROGRAM); }
+inline std::string programPath() { return utf8Of(testFolder().parent_path() / VARNEL_PROGRAM); }
 inline std::string sampleModule(const std::string& name) {
-  return utf8Text(testFolder() / "modules" / (name + VARNEL_MODULE_SUFFIX));
+  return utf8Of(testFolder() / "modules" / (name + VARNEL_MODULE_SUFFIX));
 }
 
 class Validation : public testing::Test {
  protected:
-  Validation()
-      : folder_(std::filesystem::temp_directory_path() / ("varnel-test-" + std::to_string(std::random_device()()))) {
-    std::filesystem::create_directories(folder_);
-  }
-  ~Validation() override {
-    choose(varnel::test::BadFault::None);
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
-  }
+  Validation() = default;
+  ~Validation() override { choose(varnel::test::BadFault::None); }
   Validation(const Validation&) = delete;
   Validation& operator=(const Validation&) = delete;
 
@@ -58,7 +46,7 @@ class Validation : public testing::Test {
     RunOrder order;
     order.program = programPath();
     order.module = module;
-    order.folder = utf8Text(folder_);
+    order.folder = folder_.path();
     order.only = checks;
     order.share = 0.02;
     order.mostDeaths = 1;
@@ -69,7 +57,7 @@ class Validation : public testing::Test {
     return runChecks(orderOf(module, {check})).at(0);
   }
 
-  std::filesystem::path folder_;
+  TemporaryFolder folder_;
 };
 
 }  // namespace standin::validate

@@ -10,9 +10,9 @@ class ValidateCommand : public Validation {
   // The exit code; what was printed is in `output`.
   int varnel(std::vector<std::string> arguments) {
     arguments.insert(arguments.begin(), "validate");
-    const std::string file = utf8Text(folder_ / "output.txt");
+    const std::string file = folder_.file("output.txt");
     std::error_code ignored;
-    std::filesystem::remove(folder_ / "output.txt", ignored);
+    std::filesystem::remove(pathFromUtf8(file), ignored);
     ChildProcess process(programPath(), arguments, file);
     EXPECT_EQ(process.why(), "");
     const auto end = process.wait(120000);
@@ -63,10 +63,10 @@ TEST_F(ValidateCommand, SplitsTheHostsByArea) {
 
 TEST_F(ValidateCommand, PlaysOnTheHostsThatAreNamed) {
   EXPECT_EQ(varnel({"--host", "sets=fire", "--host", "new-bones=selected", modulePath(), "--only", "trip-typical",
-                    "--report", utf8Text(folder_ / "report")}),
+                    "--report", folder_.file("report")}),
             0)
       << output;
-  EXPECT_NE(readFileBytes(utf8Text(folder_ / "report" / "report.txt"))->find("on      sets=fire new-bones=selected"),
+  EXPECT_NE(readFileBytes(folder_.file("report/report.txt"))->find("on      sets=fire new-bones=selected"),
             std::string::npos);
 }
 
@@ -88,7 +88,7 @@ TEST_F(ValidateCommand, ListsTheChecksOfALevel) {
 }
 
 TEST_F(ValidateCommand, WritesBothReports) {
-  const std::string folder = utf8Text(folder_ / "report");
+  const std::string folder = folder_.file("report");
   EXPECT_EQ(varnel({modulePath(), "--only", "descriptor", "--report", folder, "--seed", "123"}), 0) << output;
   EXPECT_NE(readFileBytes(folder + "/report.txt")->find("seed    123"), std::string::npos);
   EXPECT_NE(readFileBytes(folder + "/report.html")->find("descriptor"), std::string::npos);

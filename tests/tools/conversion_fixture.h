@@ -5,13 +5,13 @@
 
 #include <filesystem>
 #include <optional>
-#include <random>
 #include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "objectfile/rig_builder.h"
+#include "objectfile/temporary_folder.h"
 #include "standin/core/program_folder.h"
 #include "standin/core/tool_names.h"
 #include "standin/core/witness.h"
@@ -19,31 +19,6 @@
 #include "standin/panels/person.h"
 
 namespace standin {
-
-// A folder for the files of one test.
-class TestFolder {
- public:
-  TestFolder() {
-    static int count = 0;
-    path_ = std::filesystem::temp_directory_path() /
-            ("varnel-test-" + std::to_string(std::random_device()()) + "-" + std::to_string(++count));
-    std::filesystem::create_directories(path_);
-  }
-  ~TestFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  TestFolder(const TestFolder&) = delete;
-  TestFolder& operator=(const TestFolder&) = delete;
-
-  std::string file(const std::string& name) const {
-    const std::u8string text = (path_ / std::u8string(name.begin(), name.end())).u8string();
-    return {text.begin(), text.end()};
-  }
-
- private:
-  std::filesystem::path path_;
-};
 
 using StoredSetting = std::pair<std::uint8_t, std::string>;
 using StoredSettings = std::vector<StoredSetting>;
@@ -133,7 +108,7 @@ class ConversionTest : public testing::Test {
 
   bool has(const std::string& name) const { return host.scene().find(name) != nullptr; }
 
-  TestFolder folder;
+  TemporaryFolder folder;
   LayoutHost host;
   ModuleFile module;
 };

@@ -255,8 +255,7 @@ TEST_F(Conversion, SwitchesIKControllersAndDeformationsOnWhateverTheyWere) {
 TEST_F(Conversion, StopsAtAFileThatCannotBeRead) {
   const std::vector<Item*> broken = load(twoBones({}), "broken.lwo");
   const std::vector<Item*> sound = load(chainIn(0, "", "Sound", {{13, "2"}}), "sound.lwo");
-  std::filesystem::resize_file(
-      std::filesystem::path(std::u8string(reinterpret_cast<const char8_t*>(folder.file("broken.lwo").c_str()))), 40);
+  std::filesystem::resize_file(pathFromUtf8(folder.file("broken.lwo")), 40);
   convert({broken[0], sound[0]});
   EXPECT_FALSE(has("Sound"));
   EXPECT_TRUE(statusSays("*** ERROR:  ***")) << host.transcript().text();
@@ -460,7 +459,7 @@ FailedRun runWithFailure(const std::string& path, std::uint64_t n) {
 }
 
 TEST(ConversionWithAFailingHost, BreaksNoRuleWhicheverCallFails) {
-  const TestFolder folder;
+  const TemporaryFolder folder;
   const std::string path = folder.file("rig.lwo");
   ASSERT_FALSE(
       writeObject(

@@ -37,7 +37,7 @@ class ModelerSession {
   using Control = standin::Control;
 
   explicit ModelerSession(standin::ObjectFile file) : object(&host.add(std::move(file), "rig.lwo")) {
-    showAllLayers();
+    host.showAllLayers();
     EXPECT_NE(standin::modulePath(), "") << "the module is not beside the tests";
     EXPECT_EQ(module.load(standin::modulePath()), "");
   }
@@ -51,12 +51,6 @@ class ModelerSession {
   }
   ModelerSession(const ModelerSession&) = delete;
   ModelerSession& operator=(const ModelerSession&) = delete;
-
-  void showAllLayers() {
-    std::vector<int> numbers;
-    for (const standin::MeshLayer& layer : object->layers()) numbers.push_back(layer.number);
-    host.showLayers(numbers);
-  }
 
   // Runs a tool. The panel is then that of this run.
   Panel* runTool(const char* tool) {

@@ -519,7 +519,7 @@ class RefusedRun : public testing::Test {
     EXPECT_EQ(host().scene().selection(), (std::vector<standin::Item*>{objects[1], objects[0]}));
   }
 
-  standin::TestFolder folder;
+  standin::TemporaryFolder folder;
   std::optional<standin::LayoutHost> session;
   std::vector<standin::Item*> objects;
 };

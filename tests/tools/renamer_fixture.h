@@ -61,7 +61,7 @@ class RenamerSession : public ModelerSession {
   // Another object beside the first; it becomes the current one.
   void load(standin::ObjectFile file) {
     object = &host.add(std::move(file), "other.lwo");
-    showAllLayers();
+    host.showAllLayers();
     host.forgetRecords();
   }
 

@@ -1,6 +1,7 @@
 // The renamer panel as it opens, changes its layout, registers skelegons, closes and opens again.
 #include <algorithm>
 
+#include "modeler/renamer/renamer_layout.h"
 #include "tests/tools/renamer_fixture.h"
 
 namespace varnel::test {
@@ -134,24 +135,18 @@ TEST_P(RenamerForm, IsClearlyLaidOutWhereControlsHavePadding) {
   expectClearLayout();
 }
 
-TEST_P(RenamerForm, ShowsExactlyItsControls) {
+TEST_P(RenamerForm, StandsAsItsLayoutSays) {
   openForm();
-  const RenameMode mode = GetParam().mode;
-  for (const mst::RenamerRow& row : mst::renamerTable()) {
-    bool expected = !mst::isSimple(mode);
-    if (row.item == Item::FirstText) expected = mst::isSimple(mode);
-    if (row.item == Item::SecondText) expected = mode == RenameMode::Replace || mode == RenameMode::RegularExpression;
-    if (row.item == Item::Mode || row.item == Item::BoneProperty || row.item == Item::Border || row.item == Item::Run) {
-      expected = true;
-    }
-    EXPECT_EQ(isVisible(row.item), expected) << mst::indexOf(row.item);
+  std::array<forms::Measured, mst::kRenamerItemCount> measures;
+  for (std::size_t i = 0; i < measures.size(); ++i)
+    measures[i] = {panel->controls[i]->width(), panel->controls[i]->labelWidth()};
+  const mst::RenamerPositions homes = mst::renamerHomes(measures);
+  for (std::size_t i = 0; i < measures.size(); ++i) {
+    const forms::Position wanted = mst::renamerPosition(static_cast<Item>(i), GetParam().mode, homes[i]);
+    EXPECT_EQ((forms::Position{panel->controls[i]->x, panel->controls[i]->y}), wanted) << i;
   }
-}
-
-TEST_P(RenamerForm, HasItsSize) {
-  openForm();
-  EXPECT_EQ(panel->width, 320);
-  EXPECT_EQ(panel->height, mst::isSimple(GetParam().mode) ? 130 : 630);
+  EXPECT_EQ(panel->width, mst::kRenamerWidth);
+  EXPECT_EQ(panel->height, mst::renamerHeight(GetParam().mode));
 }
 
 TEST_P(RenamerForm, HidesWhatIsAwayHoweverLargeTheUserMakesIt) {
@@ -182,20 +177,6 @@ TEST_F(Renamer, ComesBackToTheSamePlacesHoweverOftenTheModeChanges) {
     chooseMode(RenameMode::Replace);
     EXPECT_EQ(placesOf(*panel), simple);
   }
-}
-
-TEST_F(Renamer, MovesBonePropertyBorderAndButtonByTheirRules) {
-  openIn(RenameMode::Advanced);
-  const int border = at(Item::Border)->y;
-  const int button = at(Item::Run)->y;
-  EXPECT_EQ(at(Item::BoneProperty)->y, 504);
-  chooseMode(RenameMode::Change);
-  EXPECT_EQ(at(Item::Border)->y, border - 500);
-  EXPECT_EQ(at(Item::Run)->y, button - 500);
-  EXPECT_EQ(at(Item::BoneProperty)->x, 100);
-  EXPECT_EQ(at(Item::BoneProperty)->y, 72);
-  EXPECT_EQ(at(Item::Target)->x, 800);
-  EXPECT_EQ(at(Item::Target)->y, 800);
 }
 
 TEST_F(Renamer, AModeThatIsNoneChangesNothing) {

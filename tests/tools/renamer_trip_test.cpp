@@ -36,7 +36,7 @@ class RenamerTrip : public testing::Test {
     EXPECT_FALSE(session.host.saveAs(path).has_value());
   }
 
-  standin::TestFolder folder;
+  standin::TemporaryFolder folder;
   const std::string path = folder.file("rig.lwo");
 };
 

@@ -130,7 +130,7 @@ INSTANTIATE_TEST_SUITE_P(Slots, RoundTrip, testing::ValuesIn(shownSlots()), [](c
 });
 
 void RoundTrip::bringTheChangeToTheBone() {
-  const standin::TestFolder folder;
+  const standin::TemporaryFolder folder;
   const std::string path = folder.file("rig.lwo");
   changeAndSave(path);
   standin::LayoutHost host;

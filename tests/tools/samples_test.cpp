@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "standin/layout/arrived.h"
+#include "tests/standin/samples.h"
 #include "tests/tools/conversion_fixture.h"
 
 namespace standin {
@@ -10,12 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path samples() {
-  const char* const chosen = std::getenv("VARNEL_SAMPLES");
-  return chosen != nullptr && *chosen != '\0' ? fs::path(chosen) : fs::path(VARNEL_SAMPLES_BESIDE);
-}
-
-fs::path sample(const std::string& name) { return samples() / "rigs" / std::u8string(name.begin(), name.end()); }
+fs::path sample(const std::string& name) { return samplesFolder() / "rigs" / pathFromUtf8(name); }
 
 StoredBySlot storedOf(const nlohmann::json& tags, const std::string& objectName) {
   StoredBySlot stored;
@@ -32,13 +28,12 @@ StoredBySlot storedOf(const nlohmann::json& tags, const std::string& objectName)
 class SampleRig : public ConversionTest, public testing::WithParamInterface<const char*> {
  protected:
   void SetUp() override {
-    if (!fs::exists(samples())) GTEST_SKIP() << "no sample objects at " << samples();
+    if (!fs::exists(samplesFolder())) GTEST_SKIP() << "no sample objects at " << samplesFolder();
     ConversionTest::SetUp();
     const std::string name = GetParam();
     facts = nlohmann::json::parse(std::ifstream(sample(name + ".facts.json")));
-    const std::u8string path = sample(name + ".lwo").u8string();
     std::string why;
-    items = host.loadObject(std::string(path.begin(), path.end()), &why);
+    items = host.loadObject(utf8Of(sample(name + ".lwo")), &why);
     ASSERT_FALSE(items.empty()) << why;
     convert(items);
   }

@@ -3,10 +3,10 @@
 
 #include <cctype>
 #include <optional>
-#include <random>
 #include <set>
 
 #include "objectfile/file_bytes.h"
+#include "objectfile/temporary_folder.h"
 #include "standin/core/program_folder.h"
 #include "standin/validate/child_process.h"
 #include "tests/unit/documents.h"
@@ -191,9 +191,9 @@ std::optional<std::string> quotedAfter(const std::string& line, std::string_view
 // has more names than one, counts once for each: "-o,--output".
 std::vector<CommandOption> commandOptions() {
   std::vector<CommandOption> found;
-  for (const std::string& file : filesIn(repository() / "standin" / "program", ".cpp")) {
+  for (const std::string& file : filesIn(repository() / "program", ".cpp")) {
     std::string command;
-    for (const std::string& line : linesOf(textOf(repository() / "standin" / "program" / file))) {
+    for (const std::string& line : linesOf(textOf(repository() / "program" / file))) {
       if (const auto name = quotedAfter(line, ".name = ")) {
         command = *name == "validate-check" ? "" : *name;
         if (!command.empty()) found.push_back({command, {}});
@@ -228,19 +228,10 @@ TEST(Manual, ExplainsEveryCommandAndOptionOfTheProgram) {
 // What the built program prints for "--help-all".
 std::string helpOfTheProgram() {
   const fs::path program = standin::pathFromUtf8(standin::programFolder()).parent_path() / VARNEL_PROGRAM;
-  const fs::path printed = fs::temp_directory_path() / ("varnel-help-" + std::to_string(std::random_device()()));
-  const auto utf8 = [](const fs::path& path) {
-    const std::u8string text = path.u8string();
-    return std::string(text.begin(), text.end());
-  };
-  std::string help;
-  {
-    standin::validate::ChildProcess process(utf8(program), {"--help-all"}, utf8(printed));
-    if (process.why().empty() && process.wait(60'000)) help = textOf(printed);
-  }
-  std::error_code ignored;
-  fs::remove(printed, ignored);
-  return help;
+  const standin::TemporaryFolder folder;
+  const std::string printed = folder.file("help.txt");
+  standin::validate::ChildProcess process(standin::utf8Of(program), {"--help-all"}, printed);
+  return process.why().empty() && process.wait(60'000) ? textOf(standin::pathFromUtf8(printed)) : "";
 }
 
 // Commands with their options and positionals, as the help lists them: a command stands at the beginning of a line, what it takes
@@ -282,7 +273,7 @@ TEST(Manual, ExplainsWhatTheProgramsOwnHelpLists) {
 }
 
 TEST(Manual, ExplainsEveryFindingOfTheProgram) {
-  const std::string source = textOf(repository() / "standin" / "rigs" / "findings.cpp");
+  const std::string source = textOf(repository() / "rigs" / "findings.cpp");
   std::size_t count = 0;
   for (std::size_t row = source.find("{FindingKind::"); row != std::string::npos;
        row = source.find("{FindingKind::", row + 1)) {

@@ -46,20 +46,6 @@ std::vector<skg::SkelegonInfo> selected(const std::set<std::string>& names) {
 
 // --- one value -----------------------------------------------------------------------------------------------------------
 
-TEST(WritesForValue, GoToEverySelectedSkelegon) {
-  EXPECT_EQ(listed(writesForValue(selected({"Hips", "Fin"}), Slot::Strength, "50.000000")),
-            (Writes{{1, 0x7367311F, "50.000000"}, {4, 0x7367311F, "50.000000"}}));
-}
-
-TEST(WritesForValue, AreNoneWithNothingSelected) {
-  EXPECT_TRUE(writesForValue(selected({}), Slot::Strength, "50.000000").empty());
-  EXPECT_TRUE(writesForValue(selected({}), Slot::FalloffType, "2").empty());
-}
-
-TEST(WritesForValue, TheDefaultIsNotStored) {
-  EXPECT_EQ(listed(writesForValue(kChestSelected, Slot::Strength, "100.000000")), (Writes{{2, 0x7367311F, ""}}));
-}
-
 TEST(WritesForValue, TheDefaultIsComparedAsTextNotAsNumber) {
   EXPECT_EQ(listed(writesForValue(kChestSelected, Slot::Strength, "100")), (Writes{{2, 0x7367311F, "100"}}));
 }
@@ -73,23 +59,6 @@ TEST(WritesForValue, FourSlotsStoreEvenTheNumberOfTheirDefault) {
     EXPECT_EQ(listed(writesForValue(kChestSelected, slot, text)), (Writes{{2, skg::SlotTagId(slot), text}}))
         << indexOf(slot);
   }
-}
-
-TEST(WritesForValue, EveryOtherSlotDropsItsDefault) {
-  const std::set<Slot> stubborn = {Slot::JointCompAmount, Slot::IKFKBlending, Slot::PathMaxSteps, Slot::YScaleMin};
-  for (const skg::SlotRow& row : skg::kSlotTable) {
-    if (row.kind == skg::SlotKind::Reserved || stubborn.count(row.slot) != 0) continue;
-    SCOPED_TRACE(row.setting);
-    std::string shown = row.defaultText;
-    if (skg::valueKindOf(row.kind) == skg::ValueKind::Real) shown = formatReal(std::stod(shown));
-    const TagWrites writes = writesForValue(kChestSelected, row.slot, shown);
-    for (const std::string& value : writes.texts) EXPECT_EQ(value, "");
-    EXPECT_FALSE(writes.empty());
-  }
-}
-
-TEST(WritesForValue, WeightMapGoesToTheHostsTag) {
-  EXPECT_EQ(listed(writesForValue(kChestSelected, Slot::WeightMap, "Chest")), (Writes{{2, lw::kTagBoneWeight, "Chest"}}));
 }
 
 TEST(WritesForValue, ALinkedItemsColourModelerIsTheDefault) {
@@ -120,23 +89,10 @@ TEST(WritesForValue, TheSlotsNextToTheObjectWideOnesAreOfTheSkelegonAlone) {
   EXPECT_EQ(writesForValue(kChestSelected, Slot::BoneType, "1").polygons.size(), 1u);
 }
 
-// --- name and colour -----------------------------------------------------------------------------------------------------
-
-TEST(WritesForName, SetNameAndPart) {
-  EXPECT_EQ(listed(writesForName(kChestSelected, "Spine")),
-            (Writes{{2, lw::kTagBone, "Spine"}, {2, lw::kTagPart, "Spine"}}));
-}
-
-TEST(WritesForName, AnEmptyNameEmptiesBoth) {
-  EXPECT_EQ(listed(writesForName(kChestSelected, "")), (Writes{{2, lw::kTagBone, ""}, {2, lw::kTagPart, ""}}));
-}
+// --- colour --------------------------------------------------------------------------------------------------------------
 
 Writes bothColours(const std::string& copy, const std::string& own) {
   return {{2, skg::kColourCopyTag, copy}, {2, lw::kTagColour, own}};
-}
-
-TEST(WritesForColour, SetTheHostsTagAndTheCopy) {
-  EXPECT_EQ(listed(writesForColour(kChestSelected, 8)), bothColours("Blue", "Blue"));
 }
 
 // Deliberate: the host's own tag never holds a cyan.
@@ -148,63 +104,13 @@ TEST(WritesForColour, TheTwoCyansAreKeptInTheCopyOnly) {
   }
 }
 
-TEST(WritesForColour, ModelerIsStoredThoughItIsTheDefault) {
-  EXPECT_EQ(listed(writesForColour(kChestSelected, 15)), bothColours("Modeler", "Modeler"));
-}
-
 TEST(WritesForColour, AnIndexBeyondTheNamesEmptiesBoth) {
   EXPECT_EQ(listed(writesForColour(kChestSelected, 16)), bothColours("", ""));
   EXPECT_EQ(listed(writesForColour(kChestSelected, -1)), bothColours("", ""));
 }
 
-// --- buttons -------------------------------------------------------------------------------------------------------------
-
-TEST(WritesForLinkedNames, GiveEachSkelegonItsOwnNameWithTheSuffix) {
-  EXPECT_EQ(listed(writesForLinkedNames(selected({"Hips", "Fin"}), Slot::TargetItem)),
-            (Writes{{1, copyTag(Slot::TargetItem), "Hips_tar"}, {4, copyTag(Slot::TargetItem), "Fin_tar"}}));
-}
-
-TEST(WritesForLinkedNames, HaveASuffixForEachOfTheSevenItems) {
-  EXPECT_STREQ(skg::linkedItemOf(Slot::TargetItem)->suffix, "_tar");
-  EXPECT_STREQ(skg::linkedItemOf(Slot::PoleItem)->suffix, "_pole");
-  EXPECT_STREQ(skg::linkedItemOf(Slot::GoalObject)->suffix, "_goal");
-  EXPECT_STREQ(skg::linkedItemOf(Slot::PositionItem)->suffix, "_pos");
-  EXPECT_STREQ(skg::linkedItemOf(Slot::RotationItem)->suffix, "_rot");
-  EXPECT_STREQ(skg::linkedItemOf(Slot::ScaleItem)->suffix, "_scl");
-  EXPECT_STREQ(skg::linkedItemOf(Slot::InitialPositionItem)->suffix, "_initpos");
-}
-
 TEST(WritesForLinkedNames, AreNoneForASlotWithoutSuffix) {
   EXPECT_TRUE(writesForLinkedNames(kChestSelected, Slot::ParentItem).empty());
-}
-
-TEST(WritesForWeightMapsByName, ASkelegonWithAMapOfItsNameTakesItAndIsActive) {
-  EXPECT_EQ(listed(writesForWeightMapsByName(kChestSelected, {"Hips", "Chest"})),
-            (Writes{{2, copyTag(Slot::BoneActive), "1"}, {2, lw::kTagBoneWeight, "Chest"}}));
-}
-
-TEST(WritesForWeightMapsByName, ASkelegonWithoutOneBecomesInactive) {
-  EXPECT_EQ(listed(writesForWeightMapsByName(kChestSelected, {"Hips"})),
-            (Writes{{2, copyTag(Slot::BoneActive), "0"}, {2, lw::kTagBoneWeight, ""}}));
-}
-
-TEST(WritesForControllerPreset, SetTheThreeControllersOfTheGroup) {
-  EXPECT_EQ(listed(writesForControllerPreset(kChestSelected, skg::MotionGroup::Position, Controller::InverseKinematics)),
-            (Writes{{2, 0x7367314C, "3"}, {2, 0x73673151, "3"}, {2, 0x73673156, "3"}}));
-  EXPECT_EQ(listed(writesForControllerPreset(kChestSelected, skg::MotionGroup::Rotation, Controller::SameAsItem)),
-            (Writes{{2, 0x7367315F, "6"}, {2, 0x73673164, "6"}, {2, 0x73673169, "6"}}));
-}
-
-TEST(WritesForControllerPreset, KeyFrameWritesZero) {
-  EXPECT_EQ(listed(writesForControllerPreset(kChestSelected, skg::MotionGroup::Scale, Controller::KeyFrames)),
-            (Writes{{2, 0x73673171, "0"}, {2, 0x73673176, "0"}, {2, 0x7367317B, "0"}}));
-}
-
-TEST(WritesForReset, EmptyEveryTagOfTheFamilyAndNoneOfTheHosts) {
-  const TagWrites writes = writesForReset({polygon(7)});
-  ASSERT_EQ(writes.types.size(), 187u);
-  for (std::size_t slot = 0; slot < 187; ++slot) EXPECT_EQ(writes.types[slot], 0x73673100u | slot);
-  for (const std::string& value : writes.texts) EXPECT_EQ(value, "");
 }
 
 // --- texts ---------------------------------------------------------------------------------------------------------------
