@@ -218,9 +218,7 @@ using UndoFunc = void (*)();
 struct LWModCommand {
   void* data;
   const char* argument;
-  int (*lookup)(void* data, const char* command);
-  int (*execute)(void* data, int code, int argc, const void* argv, int mode, void* result);
-  MeshEditOp* (*editBegin)(int pointBytes, int polygonBytes, int mode);  // the older form, unused
+  GapSlot gap_16[3];
   EvaluateFunc evaluate;
   UndoFunc undoGroupBegin;
   UndoFunc undoGroupEnd;
@@ -228,9 +226,6 @@ struct LWModCommand {
 };
 static_assert(sizeof(LWModCommand) == 72);
 static_assert(offsetof(LWModCommand, argument) == 8);
-static_assert(offsetof(LWModCommand, lookup) == 16);
-static_assert(offsetof(LWModCommand, execute) == 24);
-static_assert(offsetof(LWModCommand, editBegin) == 32);
 static_assert(offsetof(LWModCommand, evaluate) == 40);
 static_assert(offsetof(LWModCommand, undoGroupBegin) == 48);
 static_assert(offsetof(LWModCommand, undoGroupEnd) == 56);

@@ -242,25 +242,12 @@ std::vector<std::string> ModelerHost::selectedNames() const {
   return names;
 }
 
-std::vector<CommandRecord> ModelerHost::rejectedCommands() const {
-  std::vector<CommandRecord> rejected;
-  for (const CommandRecord& command : session_.commands) {
-    if (command.result != 0) rejected.push_back(command);
-  }
-  return rejected;
-}
-
 std::vector<std::string> ModelerHost::weightMaps() const {
   std::vector<std::string> names;
   for (const auto& [type, name] : session_.maps) {
     if (type == lw::kMapWeight) names.push_back(name);
   }
   return names;
-}
-
-void ModelerHost::forgetRecords() {
-  session_.messages.shown.clear();
-  session_.commands.clear();
 }
 
 }  // namespace standin

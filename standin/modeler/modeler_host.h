@@ -81,13 +81,10 @@ class ModelerHost {
   // Names of the selected skelegons of the current object, in scan order.
   std::vector<std::string> selectedNames() const;
   const std::vector<Message>& messages() const { return session_.messages.shown; }
-  const std::vector<CommandRecord>& commands() const { return session_.commands; }
-  // Commands that got an error code.
-  std::vector<CommandRecord> rejectedCommands() const;
   const std::vector<EditRecord>& edits() const { return session_.edits.records(); }
   // Names of the program's weight maps.
   std::vector<std::string> weightMaps() const;
-  void forgetRecords();
+  void forgetRecords() { session_.messages.shown.clear(); }
 
  private:
   void offerGlobals();

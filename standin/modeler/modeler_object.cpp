@@ -299,18 +299,7 @@ void ModelerObject::perform(MeshStep step, bool isStep) {
   }
   if (done.empty() || !isStep) return;
   redo_.clear();
-  if (groupDepth_ > 0 && groupHasStep_) {
-    undo_.back().insert(undo_.back().end(), std::make_move_iterator(done.begin()), std::make_move_iterator(done.end()));
-  } else {
-    undo_.push_back(std::move(done));
-    groupHasStep_ = groupDepth_ > 0;
-  }
-}
-
-bool ModelerObject::endGroup() {
-  if (groupDepth_ == 0) return false;
-  if (--groupDepth_ == 0) groupHasStep_ = false;
-  return true;
+  undo_.push_back(std::move(done));
 }
 
 bool ModelerObject::undo() {

@@ -116,7 +116,6 @@ class ModelerObject {
   void showLayers(const std::vector<int>& foreground, const std::vector<int>& background, bool deselect);
   // Selects exactly these, as the user does. It is no step.
   void select(const std::vector<const MeshPolygon*>& polygons);
-  void deselectAll() { select(std::vector<const MeshPolygon*>()); }
   // Flags a polygon as deleted in an edit that is not done; it stays where it is.
   void markDeleted(const MeshPolygon& polygon, bool deleted = true);
 
@@ -135,10 +134,6 @@ class ModelerObject {
   bool undo();
   bool redo();
   std::size_t undoSteps() const { return undo_.size(); }
-  // From here to the closing call all steps are one.
-  void beginGroup() { ++groupDepth_; }
-  // False when no group is open.
-  bool endGroup();
 
   // Empty when saved, else the failure.
   std::optional<Failure> save(const std::string& fileName);
@@ -167,8 +162,6 @@ class ModelerObject {
   std::vector<std::vector<std::vector<std::size_t>>> groups_;  // by place of the layer and group: places in polygons_
   std::vector<MeshStep> undo_;
   std::vector<MeshStep> redo_;
-  int groupDepth_ = 0;
-  bool groupHasStep_ = false;
 };
 
 }  // namespace standin

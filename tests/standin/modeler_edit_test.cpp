@@ -228,16 +228,6 @@ TEST_F(MeshEditTest, TheLastOfSeveralTextsForOneTagCountsAndGoesBackAsOne) {
   EXPECT_EQ(object->skelegon("Hips")->tag(settingTag(13)), "2");
 }
 
-TEST_F(MeshEditTest, AGroupMakesSeveralEditsOneStep) {
-  local().undoGroupBegin();
-  for (const char* text : {"5", "6"}) {
-    edit(lw::kEditAll, [&](Edit op) { op.polTag(op.state, id("Hips"), settingTag(13), text); });
-  }
-  local().undoGroupEnd();
-  host->undo();
-  EXPECT_EQ(object->skelegon("Hips")->tag(settingTag(13)), "2");
-}
-
 TEST_F(MeshEditTest, ASelectingEditChangesTheSelectionWhenDone) {
   host->select({"Hips"});
   edit(lw::kEditSelecting | lw::kEditDirect, [&](Edit op) {

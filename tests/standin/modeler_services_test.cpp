@@ -1,4 +1,4 @@
-// Commands, queries, messages, globals and refusals of the stand-in Modeler.
+// Queries, messages, globals and refusals of the stand-in Modeler.
 #include <gtest/gtest.h>
 
 #include "standin/modeler/mesh_text.h"
@@ -18,13 +18,9 @@ class ModelerServices : public ModelerTest {
 
 TEST_F(ModelerServices, WhatAModuleCopiedOutOfTheActivationStaysGood) {
   static lw::EditBeginFunc editBegin;
-  static lw::EvaluateFunc evaluateCommand;
-  static void* data;
   const auto copy = [](int version, lw::GlobalFunc global, void* local, void*) {
     const auto* record = static_cast<lw::LWModCommand*>(local);
     editBegin = record->editBegin2;
-    evaluateCommand = record->evaluate;
-    data = record->data;
     EXPECT_EQ(version, 4);
     EXPECT_STREQ(record->argument, "given");
     EXPECT_NE(global("LWM: State Query 5", lw::kUseTransient), nullptr);
@@ -34,7 +30,6 @@ TEST_F(ModelerServices, WhatAModuleCopiedOutOfTheActivationStaysGood) {
   lw::MeshEditOp* op = editBegin(0, 0, 0, lw::kEditAll);
   ASSERT_NE(op, nullptr);
   op->done(op->state, 0, 0);
-  EXPECT_EQ(evaluateCommand(data, "sel_polygon clear"), 0);
 }
 
 TEST_F(ModelerServices, NumbersOfTheHostCanBeSetAtAnyTime) {
@@ -88,36 +83,6 @@ TEST_F(ModelerServices, ANewHostBeginsANewSession) {
   EXPECT_EQ(witness().report(), "");
   EXPECT_NE(Globals::lookup()("Scene Objects 9", lw::kUseTransient), nullptr);
   EXPECT_EQ(host->current(), nullptr);
-}
-
-// --- commands ------------------------------------------------------------------------------------------------------------
-
-TEST_F(ModelerServices, CommandsAreNotCaseSensitive) {
-  edit(lw::kEditAll, [&](Edit op) { op.polTag(op.state, id("Hips"), settingTag(13), "5"); });
-  EXPECT_EQ(evaluate("UNDO"), 0);
-  EXPECT_EQ(object->skelegon("Hips")->tag(settingTag(13)), "2");
-}
-
-TEST_F(ModelerServices, AnUnknownCommandFailsAndIsListed) {
-  EXPECT_EQ(evaluate("Foo 1"), 2904);
-  ASSERT_EQ(host->rejectedCommands().size(), 1U);
-  EXPECT_EQ(host->rejectedCommands()[0].text, "Foo 1");
-}
-
-TEST_F(ModelerServices, ArgumentsAreChecked) {
-  EXPECT_EQ(evaluate("undo now"), 2901);
-  EXPECT_EQ(evaluate("setlayer"), 2901);
-  EXPECT_EQ(evaluate("setlayer two"), 2902);
-  EXPECT_EQ(evaluate("setlayer 3"), 2903);
-  EXPECT_EQ(evaluate("setlayer \"2\""), 0);
-  EXPECT_TRUE(object->layer(1)->foreground);
-  EXPECT_FALSE(object->layer(0)->foreground);
-}
-
-TEST_F(ModelerServices, LayersGoToTheBackgroundByCommandToo) {
-  EXPECT_EQ(evaluate("setblayer 2"), 0);
-  EXPECT_TRUE(object->layer(1)->background);
-  EXPECT_TRUE(object->layer(0)->foreground);
 }
 
 // --- queries -------------------------------------------------------------------------------------------------------------
@@ -225,8 +190,6 @@ TEST_F(ModelerServices, ARefusedCallFailsInItsOwnWay) {
     refuse();
     EXPECT_EQ(op.polSelect(op.state, id("Hips"), 1), lw::kEditNoMemory);
   });
-  refuse();
-  EXPECT_NE(evaluate("undo"), 0);
   refuse();
   EXPECT_EQ(stateQuery()->object(), nullptr);
   refuse();
