@@ -18,7 +18,6 @@ namespace lw {
 
 using PointId = struct OpaquePoint*;
 using PolygonId = struct OpaquePolygon*;
-using EdgeId = struct OpaqueEdge*;
 using MeshId = struct OpaqueMesh*;
 using EditId = struct OpaqueEdit*;
 using ItemId = struct OpaqueItem*;
@@ -102,13 +101,11 @@ inline constexpr std::uint32_t kMapWeight = fourCharacters('W', 'G', 'H', 'T');
 
 enum ElementFlags : int { kElementSelected = 1, kElementDeleted = 2 };
 enum LayerChoice : int {
-  kLayersPrimary = 0,
   kLayersForeground = 1,
-  kLayersBackground = 2,
   kLayersAll = 4,
   kLayersNonEmpty = 6,
 };
-enum EditMode : int { kEditAll = 0, kEditUser = 1, kEditDirect = 2, kEditSelecting = 0x8000 };
+enum EditMode : int { kEditAll = 0, kEditDirect = 2, kEditSelecting = 0x8000 };
 enum EditError : int {
   kEditNoError = 0,
   kEditNoMemory = 1,
@@ -142,25 +139,7 @@ static_assert(offsetof(EDPolygonInfo, surface) == 40);
 static_assert(offsetof(EDPolygonInfo, type) == 48);
 static_assert(offsetof(EDPolygonInfo, meshid) == 64);
 
-struct EDPointInfo {
-  PointId pnt;
-  void* userData;
-  int layer;
-  int flags;
-  double position[3];
-  float* vmapVec;
-  int numEdges;
-  const EdgeId* edges;
-  MeshId meshid;
-};
-static_assert(sizeof(EDPointInfo) == 80);
-static_assert(offsetof(EDPointInfo, layer) == 16);
-static_assert(offsetof(EDPointInfo, flags) == 20);
-static_assert(offsetof(EDPointInfo, position) == 24);
-static_assert(offsetof(EDPointInfo, meshid) == 72);
-
 using FastPolygonScan = int (*)(void* user, PolygonId polygon);
-using SlowPolygonScan = int (*)(void* user, const EDPolygonInfo* polygon);
 
 // An open mesh edit. `state` is the first argument of every call. Changes become visible at `done` with error 0 and are
 // dropped with any other error. While an edit is open no command may be sent and no other edit be begun.
@@ -168,9 +147,7 @@ struct MeshEditOp {
   EditId state;
   int layerNum;
   void (*done)(EditId, int error, int after);
-  GapSlot gap_24[3];
-  int (*polyScan)(EditId, SlowPolygonScan, void* user, int layers);
-  EDPointInfo* (*pointInfo)(EditId, PointId);
+  GapSlot gap_24[5];
   EDPolygonInfo* (*polyInfo)(EditId, PolygonId);
   GapSlot gap_72[13];
   int (*polTag)(EditId, PolygonId, std::uint32_t type, const char* text);  // a null text removes the tag
@@ -183,21 +160,13 @@ struct MeshEditOp {
   GapSlot gap_360;
   std::uint32_t (*polyType)(EditId, PolygonId);
   int (*polyPoints)(EditId, PolygonId, const PointId** out);
-  GapSlot gap_384[2];
-  int (*polyFlags)(EditId, PolygonId);
-  GapSlot gap_408[5];
+  GapSlot gap_384[8];
   int (*fastPolyScan)(EditId, FastPolygonScan, void* user, int layers, int selectedOnly);
-  GapSlot gap_456[2];
-  int (*polyLayer)(EditId, PolygonId);
-  GapSlot gap_480[9];
-  int (*vMapExists)(EditId, const char* name, std::uint32_t type);
-  GapSlot gap_560[9];
+  GapSlot gap_456[22];
 };
 static_assert(sizeof(MeshEditOp) == 632);
 static_assert(offsetof(MeshEditOp, layerNum) == 8);
 static_assert(offsetof(MeshEditOp, done) == 16);
-static_assert(offsetof(MeshEditOp, polyScan) == 48);
-static_assert(offsetof(MeshEditOp, pointInfo) == 56);
 static_assert(offsetof(MeshEditOp, polyInfo) == 64);
 static_assert(offsetof(MeshEditOp, polTag) == 176);
 static_assert(offsetof(MeshEditOp, polyTag) == 232);
@@ -205,10 +174,7 @@ static_assert(offsetof(MeshEditOp, polSelect) == 248);
 static_assert(offsetof(MeshEditOp, pointPos) == 352);
 static_assert(offsetof(MeshEditOp, polyType) == 368);
 static_assert(offsetof(MeshEditOp, polyPoints) == 376);
-static_assert(offsetof(MeshEditOp, polyFlags) == 400);
 static_assert(offsetof(MeshEditOp, fastPolyScan) == 448);
-static_assert(offsetof(MeshEditOp, polyLayer) == 472);
-static_assert(offsetof(MeshEditOp, vMapExists) == 552);
 
 using EvaluateFunc = int (*)(void* data, const char* command);  // 0 = accepted, else an error code
 using EditBeginFunc = MeshEditOp* (*)(int pointBytes, int edgeBytes, int polygonBytes, int mode);
@@ -239,8 +205,7 @@ static_assert(sizeof(LWLayoutGeneric) == 64);
 
 // "LWM: State Query 5"
 struct LWStateQueryFuncs {
-  int (*numLayers)();
-  GapSlot gap_8[3];
+  GapSlot gap_0[4];
   const char* (*layerList)(int layers, const char* object);
   const char* (*object)();  // file name of the current object; null when none is loaded
   GapSlot gap_48[4];
@@ -260,10 +225,7 @@ struct LWObjectFuncs {
   const char* (*vmapName)(std::uint32_t type, int index);
   GapSlot gap_64[2];
   const char* (*layerName)(int object, int layer);
-  GapSlot gap_88[2];
-  const char* (*refName)(int object);
-  int maxPointsPerPoly;
-  GapSlot gap_120;
+  GapSlot gap_88[5];
 };
 static_assert(sizeof(LWObjectFuncs) == 128);
 static_assert(offsetof(LWObjectFuncs, filename) == 8);
@@ -272,8 +234,6 @@ static_assert(offsetof(LWObjectFuncs, layerExists) == 24);
 static_assert(offsetof(LWObjectFuncs, numVMaps) == 48);
 static_assert(offsetof(LWObjectFuncs, vmapName) == 56);
 static_assert(offsetof(LWObjectFuncs, layerName) == 80);
-static_assert(offsetof(LWObjectFuncs, refName) == 104);
-static_assert(offsetof(LWObjectFuncs, maxPointsPerPoly) == 112);
 
 // "Info Messages 4"
 struct LWMessageFuncs {

@@ -190,12 +190,6 @@ const char* layerName(int object, int number) {
   return layer == nullptr || layer->name.empty() || call.refused() ? nullptr : giveText(layer->name);
 }
 
-const char* refName(int object) {
-  const HostCall call("LWObjectFuncs::refName");
-  const LoadedFile* file = checkedFile(call, object);
-  return file == nullptr || call.refused() ? nullptr : giveText(file->referenceName);
-}
-
 }  // namespace
 
 lw::LWObjectInfo* objectInfoTable() {
@@ -243,12 +237,9 @@ lw::LWObjectFuncs* sceneObjectsTable() {
     t.numVMaps = &numVMaps;
     t.vmapName = &vmapName;
     t.layerName = &layerName;
-    t.refName = &refName;
-    t.maxPointsPerPoly = 1023;
     STANDIN_FILL_GAP(t, 32);
     STANDIN_FILL_GAP(t, 64);
     STANDIN_FILL_GAP(t, 88);
-    STANDIN_FILL_GAP(t, 120);
     return t;
   }();
   return &table;

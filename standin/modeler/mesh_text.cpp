@@ -73,7 +73,7 @@ std::string skelegonsAsText(const ModelerObject& object, bool withTags) {
     std::copy_if(all.begin(), all.end(), std::back_inserter(own),
                  [&](const MeshPolygon* skelegon) { return skelegon->layer == layer.number; });
     text += "layer " + std::to_string(layer.number + 1) + (layer.name.empty() ? "" : " \"" + layer.name + "\"");
-    text += layer.foreground ? ", foreground\n" : layer.background ? ", background\n" : "\n";
+    text += layer.foreground ? ", foreground\n" : "\n";
     text += TreeWriter(std::move(own), withTags).write();
   }
   return text;

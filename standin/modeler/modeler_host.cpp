@@ -92,7 +92,7 @@ ModelerHost::ModelerHost(const ModelerOptions& options) : session_(++sessionCoun
   witness().afterModule([this](const char* function) {
     if (!session_.edits.isOpen() || session_.edits.scans > 0) return;
     witness().fault(function, "returned with a mesh edit still open");
-    session_.edits.end(lw::kEditUserAbort, 0);
+    session_.edits.end(lw::kEditUserAbort);
   });
 }
 
@@ -189,8 +189,8 @@ void ModelerHost::selectPolygons(const std::vector<const MeshPolygon*>& polygons
 
 void ModelerHost::deselectAll() { selectPolygons({}); }
 
-void ModelerHost::showLayers(const std::vector<int>& foreground, const std::vector<int>& background) {
-  if (current() != nullptr) current()->showLayers(foreground, background, options().layerSwitchDeselects);
+void ModelerHost::showLayers(const std::vector<int>& foreground) {
+  if (current() != nullptr) current()->showLayers(foreground, options().layerSwitchDeselects);
 }
 
 void ModelerHost::deleteSkelegons(const std::vector<std::string>& names) {

@@ -64,8 +64,8 @@ class ModelerHost {
   void select(const std::vector<std::string>& skelegonNames);
   void selectPolygons(const std::vector<const MeshPolygon*>& polygons);
   void deselectAll();
-  // Layer numbers from 0.
-  void showLayers(const std::vector<int>& foreground, const std::vector<int>& background = {});
+  // Layer numbers from 0. The others are hidden.
+  void showLayers(const std::vector<int>& foreground);
   void deleteSkelegons(const std::vector<std::string>& names);
   void deletePolygons(const std::vector<const MeshPolygon*>& polygons);
   void removeWeightMap(const std::string& name);

@@ -46,7 +46,6 @@ struct MeshLayer {
   int number = 0;
   std::string name;
   bool foreground = false;
-  bool background = false;
   std::size_t place = 0;  // among the layers of the file
 };
 
@@ -101,7 +100,7 @@ class ModelerObject {
   const std::vector<VertexMap>& maps(const MeshLayer& layer) const;
   bool hasMap(const std::pair<std::uint32_t, std::string>& map) const;  // type and name
 
-  // Layers of a layer choice, by number. Empty optional: no such choice.
+  // Layers of a layer choice, by number. Empty optional: no tool makes that choice.
   std::optional<std::vector<const MeshLayer*>> chosen(int layerChoice) const;
   // Polygons of a layer choice in the order in which the program delivers them: by layer, then by age. On demand also those
   // that are gone, as long as their identifiers are theirs.
@@ -112,8 +111,8 @@ class ModelerObject {
 
   // --- changes -----------------------------------------------------------------------------------------------------------
 
-  // Both lists hold layer numbers. A layer that is in none of them is hidden.
-  void showLayers(const std::vector<int>& foreground, const std::vector<int>& background, bool deselect);
+  // Layer numbers; the other layers are hidden.
+  void showLayers(const std::vector<int>& foreground, bool deselect);
   // Selects exactly these, as the user does. It is no step.
   void select(const std::vector<const MeshPolygon*>& polygons);
   // Flags a polygon as deleted in an edit that is not done; it stays where it is.

@@ -74,9 +74,10 @@ std::string Walk::changeMesh() {
     case 1: host.redo(); return "redo";
     case 2: {
       std::vector<int> front;
-      std::vector<int> back;
-      for (const MeshLayer& layer : host.current()->layers()) (below(2) == 0 ? front : back).push_back(layer.number);
-      host.showLayers(front, back);
+      for (const MeshLayer& layer : host.current()->layers()) {
+        if (below(2) == 0) front.push_back(layer.number);
+      }
+      host.showLayers(front);
       return "show other layers";
     }
     case 3:

@@ -72,7 +72,7 @@ void act(std::uint8_t what, std::uint8_t first, std::uint8_t second) {
     case 0: select(first); break;
     case 1: host().undo(); break;
     case 2: host().redo(); break;
-    case 3: host().showLayers({first % 2}, {second % 2}); break;
+    case 3: host().showLayers({first % 2}); break;
     case 4: host().activate(kTools[first % std::size(kTools)]); break;
     default:
       if (const auto open = standin::panels().open(); !open.empty())

@@ -95,7 +95,7 @@ void closeAndUse() {
   lw::MeshEditOp* const edit = beginEdit == nullptr ? nullptr : beginEdit(0, 0, 0, lw::kEditAll);
   if (edit == nullptr) return;
   edit->done(edit->state, lw::kEditNoError, kNoAfter);
-  edit->polyLayer(edit->state, nullptr);
+  edit->polyType(edit->state, nullptr);
 }
 
 void misbehave(lw::LWControl* control) {
