@@ -137,14 +137,6 @@ std::vector<const MeshPolygon*> ModelerObject::scan(const std::vector<const Mesh
   return list;
 }
 
-std::vector<const MeshPoint*> ModelerObject::scanPoints(const std::vector<const MeshLayer*>& layers) const {
-  std::vector<const MeshPoint*> list;
-  for (const MeshLayer* layer : layers) {
-    for (const lw::PointId id : layerPoints_[layer->place]) list.push_back(&points_[handles_.find(id)->place]);
-  }
-  return list;
-}
-
 // --- changes -------------------------------------------------------------------------------------------------------------
 
 void ModelerObject::showLayers(const std::vector<int>& foreground, bool deselect) {

@@ -105,7 +105,6 @@ class ModelerObject {
   // Polygons of a layer choice in the order in which the program delivers them: by layer, then by age. On demand also those
   // that are gone, as long as their identifiers are theirs.
   std::vector<const MeshPolygon*> scan(const std::vector<const MeshLayer*>& layers, bool withGone = false) const;
-  std::vector<const MeshPoint*> scanPoints(const std::vector<const MeshLayer*>& layers) const;
   // Number of the lowest foreground layer.
   int primaryLayer() const;
 

@@ -1,7 +1,6 @@
 // Queries, messages, globals and refusals of the stand-in Modeler.
 #include <gtest/gtest.h>
 
-#include "standin/modeler/mesh_text.h"
 #include "tests/standin/modeler_fixture.h"
 
 namespace standin {
@@ -206,20 +205,6 @@ TEST_F(ModelerServices, ARefusedEndOfAnEditDropsItsChanges) {
   op->done(op->state, 0, 0);
   EXPECT_EQ(object->skelegon("Hips")->tag(settingTag(13)), "2");
   EXPECT_NE(begin(lw::kEditAll), nullptr);
-}
-
-// --- text ----------------------------------------------------------------------------------------------------------------
-
-TEST_F(ModelerServices, SkelegonsAreShownAsTrees) {
-  host->select({"Chest"});
-  EXPECT_EQ(skelegonsAsText(*object),
-            "layer 1 \"Body\", foreground\n"
-            "  \"Hips\"  sg1+13=\"2\"\n"
-            "    \"Chest\" *\n"
-            "      \"Head\"\n"
-            "layer 2 \"Tail\"\n"
-            "  \"Tail_01\"\n"
-            "    \"Tail_02\"\n");
 }
 
 }  // namespace
