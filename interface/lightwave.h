@@ -237,21 +237,15 @@ static_assert(offsetof(LWObjectFuncs, layerName) == 80);
 
 // "Info Messages 4"
 struct LWMessageFuncs {
-  void (*info)(const char* first, const char* second);
+  GapSlot gap_0;
   void (*error)(const char* first, const char* second);
-  void (*warning)(const char* first, const char* second);
-  int (*okCancel)(const char* title, const char* first, const char* second);
+  GapSlot gap_16[2];
   int (*yesNo)(const char* title, const char* first, const char* second);
-  int (*yesNoCan)(const char* title, const char* first, const char* second);
-  int (*yesNoAll)(const char* title, const char* first, const char* second);
-  const char* (*askName)(const char* title, const char* label, const char* initial);
+  GapSlot gap_40[3];
 };
 static_assert(sizeof(LWMessageFuncs) == 64);
 static_assert(offsetof(LWMessageFuncs, error) == 8);
-static_assert(offsetof(LWMessageFuncs, warning) == 16);
-static_assert(offsetof(LWMessageFuncs, okCancel) == 24);
 static_assert(offsetof(LWMessageFuncs, yesNo) == 32);
-static_assert(offsetof(LWMessageFuncs, askName) == 56);
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Panels: "LWPanelServices 3", both programs

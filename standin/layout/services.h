@@ -13,7 +13,6 @@ lw::LWItemInfo* itemInfoTable();
 lw::LWObjectInfo* objectInfoTable();
 lw::LWBoneInfo* boneInfoTable();
 lw::LWObjectFuncs* sceneObjectsTable();
-lw::LWMessageFuncs* messageTable();
 lw::LWChannelInfo* channelInfoTable();
 lw::LWEnvelopeFuncs* envelopeTable();
 lw::CommandFunc commandFunction();

@@ -1,4 +1,4 @@
-// "LW Interface Info 8", "LW Command Interface" and "Info Messages 4".
+// "LW Interface Info 8" and "LW Command Interface".
 #include <limits>
 
 #include "standin/core/gap_slots.h"
@@ -10,8 +10,6 @@ namespace standin {
 
 template <>
 inline constexpr const char* kTableName<lw::LWInterfaceInfo> = "LWInterfaceInfo";
-template <>
-inline constexpr const char* kTableName<lw::LWMessageFuncs> = "LWMessageFuncs";
 
 namespace {
 
@@ -62,63 +60,6 @@ int command(const char* text) {
   return utf8.starts_with("StatusMsg") ? options.statusResult : options.acceptedResult;
 }
 
-// ---------------------------------------------------------------------------------------------------------------------
-// Messages
-
-std::string joined(const char* first, const char* second) {
-  const std::string start = first == nullptr ? std::string() : first;
-  return second == nullptr || *second == '\0' ? start : start + " / " + second;
-}
-
-void show(const char* kind, std::string text) {
-  LayoutHost::current().state().transcript.add({EventKind::message, std::move(text), kind, std::nullopt});
-}
-
-void info(const char* first, const char* second) {
-  const HostCall call("LWMessageFuncs::info");
-  if (checkedOutput(call, first)) show("info", joined(first, second));
-}
-
-void error(const char* first, const char* second) {
-  const HostCall call("LWMessageFuncs::error");
-  if (checkedOutput(call, first)) show("error", joined(first, second));
-}
-
-void warning(const char* first, const char* second) {
-  const HostCall call("LWMessageFuncs::warning");
-  if (checkedOutput(call, first)) show("warning", joined(first, second));
-}
-
-// The next answer of the queue, within the answers of the question; without one the user cancels.
-int ask(const HostCall& call, const char* kind, int greatest, const char* title, const char* first, const char* second) {
-  if (!checkedOutput(call, title)) return 0;
-  show(kind, joined(title, joined(first, second).c_str()));
-  auto& answers = LayoutHost::current().state().answers;
-  if (call.refused() || answers.empty()) return 0;
-  const int answer = answers.front();
-  answers.pop_front();
-  return answer < 0 || answer > greatest ? 0 : answer;
-}
-
-int okCancel(const char* title, const char* first, const char* second) {
-  return ask(HostCall("LWMessageFuncs::okCancel"), "ok or cancel", 1, title, first, second);
-}
-int yesNo(const char* title, const char* first, const char* second) {
-  return ask(HostCall("LWMessageFuncs::yesNo"), "yes or no", 1, title, first, second);
-}
-int yesNoCancel(const char* title, const char* first, const char* second) {
-  return ask(HostCall("LWMessageFuncs::yesNoCan"), "yes, no or cancel", 2, title, first, second);
-}
-int yesNoAll(const char* title, const char* first, const char* second) {
-  return ask(HostCall("LWMessageFuncs::yesNoAll"), "yes, no or all", 3, title, first, second);
-}
-
-const char* askName(const char*, const char*, const char*) {
-  const HostCall call("LWMessageFuncs::askName");
-  call.fault("is not offered by this host");
-  return nullptr;
-}
-
 }  // namespace
 
 void fillInterfaceFunctions(lw::LWInterfaceInfo& info) {
@@ -144,10 +85,5 @@ void spoilInterfaceRecord(InterfaceRecord& record) {
 }
 
 lw::CommandFunc commandFunction() { return &command; }
-
-lw::LWMessageFuncs* messageTable() {
-  static lw::LWMessageFuncs table{&info, &error, &warning, &okCancel, &yesNo, &yesNoCancel, &yesNoAll, &askName};
-  return &table;
-}
 
 }  // namespace standin

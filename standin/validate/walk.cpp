@@ -41,7 +41,7 @@ std::string Walk::useControl() {
   if (usable.empty()) return "nothing to use";
   Control& control = *usable[below(static_cast<std::uint32_t>(usable.size()))];
   std::string what = "use " + control.describe();
-  session_.layAnswer(static_cast<Answer>(below(4)));
+  session_.layAnswer(static_cast<Answer>(below(2)));
   const std::uint32_t pick = below(1U << 16);
   const Done done = touch(control, pick);
   return what + " with " + std::to_string(pick) + (done ? "" : ", in vain");

@@ -45,7 +45,7 @@ void openPanels() {
 
 void layAnswer(std::uint8_t number) {
   auto& answers = standin::modelerSession()->messages.answers;
-  answers.assign(1, static_cast<Answer>(number % 4));
+  answers.assign(1, static_cast<Answer>(number % 2));
 }
 
 void select(std::uint8_t mask) {

@@ -225,7 +225,7 @@ TEST(TimeInfo, IsOfTheMomentItWasAskedFor) {
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Object files and messages
+// Object files
 
 TEST(ObjectInfo, GivesFileAndLayer) {
   LayoutSession session;
@@ -258,15 +258,6 @@ TEST(SceneObjects, ListFilesAndLayers) {
   EXPECT_EQ(objects->layerExists(0, 1), 0);
   EXPECT_STREQ(objects->layerName(0, 3), "Rig");
   EXPECT_EQ(objects->layerName(0, 0), nullptr);
-}
-
-TEST(Messages, AreAnsweredFromTheQueueElseCancelled) {
-  LayoutSession session;
-  session.host.state().answers = {2};
-  EXPECT_EQ(session.messages()->yesNoCan("Title", "First", nullptr), 2);
-  EXPECT_EQ(session.messages()->yesNo("Title", "First", "Second"), 0);
-  const std::vector<std::string> shown{"Title / First", "Title / First / Second"};
-  EXPECT_EQ(session.host.transcript().texts(EventKind::message), shown);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
