@@ -531,9 +531,7 @@ enum ItemParam : int {
   kParamForward = 4,
   kParamRotation = 5,  // heading, pitch, bank in radians
   kParamScale = 6,
-  kParamPivot = 7,
   kParamWorldPosition = 8,
-  kParamPivotRotation = 12,
 };
 
 // "LW Item Info 9"
@@ -542,7 +540,7 @@ struct LWItemInfo {
   ItemId (*next)(ItemId);
   GapSlot gap_16[2];
   ItemId (*parent)(ItemId);
-  ItemId (*target)(ItemId);
+  GapSlot gap_40;
   ItemId (*goal)(ItemId);
   int (*type)(ItemId);
   const char* (*name)(ItemId);
@@ -554,13 +552,11 @@ struct LWItemInfo {
   GapSlot gap_120;
   void (*controller)(ItemId, int param, int kinds[3]);
   unsigned (*flags)(ItemId);
-  GapSlot gap_144[6];
-  unsigned (*goalObjective)(ItemId);
-  GapSlot gap_200;
+  GapSlot gap_144[8];
   unsigned (*ikInitialState)(ItemId);
   GapSlot gap_216;
   unsigned (*ikSoft)(ItemId, double time, unsigned* distance, double* least, double* greatest);
-  ItemId (*pole)(ItemId);
+  GapSlot gap_232;
   ItemId (*sameItem)(ItemId, int param);
   GapSlot gap_248[9];
   int (*rotationOrder)(ItemId);
@@ -569,7 +565,6 @@ struct LWItemInfo {
 static_assert(sizeof(LWItemInfo) == 336);
 static_assert(offsetof(LWItemInfo, next) == 8);
 static_assert(offsetof(LWItemInfo, parent) == 32);
-static_assert(offsetof(LWItemInfo, target) == 40);
 static_assert(offsetof(LWItemInfo, goal) == 48);
 static_assert(offsetof(LWItemInfo, type) == 56);
 static_assert(offsetof(LWItemInfo, name) == 64);
@@ -579,50 +574,30 @@ static_assert(offsetof(LWItemInfo, chanGroup) == 104);
 static_assert(offsetof(LWItemInfo, server) == 112);
 static_assert(offsetof(LWItemInfo, controller) == 128);
 static_assert(offsetof(LWItemInfo, flags) == 136);
-static_assert(offsetof(LWItemInfo, goalObjective) == 192);
 static_assert(offsetof(LWItemInfo, ikInitialState) == 208);
 static_assert(offsetof(LWItemInfo, ikSoft) == 224);
-static_assert(offsetof(LWItemInfo, pole) == 232);
 static_assert(offsetof(LWItemInfo, sameItem) == 240);
 static_assert(offsetof(LWItemInfo, rotationOrder) == 320);
 
 // "LW Object Info 14"
 struct LWObjectInfo {
   const char* (*filename)(ItemId);  // of a null object: null or empty
-  GapSlot gap_8[5];
-  unsigned (*flags)(ItemId);
-  GapSlot gap_56[5];
-  ItemId (*boneSource)(ItemId);
-  GapSlot gap_104[22];
+  GapSlot gap_8[34];
   int (*layerLoaded)(ItemId);
-  GapSlot gap_288[11];
-  unsigned (*boneMode)(ItemId);
-  unsigned (*numLimitedBones)(ItemId);
-  GapSlot gap_392[2];
+  GapSlot gap_288[15];
 };
 static_assert(sizeof(LWObjectInfo) == 408);
-static_assert(offsetof(LWObjectInfo, flags) == 48);
-static_assert(offsetof(LWObjectInfo, boneSource) == 96);
 static_assert(offsetof(LWObjectInfo, layerLoaded) == 280);
-static_assert(offsetof(LWObjectInfo, boneMode) == 376);
-static_assert(offsetof(LWObjectInfo, numLimitedBones) == 384);
 
 // "LW Bone Info 7"
 struct LWBoneInfo {
   unsigned (*flags)(ItemId);
   GapSlot gap_8[3];
   const char* (*weightMap)(ItemId);  // with none: null or empty
-  double (*strength)(ItemId);
-  int (*falloff)(ItemId);  // counts from 0, the command from 1
-  GapSlot gap_56[2];
-  int (*type)(ItemId);
-  GapSlot gap_80[6];
+  GapSlot gap_40[11];
 };
 static_assert(sizeof(LWBoneInfo) == 128);
 static_assert(offsetof(LWBoneInfo, weightMap) == 32);
-static_assert(offsetof(LWBoneInfo, strength) == 40);
-static_assert(offsetof(LWBoneInfo, falloff) == 48);
-static_assert(offsetof(LWBoneInfo, type) == 72);
 
 enum BoneFlags : unsigned {
   kBoneActive = 0x1,
@@ -640,7 +615,6 @@ enum BoneFlags : unsigned {
 };
 
 enum ItemFlags : unsigned {
-  kItemActive = 0x1,
   kItemUnaffectedByIK = 0x2,
   kItemFullTimeIK = 0x4,
   kItemMatchGoalOrientation = 0x8,
@@ -650,28 +624,18 @@ enum ItemFlags : unsigned {
 
 // "LW Interface Info 8". Describes the moment it was asked for: ask again after a command.
 struct LWInterfaceInfo {
-  double curTime;
+  double gap_0;
   const ItemId* selItems;  // ended by a null item
-  unsigned (*itemFlags)(ItemId);
+  GapSlot gap_16;
   int gap_24[4];
-  GapSlot gap_40;
-  int (*itemVis)(ItemId);
-  unsigned displayFlags;
-  unsigned generalFlags;
-  int boxThreshold;
-  int (*itemColor)(ItemId);
-  GapSlot gap_80[2];
+  GapSlot gap_40[2];
+  int gap_56[4];
+  GapSlot gap_72[3];
   int gap_96[2];
   GapSlot gap_104[4];
 };
 static_assert(sizeof(LWInterfaceInfo) == 136);
 static_assert(offsetof(LWInterfaceInfo, selItems) == 8);
-static_assert(offsetof(LWInterfaceInfo, itemFlags) == 16);
-static_assert(offsetof(LWInterfaceInfo, itemVis) == 48);
-static_assert(offsetof(LWInterfaceInfo, displayFlags) == 56);
-static_assert(offsetof(LWInterfaceInfo, generalFlags) == 60);
-static_assert(offsetof(LWInterfaceInfo, boxThreshold) == 64);
-static_assert(offsetof(LWInterfaceInfo, itemColor) == 72);
 
 // "LW Time Info". Ask again whenever a current value is needed.
 struct LWTimeInfo {
@@ -687,10 +651,7 @@ struct LWChannelInfo {
   ChannelId (*nextChannel)(GroupId, ChannelId previous);
   const char* (*groupName)(GroupId);
   const char* (*channelName)(ChannelId);
-  GroupId (*groupParent)(GroupId);
-  GroupId (*channelParent)(ChannelId);
-  int (*channelType)(ChannelId);
-  double (*channelEvaluate)(ChannelId, double time);
+  GapSlot gap_32[4];
   EnvelopeId (*channelEnvelope)(ChannelId);
   GapSlot gap_72[6];
 };
@@ -698,28 +659,21 @@ static_assert(sizeof(LWChannelInfo) == 120);
 static_assert(offsetof(LWChannelInfo, nextChannel) == 8);
 static_assert(offsetof(LWChannelInfo, groupName) == 16);
 static_assert(offsetof(LWChannelInfo, channelName) == 24);
-static_assert(offsetof(LWChannelInfo, groupParent) == 32);
-static_assert(offsetof(LWChannelInfo, channelParent) == 40);
-static_assert(offsetof(LWChannelInfo, channelType) == 48);
-static_assert(offsetof(LWChannelInfo, channelEvaluate) == 56);
 static_assert(offsetof(LWChannelInfo, channelEnvelope) == 64);
 
 enum KeyTag : int { kKeyValue = 0, kKeyTime = 1 };
-enum EnvelopeTag : int { kEnvelopeKeyCount = 3 };
 
 // "Animation Envelopes 4"
 struct LWEnvelopeFuncs {
   GapSlot gap_0[10];
   KeyId (*createKey)(EnvelopeId, double time, double value);
-  void (*destroyKey)(EnvelopeId, KeyId);
+  GapSlot gap_88;
   KeyId (*findKey)(EnvelopeId, double time);
   KeyId (*nextKey)(EnvelopeId, KeyId);  // null gives the first key; null at the end
-  KeyId (*prevKey)(EnvelopeId, KeyId);
+  GapSlot gap_112;
   int (*keySet)(EnvelopeId, KeyId, int tag, void* value);  // non-zero = done
   int (*keyGet)(EnvelopeId, KeyId, int tag, void* value);
-  GapSlot gap_136[2];
-  int (*egGet)(EnvelopeId, GroupId, int tag, void* value);
-  GapSlot gap_160;
+  GapSlot gap_136[4];
 };
 static_assert(sizeof(LWEnvelopeFuncs) == 168);
 static_assert(offsetof(LWEnvelopeFuncs, createKey) == 80);
@@ -727,7 +681,6 @@ static_assert(offsetof(LWEnvelopeFuncs, findKey) == 96);
 static_assert(offsetof(LWEnvelopeFuncs, nextKey) == 104);
 static_assert(offsetof(LWEnvelopeFuncs, keySet) == 120);
 static_assert(offsetof(LWEnvelopeFuncs, keyGet) == 128);
-static_assert(offsetof(LWEnvelopeFuncs, egGet) == 152);
 
 static_assert(sizeof(void*) == 8 && sizeof(int) == 4 && sizeof(double) == 8, "the host runs on 64-bit machines only");
 

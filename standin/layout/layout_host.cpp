@@ -98,15 +98,12 @@ std::optional<int> LayoutHost::activate(ModuleFile& module, std::string_view ser
 void* LayoutHost::freshInterfaceInfo() {
   InterfaceRecord& record = interfaceRecords_.next(&spoilInterfaceRecord);
   record.info = {};
-  record.info.curTime = state_.time;
   const LayoutOptions& options = scene().options();
   record.selection = scene().selectionList();
   const bool none = scene().selection().empty() && options.selectedItemsNullWhenEmpty;
   const std::vector<lw::ItemId>& list = options.selectionFollows ? scene().followingList() : record.selection;
   record.info.selItems = none ? nullptr : list.data();
-  record.info.generalFlags = (state_.ikEnabled ? 0x80U : 0U) | (state_.motionControllersEnabled ? 0x800U : 0U) |
-                             (options.parentInPlace ? 0x4U : 0U);
-  fillInterfaceFunctions(record.info);
+  fillInterfaceGaps(record.info);
   return &record.info;
 }
 

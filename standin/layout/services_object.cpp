@@ -17,11 +17,7 @@ Item* checkedObject(const HostCall& call, lw::ItemId id) { return checkedItem(ca
 Item* checkedBone(const HostCall& call, lw::ItemId id) { return checkedItem(call, id, lw::kItemBone); }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Object info. The four bone modes of the command show in two places: the mode knows three of them, the flags tell the
-// second from the first.
-
-constexpr unsigned kFlagFasterBones = 0x400;
-constexpr unsigned kFlagMorphedPositions = 0x800;
+// Object info
 
 const char* fileNameOfNull(const Item& null) {
   switch (currentScene().options().nullFileName) {
@@ -40,38 +36,11 @@ const char* fileName(lw::ItemId id) {
   return giveText(currentScene().files()[object->source->file].path);
 }
 
-unsigned objectFlags(lw::ItemId id) {
-  const HostCall call("LWObjectInfo::flags");
-  const Item* object = checkedObject(call, id);
-  if (object == nullptr || call.refused()) return 0;
-  return (object->object.boneMode == 2 ? kFlagFasterBones : 0U) |
-         (object->object.boneMode == 1 ? kFlagMorphedPositions : 0U);
-}
-
-lw::ItemId boneSource(lw::ItemId id) {
-  const HostCall call("LWObjectInfo::boneSource");
-  const Item* object = checkedObject(call, id);
-  return object == nullptr || call.refused() ? nullptr : currentScene().idOf(object->object.boneSource);
-}
-
 int layerLoaded(lw::ItemId id) {
   const HostCall call("LWObjectInfo::layerLoaded");
   const Item* object = checkedObject(call, id);
   if (object == nullptr || call.refused()) return 0;
   return (object->source ? object->source->layer : 0) + currentScene().options().layerBase;
-}
-
-unsigned boneMode(lw::ItemId id) {
-  const HostCall call("LWObjectInfo::boneMode");
-  const Item* object = checkedObject(call, id);
-  if (object == nullptr || call.refused()) return 0;
-  return object->object.boneMode < 2 ? 0 : static_cast<unsigned>(object->object.boneMode - 1);
-}
-
-unsigned numLimitedBones(lw::ItemId id) {
-  const HostCall call("LWObjectInfo::numLimitedBones");
-  const Item* object = checkedObject(call, id);
-  return object == nullptr || call.refused() ? 0 : static_cast<unsigned>(object->object.limitedBones);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -105,24 +74,6 @@ const char* weightMap(lw::ItemId id) {
   if (bone == nullptr || call.refused()) return nullptr;
   if (bone->bone.weightMap.empty() && !currentScene().options().noWeightMapIsEmpty) return nullptr;
   return giveText(bone->bone.weightMap);
-}
-
-double strength(lw::ItemId id) {
-  const HostCall call("LWBoneInfo::strength");
-  const Item* bone = checkedBone(call, id);
-  return bone == nullptr || call.refused() ? 0 : bone->bone.strength;
-}
-
-int falloff(lw::ItemId id) {
-  const HostCall call("LWBoneInfo::falloff");
-  const Item* bone = checkedBone(call, id);
-  return bone == nullptr || call.refused() ? 0 : bone->bone.falloff;
-}
-
-int boneType(lw::ItemId id) {
-  const HostCall call("LWBoneInfo::type");
-  const Item* bone = checkedBone(call, id);
-  return bone == nullptr || call.refused() ? 0 : bone->bone.type;
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -196,16 +147,9 @@ lw::LWObjectInfo* objectInfoTable() {
   static lw::LWObjectInfo table = [] {
     lw::LWObjectInfo t{};
     t.filename = &fileName;
-    t.flags = &objectFlags;
-    t.boneSource = &boneSource;
     t.layerLoaded = &layerLoaded;
-    t.boneMode = &boneMode;
-    t.numLimitedBones = &numLimitedBones;
     STANDIN_FILL_GAP(t, 8);
-    STANDIN_FILL_GAP(t, 56);
-    STANDIN_FILL_GAP(t, 104);
     STANDIN_FILL_GAP(t, 288);
-    STANDIN_FILL_GAP(t, 392);
     return t;
   }();
   return &table;
@@ -216,12 +160,8 @@ lw::LWBoneInfo* boneInfoTable() {
     lw::LWBoneInfo t{};
     t.flags = &boneFlags;
     t.weightMap = &weightMap;
-    t.strength = &strength;
-    t.falloff = &falloff;
-    t.type = &boneType;
     STANDIN_FILL_GAP(t, 8);
-    STANDIN_FILL_GAP(t, 56);
-    STANDIN_FILL_GAP(t, 80);
+    STANDIN_FILL_GAP(t, 40);
     return t;
   }();
   return &table;
