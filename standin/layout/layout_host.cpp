@@ -28,7 +28,7 @@ const std::vector<std::string>& presentOnly() {
       "Directory Info 2",     "File Request",          "File Request 3",   "Image Utility 6",     "LW Image List 9",
       "Instance Update",      "RasterServices 4",      "LWShelfFuncs 2",   "Surface Functions 6", "LWXPanel 3",
       "LSUniversalRequester", "LW Communication Ring", "NodeInputFuncs 5", "NodeOutputFuncs 4",   "NodeFuncs 3",
-      "LW Light Info 6",      "Info Messages 4",
+      "LW Light Info 6",      "Info Messages 4",       "Scene Objects 9",
   };
   return names;
 }
@@ -38,7 +38,6 @@ void offerServices(LayoutHost& host) {
   offered.offerTable("LW Item Info 9", itemInfoTable());
   offered.offerTable("LW Object Info 14", objectInfoTable());
   offered.offerTable("LW Bone Info 7", boneInfoTable());
-  offered.offerTable("Scene Objects 9", sceneObjectsTable());
   offered.offerTable("Channel Info 3", channelInfoTable());
   offered.offerTable("Animation Envelopes 4", envelopeTable());
   offered.offer("LW Command Interface", reinterpret_cast<void*>(commandFunction()));

@@ -12,7 +12,6 @@ namespace standin {
 lw::LWItemInfo* itemInfoTable();
 lw::LWObjectInfo* objectInfoTable();
 lw::LWBoneInfo* boneInfoTable();
-lw::LWObjectFuncs* sceneObjectsTable();
 lw::LWChannelInfo* channelInfoTable();
 lw::LWEnvelopeFuncs* envelopeTable();
 lw::CommandFunc commandFunction();

@@ -240,22 +240,6 @@ TEST(ObjectInfo, OfANullHasAnEmptyFileNameWhereTheHostGivesOne) {
   EXPECT_STREQ(session.objects()->filename(session.id(session.scene().addNull("A"))), "");
 }
 
-TEST(SceneObjects, ListFilesAndLayers) {
-  LayoutSession session;
-  ObjectFile file;
-  file.layers.resize(2);
-  file.layers[1].number = 3;
-  file.layers[1].name = "Rig";
-  session.scene().addObject(file, "cat.lwo");
-  const auto* objects = session.table<lw::LWObjectFuncs>("Scene Objects 9");
-  EXPECT_EQ(objects->numObjects(), 1);
-  EXPECT_STREQ(objects->filename(0), "cat.lwo");
-  EXPECT_EQ(objects->maxLayers(0), 4);
-  EXPECT_EQ(objects->layerExists(0, 1), 0);
-  EXPECT_STREQ(objects->layerName(0, 3), "Rig");
-  EXPECT_EQ(objects->layerName(0, 0), nullptr);
-}
-
 // ---------------------------------------------------------------------------------------------------------------------
 // Refused calls
 
