@@ -387,66 +387,41 @@ static_assert(sizeof(LWControl) == 32);
 static_assert(offsetof(LWControl, get) == 8);
 static_assert(offsetof(LWControl, set) == 16);
 
-struct DrawFuncs {
-  GapSlot gap_0[6];
-  int (*textWidth)(PanelId, const char* text);
-  void (*drawText)(PanelId, const char* text, int colour, int x, int y);
-  const int* (*dispMetrics)();
-};
-static_assert(sizeof(DrawFuncs) == 72);
-static_assert(offsetof(DrawFuncs, textWidth) == 48);
-static_assert(offsetof(DrawFuncs, dispMetrics) == 64);
-
 struct LWPanelFuncs {
   PanelId (*create)(const char* title, void* owner);
   void (*destroy)(PanelId);
   int (*open)(PanelId, int flags);
-  int (*handle)(PanelId, int how);
+  GapSlot gap_24;
   void (*draw)(PanelId, int mode);
   void (*close)(PanelId);
   void (*get)(PanelId, int attribute, void* out);
   void (*set)(PanelId, int attribute, void* value);
   LWControl* (*addControl)(PanelId, const char* kind, LWPanControlDesc*, const char* label);
-  LWControl* (*nextControl)(PanelId, LWControl* previous);
-  DrawFuncs* drawFuncs;
+  GapSlot gap_72[2];
   void* user_data;
   GlobalFunc globalFun;  // written by the module
-  void (*destroyControl)(PanelId, LWControl*);
-  void (*setParent)(PanelId, PanelId parent);
-  GapSlot gap_120;
+  GapSlot gap_104[3];
 };
 static_assert(sizeof(LWPanelFuncs) == 128);
 static_assert(offsetof(LWPanelFuncs, destroy) == 8);
 static_assert(offsetof(LWPanelFuncs, open) == 16);
-static_assert(offsetof(LWPanelFuncs, handle) == 24);
 static_assert(offsetof(LWPanelFuncs, draw) == 32);
 static_assert(offsetof(LWPanelFuncs, close) == 40);
 static_assert(offsetof(LWPanelFuncs, get) == 48);
 static_assert(offsetof(LWPanelFuncs, set) == 56);
 static_assert(offsetof(LWPanelFuncs, addControl) == 64);
-static_assert(offsetof(LWPanelFuncs, nextControl) == 72);
-static_assert(offsetof(LWPanelFuncs, drawFuncs) == 80);
 static_assert(offsetof(LWPanelFuncs, user_data) == 88);
 static_assert(offsetof(LWPanelFuncs, globalFun) == 96);
-static_assert(offsetof(LWPanelFuncs, destroyControl) == 104);
-static_assert(offsetof(LWPanelFuncs, setParent) == 112);
 
-// Numbers travel as the address of an int; hooks, user data and the title are the pointer itself.
+// Numbers travel as the address of an int; hooks and user data are the pointer itself.
 enum PanelAttribute : int {
-  kPanelX = 0,
-  kPanelY = 1,
   kPanelWidth = 2,
   kPanelHeight = 3,
   kPanelMouseX = 4,
   kPanelMouseY = 5,
-  kPanelOpenFlags = 6,
-  kPanelDrawHook = 7,
-  kPanelActivateHook = 8,
   kPanelOpenHook = 9,
   kPanelCloseHook = 10,
-  kPanelTitle = 11,
   kPanelUserData = 12,
-  kPanelKeyHook = 13,
   kPanelMouseButtonHook = 15,
   kPanelMouseMoveHook = 16,
   kPanelQualifiers = 22,
@@ -459,7 +434,7 @@ enum PanelAttribute : int {
   kPanelGreatestHeight = 29,
 };
 
-// Pointers (draw and event callback, user data, selection and menu callback) travel in the pointer member of the value.
+// Pointers (draw and event callback, user data) travel in the pointer member of the value.
 enum ControlAttribute : int {
   kControlX = 0,
   kControlY = 1,
@@ -473,26 +448,15 @@ enum ControlAttribute : int {
   kControlLabelWidth = 9,
   kControlMouseX = 10,
   kControlMouseY = 11,
-  kControlFlags = 12,
   kControlDrawCallback = 13,
   kControlEventCallback = 14,
-  kControlLabel = 15,
   kControlUserData = 16,
-  kControlPanel = 17,
-  kControlServices = 18,
-  kControlRangeLeast = 19,
-  kControlRangeGreatest = 20,
-  kControlFocus = 21,
   kControlMouseButton = 22,
-  kControlSelectCallback = 23,
   kControlClickCount = 24,
-  kControlMenuFlagsCallback = 25,
 };
 
-enum DrawMode : int { kDrawErase = 0, kDrawRender = 1, kDrawGhost = 2, kDrawRefresh = 3 };
+enum DrawMode : int { kDrawErase = 0, kDrawRender = 1, kDrawRefresh = 3 };
 enum PanelOpenFlags : int {
-  kOpenBlocking = 1,
-  kOpenCancel = 2,
   kOpenMouse = 8,
   kOpenNoButtons = 64,
   kOpenResizable = 128,
@@ -511,9 +475,7 @@ enum MouseBits : int {
 using ControlEvent = void (*)(LWControl*, void* user);
 using ControlDraw = void (*)(LWControl*, void* user, int mode);
 using PanelHook = void (*)(PanelId, void* user);
-using PanelKeyHook = int (*)(PanelId, void* user, unsigned short key);
 using PanelMouseHook = void (*)(PanelId, void* user, int bits, int x, int y);
-using PanelDrawHook = void (*)(PanelId, void* user, int mode);
 using PanelResizeHook = void (*)(PanelId, void* user, int width, int height);
 
 // ---------------------------------------------------------------------------------------------------------------------

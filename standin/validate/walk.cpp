@@ -50,14 +50,12 @@ std::string Walk::useControl() {
 std::string Walk::usePanel() {
   const std::vector<Panel*> open = panels().open();
   Panel& panel = *open[below(static_cast<std::uint32_t>(open.size()))];
-  switch (below(5)) {
+  switch (below(3)) {
     case 0: std::ignore = person::close(&panel); return "close a panel";
     case 1:
       if (panel.leastWidth == 0) return "leave a panel as large as it is";  // it may be made too small
       std::ignore = person::resize(&panel, static_cast<int>(below(900)) + 1, static_cast<int>(below(900)) + 1);
       return "resize a panel";
-    case 2: std::ignore = person::activate(&panel); return "activate a panel";
-    case 3: std::ignore = person::key(&panel, static_cast<unsigned short>(below(256))); return "press a key";
     default: panels().paintWanted(panel); return "paint a panel";
   }
 }
