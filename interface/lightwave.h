@@ -18,7 +18,6 @@ namespace lw {
 
 using PointId = struct OpaquePoint*;
 using PolygonId = struct OpaquePolygon*;
-using MeshId = struct OpaqueMesh*;
 using EditId = struct OpaqueEdit*;
 using ItemId = struct OpaqueItem*;
 using GroupId = struct OpaqueGroup*;
@@ -113,13 +112,12 @@ enum EditError : int {
   kEditBadSurface = 3,
   kEditUserAbort = 4,
   kEditBadArguments = 5,
-  kEditBadVMap = 6,
 };
 
 // One polygon as the edit sees it. The host fills one and the same record anew at each query.
 struct EDPolygonInfo {
   PolygonId pol;
-  void* userData;
+  GapSlot gap_8;
   int layer;
   int flags;
   int numPnts;
@@ -127,8 +125,8 @@ struct EDPolygonInfo {
   const char* surface;
   std::uint32_t type;
   int typeFlags;
-  unsigned smGrps;
-  MeshId meshid;
+  unsigned gap_56;
+  GapSlot gap_64;
 };
 static_assert(sizeof(EDPolygonInfo) == 72);
 static_assert(offsetof(EDPolygonInfo, layer) == 16);
@@ -137,7 +135,6 @@ static_assert(offsetof(EDPolygonInfo, numPnts) == 24);
 static_assert(offsetof(EDPolygonInfo, points) == 32);
 static_assert(offsetof(EDPolygonInfo, surface) == 40);
 static_assert(offsetof(EDPolygonInfo, type) == 48);
-static_assert(offsetof(EDPolygonInfo, meshid) == 64);
 
 using FastPolygonScan = int (*)(void* user, PolygonId polygon);
 
@@ -254,12 +251,10 @@ enum ValueType : int {
   kValueString = 1,
   kValueInteger = 2,
   kValueFloat = 3,
-  kValueDistance = 4,
   kValueBoolean = 8,
   kValueChoice = 9,
   kValueText = 12,
   kValueRange = 15,
-  kValuePercent = 17,
   kValuePopup = 18,
   kValueArea = 19,
   kValuePointer = 23,
@@ -296,13 +291,6 @@ struct LWValPointer {
 static_assert(sizeof(LWValPointer) == 16);
 static_assert(offsetof(LWValPointer, ptr) == 8);
 
-struct LWValFVector {
-  int type;
-  double val[3];
-  double defVal;
-};
-static_assert(sizeof(LWValFVector) == 40);
-
 // Set `type` before every get and every set.
 union LWValue {
   int type;
@@ -310,7 +298,7 @@ union LWValue {
   LWValFloat flt;
   LWValString str;
   LWValPointer ptr;
-  LWValFVector fvec;
+  GapSlot whole[5];
 };
 static_assert(sizeof(LWValue) == 40);
 
