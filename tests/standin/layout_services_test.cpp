@@ -1,7 +1,5 @@
 // How strictly the tables of the stand-in Layout take their callers, and what a refused call gives.
 #include <cmath>
-#include <functional>
-#include <limits>
 
 #include "tests/standin/layout_fixture.h"
 
@@ -243,66 +241,34 @@ TEST(ObjectInfo, OfANullHasAnEmptyFileNameWhereTheHostGivesOne) {
 // ---------------------------------------------------------------------------------------------------------------------
 // Refused calls
 
-struct RefusedRow {
+struct Refusal {
   const char* function;
-  std::function<bool(LayoutSession&, lw::ItemId bone)> answersAsFailed;
+  bool (*isAnswered)(LayoutSession&, lw::ItemId bone);  // as a function answers that failed
 };
 
-class RefusedCall : public ::testing::TestWithParam<RefusedRow> {};
+const Refusal kRefusals[] = {
+    {"LWItemInfo::name", [](LayoutSession& s, lw::ItemId bone) { return s.items()->name(bone) == nullptr; }},
+    {"LWItemInfo::parent", [](LayoutSession& s, lw::ItemId bone) { return s.items()->parent(bone) == nullptr; }},
+    {"LWItemInfo::chanGroup", [](LayoutSession& s, lw::ItemId bone) { return s.items()->chanGroup(bone) == nullptr; }},
+    {"LWItemInfo::flags", [](LayoutSession& s, lw::ItemId bone) { return s.items()->flags(bone) == 0; }},
+    {"LWBoneInfo::flags", [](LayoutSession& s, lw::ItemId bone) { return s.bones()->flags(bone) == 0; }},
+    {"global lookup", [](LayoutSession& s, lw::ItemId) { return s.items() == nullptr; }},
+    {"LW Command Interface", [](LayoutSession& s, lw::ItemId) { return s.send("RefreshNow") == 0; }},
+};
 
-INSTANTIATE_TEST_SUITE_P(Functions, RefusedCall,
-                         ::testing::Values(RefusedRow{"LWItemInfo::name",
-                                                      [](auto& s, auto bone) {
-                                                        auto* t = s.items();
-                                                        witness().refuseCall(1);
-                                                        return t->name(bone) == nullptr;
-                                                      }},
-                                           RefusedRow{"LWItemInfo::parent",
-                                                      [](auto& s, auto bone) {
-                                                        auto* t = s.items();
-                                                        witness().refuseCall(1);
-                                                        return t->parent(bone) == nullptr;
-                                                      }},
-                                           RefusedRow{"LWItemInfo::chanGroup",
-                                                      [](auto& s, auto bone) {
-                                                        auto* t = s.items();
-                                                        witness().refuseCall(1);
-                                                        return t->chanGroup(bone) == nullptr;
-                                                      }},
-                                           RefusedRow{"LWItemInfo::flags",
-                                                      [](auto& s, auto bone) {
-                                                        auto* t = s.items();
-                                                        witness().refuseCall(1);
-                                                        return t->flags(bone) == 0;
-                                                      }},
-                                           RefusedRow{"LWBoneInfo::flags",
-                                                      [](auto& s, auto bone) {
-                                                        auto* t = s.bones();
-                                                        witness().refuseCall(1);
-                                                        return t->flags(bone) == 0;
-                                                      }},
-                                           RefusedRow{"global lookup",
-                                                      [](auto& s, auto) {
-                                                        witness().refuseCall(1);
-                                                        return s.items() == nullptr;
-                                                      }},
-                                           RefusedRow{"LW Command Interface",
-                                                      [](auto&, auto) {
-                                                        const auto command = reinterpret_cast<lw::CommandFunc>(
-                                                            Globals::lookup()("LW Command Interface", 0));
-                                                        witness().refuseCall(1);
-                                                        return command("RefreshNow") == 0;
-                                                      }}),
-                         [](const auto& info) {
-                           std::string name = info.param.function;
-                           std::erase_if(name, [](char c) { return c == ':' || c == ' '; });
-                           return name;
-                         });
+class RefusedCall : public ::testing::TestWithParam<Refusal> {};
+
+INSTANTIATE_TEST_SUITE_P(Functions, RefusedCall, ::testing::ValuesIn(kRefusals), [](const auto& info) {
+  std::string name = info.param.function;
+  std::erase_if(name, [](char c) { return c == ':' || c == ' '; });
+  return name;
+});
 
 TEST_P(RefusedCall, AnswersAsAFailedOne) {
   LayoutSession session;
   const lw::ItemId bone = session.id(session.selectedBone());
-  EXPECT_TRUE(GetParam().answersAsFailed(session, bone));
+  witness().refuseNext(GetParam().function);
+  EXPECT_TRUE(GetParam().isAnswered(session, bone));
   EXPECT_EQ(witness().refusedFunction(), GetParam().function);
   EXPECT_TRUE(noFaults());
 }
