@@ -18,8 +18,6 @@ namespace lw {
 
 using PointId = struct OpaquePoint*;
 using PolygonId = struct OpaquePolygon*;
-using EdgeId = struct OpaqueEdge*;
-using MeshId = struct OpaqueMesh*;
 using EditId = struct OpaqueEdit*;
 using ItemId = struct OpaqueItem*;
 using GroupId = struct OpaqueGroup*;
@@ -102,13 +100,11 @@ inline constexpr std::uint32_t kMapWeight = fourCharacters('W', 'G', 'H', 'T');
 
 enum ElementFlags : int { kElementSelected = 1, kElementDeleted = 2 };
 enum LayerChoice : int {
-  kLayersPrimary = 0,
   kLayersForeground = 1,
-  kLayersBackground = 2,
   kLayersAll = 4,
   kLayersNonEmpty = 6,
 };
-enum EditMode : int { kEditAll = 0, kEditUser = 1, kEditDirect = 2, kEditSelecting = 0x8000 };
+enum EditMode : int { kEditAll = 0, kEditDirect = 2, kEditSelecting = 0x8000 };
 enum EditError : int {
   kEditNoError = 0,
   kEditNoMemory = 1,
@@ -116,13 +112,12 @@ enum EditError : int {
   kEditBadSurface = 3,
   kEditUserAbort = 4,
   kEditBadArguments = 5,
-  kEditBadVMap = 6,
 };
 
 // One polygon as the edit sees it. The host fills one and the same record anew at each query.
 struct EDPolygonInfo {
   PolygonId pol;
-  void* userData;
+  GapSlot gap_8;
   int layer;
   int flags;
   int numPnts;
@@ -130,8 +125,8 @@ struct EDPolygonInfo {
   const char* surface;
   std::uint32_t type;
   int typeFlags;
-  unsigned smGrps;
-  MeshId meshid;
+  unsigned gap_56;
+  GapSlot gap_64;
 };
 static_assert(sizeof(EDPolygonInfo) == 72);
 static_assert(offsetof(EDPolygonInfo, layer) == 16);
@@ -140,27 +135,8 @@ static_assert(offsetof(EDPolygonInfo, numPnts) == 24);
 static_assert(offsetof(EDPolygonInfo, points) == 32);
 static_assert(offsetof(EDPolygonInfo, surface) == 40);
 static_assert(offsetof(EDPolygonInfo, type) == 48);
-static_assert(offsetof(EDPolygonInfo, meshid) == 64);
-
-struct EDPointInfo {
-  PointId pnt;
-  void* userData;
-  int layer;
-  int flags;
-  double position[3];
-  float* vmapVec;
-  int numEdges;
-  const EdgeId* edges;
-  MeshId meshid;
-};
-static_assert(sizeof(EDPointInfo) == 80);
-static_assert(offsetof(EDPointInfo, layer) == 16);
-static_assert(offsetof(EDPointInfo, flags) == 20);
-static_assert(offsetof(EDPointInfo, position) == 24);
-static_assert(offsetof(EDPointInfo, meshid) == 72);
 
 using FastPolygonScan = int (*)(void* user, PolygonId polygon);
-using SlowPolygonScan = int (*)(void* user, const EDPolygonInfo* polygon);
 
 // An open mesh edit. `state` is the first argument of every call. Changes become visible at `done` with error 0 and are
 // dropped with any other error. While an edit is open no command may be sent and no other edit be begun.
@@ -168,9 +144,7 @@ struct MeshEditOp {
   EditId state;
   int layerNum;
   void (*done)(EditId, int error, int after);
-  GapSlot gap_24[3];
-  int (*polyScan)(EditId, SlowPolygonScan, void* user, int layers);
-  EDPointInfo* (*pointInfo)(EditId, PointId);
+  GapSlot gap_24[5];
   EDPolygonInfo* (*polyInfo)(EditId, PolygonId);
   GapSlot gap_72[13];
   int (*polTag)(EditId, PolygonId, std::uint32_t type, const char* text);  // a null text removes the tag
@@ -183,21 +157,13 @@ struct MeshEditOp {
   GapSlot gap_360;
   std::uint32_t (*polyType)(EditId, PolygonId);
   int (*polyPoints)(EditId, PolygonId, const PointId** out);
-  GapSlot gap_384[2];
-  int (*polyFlags)(EditId, PolygonId);
-  GapSlot gap_408[5];
+  GapSlot gap_384[8];
   int (*fastPolyScan)(EditId, FastPolygonScan, void* user, int layers, int selectedOnly);
-  GapSlot gap_456[2];
-  int (*polyLayer)(EditId, PolygonId);
-  GapSlot gap_480[9];
-  int (*vMapExists)(EditId, const char* name, std::uint32_t type);
-  GapSlot gap_560[9];
+  GapSlot gap_456[22];
 };
 static_assert(sizeof(MeshEditOp) == 632);
 static_assert(offsetof(MeshEditOp, layerNum) == 8);
 static_assert(offsetof(MeshEditOp, done) == 16);
-static_assert(offsetof(MeshEditOp, polyScan) == 48);
-static_assert(offsetof(MeshEditOp, pointInfo) == 56);
 static_assert(offsetof(MeshEditOp, polyInfo) == 64);
 static_assert(offsetof(MeshEditOp, polTag) == 176);
 static_assert(offsetof(MeshEditOp, polyTag) == 232);
@@ -205,10 +171,7 @@ static_assert(offsetof(MeshEditOp, polSelect) == 248);
 static_assert(offsetof(MeshEditOp, pointPos) == 352);
 static_assert(offsetof(MeshEditOp, polyType) == 368);
 static_assert(offsetof(MeshEditOp, polyPoints) == 376);
-static_assert(offsetof(MeshEditOp, polyFlags) == 400);
 static_assert(offsetof(MeshEditOp, fastPolyScan) == 448);
-static_assert(offsetof(MeshEditOp, polyLayer) == 472);
-static_assert(offsetof(MeshEditOp, vMapExists) == 552);
 
 using EvaluateFunc = int (*)(void* data, const char* command);  // 0 = accepted, else an error code
 using EditBeginFunc = MeshEditOp* (*)(int pointBytes, int edgeBytes, int polygonBytes, int mode);
@@ -218,9 +181,7 @@ using UndoFunc = void (*)();
 struct LWModCommand {
   void* data;
   const char* argument;
-  int (*lookup)(void* data, const char* command);
-  int (*execute)(void* data, int code, int argc, const void* argv, int mode, void* result);
-  MeshEditOp* (*editBegin)(int pointBytes, int polygonBytes, int mode);  // the older form, unused
+  GapSlot gap_16[3];
   EvaluateFunc evaluate;
   UndoFunc undoGroupBegin;
   UndoFunc undoGroupEnd;
@@ -228,9 +189,6 @@ struct LWModCommand {
 };
 static_assert(sizeof(LWModCommand) == 72);
 static_assert(offsetof(LWModCommand, argument) == 8);
-static_assert(offsetof(LWModCommand, lookup) == 16);
-static_assert(offsetof(LWModCommand, execute) == 24);
-static_assert(offsetof(LWModCommand, editBegin) == 32);
 static_assert(offsetof(LWModCommand, evaluate) == 40);
 static_assert(offsetof(LWModCommand, undoGroupBegin) == 48);
 static_assert(offsetof(LWModCommand, undoGroupEnd) == 56);
@@ -244,8 +202,7 @@ static_assert(sizeof(LWLayoutGeneric) == 64);
 
 // "LWM: State Query 5"
 struct LWStateQueryFuncs {
-  int (*numLayers)();
-  GapSlot gap_8[3];
+  GapSlot gap_0[4];
   const char* (*layerList)(int layers, const char* object);
   const char* (*object)();  // file name of the current object; null when none is loaded
   GapSlot gap_48[4];
@@ -265,10 +222,7 @@ struct LWObjectFuncs {
   const char* (*vmapName)(std::uint32_t type, int index);
   GapSlot gap_64[2];
   const char* (*layerName)(int object, int layer);
-  GapSlot gap_88[2];
-  const char* (*refName)(int object);
-  int maxPointsPerPoly;
-  GapSlot gap_120;
+  GapSlot gap_88[5];
 };
 static_assert(sizeof(LWObjectFuncs) == 128);
 static_assert(offsetof(LWObjectFuncs, filename) == 8);
@@ -277,26 +231,18 @@ static_assert(offsetof(LWObjectFuncs, layerExists) == 24);
 static_assert(offsetof(LWObjectFuncs, numVMaps) == 48);
 static_assert(offsetof(LWObjectFuncs, vmapName) == 56);
 static_assert(offsetof(LWObjectFuncs, layerName) == 80);
-static_assert(offsetof(LWObjectFuncs, refName) == 104);
-static_assert(offsetof(LWObjectFuncs, maxPointsPerPoly) == 112);
 
 // "Info Messages 4"
 struct LWMessageFuncs {
-  void (*info)(const char* first, const char* second);
+  GapSlot gap_0;
   void (*error)(const char* first, const char* second);
-  void (*warning)(const char* first, const char* second);
-  int (*okCancel)(const char* title, const char* first, const char* second);
+  GapSlot gap_16[2];
   int (*yesNo)(const char* title, const char* first, const char* second);
-  int (*yesNoCan)(const char* title, const char* first, const char* second);
-  int (*yesNoAll)(const char* title, const char* first, const char* second);
-  const char* (*askName)(const char* title, const char* label, const char* initial);
+  GapSlot gap_40[3];
 };
 static_assert(sizeof(LWMessageFuncs) == 64);
 static_assert(offsetof(LWMessageFuncs, error) == 8);
-static_assert(offsetof(LWMessageFuncs, warning) == 16);
-static_assert(offsetof(LWMessageFuncs, okCancel) == 24);
 static_assert(offsetof(LWMessageFuncs, yesNo) == 32);
-static_assert(offsetof(LWMessageFuncs, askName) == 56);
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Panels: "LWPanelServices 3", both programs
@@ -305,12 +251,10 @@ enum ValueType : int {
   kValueString = 1,
   kValueInteger = 2,
   kValueFloat = 3,
-  kValueDistance = 4,
   kValueBoolean = 8,
   kValueChoice = 9,
   kValueText = 12,
   kValueRange = 15,
-  kValuePercent = 17,
   kValuePopup = 18,
   kValueArea = 19,
   kValuePointer = 23,
@@ -347,13 +291,6 @@ struct LWValPointer {
 static_assert(sizeof(LWValPointer) == 16);
 static_assert(offsetof(LWValPointer, ptr) == 8);
 
-struct LWValFVector {
-  int type;
-  double val[3];
-  double defVal;
-};
-static_assert(sizeof(LWValFVector) == 40);
-
 // Set `type` before every get and every set.
 union LWValue {
   int type;
@@ -361,7 +298,7 @@ union LWValue {
   LWValFloat flt;
   LWValString str;
   LWValPointer ptr;
-  LWValFVector fvec;
+  GapSlot whole[5];
 };
 static_assert(sizeof(LWValue) == 40);
 
@@ -438,66 +375,41 @@ static_assert(sizeof(LWControl) == 32);
 static_assert(offsetof(LWControl, get) == 8);
 static_assert(offsetof(LWControl, set) == 16);
 
-struct DrawFuncs {
-  GapSlot gap_0[6];
-  int (*textWidth)(PanelId, const char* text);
-  void (*drawText)(PanelId, const char* text, int colour, int x, int y);
-  const int* (*dispMetrics)();
-};
-static_assert(sizeof(DrawFuncs) == 72);
-static_assert(offsetof(DrawFuncs, textWidth) == 48);
-static_assert(offsetof(DrawFuncs, dispMetrics) == 64);
-
 struct LWPanelFuncs {
   PanelId (*create)(const char* title, void* owner);
   void (*destroy)(PanelId);
   int (*open)(PanelId, int flags);
-  int (*handle)(PanelId, int how);
+  GapSlot gap_24;
   void (*draw)(PanelId, int mode);
   void (*close)(PanelId);
   void (*get)(PanelId, int attribute, void* out);
   void (*set)(PanelId, int attribute, void* value);
   LWControl* (*addControl)(PanelId, const char* kind, LWPanControlDesc*, const char* label);
-  LWControl* (*nextControl)(PanelId, LWControl* previous);
-  DrawFuncs* drawFuncs;
+  GapSlot gap_72[2];
   void* user_data;
   GlobalFunc globalFun;  // written by the module
-  void (*destroyControl)(PanelId, LWControl*);
-  void (*setParent)(PanelId, PanelId parent);
-  GapSlot gap_120;
+  GapSlot gap_104[3];
 };
 static_assert(sizeof(LWPanelFuncs) == 128);
 static_assert(offsetof(LWPanelFuncs, destroy) == 8);
 static_assert(offsetof(LWPanelFuncs, open) == 16);
-static_assert(offsetof(LWPanelFuncs, handle) == 24);
 static_assert(offsetof(LWPanelFuncs, draw) == 32);
 static_assert(offsetof(LWPanelFuncs, close) == 40);
 static_assert(offsetof(LWPanelFuncs, get) == 48);
 static_assert(offsetof(LWPanelFuncs, set) == 56);
 static_assert(offsetof(LWPanelFuncs, addControl) == 64);
-static_assert(offsetof(LWPanelFuncs, nextControl) == 72);
-static_assert(offsetof(LWPanelFuncs, drawFuncs) == 80);
 static_assert(offsetof(LWPanelFuncs, user_data) == 88);
 static_assert(offsetof(LWPanelFuncs, globalFun) == 96);
-static_assert(offsetof(LWPanelFuncs, destroyControl) == 104);
-static_assert(offsetof(LWPanelFuncs, setParent) == 112);
 
-// Numbers travel as the address of an int; hooks, user data and the title are the pointer itself.
+// Numbers travel as the address of an int; hooks and user data are the pointer itself.
 enum PanelAttribute : int {
-  kPanelX = 0,
-  kPanelY = 1,
   kPanelWidth = 2,
   kPanelHeight = 3,
   kPanelMouseX = 4,
   kPanelMouseY = 5,
-  kPanelOpenFlags = 6,
-  kPanelDrawHook = 7,
-  kPanelActivateHook = 8,
   kPanelOpenHook = 9,
   kPanelCloseHook = 10,
-  kPanelTitle = 11,
   kPanelUserData = 12,
-  kPanelKeyHook = 13,
   kPanelMouseButtonHook = 15,
   kPanelMouseMoveHook = 16,
   kPanelQualifiers = 22,
@@ -510,7 +422,7 @@ enum PanelAttribute : int {
   kPanelGreatestHeight = 29,
 };
 
-// Pointers (draw and event callback, user data, selection and menu callback) travel in the pointer member of the value.
+// Pointers (draw and event callback, user data) travel in the pointer member of the value.
 enum ControlAttribute : int {
   kControlX = 0,
   kControlY = 1,
@@ -524,26 +436,15 @@ enum ControlAttribute : int {
   kControlLabelWidth = 9,
   kControlMouseX = 10,
   kControlMouseY = 11,
-  kControlFlags = 12,
   kControlDrawCallback = 13,
   kControlEventCallback = 14,
-  kControlLabel = 15,
   kControlUserData = 16,
-  kControlPanel = 17,
-  kControlServices = 18,
-  kControlRangeLeast = 19,
-  kControlRangeGreatest = 20,
-  kControlFocus = 21,
   kControlMouseButton = 22,
-  kControlSelectCallback = 23,
   kControlClickCount = 24,
-  kControlMenuFlagsCallback = 25,
 };
 
-enum DrawMode : int { kDrawErase = 0, kDrawRender = 1, kDrawGhost = 2, kDrawRefresh = 3 };
+enum DrawMode : int { kDrawErase = 0, kDrawRender = 1, kDrawRefresh = 3 };
 enum PanelOpenFlags : int {
-  kOpenBlocking = 1,
-  kOpenCancel = 2,
   kOpenMouse = 8,
   kOpenNoButtons = 64,
   kOpenResizable = 128,
@@ -562,9 +463,7 @@ enum MouseBits : int {
 using ControlEvent = void (*)(LWControl*, void* user);
 using ControlDraw = void (*)(LWControl*, void* user, int mode);
 using PanelHook = void (*)(PanelId, void* user);
-using PanelKeyHook = int (*)(PanelId, void* user, unsigned short key);
 using PanelMouseHook = void (*)(PanelId, void* user, int bits, int x, int y);
-using PanelDrawHook = void (*)(PanelId, void* user, int mode);
 using PanelResizeHook = void (*)(PanelId, void* user, int width, int height);
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -582,9 +481,7 @@ enum ItemParam : int {
   kParamForward = 4,
   kParamRotation = 5,  // heading, pitch, bank in radians
   kParamScale = 6,
-  kParamPivot = 7,
   kParamWorldPosition = 8,
-  kParamPivotRotation = 12,
 };
 
 // "LW Item Info 9"
@@ -593,7 +490,7 @@ struct LWItemInfo {
   ItemId (*next)(ItemId);
   GapSlot gap_16[2];
   ItemId (*parent)(ItemId);
-  ItemId (*target)(ItemId);
+  GapSlot gap_40;
   ItemId (*goal)(ItemId);
   int (*type)(ItemId);
   const char* (*name)(ItemId);
@@ -605,13 +502,11 @@ struct LWItemInfo {
   GapSlot gap_120;
   void (*controller)(ItemId, int param, int kinds[3]);
   unsigned (*flags)(ItemId);
-  GapSlot gap_144[6];
-  unsigned (*goalObjective)(ItemId);
-  GapSlot gap_200;
+  GapSlot gap_144[8];
   unsigned (*ikInitialState)(ItemId);
   GapSlot gap_216;
   unsigned (*ikSoft)(ItemId, double time, unsigned* distance, double* least, double* greatest);
-  ItemId (*pole)(ItemId);
+  GapSlot gap_232;
   ItemId (*sameItem)(ItemId, int param);
   GapSlot gap_248[9];
   int (*rotationOrder)(ItemId);
@@ -620,7 +515,6 @@ struct LWItemInfo {
 static_assert(sizeof(LWItemInfo) == 336);
 static_assert(offsetof(LWItemInfo, next) == 8);
 static_assert(offsetof(LWItemInfo, parent) == 32);
-static_assert(offsetof(LWItemInfo, target) == 40);
 static_assert(offsetof(LWItemInfo, goal) == 48);
 static_assert(offsetof(LWItemInfo, type) == 56);
 static_assert(offsetof(LWItemInfo, name) == 64);
@@ -630,50 +524,30 @@ static_assert(offsetof(LWItemInfo, chanGroup) == 104);
 static_assert(offsetof(LWItemInfo, server) == 112);
 static_assert(offsetof(LWItemInfo, controller) == 128);
 static_assert(offsetof(LWItemInfo, flags) == 136);
-static_assert(offsetof(LWItemInfo, goalObjective) == 192);
 static_assert(offsetof(LWItemInfo, ikInitialState) == 208);
 static_assert(offsetof(LWItemInfo, ikSoft) == 224);
-static_assert(offsetof(LWItemInfo, pole) == 232);
 static_assert(offsetof(LWItemInfo, sameItem) == 240);
 static_assert(offsetof(LWItemInfo, rotationOrder) == 320);
 
 // "LW Object Info 14"
 struct LWObjectInfo {
   const char* (*filename)(ItemId);  // of a null object: null or empty
-  GapSlot gap_8[5];
-  unsigned (*flags)(ItemId);
-  GapSlot gap_56[5];
-  ItemId (*boneSource)(ItemId);
-  GapSlot gap_104[22];
+  GapSlot gap_8[34];
   int (*layerLoaded)(ItemId);
-  GapSlot gap_288[11];
-  unsigned (*boneMode)(ItemId);
-  unsigned (*numLimitedBones)(ItemId);
-  GapSlot gap_392[2];
+  GapSlot gap_288[15];
 };
 static_assert(sizeof(LWObjectInfo) == 408);
-static_assert(offsetof(LWObjectInfo, flags) == 48);
-static_assert(offsetof(LWObjectInfo, boneSource) == 96);
 static_assert(offsetof(LWObjectInfo, layerLoaded) == 280);
-static_assert(offsetof(LWObjectInfo, boneMode) == 376);
-static_assert(offsetof(LWObjectInfo, numLimitedBones) == 384);
 
 // "LW Bone Info 7"
 struct LWBoneInfo {
   unsigned (*flags)(ItemId);
   GapSlot gap_8[3];
   const char* (*weightMap)(ItemId);  // with none: null or empty
-  double (*strength)(ItemId);
-  int (*falloff)(ItemId);  // counts from 0, the command from 1
-  GapSlot gap_56[2];
-  int (*type)(ItemId);
-  GapSlot gap_80[6];
+  GapSlot gap_40[11];
 };
 static_assert(sizeof(LWBoneInfo) == 128);
 static_assert(offsetof(LWBoneInfo, weightMap) == 32);
-static_assert(offsetof(LWBoneInfo, strength) == 40);
-static_assert(offsetof(LWBoneInfo, falloff) == 48);
-static_assert(offsetof(LWBoneInfo, type) == 72);
 
 enum BoneFlags : unsigned {
   kBoneActive = 0x1,
@@ -691,7 +565,6 @@ enum BoneFlags : unsigned {
 };
 
 enum ItemFlags : unsigned {
-  kItemActive = 0x1,
   kItemUnaffectedByIK = 0x2,
   kItemFullTimeIK = 0x4,
   kItemMatchGoalOrientation = 0x8,
@@ -701,28 +574,18 @@ enum ItemFlags : unsigned {
 
 // "LW Interface Info 8". Describes the moment it was asked for: ask again after a command.
 struct LWInterfaceInfo {
-  double curTime;
+  double gap_0;
   const ItemId* selItems;  // ended by a null item
-  unsigned (*itemFlags)(ItemId);
+  GapSlot gap_16;
   int gap_24[4];
-  GapSlot gap_40;
-  int (*itemVis)(ItemId);
-  unsigned displayFlags;
-  unsigned generalFlags;
-  int boxThreshold;
-  int (*itemColor)(ItemId);
-  GapSlot gap_80[2];
+  GapSlot gap_40[2];
+  int gap_56[4];
+  GapSlot gap_72[3];
   int gap_96[2];
   GapSlot gap_104[4];
 };
 static_assert(sizeof(LWInterfaceInfo) == 136);
 static_assert(offsetof(LWInterfaceInfo, selItems) == 8);
-static_assert(offsetof(LWInterfaceInfo, itemFlags) == 16);
-static_assert(offsetof(LWInterfaceInfo, itemVis) == 48);
-static_assert(offsetof(LWInterfaceInfo, displayFlags) == 56);
-static_assert(offsetof(LWInterfaceInfo, generalFlags) == 60);
-static_assert(offsetof(LWInterfaceInfo, boxThreshold) == 64);
-static_assert(offsetof(LWInterfaceInfo, itemColor) == 72);
 
 // "LW Time Info". Ask again whenever a current value is needed.
 struct LWTimeInfo {
@@ -738,10 +601,7 @@ struct LWChannelInfo {
   ChannelId (*nextChannel)(GroupId, ChannelId previous);
   const char* (*groupName)(GroupId);
   const char* (*channelName)(ChannelId);
-  GroupId (*groupParent)(GroupId);
-  GroupId (*channelParent)(ChannelId);
-  int (*channelType)(ChannelId);
-  double (*channelEvaluate)(ChannelId, double time);
+  GapSlot gap_32[4];
   EnvelopeId (*channelEnvelope)(ChannelId);
   GapSlot gap_72[6];
 };
@@ -749,28 +609,21 @@ static_assert(sizeof(LWChannelInfo) == 120);
 static_assert(offsetof(LWChannelInfo, nextChannel) == 8);
 static_assert(offsetof(LWChannelInfo, groupName) == 16);
 static_assert(offsetof(LWChannelInfo, channelName) == 24);
-static_assert(offsetof(LWChannelInfo, groupParent) == 32);
-static_assert(offsetof(LWChannelInfo, channelParent) == 40);
-static_assert(offsetof(LWChannelInfo, channelType) == 48);
-static_assert(offsetof(LWChannelInfo, channelEvaluate) == 56);
 static_assert(offsetof(LWChannelInfo, channelEnvelope) == 64);
 
 enum KeyTag : int { kKeyValue = 0, kKeyTime = 1 };
-enum EnvelopeTag : int { kEnvelopeKeyCount = 3 };
 
 // "Animation Envelopes 4"
 struct LWEnvelopeFuncs {
   GapSlot gap_0[10];
   KeyId (*createKey)(EnvelopeId, double time, double value);
-  void (*destroyKey)(EnvelopeId, KeyId);
+  GapSlot gap_88;
   KeyId (*findKey)(EnvelopeId, double time);
   KeyId (*nextKey)(EnvelopeId, KeyId);  // null gives the first key; null at the end
-  KeyId (*prevKey)(EnvelopeId, KeyId);
+  GapSlot gap_112;
   int (*keySet)(EnvelopeId, KeyId, int tag, void* value);  // non-zero = done
   int (*keyGet)(EnvelopeId, KeyId, int tag, void* value);
-  GapSlot gap_136[2];
-  int (*egGet)(EnvelopeId, GroupId, int tag, void* value);
-  GapSlot gap_160;
+  GapSlot gap_136[4];
 };
 static_assert(sizeof(LWEnvelopeFuncs) == 168);
 static_assert(offsetof(LWEnvelopeFuncs, createKey) == 80);
@@ -778,7 +631,6 @@ static_assert(offsetof(LWEnvelopeFuncs, findKey) == 96);
 static_assert(offsetof(LWEnvelopeFuncs, nextKey) == 104);
 static_assert(offsetof(LWEnvelopeFuncs, keySet) == 120);
 static_assert(offsetof(LWEnvelopeFuncs, keyGet) == 128);
-static_assert(offsetof(LWEnvelopeFuncs, egGet) == 152);
 
 static_assert(sizeof(void*) == 8 && sizeof(int) == 4 && sizeof(double) == 8, "the host runs on 64-bit machines only");
 

@@ -35,8 +35,7 @@ std::vector<rigs::SentCommand> sentCommands(const Transcript& transcript) {
       case EventKind::command: commands.push_back({event.text, "accepted", {}}); break;
       case EventKind::rejected: commands.push_back({event.text, "rejected", event.why}); break;
       case EventKind::asked: commands.push_back({event.text, "asked", event.why}); break;
-      case EventKind::status:
-      case EventKind::message: break;
+      case EventKind::status: break;
     }
   }
   return commands;

@@ -11,7 +11,5 @@ lw::GroupId channelGroupOf(lw::ItemId id);
 
 // The item that an envelope belongs to; null with a fault when it is no envelope of this scene.
 Item* checkedEnvelope(const HostCall& call, lw::EnvelopeId id, Handle& handle);
-// False, with a fault, when it is no channel group of this scene.
-bool checkedEnvelopeGroup(const HostCall& call, lw::GroupId id);
 
 }  // namespace standin

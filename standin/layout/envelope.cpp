@@ -21,11 +21,6 @@ Key* Envelope::after(const Key& key) {
   return next < keys_.size() ? &keys_[next] : nullptr;
 }
 
-Key* Envelope::before(const Key& key) {
-  const auto place = static_cast<std::size_t>(&key - keys_.data());
-  return place > 0 ? &keys_[place - 1] : nullptr;
-}
-
 Key* Envelope::create(double time, double value) {
   Key* const existing = at(time);
   if (existing == nullptr || habits_.same == KeyAtSameTime::Second) return &insert(time, value);
@@ -38,10 +33,6 @@ Key* Envelope::create(double time, double value) {
 Key& Envelope::insert(double time, double value) {
   const auto place = std::find_if(keys_.begin(), keys_.end(), [&](const Key& key) { return key.time > time; });
   return *keys_.insert(place, Key{++lastNumber_, time, value});
-}
-
-void Envelope::destroy(std::uint16_t number) {
-  std::erase_if(keys_, [&](const Key& key) { return key.number == number; });
 }
 
 double Envelope::valueAt(double time) const {

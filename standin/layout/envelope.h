@@ -9,7 +9,7 @@
 namespace standin {
 
 struct Key {
-  std::uint16_t number = 0;  // names the key for as long as it lives; never used again in the same envelope
+  std::uint16_t number = 0;  // names the key in its envelope
   double time = 0;
   double value = 0;
 };
@@ -31,10 +31,8 @@ class Envelope {
   Key* at(double time);
   // The key after the one given, null at the end.
   Key* after(const Key& key);
-  Key* before(const Key& key);
   // A key at the time; where one stands already, what the host's habit is. Null where that gives none back.
   Key* create(double time, double value);
-  void destroy(std::uint16_t number);
 
   // Straight lines between keys, level beyond them; of keys at one time the last. Without keys the channel's resting value.
   double valueAt(double time) const;

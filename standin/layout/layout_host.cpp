@@ -28,8 +28,6 @@ void offerServices(LayoutHost& host) {
   offered.offerTable("LW Item Info 9", itemInfoTable());
   offered.offerTable("LW Object Info 14", objectInfoTable());
   offered.offerTable("LW Bone Info 7", boneInfoTable());
-  offered.offerTable("Scene Objects 9", sceneObjectsTable());
-  offered.offerTable("Info Messages 4", messageTable());
   offered.offerTable("Channel Info 3", channelInfoTable());
   offered.offerTable("Animation Envelopes 4", envelopeTable());
   offered.offer("LW Command Interface", reinterpret_cast<void*>(commandFunction()));
@@ -88,15 +86,12 @@ std::optional<int> LayoutHost::activate(ModuleFile& module, std::string_view ser
 void* LayoutHost::freshInterfaceInfo() {
   InterfaceRecord& record = interfaceRecords_.next(&spoilInterfaceRecord);
   record.info = {};
-  record.info.curTime = state_.time;
   const LayoutOptions& options = scene().options();
   record.selection = scene().selectionList();
   const bool none = scene().selection().empty() && options.selectedItemsNullWhenEmpty;
   const std::vector<lw::ItemId>& list = options.selectionFollows ? scene().followingList() : record.selection;
   record.info.selItems = none ? nullptr : list.data();
-  record.info.generalFlags = (state_.ikEnabled ? 0x80U : 0U) | (state_.motionControllersEnabled ? 0x800U : 0U) |
-                             (options.parentInPlace ? 0x4U : 0U);
-  fillInterfaceFunctions(record.info);
+  fillInterfaceGaps(record.info);
   return &record.info;
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <deque>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -30,8 +29,6 @@ struct LayoutState {
   std::vector<AppliedServer> knownServers{{"CustomObjHandler", "LW_ItemShape"}};
   // Looks on behind each command that was accepted, before another plug-in acts.
   std::function<void(LayoutState&, std::string_view command)> watch;
-  // Answers to the questions of the message service, in order. Without one the answer is cancel.
-  std::deque<int> answers;
 };
 
 }  // namespace standin

@@ -74,24 +74,7 @@ Item& Scene::addBone(Item& object, const std::string& name, Item* parentBone) {
   return bone;
 }
 
-std::size_t Scene::fileIndex(const ObjectFile& file, const std::string& path) {
-  const auto known =
-      std::find_if(files_.begin(), files_.end(), [&](const LoadedFile& loaded) { return loaded.path == path; });
-  if (known != files_.end()) return static_cast<std::size_t>(known - files_.begin());
-  LoadedFile loaded{path, fileBaseName(path) + "#" + std::to_string(files_.size()), {}};
-  for (const ObjectLayer& layer : file.layers) {
-    loaded.layers.push_back({layer.number, layer.name});
-    for (const VertexMap& map : layer.maps) {
-      const std::pair<std::uint32_t, std::string> entry(map.type, map.name);
-      if (std::find(maps_.begin(), maps_.end(), entry) == maps_.end()) maps_.push_back(entry);
-    }
-  }
-  files_.push_back(std::move(loaded));
-  return files_.size() - 1;
-}
-
 std::vector<Item*> Scene::addObject(const ObjectFile& file, const std::string& path) {
-  const std::size_t fileNumber = fileIndex(file, path);
   const std::string base = fileBaseName(path);
   const bool namedAfterFile = file.layers.size() == 1 && file.layers.front().number == 0;
   std::vector<Item*> made;
@@ -100,7 +83,7 @@ std::vector<Item*> Scene::addObject(const ObjectFile& file, const std::string& p
     if (!namedAfterFile)
       name.append(":").append(layer.name.empty() ? "Layer" + std::to_string(layer.number + 1) : layer.name);
     Item& item = make(ItemKind::object, name, nullptr);
-    item.source = LayerSource{fileNumber, layer.number};
+    item.source = LayerSource{path, layer.number};
     item.pivot = vectorOf(layer.pivot);
     for (const PolygonGroup& group : layer.groups) {
       if (!holdsSkelegons(group)) continue;
@@ -201,14 +184,6 @@ Item* Scene::find(std::string_view name) const {
     }
   }
   return nullptr;
-}
-
-std::vector<std::string> Scene::vertexMaps(std::uint32_t type) const {
-  std::vector<std::string> names;
-  for (const auto& [mapType, name] : maps_) {
-    if (type == 0 || mapType == type) names.push_back(name);
-  }
-  return names;
 }
 
 lw::ItemId Scene::idOf(const Item* item) const {

@@ -42,7 +42,7 @@ struct SkelegonSource {
 
 // Which layer of which loaded file an object item shows.
 struct LayerSource {
-  std::size_t file = 0;
+  std::string path;
   int layer = 0;
 };
 
@@ -82,17 +82,6 @@ struct Item {
   bool isNull() const { return kind == ItemKind::object && !source; }
 };
 
-// A file that objects were loaded from.
-struct LoadedFile {
-  std::string path;
-  std::string referenceName;
-  struct Layer {
-    int number = 0;
-    std::string name;
-  };
-  std::vector<Layer> layers;
-};
-
 class Scene {
  public:
   explicit Scene(LayoutOptions options);
@@ -122,9 +111,6 @@ class Scene {
   // Every item ever made, removed ones included.
   std::deque<Item>& all() { return items_; }
   const std::deque<Item>& all() const { return items_; }
-  const std::vector<LoadedFile>& files() const { return files_; }
-  // Vertex maps of the program: maps of equal type and name are one. Of one type, or of all types for 0.
-  std::vector<std::string> vertexMaps(std::uint32_t type) const;
 
   lw::ItemId idOf(const Item* item) const;
   // Null for a number that was never given out. A removed item is given, with `alive` false.
@@ -174,15 +160,12 @@ class Scene {
   std::uint32_t firstNumber(ItemKind kind) const;
   void selectionChanged();
   void forget(const Item& gone);
-  std::size_t fileIndex(const ObjectFile& file, const std::string& path);
 
   LayoutOptions options_;
   std::deque<Item> items_;
   std::array<std::vector<Item*>, 3> lists_;
   std::array<std::vector<Item*>, 4> byKind_;  // by number, removed ones included
   std::unordered_map<std::string, Namesakes> names_;
-  std::vector<LoadedFile> files_;
-  std::vector<std::pair<std::uint32_t, std::string>> maps_;
   std::vector<Item*> selection_;
   std::vector<lw::ItemId> followingList_;
 };

@@ -12,15 +12,12 @@ namespace standin {
 lw::LWItemInfo* itemInfoTable();
 lw::LWObjectInfo* objectInfoTable();
 lw::LWBoneInfo* boneInfoTable();
-lw::LWObjectFuncs* sceneObjectsTable();
-lw::LWMessageFuncs* messageTable();
 lw::LWChannelInfo* channelInfoTable();
 lw::LWEnvelopeFuncs* envelopeTable();
 lw::CommandFunc commandFunction();
 
-// The members of an interface record that are not of the moment.
-void fillInterfaceFunctions(lw::LWInterfaceInfo& info);
-// Makes a record unusable: its functions fault and its selection is of no item.
+void fillInterfaceGaps(lw::LWInterfaceInfo& info);
+// Makes a record unusable: its selection is of no item.
 void spoilInterfaceRecord(InterfaceRecord& record);
 
 // ---------------------------------------------------------------------------------------------------------------------

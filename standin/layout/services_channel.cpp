@@ -12,27 +12,24 @@ inline constexpr const char* kTableName<lw::LWChannelInfo> = "LWChannelInfo";
 
 namespace {
 
-enum ChannelType : int { kFloat = 2, kDistance = 3, kPercent = 4, kAngle = 5 };
-
 struct ChannelRow {
   const char* name;
-  ChannelType type;
   std::size_t group;
 };
 
 constexpr std::array<ChannelRow, kChannelCount> kChannels{{
-    {"Position.X", kDistance, kItemGroup},
-    {"Position.Y", kDistance, kItemGroup},
-    {"Position.Z", kDistance, kItemGroup},
-    {"Rotation.H", kAngle, kItemGroup},
-    {"Rotation.P", kAngle, kItemGroup},
-    {"Rotation.B", kAngle, kItemGroup},
-    {"Scale.X", kFloat, kItemGroup},
-    {"Scale.Y", kFloat, kItemGroup},
-    {"Scale.Z", kFloat, kItemGroup},
-    {"GoalStrength", kFloat, kIkGroup},
-    {"IKFKBlending", kPercent, kIkGroup},
-    {"Position.X", kDistance, kIkGroup},
+    {"Position.X", kItemGroup},
+    {"Position.Y", kItemGroup},
+    {"Position.Z", kItemGroup},
+    {"Rotation.H", kItemGroup},
+    {"Rotation.P", kItemGroup},
+    {"Rotation.B", kItemGroup},
+    {"Scale.X", kItemGroup},
+    {"Scale.Y", kItemGroup},
+    {"Scale.Z", kItemGroup},
+    {"GoalStrength", kIkGroup},
+    {"IKFKBlending", kIkGroup},
+    {"Position.X", kIkGroup},
 }};
 
 constexpr std::array<const char*, kGroupCount> kGroupNames{"", "IK", "Position", "Rotation", "Scale"};
@@ -134,39 +131,6 @@ const char* channelName(lw::ChannelId channel) {
   return item == nullptr || call.refused() ? nullptr : giveText(nameOf(handle.part));
 }
 
-lw::GroupId groupParent(lw::GroupId group) {
-  const HostCall call("LWChannelInfo::groupParent");
-  Handle handle;
-  const Item* item = checkedGroup(call, group, handle);
-  if (item == nullptr || call.refused() || handle.part == kItemGroup) return nullptr;
-  return toHandle<lw::GroupId>(HandleKind::group, {handle.item, kItemGroup, 0});
-}
-
-lw::GroupId channelParent(lw::ChannelId channel) {
-  const HostCall call("LWChannelInfo::channelParent");
-  Handle handle;
-  const Item* item = checkedChannel(call, channel, handle);
-  if (item == nullptr || call.refused()) return nullptr;
-  return toHandle<lw::GroupId>(HandleKind::group, {handle.item, groupOf(handle.part), 0});
-}
-
-int channelType(lw::ChannelId channel) {
-  const HostCall call("LWChannelInfo::channelType");
-  Handle handle;
-  const Item* item = checkedChannel(call, channel, handle);
-  return item == nullptr || call.refused() ? 0 : kChannels[handle.part].type;
-}
-
-double channelEvaluate(lw::ChannelId channel, double time) {
-  const HostCall call("LWChannelInfo::channelEvaluate");
-  Handle handle;
-  const Item* item = checkedChannel(call, channel, handle);
-  if (item == nullptr || call.refused()) return 0;
-  if (handle.part < kAxisCount) return item->motion[handle.part].valueAt(time);
-  if (handle.part == kChannelGoalStrength) return item->settings.ik.goalStrength;
-  return handle.part == kChannelBlending ? item->settings.ik.blending : 0;
-}
-
 lw::EnvelopeId channelEnvelope(lw::ChannelId channel) {
   const HostCall call("LWChannelInfo::channelEnvelope");
   Handle handle;
@@ -190,11 +154,6 @@ Item* checkedEnvelope(const HostCall& call, lw::EnvelopeId id, Handle& handle) {
   return checkedHandle(call, id, HandleKind::envelope, "envelope", kAxisCount, handle);
 }
 
-bool checkedEnvelopeGroup(const HostCall& call, lw::GroupId id) {
-  Handle handle;
-  return checkedGroup(call, id, handle) != nullptr;
-}
-
 lw::LWChannelInfo* channelInfoTable() {
   static lw::LWChannelInfo table = [] {
     lw::LWChannelInfo t{};
@@ -202,10 +161,7 @@ lw::LWChannelInfo* channelInfoTable() {
     t.nextChannel = &nextChannel;
     t.groupName = &groupName;
     t.channelName = &channelName;
-    t.groupParent = &groupParent;
-    t.channelParent = &channelParent;
-    t.channelType = &channelType;
-    t.channelEvaluate = &channelEvaluate;
+    STANDIN_FILL_GAP(t, 32);
     t.channelEnvelope = &channelEnvelope;
     STANDIN_FILL_GAP(t, 72);
     return t;

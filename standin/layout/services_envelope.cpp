@@ -23,7 +23,7 @@ struct OpenEnvelope {
     return key == nullptr ? nullptr : toHandle<lw::KeyId>(HandleKind::key, {handle.item, handle.part, key->number});
   }
 
-  // Null with a fault when it is no key of this envelope, or one that was destroyed.
+  // Null with a fault when it is no key of this envelope.
   Key* key(const HostCall& call, lw::KeyId id) const {
     Handle wanted;
     const bool isKey = fromHandle(id, HandleKind::key, wanted);
@@ -32,7 +32,7 @@ struct OpenEnvelope {
       return nullptr;
     }
     Key* found = envelope->byNumber(wanted.key);
-    if (found == nullptr) call.fault("was given a key that was destroyed");
+    if (found == nullptr) call.fault("was given a key that never was");
     return found;
   }
 };
@@ -44,15 +44,6 @@ lw::KeyId createKey(lw::EnvelopeId id, double time, double value) {
   const Key* key = open.envelope->create(time, value);
   currentScene().moved(*open.item);
   return open.idOf(key);
-}
-
-void destroyKey(lw::EnvelopeId id, lw::KeyId keyId) {
-  const HostCall call("LWEnvelopeFuncs::destroyKey");
-  const OpenEnvelope open(call, id);
-  const Key* key = open.item == nullptr ? nullptr : open.key(call, keyId);
-  if (key == nullptr || call.refused()) return;
-  open.envelope->destroy(key->number);
-  currentScene().moved(*open.item);
 }
 
 lw::KeyId findKey(lw::EnvelopeId id, double time) {
@@ -69,16 +60,6 @@ lw::KeyId nextKey(lw::EnvelopeId id, lw::KeyId previous) {
   if (previous == nullptr) return keys.empty() ? nullptr : open.idOf(&keys.front());
   const Key* key = open.key(call, previous);
   return key == nullptr ? nullptr : open.idOf(open.envelope->after(*key));
-}
-
-lw::KeyId prevKey(lw::EnvelopeId id, lw::KeyId following) {
-  const HostCall call("LWEnvelopeFuncs::prevKey");
-  const OpenEnvelope open(call, id);
-  if (open.item == nullptr || call.refused()) return nullptr;
-  const auto& keys = open.envelope->keys();
-  if (following == nullptr) return keys.empty() ? nullptr : open.idOf(&keys.back());
-  const Key* key = open.key(call, following);
-  return key == nullptr ? nullptr : open.idOf(open.envelope->before(*key));
 }
 
 void faultTag(const HostCall& call, int tag) {
@@ -111,33 +92,20 @@ int keyGet(lw::EnvelopeId id, lw::KeyId keyId, int tag, void* value) {
   return 1;
 }
 
-int envelopeGet(lw::EnvelopeId id, lw::GroupId group, int tag, void* value) {
-  const HostCall call("LWEnvelopeFuncs::egGet");
-  const OpenEnvelope open(call, id);
-  if (group != nullptr && !checkedEnvelopeGroup(call, group)) return 0;
-  if (!checkedOutput(call, value) || open.item == nullptr) return 0;
-  if (tag != lw::kEnvelopeKeyCount) faultTag(call, tag);
-  if (tag != lw::kEnvelopeKeyCount || call.refused()) return 0;
-  *static_cast<int*>(value) = static_cast<int>(open.envelope->keys().size());
-  return 1;
-}
-
 }  // namespace
 
 lw::LWEnvelopeFuncs* envelopeTable() {
   static lw::LWEnvelopeFuncs table = [] {
     lw::LWEnvelopeFuncs t{};
     t.createKey = &createKey;
-    t.destroyKey = &destroyKey;
     t.findKey = &findKey;
     t.nextKey = &nextKey;
-    t.prevKey = &prevKey;
     t.keySet = &keySet;
     t.keyGet = &keyGet;
-    t.egGet = &envelopeGet;
     STANDIN_FILL_GAP(t, 0);
+    STANDIN_FILL_GAP(t, 88);
+    STANDIN_FILL_GAP(t, 112);
     STANDIN_FILL_GAP(t, 136);
-    STANDIN_FILL_GAP(t, 160);
     return t;
   }();
   return &table;

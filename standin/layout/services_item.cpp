@@ -69,22 +69,10 @@ lw::ItemId parent(lw::ItemId id) {
   return top && !currentScene().options().topBoneHasParent ? nullptr : currentScene().idOf(item->parent);
 }
 
-// An item that is linked to: the last three functions of this shape differ in the link alone.
-template <class Link>
-lw::ItemId linked(const char* function, lw::ItemId id, Link link) {
-  const HostCall call(function);
-  const Item* item = checkedItem(call, id);
-  return item == nullptr || call.refused() ? nullptr : currentScene().idOf(link(*item));
-}
-
-lw::ItemId target(lw::ItemId id) {
-  return linked("LWItemInfo::target", id, [](const Item& item) { return item.settings.target; });
-}
 lw::ItemId goal(lw::ItemId id) {
-  return linked("LWItemInfo::goal", id, [](const Item& item) { return item.settings.ik.goal; });
-}
-lw::ItemId pole(lw::ItemId id) {
-  return linked("LWItemInfo::pole", id, [](const Item& item) { return item.settings.pole; });
+  const HostCall call("LWItemInfo::goal");
+  const Item* item = checkedItem(call, id);
+  return item == nullptr || call.refused() ? nullptr : currentScene().idOf(item->settings.ik.goal);
 }
 
 int type(lw::ItemId id) {
@@ -103,18 +91,11 @@ Vec3 paramValue(const HostCall& call, Item& item, int param, double time) {
   const auto placed = [&]() -> const Placement& { return currentScene().placement(item, time); };
   switch (param) {
     case lw::kParamPosition: return Scene::motionAt(item, kAxisX, time);
-    case lw::kParamRotation: return Scene::motionAt(item, kAxisH, time);
-    case lw::kParamScale: return Scene::motionAt(item, kAxisSX, time);
     case lw::kParamRight:
     case lw::kParamUp:
     case lw::kParamForward: return placed().axes.columns[static_cast<std::size_t>(param - lw::kParamRight)];
-    case lw::kParamPivot: return item.pivot;
     case lw::kParamWorldPosition: return placed().position;
-    case 9:
-    case 10:
-    case 11: return inverted(placed().axes).columns[static_cast<std::size_t>(param - 9)];
-    case lw::kParamPivotRotation: return item.pivotRotation;
-    default: call.fault("parameter " + std::to_string(param) + " is not one that this host knows"); return {};
+    default: call.fault("parameter " + std::to_string(param) + " is not one that a tool asks for"); return {};
   }
 }
 
@@ -169,16 +150,9 @@ unsigned flags(lw::ItemId id) {
   const Item* item = checkedItem(call, id);
   if (item == nullptr || call.refused()) return 0;
   const IkSettings& ik = item->settings.ik;
-  const bool active = item->kind != ItemKind::bone || item->bone.active;
-  return (active ? lw::kItemActive : 0U) | (ik.unaffected ? lw::kItemUnaffectedByIK : 0U) |
-         (ik.fullTime ? lw::kItemFullTimeIK : 0U) | (ik.matchGoalOrientation ? lw::kItemMatchGoalOrientation : 0U) |
+  return (ik.unaffected ? lw::kItemUnaffectedByIK : 0U) | (ik.fullTime ? lw::kItemFullTimeIK : 0U) |
+         (ik.matchGoalOrientation ? lw::kItemMatchGoalOrientation : 0U) |
          (ik.keepGoalInReach ? lw::kItemKeepGoalInReach : 0U) | (ik.useChain ? lw::kItemUseIKChain : 0U);
-}
-
-unsigned goalObjective(lw::ItemId id) {
-  const HostCall call("LWItemInfo::goalObjective");
-  const Item* item = checkedItem(call, id);
-  return item == nullptr || call.refused() ? 0 : static_cast<unsigned>(item->settings.ik.objective);
 }
 
 unsigned ikInitialState(lw::ItemId id) {
@@ -244,7 +218,6 @@ lw::LWItemInfo* itemInfoTable() {
     t.first = &first;
     t.next = &next;
     t.parent = &parent;
-    t.target = &target;
     t.goal = &goal;
     t.type = &type;
     t.name = &name;
@@ -254,18 +227,17 @@ lw::LWItemInfo* itemInfoTable() {
     t.server = &server;
     t.controller = &controller;
     t.flags = &flags;
-    t.goalObjective = &goalObjective;
     t.ikInitialState = &ikInitialState;
     t.ikSoft = &ikSoft;
-    t.pole = &pole;
     t.sameItem = &sameItem;
     t.rotationOrder = &rotationOrder;
     STANDIN_FILL_GAP(t, 16);
+    STANDIN_FILL_GAP(t, 40);
     STANDIN_FILL_GAP(t, 88);
     STANDIN_FILL_GAP(t, 120);
     STANDIN_FILL_GAP(t, 144);
-    STANDIN_FILL_GAP(t, 200);
     STANDIN_FILL_GAP(t, 216);
+    STANDIN_FILL_GAP(t, 232);
     STANDIN_FILL_GAP(t, 248);
     STANDIN_FILL_GAP(t, 328);
     return t;

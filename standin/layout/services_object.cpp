@@ -1,4 +1,4 @@
-// "LW Object Info 14", "LW Bone Info 7" and "Scene Objects 9".
+// "LW Object Info 14" and "LW Bone Info 7".
 #include "standin/core/gap_slots.h"
 #include "standin/layout/services.h"
 
@@ -8,8 +8,6 @@ template <>
 inline constexpr const char* kTableName<lw::LWObjectInfo> = "LWObjectInfo";
 template <>
 inline constexpr const char* kTableName<lw::LWBoneInfo> = "LWBoneInfo";
-template <>
-inline constexpr const char* kTableName<lw::LWObjectFuncs> = "LWObjectFuncs";
 
 namespace {
 
@@ -17,11 +15,7 @@ Item* checkedObject(const HostCall& call, lw::ItemId id) { return checkedItem(ca
 Item* checkedBone(const HostCall& call, lw::ItemId id) { return checkedItem(call, id, lw::kItemBone); }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Object info. The four bone modes of the command show in two places: the mode knows three of them, the flags tell the
-// second from the first.
-
-constexpr unsigned kFlagFasterBones = 0x400;
-constexpr unsigned kFlagMorphedPositions = 0x800;
+// Object info
 
 const char* fileNameOfNull(const Item& null) {
   switch (currentScene().options().nullFileName) {
@@ -37,21 +31,7 @@ const char* fileName(lw::ItemId id) {
   const Item* object = checkedObject(call, id);
   if (object == nullptr || call.refused()) return nullptr;
   if (object->isNull()) return fileNameOfNull(*object);
-  return giveText(currentScene().files()[object->source->file].path);
-}
-
-unsigned objectFlags(lw::ItemId id) {
-  const HostCall call("LWObjectInfo::flags");
-  const Item* object = checkedObject(call, id);
-  if (object == nullptr || call.refused()) return 0;
-  return (object->object.boneMode == 2 ? kFlagFasterBones : 0U) |
-         (object->object.boneMode == 1 ? kFlagMorphedPositions : 0U);
-}
-
-lw::ItemId boneSource(lw::ItemId id) {
-  const HostCall call("LWObjectInfo::boneSource");
-  const Item* object = checkedObject(call, id);
-  return object == nullptr || call.refused() ? nullptr : currentScene().idOf(object->object.boneSource);
+  return giveText(object->source->path);
 }
 
 int layerLoaded(lw::ItemId id) {
@@ -59,19 +39,6 @@ int layerLoaded(lw::ItemId id) {
   const Item* object = checkedObject(call, id);
   if (object == nullptr || call.refused()) return 0;
   return (object->source ? object->source->layer : 0) + currentScene().options().layerBase;
-}
-
-unsigned boneMode(lw::ItemId id) {
-  const HostCall call("LWObjectInfo::boneMode");
-  const Item* object = checkedObject(call, id);
-  if (object == nullptr || call.refused()) return 0;
-  return object->object.boneMode < 2 ? 0 : static_cast<unsigned>(object->object.boneMode - 1);
-}
-
-unsigned numLimitedBones(lw::ItemId id) {
-  const HostCall call("LWObjectInfo::numLimitedBones");
-  const Item* object = checkedObject(call, id);
-  return object == nullptr || call.refused() ? 0 : static_cast<unsigned>(object->object.limitedBones);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -107,111 +74,15 @@ const char* weightMap(lw::ItemId id) {
   return giveText(bone->bone.weightMap);
 }
 
-double strength(lw::ItemId id) {
-  const HostCall call("LWBoneInfo::strength");
-  const Item* bone = checkedBone(call, id);
-  return bone == nullptr || call.refused() ? 0 : bone->bone.strength;
-}
-
-int falloff(lw::ItemId id) {
-  const HostCall call("LWBoneInfo::falloff");
-  const Item* bone = checkedBone(call, id);
-  return bone == nullptr || call.refused() ? 0 : bone->bone.falloff;
-}
-
-int boneType(lw::ItemId id) {
-  const HostCall call("LWBoneInfo::type");
-  const Item* bone = checkedBone(call, id);
-  return bone == nullptr || call.refused() ? 0 : bone->bone.type;
-}
-
-// ---------------------------------------------------------------------------------------------------------------------
-// Scene objects: the loaded files. Layers count from 0 here.
-
-const LoadedFile* checkedFile(const HostCall& call, int index) {
-  const auto& files = currentScene().files();
-  if (index >= 0 && static_cast<std::size_t>(index) < files.size()) return &files[static_cast<std::size_t>(index)];
-  call.fault("there is no object " + std::to_string(index));
-  return nullptr;
-}
-
-const LoadedFile::Layer* layerOf(const LoadedFile& file, int number) {
-  for (const LoadedFile::Layer& layer : file.layers) {
-    if (layer.number == number) return &layer;
-  }
-  return nullptr;
-}
-
-int numObjects() {
-  const HostCall call("LWObjectFuncs::numObjects");
-  return call.refused() ? 0 : static_cast<int>(currentScene().files().size());
-}
-
-const char* sceneFileName(int object) {
-  const HostCall call("LWObjectFuncs::filename");
-  const LoadedFile* file = checkedFile(call, object);
-  return file == nullptr || call.refused() ? nullptr : giveText(file->path);
-}
-
-int maxLayers(int object) {
-  const HostCall call("LWObjectFuncs::maxLayers");
-  const LoadedFile* file = checkedFile(call, object);
-  int greatest = 0;
-  if (file == nullptr || call.refused()) return greatest;
-  for (const LoadedFile::Layer& layer : file->layers) greatest = std::max(greatest, layer.number + 1);
-  return greatest;
-}
-
-int layerExists(int object, int layer) {
-  const HostCall call("LWObjectFuncs::layerExists");
-  const LoadedFile* file = checkedFile(call, object);
-  return file != nullptr && !call.refused() && layerOf(*file, layer) != nullptr ? 1 : 0;
-}
-
-int numVMaps(std::uint32_t type) {
-  const HostCall call("LWObjectFuncs::numVMaps");
-  return call.refused() ? 0 : static_cast<int>(currentScene().vertexMaps(type).size());
-}
-
-const char* vmapName(std::uint32_t type, int index) {
-  const HostCall call("LWObjectFuncs::vmapName");
-  const std::vector<std::string> names = currentScene().vertexMaps(type);
-  if (index < 0 || static_cast<std::size_t>(index) >= names.size()) {
-    call.fault("there is no vertex map " + std::to_string(index));
-    return nullptr;
-  }
-  return call.refused() ? nullptr : giveText(names[static_cast<std::size_t>(index)]);
-}
-
-const char* layerName(int object, int number) {
-  const HostCall call("LWObjectFuncs::layerName");
-  const LoadedFile* file = checkedFile(call, object);
-  const LoadedFile::Layer* layer = file == nullptr ? nullptr : layerOf(*file, number);
-  return layer == nullptr || layer->name.empty() || call.refused() ? nullptr : giveText(layer->name);
-}
-
-const char* refName(int object) {
-  const HostCall call("LWObjectFuncs::refName");
-  const LoadedFile* file = checkedFile(call, object);
-  return file == nullptr || call.refused() ? nullptr : giveText(file->referenceName);
-}
-
 }  // namespace
 
 lw::LWObjectInfo* objectInfoTable() {
   static lw::LWObjectInfo table = [] {
     lw::LWObjectInfo t{};
     t.filename = &fileName;
-    t.flags = &objectFlags;
-    t.boneSource = &boneSource;
     t.layerLoaded = &layerLoaded;
-    t.boneMode = &boneMode;
-    t.numLimitedBones = &numLimitedBones;
     STANDIN_FILL_GAP(t, 8);
-    STANDIN_FILL_GAP(t, 56);
-    STANDIN_FILL_GAP(t, 104);
     STANDIN_FILL_GAP(t, 288);
-    STANDIN_FILL_GAP(t, 392);
     return t;
   }();
   return &table;
@@ -222,33 +93,8 @@ lw::LWBoneInfo* boneInfoTable() {
     lw::LWBoneInfo t{};
     t.flags = &boneFlags;
     t.weightMap = &weightMap;
-    t.strength = &strength;
-    t.falloff = &falloff;
-    t.type = &boneType;
     STANDIN_FILL_GAP(t, 8);
-    STANDIN_FILL_GAP(t, 56);
-    STANDIN_FILL_GAP(t, 80);
-    return t;
-  }();
-  return &table;
-}
-
-lw::LWObjectFuncs* sceneObjectsTable() {
-  static lw::LWObjectFuncs table = [] {
-    lw::LWObjectFuncs t{};
-    t.numObjects = &numObjects;
-    t.filename = &sceneFileName;
-    t.maxLayers = &maxLayers;
-    t.layerExists = &layerExists;
-    t.numVMaps = &numVMaps;
-    t.vmapName = &vmapName;
-    t.layerName = &layerName;
-    t.refName = &refName;
-    t.maxPointsPerPoly = 1023;
-    STANDIN_FILL_GAP(t, 32);
-    STANDIN_FILL_GAP(t, 64);
-    STANDIN_FILL_GAP(t, 88);
-    STANDIN_FILL_GAP(t, 120);
+    STANDIN_FILL_GAP(t, 40);
     return t;
   }();
   return &table;

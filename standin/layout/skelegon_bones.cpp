@@ -131,7 +131,7 @@ std::vector<Item*> makeBonesOf(Scene& scene, Item& from, Item& object) {
 std::vector<Item*> skelegonSources(Scene& scene, const Item& object) {
   std::vector<Item*> sources;
   for (Item* item : scene.objects()) {
-    const bool isOfTheFile = item->source && object.source && item->source->file == object.source->file;
+    const bool isOfTheFile = item->source && object.source && item->source->path == object.source->path;
     const bool counts = item == &object || (scene.options().bonesOfWholeFile && isOfTheFile);
     if (counts && !item->skelegons.polygons.empty()) sources.push_back(item);
   }

@@ -20,7 +20,6 @@ std::string line(const Event& event) {
     case EventKind::asked: return "? " + event.text + "  -- would ask the user: " + event.why;
     case EventKind::status:
       return "| " + (event.progress ? fixedText(*event.progress * 100, 0) + " % " : std::string()) + event.text;
-    case EventKind::message: return "[" + event.why + "] " + event.text;
   }
   return {};
 }

@@ -1,4 +1,4 @@
-// What happened in the stand-in Layout, in order: commands with their results, the status line, messages to the user.
+// What happened in the stand-in Layout, in order: commands with their results, and the status line.
 #pragma once
 
 #include <array>
@@ -15,7 +15,6 @@ enum class EventKind {
   rejected,  // a command that was not; `why` says the reason
   asked,     // a command that would have asked the user for something and so did not go on
   status,    // a text on the status line
-  message,   // a message box; `why` is its kind
 };
 
 // The reason of a command that was rejected only because the witness was asked to refuse that call.
@@ -49,7 +48,7 @@ class Transcript {
 
  private:
   std::vector<Event> events_;
-  std::array<std::size_t, 5> counts_{};
+  std::array<std::size_t, 4> counts_{};
   bool recording_ = true;
 };
 

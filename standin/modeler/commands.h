@@ -1,4 +1,4 @@
-// The record that a Modeler activation gets, and the commands that the module can send with it.
+// The record that a Modeler activation gets.
 #pragma once
 
 #include <memory>

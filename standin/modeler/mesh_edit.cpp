@@ -12,7 +12,6 @@ namespace {
 constexpr std::uint64_t kEditBase = 0x5300'0000'0000;
 constexpr unsigned kEditSessionShift = 32;
 constexpr std::uint64_t kEditStep = 16;
-constexpr int kClearSelected = 1;
 
 }  // namespace
 
@@ -34,10 +33,7 @@ lw::MeshEditOp* MeshEdits::begin(ModelerObject* object, int mode) {
   object_ = object;
   mode_ = mode;
   changes_.clear();
-  records_.push_back({mode, false, 0, 0, 0, {}});
-  somethingSelected_ =
-      object != nullptr && std::any_of(object->polygons().begin(), object->polygons().end(),
-                                       [](const MeshPolygon& polygon) { return polygon.selected && !polygon.gone; });
+  records_.push_back({mode, false, 0, 0, {}});
   // More than one, so that a record kept from an edit long done does not come to mean a newer one; they outlive the session.
   static std::array<lw::MeshEditOp, 64> operations{};
   lw::MeshEditOp& operation = operations[records_.size() % operations.size()];
@@ -53,6 +49,7 @@ void MeshEdits::buffer(MeshChange change) {
 }
 
 bool MeshEdits::countsAsSelected(const MeshPolygon& polygon) const {
+  if ((mode_ & ~lw::kEditSelecting) == lw::kEditAll) return true;
   bool selected = polygon.selected;
   if (modelerSession()->options.editsShowOwnChanges) {
     for (const MeshChange& change : changes_) {
@@ -60,24 +57,14 @@ bool MeshEdits::countsAsSelected(const MeshPolygon& polygon) const {
       if (own != nullptr && own->polygon == &polygon) selected = own->after;
     }
   }
-  switch (selectionMode()) {
-    case lw::kEditAll: return true;
-    case lw::kEditUser: return selected || !somethingSelected_;
-    default: return selected;
-  }
+  return selected;
 }
 
-void MeshEdits::end(int error, int after) {
+void MeshEdits::end(int error) {
   EditRecord& record = records_.back();
   record.done = true;
   record.error = error;
-  record.after = after;
   if (error == lw::kEditNoError && object_ != nullptr) {
-    if ((after & kClearSelected) != 0) {
-      for (const MeshPolygon* polygon : object_->scan(*object_->chosen(lw::kLayersAll))) {
-        changes_.emplace_back(SelectionChange{const_cast<MeshPolygon*>(polygon), false, false});
-      }
-    }
     object_->perform(std::move(changes_), !maySelect() || modelerSession()->options.selectionIsStep);
   }
   changes_.clear();
@@ -88,7 +75,6 @@ void MeshEdits::end(int error, int after) {
 
 void MeshEdits::spoilRecords() {
   scribble(polygonRecord);
-  scribble(pointRecord);
   recordPoints.expire();
   recordSurface.expire();
   lentPoints.expire();
@@ -113,7 +99,7 @@ lw::MeshEditOp* beginMeshEdit(int pointBytes, int edgeBytes, int polygonBytes, i
     return nullptr;
   }
   const int selection = mode & ~lw::kEditSelecting;
-  if (selection < lw::kEditAll || selection > lw::kEditDirect) {
+  if (selection != lw::kEditAll && selection != lw::kEditDirect) {
     call.fault("was called with the unknown mode " + std::to_string(mode));
     return nullptr;
   }

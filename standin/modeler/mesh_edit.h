@@ -17,7 +17,6 @@ struct EditRecord {
   int mode = 0;
   bool done = false;
   int error = 0;
-  int after = 0;
   std::size_t changes = 0;  // calls that set a tag or a selection
   std::vector<int> scans;   // layer choices of the scans, in order
 };
@@ -35,10 +34,9 @@ class MeshEdits {
   bool isCurrent(lw::EditId state) const;
   // True when an edit of this session had the state.
   bool wasCurrent(lw::EditId state) const;
-  void end(int error, int after);
+  void end(int error);
 
   ModelerObject* object() const { return object_; }
-  int selectionMode() const { return mode_ & ~lw::kEditSelecting; }
   // Whether everything but ending the edit is refused now.
   bool refusesQuestions() const;
   bool maySelect() const { return (mode_ & lw::kEditSelecting) != 0; }
@@ -50,13 +48,9 @@ class MeshEdits {
   bool countsAsSelected(const MeshPolygon& polygon) const;
 
   lw::EDPolygonInfo polygonRecord{};
-  lw::EDPolygonInfo scanRecord{};
-  lw::EDPointInfo pointRecord{};
   LentPoints recordPoints;
-  LentPoints scanPoints;
   LentPoints lentPoints;
   LentText recordSurface;
-  LentText scanSurface;
   int scans = 0;  // running now
 
   // What the last call left to the module is spoilt, where records end so early.
@@ -70,7 +64,6 @@ class MeshEdits {
   bool open_ = false;
   ModelerObject* object_ = nullptr;
   int mode_ = 0;
-  bool somethingSelected_ = false;  // when the edit began
   MeshStep changes_;
   std::vector<EditRecord> records_;
 };

@@ -13,8 +13,6 @@ inline constexpr const char* kTableName<lw::MeshEditOp> = "MeshEditOp";
 
 namespace {
 
-constexpr int kKnownAfterFlags = 0xF;
-
 // Stands at the head of every function of an edit.
 class EditCall : public ModelerCall {
  public:
@@ -84,28 +82,6 @@ class EditCall : public ModelerCall {
   MeshEdits* edits_;
 };
 
-int flagsOf(const MeshEdits& edits, const MeshPolygon& polygon) {
-  return (edits.countsAsSelected(polygon) ? lw::kElementSelected : 0) |
-         (polygon.deleted || polygon.gone ? lw::kElementDeleted : 0);
-}
-
-void fillRecord(lw::EDPolygonInfo& record, LentPoints& points, LentText& surface, const MeshEdits& edits,
-                const MeshPolygon& polygon) {
-  points.expire();
-  surface.expire();
-  scribble(record);
-  record = {};
-  record.pol = polygon.id;
-  record.layer = polygon.layer;
-  record.flags = flagsOf(edits, polygon);
-  record.numPnts = static_cast<int>(polygon.points.size());
-  record.points = points.lend(polygon.points);
-  const std::string* name = polygon.content.tag(kTagSurface);
-  record.surface = surface.lend(name == nullptr ? "Default" : std::string_view(*name));
-  record.type = polygon.type;
-  record.typeFlags = polygon.content.flags;
-}
-
 // --- ending --------------------------------------------------------------------------------------------------------------
 
 void done(lw::EditId state, int error, int after) {
@@ -113,9 +89,9 @@ void done(lw::EditId state, int error, int after) {
   MeshEdits* edits = call.edits();
   if (edits == nullptr) return;
   if (edits->scans > 0) call.fault("ended the edit within a scan");
-  if ((after & ~kKnownAfterFlags) != 0) call.fault("was given unknown selection flags");
+  if (after != 0) call.fault("was given selection flags, which no tool does");
   // The one way in which this call can fail: nothing of the edit is kept.
-  edits->end(call.refused() ? call.refusal() : error, after);
+  edits->end(call.refused() ? call.refusal() : error);
 }
 
 // --- scans ---------------------------------------------------------------------------------------------------------------
@@ -146,43 +122,23 @@ std::vector<const MeshPolygon*> scanned(const EditCall& call, bool hasCallback, 
   return polygons;
 }
 
-// Calls back for each polygon until a call answers with something else than 0. That answer is the scan's.
-template <class Deliver>
-int deliver(MeshEdits& edits, const std::vector<const MeshPolygon*>& polygons, int result, Deliver&& one) {
-  if (result != lw::kEditNoError) return result;
-  ++edits.scans;
-  for (const MeshPolygon* polygon : polygons) {
-    const std::optional<int> answer = callModule("polygon scan callback", [&] { return one(*polygon); });
-    result = answer.value_or(lw::kEditUserAbort);
-    if (result != 0 || !edits.isOpen()) break;
-  }
-  --edits.scans;
-  return result;
-}
-
 int fastPolyScan(lw::EditId state, lw::FastPolygonScan callback, void* user, int layers, int selectedOnly) {
   const EditCall call("MeshEditOp::fastPolyScan", state);
   int result = 0;
   std::vector<const MeshPolygon*> polygons = scanned(call, callback != nullptr, layers, result);
-  if (call.edits() == nullptr) return result;
-  if (selectedOnly != 0) {
-    std::erase_if(polygons, [&](const MeshPolygon* polygon) { return !call.edits()->countsAsSelected(*polygon); });
-  }
-  return deliver(*call.edits(), polygons, result, [&](const MeshPolygon& polygon) { return callback(user, polygon.id); });
-}
-
-int polyScan(lw::EditId state, lw::SlowPolygonScan callback, void* user, int layers) {
-  const EditCall call("MeshEditOp::polyScan", state);
-  int result = 0;
-  const std::vector<const MeshPolygon*> polygons = scanned(call, callback != nullptr, layers, result);
-  if (call.edits() == nullptr) return result;
+  if (result != lw::kEditNoError) return result;
   MeshEdits& edits = *call.edits();
-  result = deliver(edits, polygons, result, [&](const MeshPolygon& polygon) {
-    fillRecord(edits.scanRecord, edits.scanPoints, edits.scanSurface, edits, polygon);
-    return callback(user, &edits.scanRecord);
-  });
-  edits.scanPoints.expire();
-  scribble(edits.scanRecord);
+  if (selectedOnly != 0) {
+    std::erase_if(polygons, [&](const MeshPolygon* polygon) { return !edits.countsAsSelected(*polygon); });
+  }
+  ++edits.scans;
+  for (const MeshPolygon* polygon : polygons) {
+    // Until a call answers with something else than 0. That answer is the scan's.
+    const std::optional<int> answer = callModule("polygon scan callback", [&] { return callback(user, polygon->id); });
+    result = answer.value_or(lw::kEditUserAbort);
+    if (result != 0 || !edits.isOpen()) break;
+  }
+  --edits.scans;
   return result;
 }
 
@@ -194,22 +150,21 @@ lw::EDPolygonInfo* polyInfo(lw::EditId state, lw::PolygonId id) {
   const MeshPolygon* polygon = call.polygon(id);
   if (polygon == nullptr || call.refused()) return nullptr;
   MeshEdits& edits = *call.edits();
-  fillRecord(edits.polygonRecord, edits.recordPoints, edits.recordSurface, edits, *polygon);
-  return &edits.polygonRecord;
-}
-
-lw::EDPointInfo* pointInfo(lw::EditId state, lw::PointId id) {
-  const EditCall call("MeshEditOp::pointInfo", state);
-  if (call.edits() == nullptr) return nullptr;
-  const MeshPoint* point = call.point(id);
-  if (point == nullptr || call.refused()) return nullptr;
-  lw::EDPointInfo& record = call.edits()->pointRecord;
+  lw::EDPolygonInfo& record = edits.polygonRecord;
+  edits.recordPoints.expire();
+  edits.recordSurface.expire();
   scribble(record);
   record = {};
-  record.pnt = point->id;
-  record.layer = point->layer;
-  record.flags = call.edits()->selectionMode() == lw::kEditAll ? lw::kElementSelected : 0;
-  std::copy(point->position.begin(), point->position.end(), record.position);
+  record.pol = polygon->id;
+  record.layer = polygon->layer;
+  record.flags = (edits.countsAsSelected(*polygon) ? lw::kElementSelected : 0) |
+                 (polygon->deleted || polygon->gone ? lw::kElementDeleted : 0);
+  record.numPnts = static_cast<int>(polygon->points.size());
+  record.points = edits.recordPoints.lend(polygon->points);
+  const std::string* name = polygon->content.tag(kTagSurface);
+  record.surface = edits.recordSurface.lend(name == nullptr ? "Default" : std::string_view(*name));
+  record.type = polygon->type;
+  record.typeFlags = polygon->content.flags;
   return &record;
 }
 
@@ -247,20 +202,6 @@ int polyPoints(lw::EditId state, lw::PolygonId id, const lw::PointId** out) {
   return static_cast<int>(polygon->points.size());
 }
 
-int polyFlags(lw::EditId state, lw::PolygonId id) {
-  const EditCall call("MeshEditOp::polyFlags", state);
-  if (call.edits() == nullptr) return 0;
-  const MeshPolygon* polygon = call.polygon(id);
-  return polygon == nullptr || call.refused() ? 0 : flagsOf(*call.edits(), *polygon);
-}
-
-int polyLayer(lw::EditId state, lw::PolygonId id) {
-  const EditCall call("MeshEditOp::polyLayer", state);
-  if (call.edits() == nullptr) return 0;
-  const MeshPolygon* polygon = call.polygon(id);
-  return polygon == nullptr || call.refused() ? 0 : polygon->layer;
-}
-
 // The newest text that the open edit has set, when edits show their own changes.
 const TagChange* ownChange(const MeshEdits& edits, const MeshPolygon& polygon, std::uint32_t type) {
   if (!modelerSession()->options.editsShowOwnChanges) return nullptr;
@@ -282,18 +223,6 @@ const char* polyTag(lw::EditId state, lw::PolygonId id, std::uint32_t type) {
   LentText& text = modelerSession()->text;
   if (stored != nullptr) return text.lend(*stored);
   return modelerSession()->options.missingTagIsEmpty ? text.lend("") : nullptr;
-}
-
-int vMapExists(lw::EditId state, const char* name, std::uint32_t type) {
-  const EditCall call("MeshEditOp::vMapExists", state);
-  if (call.edits() == nullptr) return 0;
-  if (name == nullptr) {
-    call.fault("was given no name");
-    return 0;
-  }
-  if (call.refused()) return 0;
-  const auto& maps = modelerSession()->maps;
-  return std::find(maps.begin(), maps.end(), std::pair(type, std::string(name))) == maps.end() ? 0 : 1;
 }
 
 // --- changes -------------------------------------------------------------------------------------------------------------
@@ -342,8 +271,6 @@ lw::MeshEditOp meshEditFunctions() {
   lw::MeshEditOp op{};
   op.done = &done;
   STANDIN_FILL_GAP(op, 24);
-  op.polyScan = &polyScan;
-  op.pointInfo = &pointInfo;
   op.polyInfo = &polyInfo;
   STANDIN_FILL_GAP(op, 72);
   op.polTag = &polTag;
@@ -357,14 +284,8 @@ lw::MeshEditOp meshEditFunctions() {
   op.polyType = &polyType;
   op.polyPoints = &polyPoints;
   STANDIN_FILL_GAP(op, 384);
-  op.polyFlags = &polyFlags;
-  STANDIN_FILL_GAP(op, 408);
   op.fastPolyScan = &fastPolyScan;
   STANDIN_FILL_GAP(op, 456);
-  op.polyLayer = &polyLayer;
-  STANDIN_FILL_GAP(op, 480);
-  op.vMapExists = &vMapExists;
-  STANDIN_FILL_GAP(op, 560);
   return op;
 }
 

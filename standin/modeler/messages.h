@@ -8,13 +8,13 @@
 
 namespace standin {
 
-enum class MessageKind { info, error, warning, okCancel, yesNo, yesNoCancel, yesNoAll };
+enum class MessageKind { error, yesNo };
 
-// What the user presses. `yes` is also the OK of a question that has one.
-enum class Answer { cancel, no, yes, yesToAll };
+// What the user presses.
+enum class Answer { no, yes };
 
 struct Message {
-  MessageKind kind = MessageKind::info;
+  MessageKind kind = MessageKind::error;
   std::string title;  // of questions
   std::string first;
   std::string second;

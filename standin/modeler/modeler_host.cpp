@@ -62,7 +62,7 @@ ModelerHost::ModelerHost(const ModelerOptions& options) : session_(++sessionCoun
   witness().afterModule([this](const char* function) {
     if (!session_.edits.isOpen() || session_.edits.scans > 0) return;
     witness().fault(function, "returned with a mesh edit still open");
-    session_.edits.end(lw::kEditUserAbort, 0);
+    session_.edits.end(lw::kEditUserAbort);
   });
 }
 
@@ -160,8 +160,8 @@ void ModelerHost::selectPolygons(const std::vector<const MeshPolygon*>& polygons
 
 void ModelerHost::deselectAll() { selectPolygons({}); }
 
-void ModelerHost::showLayers(const std::vector<int>& foreground, const std::vector<int>& background) {
-  if (current() != nullptr) current()->showLayers(foreground, background, options().layerSwitchDeselects);
+void ModelerHost::showLayers(const std::vector<int>& foreground) {
+  if (current() != nullptr) current()->showLayers(foreground, options().layerSwitchDeselects);
 }
 
 void ModelerHost::showAllLayers() {
@@ -220,25 +220,12 @@ std::vector<std::string> ModelerHost::selectedNames() const {
   return names;
 }
 
-std::vector<CommandRecord> ModelerHost::rejectedCommands() const {
-  std::vector<CommandRecord> rejected;
-  for (const CommandRecord& command : session_.commands) {
-    if (command.result != 0) rejected.push_back(command);
-  }
-  return rejected;
-}
-
 std::vector<std::string> ModelerHost::weightMaps() const {
   std::vector<std::string> names;
   for (const auto& [type, name] : session_.maps) {
     if (type == lw::kMapWeight) names.push_back(name);
   }
   return names;
-}
-
-void ModelerHost::forgetRecords() {
-  session_.messages.shown.clear();
-  session_.commands.clear();
 }
 
 }  // namespace standin

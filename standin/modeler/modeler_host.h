@@ -64,8 +64,8 @@ class ModelerHost {
   void select(const std::vector<std::string>& skelegonNames);
   void selectPolygons(const std::vector<const MeshPolygon*>& polygons);
   void deselectAll();
-  // Layer numbers from 0.
-  void showLayers(const std::vector<int>& foreground, const std::vector<int>& background = {});
+  // Layer numbers from 0. The others are hidden.
+  void showLayers(const std::vector<int>& foreground);
   void showAllLayers();
   void deleteSkelegons(const std::vector<std::string>& names);
   void deletePolygons(const std::vector<const MeshPolygon*>& polygons);
@@ -82,13 +82,10 @@ class ModelerHost {
   // Names of the selected skelegons of the current object, in scan order.
   std::vector<std::string> selectedNames() const;
   const std::vector<Message>& messages() const { return session_.messages.shown; }
-  const std::vector<CommandRecord>& commands() const { return session_.commands; }
-  // Commands that got an error code.
-  std::vector<CommandRecord> rejectedCommands() const;
   const std::vector<EditRecord>& edits() const { return session_.edits.records(); }
   // Names of the program's weight maps.
   std::vector<std::string> weightMaps() const;
-  void forgetRecords();
+  void forgetRecords() { session_.messages.shown.clear(); }
 
  private:
   void offerGlobals();

@@ -24,7 +24,7 @@ ModelerObject::ModelerObject(ObjectFile file, std::string fileName, std::string 
   layerPoints_.resize(file_.layers.size());
   groups_.resize(file_.layers.size());
   for (std::size_t place = 0; place < file_.layers.size(); ++place) {
-    layers_.push_back({file_.layers[place].number, file_.layers[place].name, false, false, place});
+    layers_.push_back({file_.layers[place].number, file_.layers[place].name, false, place});
   }
   std::stable_sort(layers_.begin(), layers_.end(),
                    [](const MeshLayer& a, const MeshLayer& b) { return a.number < b.number; });
@@ -102,35 +102,21 @@ const MeshPolygon* ModelerObject::skelegon(std::string_view name) const {
 }
 
 int ModelerObject::primaryLayer() const {
-  const auto chosenLayers = chosen(lw::kLayersPrimary);
-  return chosenLayers->empty() ? 0 : chosenLayers->front()->number;
+  const auto shown = *chosen(lw::kLayersForeground);
+  return shown.empty() ? 0 : shown.front()->number;
 }
 
 std::optional<std::vector<const MeshLayer*>> ModelerObject::chosen(int layerChoice) const {
-  constexpr int kForeAndBackground = 3;
-  constexpr int kEmpty = 5;
-  constexpr int kNonEmpty = 6;
-  constexpr int kFirstSingle = 101;
-  const auto wanted = [&](const MeshLayer& layer) {
-    switch (layerChoice) {
-      case lw::kLayersPrimary:
-      case lw::kLayersForeground: return layer.foreground;
-      case lw::kLayersBackground: return layer.background;
-      case kForeAndBackground: return layer.foreground || layer.background;
-      case lw::kLayersAll: return true;
-      case kEmpty: return !holdsData(layer);
-      case kNonEmpty: return holdsData(layer);
-      default: return layer.number == layerChoice - kFirstSingle;
-    }
-  };
-  if (layerChoice < lw::kLayersPrimary || (layerChoice > kNonEmpty && layerChoice < kFirstSingle)) return std::nullopt;
   std::vector<const MeshLayer*> list;
   for (const MeshLayer& layer : layers_) {
-    if (!wanted(layer)) continue;
-    list.push_back(&layer);
-    if (layerChoice == lw::kLayersPrimary) break;
+    const bool isWanted = layerChoice == lw::kLayersForeground ? layer.foreground
+                          : layerChoice == lw::kLayersNonEmpty ? holdsData(layer)
+                                                               : layerChoice == lw::kLayersAll;
+    if (isWanted) list.push_back(&layer);
   }
-  return list;
+  const bool isKnown =
+      layerChoice == lw::kLayersForeground || layerChoice == lw::kLayersAll || layerChoice == lw::kLayersNonEmpty;
+  return isKnown ? std::optional(list) : std::nullopt;
 }
 
 bool ModelerObject::ownsItsIdentifier(const MeshPolygon& polygon) const {
@@ -151,20 +137,11 @@ std::vector<const MeshPolygon*> ModelerObject::scan(const std::vector<const Mesh
   return list;
 }
 
-std::vector<const MeshPoint*> ModelerObject::scanPoints(const std::vector<const MeshLayer*>& layers) const {
-  std::vector<const MeshPoint*> list;
-  for (const MeshLayer* layer : layers) {
-    for (const lw::PointId id : layerPoints_[layer->place]) list.push_back(&points_[handles_.find(id)->place]);
-  }
-  return list;
-}
-
 // --- changes -------------------------------------------------------------------------------------------------------------
 
-void ModelerObject::showLayers(const std::vector<int>& foreground, const std::vector<int>& background, bool deselect) {
+void ModelerObject::showLayers(const std::vector<int>& foreground, bool deselect) {
   for (MeshLayer& layer : layers_) {
     layer.foreground = contains(foreground, layer.number);
-    layer.background = !layer.foreground && contains(background, layer.number);
   }
   if (!deselect) return;
   for (MeshPolygon& polygon : polygons_) {
@@ -202,7 +179,7 @@ int ModelerObject::addLayer(const std::string& name) {
   layer.number = static_cast<std::uint16_t>(number);
   layer.name = name;
   file_.layers.push_back(std::move(layer));
-  layers_.push_back({number, name, layers_.empty(), false, file_.layers.size() - 1});
+  layers_.push_back({number, name, layers_.empty(), file_.layers.size() - 1});
   layerPoints_.emplace_back();
   groups_.emplace_back();
   return number;
@@ -299,18 +276,7 @@ void ModelerObject::perform(MeshStep step, bool isStep) {
   }
   if (done.empty() || !isStep) return;
   redo_.clear();
-  if (groupDepth_ > 0 && groupHasStep_) {
-    undo_.back().insert(undo_.back().end(), std::make_move_iterator(done.begin()), std::make_move_iterator(done.end()));
-  } else {
-    undo_.push_back(std::move(done));
-    groupHasStep_ = groupDepth_ > 0;
-  }
-}
-
-bool ModelerObject::endGroup() {
-  if (groupDepth_ == 0) return false;
-  if (--groupDepth_ == 0) groupHasStep_ = false;
-  return true;
+  undo_.push_back(std::move(done));
 }
 
 bool ModelerObject::undo() {

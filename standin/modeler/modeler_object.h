@@ -46,7 +46,6 @@ struct MeshLayer {
   int number = 0;
   std::string name;
   bool foreground = false;
-  bool background = false;
   std::size_t place = 0;  // among the layers of the file
 };
 
@@ -101,22 +100,20 @@ class ModelerObject {
   const std::vector<VertexMap>& maps(const MeshLayer& layer) const;
   bool hasMap(const std::pair<std::uint32_t, std::string>& map) const;  // type and name
 
-  // Layers of a layer choice, by number. Empty optional: no such choice.
+  // Layers of a layer choice, by number. Empty optional: no tool makes that choice.
   std::optional<std::vector<const MeshLayer*>> chosen(int layerChoice) const;
   // Polygons of a layer choice in the order in which the program delivers them: by layer, then by age. On demand also those
   // that are gone, as long as their identifiers are theirs.
   std::vector<const MeshPolygon*> scan(const std::vector<const MeshLayer*>& layers, bool withGone = false) const;
-  std::vector<const MeshPoint*> scanPoints(const std::vector<const MeshLayer*>& layers) const;
   // Number of the lowest foreground layer.
   int primaryLayer() const;
 
   // --- changes -----------------------------------------------------------------------------------------------------------
 
-  // Both lists hold layer numbers. A layer that is in none of them is hidden.
-  void showLayers(const std::vector<int>& foreground, const std::vector<int>& background, bool deselect);
+  // Layer numbers; the other layers are hidden.
+  void showLayers(const std::vector<int>& foreground, bool deselect);
   // Selects exactly these, as the user does. It is no step.
   void select(const std::vector<const MeshPolygon*>& polygons);
-  void deselectAll() { select(std::vector<const MeshPolygon*>()); }
   // Flags a polygon as deleted in an edit that is not done; it stays where it is.
   void markDeleted(const MeshPolygon& polygon, bool deleted = true);
 
@@ -135,10 +132,6 @@ class ModelerObject {
   bool undo();
   bool redo();
   std::size_t undoSteps() const { return undo_.size(); }
-  // From here to the closing call all steps are one.
-  void beginGroup() { ++groupDepth_; }
-  // False when no group is open.
-  bool endGroup();
 
   // Empty when saved, else the failure.
   std::optional<Failure> save(const std::string& fileName);
@@ -167,8 +160,6 @@ class ModelerObject {
   std::vector<std::vector<std::vector<std::size_t>>> groups_;  // by place of the layer and group: places in polygons_
   std::vector<MeshStep> undo_;
   std::vector<MeshStep> redo_;
-  int groupDepth_ = 0;
-  bool groupHasStep_ = false;
 };
 
 }  // namespace standin

@@ -16,15 +16,6 @@ namespace {
 
 // --- state query ---------------------------------------------------------------------------------------------------------
 
-int numLayers() {
-  const ModelerCall call("LWStateQueryFuncs::numLayers");
-  const ModelerSession* session = call.session();
-  if (session == nullptr || session->current() == nullptr) return 0;
-  const ModelerObject& object = *session->current();
-  return static_cast<int>(std::count_if(object.layers().begin(), object.layers().end(),
-                                        [&](const MeshLayer& layer) { return object.holdsData(layer); }));
-}
-
 const char* layerList(int layers, const char* name) {
   // The text lent by the last call may be what names the object now.
   const std::string wanted = name == nullptr ? std::string() : std::string(name);
@@ -109,12 +100,6 @@ const char* layerName(int index, int number) {
   return session.text.lend(layer->name);
 }
 
-const char* refName(int index) {
-  const ModelerCall call("LWObjectFuncs::refName");
-  const ModelerObject* object = objectAt(call, index);
-  return object == nullptr ? nullptr : modelerSession()->text.lend(object->referenceName());
-}
-
 std::vector<std::string> mapNames(const ModelerSession& session, std::uint32_t type) {
   std::vector<std::string> names;
   for (const auto& map : session.maps) {
@@ -150,8 +135,7 @@ const char* vmapName(std::uint32_t type, int index) {
 lw::LWStateQueryFuncs* stateQuery() {
   static lw::LWStateQueryFuncs table = [] {
     lw::LWStateQueryFuncs t{};
-    t.numLayers = &numLayers;
-    STANDIN_FILL_GAP(t, 8);
+    STANDIN_FILL_GAP(t, 0);
     t.layerList = &layerList;
     t.object = &objectName;
     STANDIN_FILL_GAP(t, 48);
@@ -173,9 +157,6 @@ lw::LWObjectFuncs* sceneObjects() {
     STANDIN_FILL_GAP(t, 64);
     t.layerName = &layerName;
     STANDIN_FILL_GAP(t, 88);
-    t.refName = &refName;
-    t.maxPointsPerPoly = 1023;
-    STANDIN_FILL_GAP(t, 120);
     return t;
   }();
   return &table;

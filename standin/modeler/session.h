@@ -19,11 +19,6 @@
 
 namespace standin {
 
-struct CommandRecord {
-  std::string text;
-  int result = 0;  // 0 accepted, else an error code
-};
-
 struct ModelerSession {
   explicit ModelerSession(std::uint32_t number) : handles(number), edits(number) {}
 
@@ -33,7 +28,6 @@ struct ModelerSession {
   Handles handles;
   MeshEdits edits;
   MessageDesk messages;
-  std::vector<CommandRecord> commands;
   // Vertex maps belong to the program: they stay listed after their object is gone.
   std::vector<std::pair<std::uint32_t, std::string>> maps;
   LentText text;

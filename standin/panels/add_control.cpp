@@ -1,4 +1,4 @@
-// Making and destroying controls: what a description may look like, kind by kind.
+// Making controls: what a description may look like, kind by kind.
 #include <cstddef>
 #include <string>
 
@@ -105,37 +105,6 @@ lw::LWControl* addControl(lw::PanelId id, const char* kind, lw::LWPanControlDesc
   }
   if (!checkDescription(call, *row, *desc) || call.refused()) return nullptr;
   return panels().createControl(*panel, *row, *desc, label)->face;
-}
-
-lw::LWControl* nextControl(lw::PanelId id, lw::LWControl* previous) {
-  const HostCall call("panel nextControl");
-  const Panel* panel = resolved(call, id);
-  if (panel == nullptr || call.refused()) return nullptr;
-  std::string why;
-  const Control* after = previous == nullptr ? nullptr : panels().resolve(previous, why);
-  if (previous != nullptr && (after == nullptr || after->panel != panel)) {
-    call.fault(after == nullptr ? why : "got a control of another panel");
-    return nullptr;
-  }
-  for (const auto& control : panel->controls) {
-    if (control->isAlive && (after == nullptr || control->index > after->index)) return control->face;
-  }
-  return nullptr;
-}
-
-void destroyControl(lw::PanelId id, lw::LWControl* face) {
-  const HostCall call("panel destroyControl");
-  const Panel* panel = resolved(call, id);
-  if (panel == nullptr) return;
-  std::string why;
-  Control* control = panels().resolve(face, why);
-  if (control == nullptr || control->panel != panel) {
-    call.fault(control == nullptr ? why : "got a control of another panel");
-  } else if (panel->state != Panel::State::Closed || panel->runningCallbacks > 0) {
-    call.fault(control->describe() + " is destroyed while its panel is in use");
-  } else if (!call.refused()) {
-    panels().destroy(*control);
-  }
 }
 
 }  // namespace standin

@@ -69,15 +69,12 @@ int insetOf(const Control& control) {
 }  // namespace
 
 KeptText KeptText::kept(const char* text) {
-  if (panels().options.copiesTexts) return copied(text);
   KeptText kept;
-  kept.pointer_ = text;
-  return kept;
-}
-
-KeptText KeptText::copied(const char* text) {
-  KeptText kept;
-  kept.copy_ = text == nullptr ? "" : text;
+  if (!panels().options.copiesTexts) {
+    kept.pointer_ = text;
+  } else if (text != nullptr) {
+    kept.copy_ = text;
+  }
   return kept;
 }
 

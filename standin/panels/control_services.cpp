@@ -7,13 +7,14 @@
 #include "standin/core/witness.h"
 #include "standin/panels/limits.h"
 #include "standin/panels/metrics.h"
+#include "standin/panels/service_functions.h"
 #include "standin/panels/services.h"
 
 namespace standin {
 namespace {
 
 // How an attribute travels in the value union. The type code is looked at for all but pointers.
-enum class Carrier { Integer, Range, String, Value, Pointer };
+enum class Carrier { Integer, Value, Pointer };
 
 struct AttributeRow {
   int attribute;
@@ -38,26 +39,13 @@ constexpr std::array kAttributes{
     AttributeRow{lw::kControlLabelWidth,          "label width",        Carrier::Integer, true,  false},
     AttributeRow{lw::kControlMouseX,              "mouse x",            Carrier::Integer, true,  false},
     AttributeRow{lw::kControlMouseY,              "mouse y",            Carrier::Integer, true,  false},
-    AttributeRow{lw::kControlFlags,               "flags",              Carrier::Integer, true,  true},
     AttributeRow{lw::kControlDrawCallback,        "draw callback",      Carrier::Pointer, true,  true},
     AttributeRow{lw::kControlEventCallback,       "event callback",     Carrier::Pointer, true,  true},
-    AttributeRow{lw::kControlLabel,               "label",              Carrier::String,  true,  true},
     AttributeRow{lw::kControlUserData,            "user data",          Carrier::Pointer, true,  true},
-    AttributeRow{lw::kControlPanel,               "panel",              Carrier::Pointer, true,  false},
-    AttributeRow{lw::kControlServices,            "services table",     Carrier::Pointer, true,  false},
-    AttributeRow{lw::kControlRangeLeast,          "least value",        Carrier::Range,   true,  true},
-    AttributeRow{lw::kControlRangeGreatest,       "greatest value",     Carrier::Range,   true,  true},
-    AttributeRow{lw::kControlFocus,               "input focus",        Carrier::Integer, false, true},
     AttributeRow{lw::kControlMouseButton,         "mouse button",       Carrier::Integer, true,  false},
-    AttributeRow{lw::kControlSelectCallback,      "selection callback", Carrier::Pointer, true,  true},
     AttributeRow{lw::kControlClickCount,          "click count",        Carrier::Integer, true,  false},
-    AttributeRow{lw::kControlMenuFlagsCallback,   "menu flags callback", Carrier::Pointer, true, true},
 };
 // clang-format on
-
-constexpr int kGhostedFlag = 0x100;
-constexpr int kErasedFlag = 0x200;
-constexpr int kScalingFlag = 0x400;
 
 const AttributeRow* rowFor(int attribute) {
   for (const AttributeRow& row : kAttributes) {
@@ -79,8 +67,6 @@ int typeOf(ValueForm form) {
 bool isTypeRight(const Control& control, const AttributeRow& row, int type) {
   switch (row.carrier) {
     case Carrier::Integer: return type == lw::kValueInteger;
-    case Carrier::Range: return type == lw::kValueInteger || type == lw::kValueFloat;
-    case Carrier::String: return type == lw::kValueString;
     case Carrier::Value: return type == typeOf(control.kind->value);
     case Carrier::Pointer: return true;
   }
@@ -88,7 +74,7 @@ bool isTypeRight(const Control& control, const AttributeRow& row, int type) {
 }
 
 bool carriesText(const Control& control, const AttributeRow& row) {
-  return row.carrier == Carrier::String || (row.carrier == Carrier::Value && control.kind->value == ValueForm::String);
+  return row.carrier == Carrier::Value && control.kind->value == ValueForm::String;
 }
 
 std::string attributeOf(const AttributeRow& row, const Control& control) {
@@ -138,19 +124,6 @@ void giveValue(const Control& control, lw::LWValue& out) {
   }
 }
 
-void giveRange(int bound, lw::LWValue& out) {
-  if (out.type == lw::kValueFloat) {
-    out.flt.value = bound;
-  } else {
-    out.intv.value = bound;
-  }
-}
-
-int flagsOf(const Control& control) {
-  return (control.isGhosted ? kGhostedFlag : 0) | (control.isErased ? kErasedFlag : 0) |
-         (control.scalesWithScreen ? kScalingFlag : 0);
-}
-
 int integerOf(const Control& control, int attribute) {
   switch (attribute) {
     case lw::kControlX: return control.x;
@@ -164,7 +137,6 @@ int integerOf(const Control& control, int attribute) {
     case lw::kControlLabelWidth: return control.labelWidth();
     case lw::kControlMouseX: return control.mouseX - (panels().options.mouseFromControl ? control.hot().x : 0);
     case lw::kControlMouseY: return control.mouseY - (panels().options.mouseFromControl ? control.hot().y : 0);
-    case lw::kControlFlags: return flagsOf(control);
     case lw::kControlMouseButton: return control.mouseButton;
     case lw::kControlClickCount: return control.clickCount;
     default: return 0;
@@ -176,10 +148,6 @@ void* pointerOf(const Control& control, int attribute) {
     case lw::kControlDrawCallback: return reinterpret_cast<void*>(control.drawCallback);
     case lw::kControlEventCallback: return reinterpret_cast<void*>(control.event);
     case lw::kControlUserData: return control.user;
-    case lw::kControlPanel: return control.panel->id;
-    case lw::kControlServices: return panelServices();
-    case lw::kControlSelectCallback: return reinterpret_cast<void*>(control.select);
-    case lw::kControlMenuFlagsCallback: return reinterpret_cast<void*>(control.menuFlags);
     default: return nullptr;
   }
 }
@@ -196,10 +164,6 @@ void get(lw::LWControl* face, int attribute, lw::LWValue* value) {
   if (row == nullptr || call.refused()) return;
   switch (row->carrier) {
     case Carrier::Integer: value->intv.value = integerOf(*control, attribute); break;
-    case Carrier::Range:
-      giveRange(attribute == lw::kControlRangeLeast ? control->rangeLeast : control->rangeGreatest, *value);
-      break;
-    case Carrier::String: giveText(control->label.read(), value->str); break;
     case Carrier::Value: giveValue(*control, *value); break;
     case Carrier::Pointer: value->ptr.ptr = pointerOf(*control, attribute); break;
   }
@@ -245,19 +209,6 @@ void takeValue(Control& control, const lw::LWValue& value) {
   }
 }
 
-void takeFlags(Control& control, int flags) {
-  control.isErased = (flags & kErasedFlag) != 0;
-  if (control.is(ControlKind::OpenGL)) control.scalesWithScreen = (flags & kScalingFlag) != 0;
-}
-
-void takeFocus(const HostCall& call, Control& control) {
-  if (control.kind->handling != Handling::Type && control.kind->handling != Handling::Slide) {
-    call.fault(control.describe() + " cannot take the input focus");
-  } else {
-    control.panel->focus = &control;
-  }
-}
-
 void takePlace(Control& control, int attribute, int number) {
   const Rectangle before = control.whole();
   switch (attribute) {
@@ -271,36 +222,17 @@ void takePlace(Control& control, int attribute, int number) {
   if (!isSame && control.panel->isOpen() && !panels().options.movesRepaint) control.isMisplaced = true;
 }
 
-void takeInteger(const HostCall& call, Control& control, int attribute, int number) {
-  switch (attribute) {
-    case lw::kControlX:
-    case lw::kControlY:
-    case lw::kControlWidth:
-    case lw::kControlHeight: takePlace(control, attribute, number); break;
-    case lw::kControlFlags: takeFlags(control, number); break;
-    case lw::kControlFocus: takeFocus(call, control); break;
-    default: break;
-  }
-}
-
 void takePointer(Control& control, int attribute, void* pointer) {
   const auto take = [pointer]<class Callback>(Callback& callback) { callback = reinterpret_cast<Callback>(pointer); };
   switch (attribute) {
     case lw::kControlDrawCallback: take(control.drawCallback); break;
     case lw::kControlEventCallback: take(control.event); break;
-    case lw::kControlSelectCallback: take(control.select); break;
-    case lw::kControlMenuFlagsCallback: take(control.menuFlags); break;
     case lw::kControlUserData:
       control.user = pointer;
       control.userWasSet = true;
       break;
     default: break;
   }
-}
-
-void takeRange(Control& control, int attribute, const lw::LWValue& value) {
-  const int bound = value.type == lw::kValueFloat ? static_cast<int>(value.flt.value) : value.intv.value;
-  (attribute == lw::kControlRangeLeast ? control.rangeLeast : control.rangeGreatest) = bound;
 }
 
 void set(lw::LWControl* face, int attribute, lw::LWValue* value) {
@@ -314,9 +246,7 @@ void set(lw::LWControl* face, int attribute, lw::LWValue* value) {
   const AttributeRow* row = usable(call, *control, attribute, value, false);
   if (row == nullptr || call.refused()) return;
   switch (row->carrier) {
-    case Carrier::Integer: takeInteger(call, *control, attribute, value->intv.value); break;
-    case Carrier::Range: takeRange(*control, attribute, *value); break;
-    case Carrier::String: control->label = KeptText::copied(value->str.buf); break;
+    case Carrier::Integer: takePlace(*control, attribute, value->intv.value); break;
     case Carrier::Value:
       takeValue(*control, *value);
       if (panels().options.asksPopupsAnytime) askAnything(*control);
@@ -349,15 +279,12 @@ void draw(lw::LWControl* face, int mode) {
     call.fault(why);
     return;
   }
-  if (mode < lw::kDrawErase || mode > lw::kDrawRefresh) {
+  if (!isDrawMode(mode)) {
     call.fault("got the unknown draw mode " + std::to_string(mode) + " for " + control->describe());
     return;
   }
   if (call.refused() || (!control->panel->isOpen() && !panels().options.drawBeforeOpenHolds)) return;
-  if (mode != lw::kDrawRefresh) {
-    control->isErased = mode == lw::kDrawErase;
-    control->isGhosted = mode == lw::kDrawGhost;
-  }
+  if (mode != lw::kDrawRefresh) control->isErased = mode == lw::kDrawErase;
   control->wantsPaint = !control->isErased;
   if (mode != lw::kDrawErase) control->isDrawn();
   if (mode == lw::kDrawErase && control->panel->isOpen() && panels().options.eraseCovers) coverOthers(*control);

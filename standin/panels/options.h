@@ -77,7 +77,6 @@ struct PanelOptions {
   bool setsRepaint = true;          // a value set on an open panel is seen at once; else when the control is drawn
   bool setsFireEvents = false;      // odd host: setting a value fires the control's event
   bool repeatedChoiceFires = true;  // choosing the item that is chosen already is an event
-  bool ghostedFires = true;         // ghosted controls can still be used
   bool drawBeforeOpenHolds = true;  // hiding a control of a closed panel still holds when the panel opens
   bool copiesTexts = false;         // labels, titles and lists are copied instead of read when they are needed
   bool terminatesTexts = false;     // a text that fills the caller's buffer is cut to leave room for the final zero

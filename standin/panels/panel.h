@@ -40,13 +40,11 @@ struct Rectangle {
 };
 
 // A text of the module's that the host reads when it needs it: the pointer is kept, so that a text which died is found out.
-// A text that the module set through an attribute is copied.
 class KeptText {
  public:
   KeptText() = default;
   // Keeps the pointer (null is an empty text), or copies the text where the options say so.
   static KeptText kept(const char* text);
-  static KeptText copied(const char* text);
   std::string read() const;
 
  private:
@@ -78,8 +76,6 @@ struct Control {
   int rangeGreatest = 0;
 
   bool isErased = false;
-  bool isGhosted = false;
-  bool scalesWithScreen = false;
   bool isAlive = true;
   bool wantsPaint = false;  // exposed or drawn since the last paint
   // What the screen still lacks, until the control is drawn.
@@ -91,8 +87,6 @@ struct Control {
 
   lw::ControlEvent event = nullptr;
   lw::ControlDraw drawCallback = nullptr;
-  int (*select)(lw::LWControl*, void* user, int index, int selecting) = nullptr;
-  unsigned (*menuFlags)(lw::LWControl*, void* user, int index) = nullptr;
   void* user = nullptr;
   bool userWasSet = false;
 
@@ -142,7 +136,6 @@ struct Panel {
   enum class State { Closed, Open, Closing };
 
   lw::PanelId id = nullptr;
-  void* owner = nullptr;
   KeptText title;
   std::string titleAtCreation;
   State state = State::Closed;
@@ -169,19 +162,11 @@ struct Panel {
   int pressX = 0;          // of the last press, and how many there were at that place
   int pressY = 0;
   int pressCount = 0;
-  Control* focus = nullptr;
   Control* mouseOwner = nullptr;  // the control in which a button was pressed and is still down
-  int result = 0;
-  int configurationTag = 0;
-  lw::PanelId parent = nullptr;
 
   void* user = nullptr;
-  lw::PanelDrawHook drawHook = nullptr;
-  lw::PanelHook activateHook = nullptr;
   lw::PanelHook openHook = nullptr;
   lw::PanelHook closeHook = nullptr;
-  lw::PanelKeyHook keyHook = nullptr;
-  lw::PanelKeyHook keyUpHook = nullptr;
   lw::PanelMouseHook mouseButtonHook = nullptr;
   lw::PanelMouseHook mouseMoveHook = nullptr;
   lw::PanelMouseHook mouseWheelHook = nullptr;
@@ -229,13 +214,12 @@ class PanelListener {
 class Panels {
  public:
   PanelOptions options;
-  PanelListener* listener = nullptr;    // not owned
-  std::function<int(Panel&)> blocking;  // plays the person in front of a blocking panel: 1 continue, 0 cancel
+  PanelListener* listener = nullptr;  // not owned
 
   Panels(const Panels&) = delete;
   Panels& operator=(const Panels&) = delete;
 
-  // Begins a session: destroys every record, puts the options back, lets listener and person go. Handles of the old session
+  // Begins a session: destroys every record, puts the options back, lets the listener go. Handles of the old session
   // stay known as dead.
   void reset();
 
@@ -254,7 +238,7 @@ class Panels {
   void note(std::string text) { notes_.push_back(std::move(text)); }
 
   // For the services below.
-  Panel* create(const char* title, void* owner);
+  Panel* create(const char* title);
   Control* createControl(Panel& panel, const KindRow& kind, const lw::LWPanControlDesc& description, const char* label);
   void destroy(Panel& panel);
   void destroy(Control& control);

@@ -1,4 +1,4 @@
-// The attributes of panels. Numbers travel as the address of an int. Hooks, user data and the title are the pointer itself.
+// The attributes of panels. Numbers travel as the address of an int. Hooks and user data are the pointer itself.
 #include <array>
 #include <string>
 
@@ -8,8 +8,6 @@
 
 namespace standin {
 namespace {
-
-constexpr int kInterfaceVersion = 23;
 
 struct NumberAttribute {
   int attribute;
@@ -22,46 +20,24 @@ struct NumberAttribute {
 // clang-format off
 constexpr std::array kNumbers{
     //              attribute                  name                 read   write  member
-    NumberAttribute{lw::kPanelX,               "x",                 true,  true,  &Panel::x},
-    NumberAttribute{lw::kPanelY,               "y",                 true,  true,  &Panel::y},
     NumberAttribute{lw::kPanelWidth,           "width",             true,  true,  &Panel::width},
     NumberAttribute{lw::kPanelHeight,          "height",            true,  true,  &Panel::height},
     NumberAttribute{lw::kPanelMouseX,          "mouse x",           true,  false, &Panel::mouseX},
     NumberAttribute{lw::kPanelMouseY,          "mouse y",           true,  false, &Panel::mouseY},
-    NumberAttribute{lw::kPanelOpenFlags,       "open flags",        true,  false, &Panel::openFlags},
-    NumberAttribute{18,                        "interface version", true,  false, nullptr},
-    NumberAttribute{19,                        "result",            false, true,  &Panel::result},
     NumberAttribute{lw::kPanelQualifiers,      "qualifiers",        true,  false, &Panel::qualifiers},
     NumberAttribute{lw::kPanelToFront,         "bring to front",    false, true,  nullptr},
     NumberAttribute{lw::kPanelLeastWidth,      "least width",       true,  true,  &Panel::leastWidth},
     NumberAttribute{lw::kPanelLeastHeight,     "least height",      true,  true,  &Panel::leastHeight},
     NumberAttribute{lw::kPanelGreatestWidth,   "greatest width",    true,  true,  &Panel::greatestWidth},
     NumberAttribute{lw::kPanelGreatestHeight,  "greatest height",   true,  true,  &Panel::greatestHeight},
-    NumberAttribute{30,                        "configuration tag", true,  true,  &Panel::configurationTag},
 };
 // clang-format on
-
-constexpr int kHostInstance = 14;
-constexpr int kOwner = 17;
-constexpr int kHostDisplay = 20;
-constexpr int kKeyUpHook = 21;
 
 const NumberAttribute* numberAttribute(int attribute) {
   for (const NumberAttribute& row : kNumbers) {
     if (row.attribute == attribute) return &row;
   }
   return nullptr;
-}
-
-// The pointers that can be read, into a pointer variable. How the host gives hooks and the title is not documented.
-bool readPointer(const Panel& panel, int attribute, void** out) {
-  switch (attribute) {
-    case lw::kPanelUserData: *out = panel.user; return true;
-    case kOwner: *out = panel.owner; return true;
-    case kHostInstance:
-    case kHostDisplay: *out = nullptr; return true;
-    default: return false;
-  }
 }
 
 // An open panel keeps its size unless it is resizable.
@@ -97,18 +73,13 @@ bool setPointer(Panel& panel, int attribute, void* value) {
     return true;
   };
   switch (attribute) {
-    case lw::kPanelDrawHook: return take(panel.drawHook);
-    case lw::kPanelActivateHook: return take(panel.activateHook);
     case lw::kPanelOpenHook: return take(panel.openHook);
     case lw::kPanelCloseHook: return take(panel.closeHook);
-    case lw::kPanelKeyHook: return take(panel.keyHook);
-    case kKeyUpHook: return take(panel.keyUpHook);
     case lw::kPanelMouseButtonHook: return take(panel.mouseButtonHook);
     case lw::kPanelMouseMoveHook: return take(panel.mouseMoveHook);
     case lw::kPanelMouseWheelHook: return take(panel.mouseWheelHook);
     case lw::kPanelResizeHook: return take(panel.resizeHook);
     case lw::kPanelUserData: panel.user = value; return true;
-    case lw::kPanelTitle: panel.title = KeptText::kept(static_cast<const char*>(value)); return true;
     default: return false;
   }
 }
@@ -127,13 +98,17 @@ void getPanelAttribute(lw::PanelId id, int attribute, void* out) {
   if (call.refused()) return;
   const NumberAttribute* row = numberAttribute(attribute);
   if (row == nullptr) {
-    if (!readPointer(*panel, attribute, static_cast<void**>(out))) call.fault(which + " cannot be read");
+    if (attribute == lw::kPanelUserData) {
+      *static_cast<void**>(out) = panel->user;
+    } else {
+      call.fault(which + " cannot be read");
+    }
   } else if (!row->readable) {
     call.fault(which + " (" + row->name + ") can only be set");
   } else if (attribute == lw::kPanelQualifiers && panels().options.qualifiersAreOfTold) {
     *static_cast<int*>(out) = panel->toldQualifiers;
   } else {
-    *static_cast<int*>(out) = row->member == nullptr ? kInterfaceVersion : panel->*row->member;
+    *static_cast<int*>(out) = panel->*row->member;
   }
 }
 

@@ -136,7 +136,6 @@ void Panels::reset() {
   due_.clear();
   options = PanelOptions();
   listener = nullptr;
-  blocking = nullptr;
 }
 
 std::vector<Panel*> Panels::all() const {
@@ -181,9 +180,8 @@ std::vector<std::string> Panels::moduleUnloaded() {
   return left;
 }
 
-Panel* Panels::create(const char* title, void* owner) {
+Panel* Panels::create(const char* title) {
   Panel& panel = *panels_.emplace_back(std::make_unique<Panel>());
-  panel.owner = owner;
   panel.title = KeptText::kept(title);
   panel.titleAtCreation = panel.title.read();
   panel.stackY = kPanelMargin;
@@ -220,7 +218,6 @@ void Panels::destroy(Panel& panel) {
 
 void Panels::destroy(Control& control) {
   control.isAlive = false;
-  if (control.panel->focus == &control) control.panel->focus = nullptr;
   if (control.panel->mouseOwner == &control) control.panel->mouseOwner = nullptr;
 }
 

@@ -18,8 +18,6 @@
 namespace standin {
 namespace {
 
-constexpr unsigned kMenuItemDisabled = 8;
-
 Done failed(std::string why) { return {false, std::move(why)}; }
 
 // Whether a person can reach the control at all.
@@ -31,7 +29,6 @@ Done reachable(const Control* control) {
   if (control->isErased) return failed(name + " is hidden");
   if (control->isCovered || control->isMisplaced) return failed(name + " is not seen: it was not drawn again");
   if (!control->panel->area().meets(control->hot())) return failed(name + " lies outside the panel");
-  if (control->isGhosted && !panels().options.ghostedFires) return failed(name + " is ghosted");
   return {};
 }
 
@@ -53,16 +50,7 @@ void fireChanged(Control& control) {
   panels().fire(control);
 }
 
-bool isItemDisabled(const Control& list, int index) {
-  if (list.menuFlags == nullptr) return false;
-  const Running running(*list.panel);
-  const auto flags = callModule("menu flags callback", [&] { return list.menuFlags(list.face, list.user, index); });
-  return (flags.value_or(0U) & kMenuItemDisabled) != 0;
-}
-
 Done chooseItem(Control& list, int index) {
-  if (isItemDisabled(list, index))
-    return failed("item " + std::to_string(index) + " of " + list.describe() + " is disabled");
   const bool isSame = list.integer == index;
   list.integer = index;
   if (!isSame || panels().options.repeatedChoiceFires) fireChanged(list);
@@ -245,20 +233,6 @@ Done wheel(Panel* panel, int x, int y, int notches) {
 Done click(Control* area, int x, int y, MouseButton button, int qualifiers, int clicks) {
   if (Done done = reachableAs(area, Handling::Mouse, "clicked into"); !done) return done;
   return click(area->panel, area->hot().x + x, area->hot().y + y, button, qualifiers, clicks);
-}
-
-Done key(Panel* panel, unsigned short code) {
-  if (Done done = usablePanel(panel); !done) return done;
-  if (panel->keyHook == nullptr) return {};
-  const Running running(*panel);
-  callModule("panel key hook", [&] { return panel->keyHook(panel->id, panel->user, code); });
-  return {};
-}
-
-Done activate(Panel* panel) {
-  if (Done done = usablePanel(panel); !done) return done;
-  panels().callHook(*panel, panel->activateHook, "panel activate hook");
-  return {};
 }
 
 Done resize(Panel* panel, int width, int height) {

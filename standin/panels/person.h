@@ -56,8 +56,6 @@ Done wheel(Panel* panel, int x, int y, int notches);
 // The same with positions from the control's upper left corner (of its hot area).
 Done click(Control* area, int x, int y, MouseButton button = MouseButton::Left, int qualifiers = 0, int clicks = 1);
 
-Done key(Panel* panel, unsigned short code);
-Done activate(Panel* panel);
 // Drags the panel's border: the size is kept within the panel's limits. Calls the resize hook.
 Done resize(Panel* panel, int width, int height);
 Done close(Panel* panel);

@@ -16,11 +16,11 @@ Panel* resolved(const HostCall& call, lw::PanelId id);
 // "panel "Title""
 std::string named(const Panel& panel);
 
+inline bool isDrawMode(int mode) { return mode == lw::kDrawErase || mode == lw::kDrawRender || mode == lw::kDrawRefresh; }
+
 void getPanelAttribute(lw::PanelId id, int attribute, void* out);
 void setPanelAttribute(lw::PanelId id, int attribute, void* value);
 
 lw::LWControl* addControl(lw::PanelId id, const char* kind, lw::LWPanControlDesc* desc, const char* label);
-lw::LWControl* nextControl(lw::PanelId id, lw::LWControl* previous);
-void destroyControl(lw::PanelId id, lw::LWControl* face);
 
 }  // namespace standin

@@ -7,19 +7,16 @@
 #include "standin/core/gap_slots.h"
 #include "standin/core/globals.h"
 #include "standin/core/witness.h"
-#include "standin/panels/metrics.h"
 #include "standin/panels/service_functions.h"
 
 namespace standin {
 
 template <>
 inline constexpr const char* kTableName<lw::LWPanelFuncs> = "LWPanelFuncs";
-template <>
-inline constexpr const char* kTableName<lw::DrawFuncs> = "DrawFuncs";
 
 namespace {
 
-constexpr int kKnownOpenFlags = 1 | 2 | 4 | 8 | 16 | 32 | 64 | 128 | 256;
+constexpr int kOpenFlags = lw::kOpenMouse | lw::kOpenNoButtons | lw::kOpenResizable | lw::kOpenMouseMotion;
 
 constexpr const char* kServiceName = "LWPanelServices 3";
 
@@ -30,7 +27,7 @@ bool hasLookupFunction() {
   return isWritten(panelServices()) || std::any_of(given.begin(), given.end(), isWritten);
 }
 
-lw::PanelId create(const char* title, void* owner) {
+lw::PanelId create(const char* title, void* /*owner*/) {
   const HostCall call("panel create");
   if (title == nullptr) {
     call.fault("got a null title");
@@ -40,7 +37,7 @@ lw::PanelId create(const char* title, void* owner) {
     call.fault("was called before the module wrote its lookup function into the services table");
   }
   if (call.refused()) return nullptr;
-  return panels().create(title, owner)->id;
+  return panels().create(title)->id;
 }
 
 void destroy(lw::PanelId id) {
@@ -73,7 +70,9 @@ int open(lw::PanelId id, int flags) {
   const HostCall call("panel open");
   Panel* panel = resolved(call, id);
   if (panel == nullptr) return 0;
-  if ((flags & ~kKnownOpenFlags) != 0) call.fault("got unknown flags " + std::to_string(flags) + " for " + named(*panel));
+  if ((flags & ~kOpenFlags) != 0 || (flags & lw::kOpenNoButtons) == 0) {
+    call.fault("got flags " + std::to_string(flags) + ", with which no tool opens, for " + named(*panel));
+  }
   if (panel->state == Panel::State::Closing) {
     call.fault(named(*panel) + " is opened from within its close hook");
     return 0;
@@ -81,12 +80,6 @@ int open(lw::PanelId id, int flags) {
   if (call.refused()) return 0;
   if (!panel->isOpen()) checkUserData(call, *panel);
   return openPanel(*panel, flags);
-}
-
-int handle(lw::PanelId id, int /*how*/) {
-  const HostCall call("panel handle");
-  const Panel* panel = resolved(call, id);
-  return panel != nullptr && panel->isOpen() && !call.refused() ? 0 : -1;
 }
 
 // All of the panel is painted anew.
@@ -101,7 +94,7 @@ void draw(lw::PanelId id, int mode) {
   const HostCall call("panel draw");
   Panel* panel = resolved(call, id);
   if (panel == nullptr) return;
-  if (mode < lw::kDrawErase || mode > lw::kDrawRefresh) {
+  if (!isDrawMode(mode)) {
     call.fault("got the unknown draw mode " + std::to_string(mode));
     return;
   }
@@ -118,52 +111,6 @@ void close(lw::PanelId id) {
   closePanel(*panel, panels().options.closeCallsHook);
 }
 
-void setParent(lw::PanelId id, lw::PanelId parent) {
-  const HostCall call("panel setParent");
-  Panel* panel = resolved(call, id);
-  if (panel == nullptr || (parent != nullptr && resolved(call, parent) == nullptr)) return;
-  if (panel->isOpen()) {
-    call.fault(named(*panel) + " got a parent while it is open");
-  } else if (!call.refused()) {
-    panel->parent = parent;
-  }
-}
-
-// ---------------------------------------------------------------------------------------------------------------------
-// Drawing
-
-int textWidthFunction(lw::PanelId id, const char* text) {
-  const HostCall call("draw textWidth");
-  if (resolved(call, id) == nullptr) return 0;
-  if (text == nullptr) {
-    call.fault("got a null text");
-    return 0;
-  }
-  return call.refused() ? 0 : textWidth(text);
-}
-
-void drawText(lw::PanelId id, const char* text, int /*colour*/, int /*x*/, int /*y*/) {
-  const HostCall call("draw drawText");
-  if (resolved(call, id) != nullptr && text == nullptr) call.fault("got a null text");
-}
-
-const int* dispMetrics() {
-  const HostCall call("draw dispMetrics");
-  //                                  screen      pixel   colours  text
-  static constexpr int metrics[8] = {1920, 1080, 1, 1, 1 << 24, 24, kTextHeight, kTextAscent};
-  return metrics;
-}
-
-lw::DrawFuncs* drawFuncs() {
-  static lw::DrawFuncs table{};
-  table = {};
-  table.textWidth = &textWidthFunction;
-  table.drawText = &drawText;
-  table.dispMetrics = &dispMetrics;
-  STANDIN_FILL_GAP(table, 0);
-  return &table;
-}
-
 lw::LWPanelFuncs& servicesTable() {
   static lw::LWPanelFuncs table{};
   return table;
@@ -174,17 +121,14 @@ void fillTable(lw::LWPanelFuncs& table) {
   table.create = &create;
   table.destroy = &destroy;
   table.open = &open;
-  table.handle = &handle;
   table.draw = &draw;
   table.close = &close;
   table.get = &getPanelAttribute;
   table.set = &setPanelAttribute;
   table.addControl = &addControl;
-  table.nextControl = &nextControl;
-  table.drawFuncs = drawFuncs();
-  table.destroyControl = &destroyControl;
-  table.setParent = &setParent;
-  STANDIN_FILL_GAP(table, 120);
+  STANDIN_FILL_GAP(table, 24);
+  STANDIN_FILL_GAP(table, 72);
+  STANDIN_FILL_GAP(table, 104);
 }
 
 }  // namespace
@@ -207,7 +151,6 @@ void offerPanelServices() {
 }
 
 int openPanel(Panel& panel, int flags) {
-  const bool isBlocking = (flags & lw::kOpenBlocking) != 0;
   if (panel.isOpen()) {
     panel.takesFront = true;
     if (panels().listener != nullptr) panels().listener->cameToFront(panel);
@@ -227,17 +170,13 @@ int openPanel(Panel& panel, int flags) {
   if (when == OpenHook::Shown) callHook();
   if (when == OpenHook::Later) panels().hookIsDue(panel);
   if (panels().options.resizeHookOnOpen) panels().callResizeHook(panel);
-  if (!isBlocking) return panels().options.openAnswer;
-  const int answer = panels().blocking ? panels().blocking(panel) : 0;
-  closePanel(panel);
-  return answer;
+  return panels().options.openAnswer;
 }
 
 void closePanel(Panel& panel, bool callHook) {
   if (!panel.isOpen()) return;
   panel.state = Panel::State::Closing;
   panel.mouseOwner = nullptr;
-  panel.focus = nullptr;
   if (callHook) panels().callHook(panel, panel.closeHook, "panel close hook");
   panel.state = Panel::State::Closed;
   if (panels().listener != nullptr) panels().listener->closed(panel);

@@ -46,7 +46,6 @@ std::string controlText(const Control& control) {
   if (!label.empty()) line += "\"" + printable(label) + "\" ";
   const std::string value = valueText(control);
   if (!value.empty()) line += "= " + value;
-  if (control.isGhosted) line += " (ghosted)";
   return trimmedRight(line);
 }
 

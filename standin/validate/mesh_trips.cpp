@@ -201,14 +201,14 @@ TripReport layersTrip(const TripOrder& order) {
                std::string("the falloff of a layer goes to its skelegons only, not so ") + name);
   }
 
-  host.showLayers({4}, {0});
+  host.showLayers({4});
   user.sync();
   user.clickRows(8);
   host.select({"Tail_01"});
   user.sync();
   user.enterStrength(40);
   user.finds(user.skelegon("Tail_01").tag(settingTag(kStrengthSetting)) == "40.000000", "the foreground takes settings");
-  user.finds(user.skelegon("Hips").tag(settingTag(kStrengthSetting)).empty(), "the background takes none");
+  user.finds(user.skelegon("Hips").tag(settingTag(kStrengthSetting)).empty(), "a hidden layer takes none");
   host.undo();
   user.finds(user.skelegon("Tail_01").tag(settingTag(kStrengthSetting)).empty(), "a change is one step back");
   user.end();

@@ -41,7 +41,7 @@ std::string Walk::useControl() {
   if (usable.empty()) return "nothing to use";
   Control& control = *usable[below(static_cast<std::uint32_t>(usable.size()))];
   std::string what = "use " + control.describe();
-  session_.layAnswer(static_cast<Answer>(below(4)));
+  session_.layAnswer(static_cast<Answer>(below(2)));
   const std::uint32_t pick = below(1U << 16);
   const Done done = touch(control, pick);
   return what + " with " + std::to_string(pick) + (done ? "" : ", in vain");
@@ -50,14 +50,12 @@ std::string Walk::useControl() {
 std::string Walk::usePanel() {
   const std::vector<Panel*> open = panels().open();
   Panel& panel = *open[below(static_cast<std::uint32_t>(open.size()))];
-  switch (below(5)) {
+  switch (below(3)) {
     case 0: std::ignore = person::close(&panel); return "close a panel";
     case 1:
       if (panel.leastWidth == 0) return "leave a panel as large as it is";  // it may be made too small
       std::ignore = person::resize(&panel, static_cast<int>(below(900)) + 1, static_cast<int>(below(900)) + 1);
       return "resize a panel";
-    case 2: std::ignore = person::activate(&panel); return "activate a panel";
-    case 3: std::ignore = person::key(&panel, static_cast<unsigned short>(below(256))); return "press a key";
     default: panels().paintWanted(panel); return "paint a panel";
   }
 }
@@ -74,9 +72,10 @@ std::string Walk::changeMesh() {
     case 1: host.redo(); return "redo";
     case 2: {
       std::vector<int> front;
-      std::vector<int> back;
-      for (const MeshLayer& layer : host.current()->layers()) (below(2) == 0 ? front : back).push_back(layer.number);
-      host.showLayers(front, back);
+      for (const MeshLayer& layer : host.current()->layers()) {
+        if (below(2) == 0) front.push_back(layer.number);
+      }
+      host.showLayers(front);
       return "show other layers";
     }
     case 3:

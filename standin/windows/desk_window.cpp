@@ -86,18 +86,6 @@ void pick(HWND list, std::size_t index, bool picked) {
   if (isPicked(list, index) != picked) SendMessageW(list, LB_SETSEL, picked ? TRUE : FALSE, static_cast<LPARAM>(index));
 }
 
-UINT boxKind(MessageKind kind) {
-  switch (kind) {
-    case MessageKind::error: return MB_OK | MB_ICONERROR;
-    case MessageKind::warning: return MB_OK | MB_ICONWARNING;
-    case MessageKind::okCancel: return MB_OKCANCEL;
-    case MessageKind::yesNo: return MB_YESNO;
-    case MessageKind::yesNoCancel:
-    case MessageKind::yesNoAll: return MB_YESNOCANCEL;
-    default: return MB_OK;
-  }
-}
-
 std::string askForPath(HWND owner) {
   std::array<wchar_t, 4096> path{};
   OPENFILENAMEW wanted{};
@@ -356,12 +344,8 @@ void DeskWindow::close() {
 
 Answer DeskWindow::answered(const Message& message) const {
   const std::string text = message.first + (message.second.empty() ? "" : "\n" + message.second);
-  switch (ask(text, boxKind(message.kind))) {
-    case IDOK:
-    case IDYES: return Answer::yes;
-    case IDCANCEL: return Answer::cancel;
-    default: return Answer::no;
-  }
+  const UINT box = message.kind == MessageKind::error ? MB_OK | MB_ICONERROR : MB_YESNO;
+  return ask(text, box) == IDYES ? Answer::yes : Answer::no;
 }
 
 void DeskWindow::draw(const DRAWITEMSTRUCT& item) const {

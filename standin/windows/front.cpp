@@ -22,36 +22,18 @@ void dispatch(MSG& message) {
   DispatchMessageW(&message);
 }
 
-// Takes the input from all other windows of the program; gives those that had it.
-std::vector<HWND> disableAllBut(HWND window) {
-  std::vector<HWND> others;
-  const auto collect = [](HWND other, LPARAM list) -> BOOL {
-    if (IsWindowVisible(other) != FALSE && IsWindowEnabled(other) != FALSE) {
-      reinterpret_cast<std::vector<HWND>*>(list)->push_back(other);
-    }
-    return TRUE;
-  };
-  EnumThreadWindows(GetCurrentThreadId(), collect, reinterpret_cast<LPARAM>(&others));
-  std::erase(others, window);
-  for (HWND const other : others) EnableWindow(other, FALSE);
-  return others;
-}
-
 }  // namespace
 
 WindowsFront::WindowsFront() {
   useCommonControls();
   panels().listener = this;
-  panels().blocking = [this](Panel& panel) { return runBlocking(panel); };
   for (Panel* panel : panels().open()) opened(*panel);
 }
 
 WindowsFront::~WindowsFront() {
   windows_.clear();
   left_.clear();
-  if (panels().listener != this) return;
-  panels().listener = nullptr;
-  panels().blocking = nullptr;
+  if (panels().listener == this) panels().listener = nullptr;
 }
 
 PanelWindow* WindowsFront::windowOf(const Panel& panel) const {
@@ -82,17 +64,6 @@ void WindowsFront::runUntil(const std::function<bool()>& isOver) {
   while (!isOver()) {
     if (!pump()) WaitMessage();
   }
-}
-
-int WindowsFront::runBlocking(Panel& panel) {
-  PanelWindow* const window = windowOf(panel);
-  if (window == nullptr) return 0;
-  const std::vector<HWND> others = disableAllBut(window->handle());
-  ++depth_;  // the caller is within a message of another window
-  runUntil([&] { return window->panel() == nullptr || window->answer().has_value(); });
-  --depth_;
-  for (HWND const other : others) EnableWindow(other, TRUE);
-  return window->answer().value_or(0);
 }
 
 void WindowsFront::leave(const Panel& panel) {

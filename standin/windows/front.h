@@ -47,7 +47,6 @@ class WindowsFront : public PanelListener {
 
  private:
   GlArea* areaOf(Control& control) const;
-  int runBlocking(Panel& panel);
   void leave(const Panel& panel);
 
   std::vector<std::unique_ptr<PanelWindow>> windows_;

@@ -8,10 +8,6 @@ namespace standin {
 inline constexpr UINT kMessageSync = WM_APP + 1;    // the panel's record changed
 inline constexpr UINT kMessageChosen = WM_APP + 2;  // an item of a list was chosen; its part's window in the first number
 
-// Continue and Cancel of a blocking panel, Close of another one. The numbers of Enter and Escape (1 and 2) are not among them.
-inline constexpr int kContinueCommand = 0x7001;
-inline constexpr int kCancelCommand = 0x7002;
-
 // The numbers of a window's own parts begin here.
 inline constexpr int kFirstPart = 0x100;
 

@@ -12,8 +12,6 @@ namespace {
 constexpr int kFieldTextInset = kFieldInset / 2;
 constexpr int kCheckSide = 13;
 
-COLORREF inkOf(const Control& control) { return colour(control.isGhosted ? Tone::FaintText : Tone::Text); }
-
 RECT inset(RECT area, int dx, int dy) {
   InflateRect(&area, -dx, -dy);
   return area;
@@ -115,14 +113,14 @@ void drawText(HDC dc, const RECT& area, std::string_view text, COLORREF ink, Ali
 
 void drawLabel(HDC dc, const RECT& area, const Control& control) {
   fill(dc, area, Tone::Panel);
-  drawText(dc, area, control.label.read(), inkOf(control));
+  drawText(dc, area, control.label.read(), colour(Tone::Text));
 }
 
 void drawLines(HDC dc, const RECT& area, const Control& control) {
   fill(dc, area, Tone::Panel);
   RECT line{area.left, area.top + 2, area.right, area.top + 2 + kTextHeight};
   for (const std::string& text : control.lines()) {
-    drawText(dc, line, text, inkOf(control));
+    drawText(dc, line, text, colour(Tone::Text));
     OffsetRect(&line, 0, kTextHeight);
   }
 }
@@ -135,7 +133,7 @@ void drawButton(HDC dc, const RECT& area, std::string_view label, PartState stat
     fill(dc, top, Tone::Highlight);
   }
   if (state.hasFocus) frame(dc, inset(area, 1, 1), Tone::Highlight);
-  drawText(dc, inset(area, 2, 1), label, colour(state.isGhosted ? Tone::FaintText : Tone::Text), Align::Centre);
+  drawText(dc, inset(area, 2, 1), label, colour(Tone::Text), Align::Centre);
 }
 
 void drawTick(HDC dc, int left, const RECT& area, bool isOn, PartState state) {
@@ -144,7 +142,7 @@ void drawTick(HDC dc, int left, const RECT& area, bool isOn, PartState state) {
   fill(dc, box, state.isPressed ? Tone::Pressed : Tone::Field);
   frame(dc, box, state.hasFocus ? Tone::Highlight : Tone::Edge);
   if (!isOn) return;
-  const COLORREF ink = colour(state.isGhosted ? Tone::FaintText : Tone::Mark);
+  const COLORREF ink = colour(Tone::Mark);
   // Down to the right, then up.
   for (int i = 0; i < 7; ++i) {
     const int y = box.top + (i < 3 ? 6 + i : 10 - i);
@@ -154,31 +152,30 @@ void drawTick(HDC dc, int left, const RECT& area, bool isOn, PartState state) {
 
 void drawCheck(HDC dc, const RECT& area, const Control& control, PartState state) {
   fill(dc, area, Tone::Panel);
-  state.isGhosted = control.isGhosted;
   drawTick(dc, area.left + 2, area, control.integer != 0, state);
 }
 
 void drawInfo(HDC dc, const RECT& area, const Control& control) {
   fill(dc, area, Tone::Panel);
   frame(dc, area, Tone::Edge);
-  drawText(dc, inset(area, kFieldTextInset, 1), control.shown(), inkOf(control));
+  drawText(dc, inset(area, kFieldTextInset, 1), control.shown(), colour(Tone::Text));
 }
 
-void drawSlider(HDC dc, const RECT& area, const Control& control, PartState state) {
+void drawSlider(HDC dc, const RECT& area, PartState state) {
   fill(dc, area, state.isPressed ? Tone::Pressed : Tone::Raised);
   frame(dc, area, Tone::Edge);
   const int y = middleOf(area) - 3;
-  drawTriangle(dc, area.left + 4, y, 4, Point::Left, inkOf(control));
-  drawTriangle(dc, area.right - 8, y, 4, Point::Right, inkOf(control));
+  drawTriangle(dc, area.left + 4, y, 4, Point::Left, colour(Tone::Text));
+  drawTriangle(dc, area.right - 8, y, 4, Point::Right, colour(Tone::Text));
 }
 
 void drawClosedList(HDC dc, const RECT& area, const Control& control, PartState state) {
   drawField(dc, area, state.hasFocus);
   const RECT arrow{area.right - kPopupArrowWidth + 2, area.top + 1, area.right - 1, area.bottom - 1};
   fill(dc, arrow, Tone::Raised);
-  drawTriangle(dc, (arrow.left + arrow.right) / 2 - 4, middleOf(area) - 2, 4, Point::Down, inkOf(control));
+  drawTriangle(dc, (arrow.left + arrow.right) / 2 - 4, middleOf(area) - 2, 4, Point::Down, colour(Tone::Text));
   const RECT text{area.left + kFieldTextInset, area.top + 1, arrow.left, area.bottom - 1};
-  if (text.right - text.left >= 2 * kCellWidth) drawText(dc, text, control.shown(), inkOf(control));
+  if (text.right - text.left >= 2 * kCellWidth) drawText(dc, text, control.shown(), colour(Tone::Text));
 }
 
 void drawItem(HDC dc, const RECT& area, std::string_view text, bool isUnderPointer) {
@@ -189,7 +186,7 @@ void drawItem(HDC dc, const RECT& area, std::string_view text, bool isUnderPoint
 void drawTab(HDC dc, const RECT& area, std::string_view text, PartState state) {
   fill(dc, area, state.isOn ? Tone::Chosen : Tone::Raised);
   frame(dc, area, Tone::Edge);
-  drawText(dc, inset(area, 1, 1), text, colour(state.isGhosted ? Tone::FaintText : Tone::Text), Align::Centre);
+  drawText(dc, inset(area, 1, 1), text, colour(Tone::Text), Align::Centre);
 }
 
 void drawBorder(HDC dc, const RECT& area, const Control& control) {
@@ -211,7 +208,7 @@ void drawBorder(HDC dc, const RECT& area, const Control& control) {
   const RECT text{area.left + 8, area.top - kTextHeight / 2, area.left + 16 + drawnWidth(dc, label),
                   area.top + kTextHeight / 2};
   fill(dc, text, Tone::Panel);
-  drawText(dc, text, label, inkOf(control), Align::Centre);
+  drawText(dc, text, label, colour(Tone::Text), Align::Centre);
 }
 
 }  // namespace standin

@@ -21,7 +21,6 @@ struct PartState {
   bool isPressed = false;
   bool hasFocus = false;
   bool isOn = false;
-  bool isGhosted = false;
 };
 
 // Each fills the whole area of its window.
@@ -32,7 +31,7 @@ void drawCheck(HDC dc, const RECT& area, const Control& control, PartState state
 // The box of a check mark alone, from `left` on and in the middle of the area's height.
 void drawTick(HDC dc, int left, const RECT& area, bool isOn, PartState state);
 void drawInfo(HDC dc, const RECT& area, const Control& control);
-void drawSlider(HDC dc, const RECT& area, const Control& control, PartState state);
+void drawSlider(HDC dc, const RECT& area, PartState state);
 // The closed list: what is chosen, and the arrow.
 void drawClosedList(HDC dc, const RECT& area, const Control& control, PartState state);
 void drawItem(HDC dc, const RECT& area, std::string_view text, bool isUnderPointer);

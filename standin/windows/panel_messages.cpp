@@ -92,17 +92,13 @@ std::optional<LRESULT> PanelWindow::received(UINT message, WPARAM wide, LPARAM p
     case WM_MOVE: moved(); return 0;
     case WM_GETMINMAXINFO: limits(*reinterpret_cast<MINMAXINFO*>(place)); return 0;
     case WM_MOUSEWHEEL: wheel(wide, place); return 0;
-    case WM_CHAR: character(wide); return 0;
     case WM_CAPTURECHANGED:  // a button that another window took away counts as released
       if ((panel_->qualifiers & lw::kMouseDown) != 0) report(person::mouseRelease(panel_, panel_->mouseX, panel_->mouseY));
       return 0;
-    case WM_ACTIVATE:
-      if (isReady_ && LOWORD(wide) != WA_INACTIVE) report(person::activate(panel_));
-      return std::nullopt;
     case WM_SYSCOMMAND:  // Alt alone, held for a click, opens no menu
       if ((wide & 0xFFF0U) == SC_KEYMENU && place == 0) return 0;
       return std::nullopt;
-    case WM_CLOSE: answered(0); return 0;
+    case WM_CLOSE: close(); return 0;
     default: return receivedFromParts(message, wide, place);
   }
 }
@@ -116,8 +112,7 @@ std::optional<LRESULT> PanelWindow::receivedFromParts(UINT message, WPARAM wide,
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORLISTBOX: {
       auto* const dc = reinterpret_cast<HDC>(wide);
-      const PanelPart* const part = partOf(reinterpret_cast<HWND>(place));
-      SetTextColor(dc, colour(part != nullptr && part->control->isGhosted ? Tone::FaintText : Tone::Text));
+      SetTextColor(dc, colour(Tone::Text));
       SetBkColor(dc, colour(Tone::Field));
       return reinterpret_cast<LRESULT>(brush(Tone::Field));
     }
@@ -133,9 +128,7 @@ void PanelWindow::report(const Done& done) {
 // The controls
 
 void PanelWindow::command(int id, int code, HWND from) {
-  if (id == kContinueCommand || id == kCancelCommand) {
-    if (code == BN_CLICKED) answered(id == kContinueCommand ? 1 : 0);
-  } else if (from == nullptr && id == IDOK) {  // Enter: the field is done
+  if (from == nullptr && id == IDOK) {  // Enter: the field is done
     SetFocus(handle_);
   } else if (from == nullptr && id == IDCANCEL) {
     revertField(GetFocus());
@@ -229,7 +222,7 @@ void PanelWindow::mouse(UINT message, WPARAM /*wide*/, int x, int y) {
   for (const MouseMessage& row : kMouseMessages) {
     if (row.message != message) continue;
     if (row.clicks > 0) {
-      if (!panel_->area().holds(x, y)) return;  // the bar below a panel is no part of it
+      if (!panel_->area().holds(x, y)) return;
       SetFocus(handle_);
       SetCapture(handle_);
       if (panel_ != nullptr) report(person::mousePress(panel_, x, y, row.button, qualifiersNow(), row.clicks));
@@ -251,16 +244,11 @@ void PanelWindow::wheel(WPARAM wide, LPARAM place) {
   if (notches != 0 && panel_->area().holds(point.x, point.y)) report(person::wheel(panel_, point.x, point.y, notches));
 }
 
-void PanelWindow::character(WPARAM unit) {
-  if (panel_ != nullptr) report(person::key(panel_, static_cast<unsigned short>(unit)));
-}
-
 // ---------------------------------------------------------------------------------------------------------------------
 // The frame
 
 void PanelWindow::sized(int width, int height) {
   if (isSyncing_ || !isReady_) return;
-  height -= barHeight();
   if (width != panel_->width || height != panel_->height) {
     if (panel_->isResizable()) report(person::resize(panel_, width, height));
     wantSync();
@@ -271,8 +259,8 @@ void PanelWindow::moved() {
   if (isSyncing_ || !isReady_) return;
   RECT place{};
   GetWindowRect(handle_, &place);
-  panel_->x = placedX_ = place.left;
-  panel_->y = placedY_ = place.top;
+  panel_->x = place.left;
+  panel_->y = place.top;
 }
 
 void PanelWindow::limits(MINMAXINFO& out) const {
@@ -283,11 +271,9 @@ void PanelWindow::limits(MINMAXINFO& out) const {
   if (panel_->greatestHeight > 0) out.ptMaxTrackSize.y = greatest.cy;
 }
 
-void PanelWindow::answered(int answer) {
+void PanelWindow::close() {
   SetFocus(handle_);  // what was typed into a field is taken first
-  if (panel_ == nullptr) return;
-  answer_ = answer;
-  if ((panel_->openFlags & lw::kOpenBlocking) == 0) report(person::close(panel_));
+  if (panel_ != nullptr) report(person::close(panel_));
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -306,17 +292,13 @@ void PanelWindow::paint() {
 void PanelWindow::drawPart(const DRAWITEMSTRUCT& item) {
   PartState state{.isPressed = (item.itemState & ODS_SELECTED) != 0, .hasFocus = (item.itemState & ODS_FOCUS) != 0};
   const PanelPart* const part = partOf(item.hwndItem);
-  if (part == nullptr) {
-    if (item.CtlType == ODT_BUTTON) drawButton(item.hDC, item.rcItem, textOf(item.hwndItem), state);
-    return;
-  }
+  if (part == nullptr) return;
   const Control& control = *part->control;
-  state.isGhosted = control.isGhosted;
   state.isOn = control.kind->handling == Handling::Toggle && control.integer != 0;
   if (part->role == PartRole::Label) return drawLabel(item.hDC, item.rcItem, control);
   if (part->role == PartRole::Slider) {
     state.isPressed = part->isDragged;
-    return drawSlider(item.hDC, item.rcItem, control, state);
+    return drawSlider(item.hDC, item.rcItem, state);
   }
   switch (part->look()) {
     case Look::Lines: drawLines(item.hDC, item.rcItem, control); break;

@@ -15,9 +15,6 @@ namespace {
 constexpr wchar_t kPanelClass[] = L"VarnelPanel";
 constexpr int kDroppedRows = 24;
 constexpr int kDroppedRowHeight = 14;
-constexpr int kBarHeight = 30;
-constexpr int kBarButtonWidth = 80;
-constexpr int kBarButtonHeight = 20;
 
 void registerPanelClass(WNDPROC procedure) {
   static const bool done = [procedure] {
@@ -71,17 +68,16 @@ Rectangle placeOf(const PanelPart& part) {
 // All that the part draws.
 std::string contentOf(const PanelPart& part) {
   const Control& control = *part.control;
-  const std::string ghost = control.isGhosted ? "faint " : "";
-  if (part.role == PartRole::Label) return ghost + control.label.read();
-  if (part.role == PartRole::Slider) return ghost;
+  if (part.role == PartRole::Label) return control.label.read();
+  if (part.role == PartRole::Slider) return {};
   switch (part.look()) {
-    case Look::Field: return control.shown();
-    case Look::Lines: return ghost + joined(control.lines());
-    case Look::Tabs: return ghost + std::to_string(control.integer) + '\n' + joined(control.items());
+    case Look::Lines: return joined(control.lines());
+    case Look::Tabs: return std::to_string(control.integer) + '\n' + joined(control.items());
     case Look::Button:
-    case Look::Check: return ghost + control.label.read() + '\n' + std::to_string(control.integer);
+    case Look::Check: return control.label.read() + '\n' + std::to_string(control.integer);
+    case Look::Field:
     case Look::List:
-    case Look::Info: return ghost + control.shown();
+    case Look::Info: return control.shown();
     default: return {};
   }
 }
@@ -92,13 +88,10 @@ PanelWindow::PanelWindow(WindowsFront& front, Panel& panel) : front_(front), pan
   registerPanelClass(&PanelWindow::procedure);
   registerDrawingClass();
   title_ = panel.title.read();
-  placedX_ = panel.x;
-  placedY_ = panel.y;
   const SIZE size = outerSize(panel.width, panel.height);
   CreateWindowExW(WS_EX_CONTROLPARENT, kPanelClass, wide(title_).c_str(), frameStyle(panel), panel.x, panel.y, size.cx,
                   size.cy, nullptr, nullptr, GetModuleHandleW(nullptr), this);
   makeParts();
-  makeBar();
   sync();
   ShowWindow(handle_, SW_SHOW);
   isReady_ = true;
@@ -109,12 +102,8 @@ PanelWindow::~PanelWindow() {
   DestroyWindow(handle_);
 }
 
-int PanelWindow::barHeight() const {
-  return panel_ == nullptr || (panel_->openFlags & lw::kOpenNoButtons) != 0 ? 0 : kBarHeight;
-}
-
 SIZE PanelWindow::outerSize(int width, int height) const {
-  RECT area{0, 0, width, height + barHeight()};
+  RECT area{0, 0, width, height};
   AdjustWindowRectEx(&area, frameStyle(*panel_), FALSE, WS_EX_CONTROLPARENT);
   return {area.right - area.left, area.bottom - area.top};
 }
@@ -157,33 +146,6 @@ void PanelWindow::makeParts() {
   }
 }
 
-void PanelWindow::makeBar() {
-  if (barHeight() == 0) return;
-  const bool isBlocking = (panel_->openFlags & lw::kOpenBlocking) != 0;
-  const auto make = [this](const wchar_t* text, int command) {
-    return CreateWindowExW(0, L"BUTTON", text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW, 0, 0, kBarButtonWidth,
-                           kBarButtonHeight, handle_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(command)),
-                           GetModuleHandleW(nullptr), nullptr);
-  };
-  if (isBlocking) bar_[0] = make(L"Continue", kContinueCommand);
-  if (!isBlocking) {
-    bar_[1] = make(L"Close", kCancelCommand);
-  } else if ((panel_->openFlags & lw::kOpenCancel) != 0) {
-    bar_[1] = make(L"Cancel", kCancelCommand);
-  }
-}
-
-void PanelWindow::placeBar() {
-  int right = panel_->width - kPanelMargin;
-  for (HWND const button : {bar_[1], bar_[0]}) {
-    if (button == nullptr) continue;
-    right -= kBarButtonWidth;
-    SetWindowPos(button, nullptr, right, panel_->height + (kBarHeight - kBarButtonHeight) / 2, 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    right -= kPanelMargin;
-  }
-}
-
 // ---------------------------------------------------------------------------------------------------------------------
 // Following the record
 
@@ -212,7 +174,6 @@ void PanelWindow::sync() {
   isSyncing_ = true;
   syncFrame();
   for (const auto& part : parts_) syncPart(*part);
-  syncFocus();
   isSyncing_ = false;
 }
 
@@ -223,16 +184,10 @@ void PanelWindow::syncFrame() {
   }
   RECT area{};
   GetClientRect(handle_, &area);
-  if (area.right != panel_->width || area.bottom != panel_->height + barHeight()) {
+  if (area.right != panel_->width || area.bottom != panel_->height) {
     const SIZE size = outerSize(panel_->width, panel_->height);
     SetWindowPos(handle_, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   }
-  if (panel_->x != placedX_ || panel_->y != placedY_) {
-    placedX_ = panel_->x;
-    placedY_ = panel_->y;
-    SetWindowPos(handle_, nullptr, placedX_, placedY_, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-  }
-  placeBar();
   std::string borders;
   for (const auto& control : panel_->controls) {
     if (control->is(ControlKind::Border) && isVisible(*control)) borders += placeText(control->hot());
@@ -268,14 +223,6 @@ void PanelWindow::showContent(PanelPart& part, const std::string& content) {
   if (part.role == PartRole::Main && part.look() == Look::Field) SetWindowTextW(part.handle, wide(content).c_str());
   if (part.role == PartRole::Main && part.look() == Look::Tabs) fillTabs(part);
   InvalidateRect(part.handle, nullptr, TRUE);
-}
-
-void PanelWindow::syncFocus() {
-  Control* const wanted = panel_->focus;
-  if (wanted == focusGiven_) return;
-  focusGiven_ = wanted;
-  if (wanted == nullptr) return;
-  if (const PanelPart* const field = part(*wanted)) SetFocus(field->handle);
 }
 
 }  // namespace standin

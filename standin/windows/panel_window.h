@@ -57,9 +57,6 @@ class PanelWindow {
   Panel* panel() const { return panel_; }
   // Null for a control that has no such part.
   PanelPart* part(const Control& control, PartRole role = PartRole::Main);
-  // The buttons below a panel that was not opened without; null otherwise.
-  HWND continueButton() const { return bar_[0]; }
-  HWND cancelButton() const { return bar_[1]; }
 
   // Lets the window follow the record soon.
   void wantSync();
@@ -68,8 +65,6 @@ class PanelWindow {
   void bringToFront() const;
   // The panel is closed: hides the window and forgets the panel.
   void leave();
-  // How a blocking panel was answered; empty until then.
-  std::optional<int> answer() const { return answer_; }
 
   // For the windows of the parts.
   void commitField(PanelPart& part);
@@ -78,7 +73,6 @@ class PanelWindow {
   // x and y from the panel's corner.
   void mouse(UINT message, WPARAM wide, int x, int y);
   void wheel(WPARAM wide, LPARAM place);
-  void character(WPARAM unit);
 
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wide, LPARAM place);
@@ -94,19 +88,15 @@ class PanelWindow {
   void sized(int width, int height);
   void moved();
   void limits(MINMAXINFO& out) const;
-  void answered(int answer);
+  void close();
   void revertField(HWND field);
 
   void makeParts();
   void makePart(Control& control, PartRole role, const wchar_t* windowClass, DWORD style);
-  void makeBar();
-  void placeBar();
   void sync();
   void syncFrame();
   void syncPart(PanelPart& part);
   void showContent(PanelPart& part, const std::string& content);
-  void syncFocus();
-  int barHeight() const;
   SIZE outerSize(int width, int height) const;
   PanelPart* partOf(HWND window) const;
   void report(const Done& done);
@@ -115,14 +105,9 @@ class PanelWindow {
   Panel* panel_;
   HWND handle_ = nullptr;
   std::vector<std::unique_ptr<PanelPart>> parts_;
-  HWND bar_[2] = {nullptr, nullptr};
-  std::optional<int> answer_;
   std::string title_;
   std::string borders_;  // where the borders were painted
-  int placedX_ = 0;
-  int placedY_ = 0;
   int wheelRest_ = 0;
-  Control* focusGiven_ = nullptr;
   bool isReady_ = false;
   bool isSyncing_ = false;
   bool isSyncWaiting_ = false;

@@ -86,7 +86,7 @@ LRESULT CALLBACK listProcedure(HWND window, UINT message, WPARAM wide, LPARAM pl
     case WM_PAINT:
       if (part.window->panel() == nullptr) break;
       paintWindow(window, [&](HDC dc, const RECT& area) {
-        drawClosedList(dc, area, *part.control, {.hasFocus = hasFocus(window), .isGhosted = part.control->isGhosted});
+        drawClosedList(dc, area, *part.control, {.hasFocus = hasFocus(window)});
       });
       return 0;
     case WM_MOUSEWHEEL:  // over a closed list it is the panel's
@@ -111,7 +111,7 @@ void paintTabs(const PanelPart& part) {
       tab.top = area.top;
       tab.bottom = area.bottom;
       const bool isOn = std::cmp_equal(part.control->integer, i);
-      drawTab(dc, tab, items[i], {.isOn = isOn, .isGhosted = part.control->isGhosted});
+      drawTab(dc, tab, items[i], {.isOn = isOn});
     }
   });
 }
@@ -178,7 +178,6 @@ LRESULT CALLBACK areaProcedure(HWND window, UINT message, WPARAM wide, LPARAM pl
       part->window->paintArea(*part);
       return 0;
     case WM_GETDLGCODE: return DLGC_WANTCHARS | DLGC_WANTARROWS;
-    case WM_CHAR: part->window->character(wide); return 0;
     default: return DefWindowProcW(window, message, wide, place);
   }
 }

@@ -17,8 +17,7 @@ constexpr COLORREF grey(unsigned level) { return level | level << 8 | level << 1
 constexpr std::array kTones{
     ToneRow{Tone::Panel, grey(0x42)},     ToneRow{Tone::Field, grey(0x2A)},  ToneRow{Tone::Raised, grey(0x5A)},
     ToneRow{Tone::Pressed, grey(0x34)},   ToneRow{Tone::Chosen, 0x00A0683C}, ToneRow{Tone::Edge, grey(0x1C)},
-    ToneRow{Tone::Highlight, grey(0x6E)}, ToneRow{Tone::Text, grey(0xE4)},   ToneRow{Tone::FaintText, grey(0x8C)},
-    ToneRow{Tone::Mark, 0x0040C8F0},
+    ToneRow{Tone::Highlight, grey(0x6E)}, ToneRow{Tone::Text, grey(0xE4)},   ToneRow{Tone::Mark, 0x0040C8F0},
 };
 
 constexpr bool rowsFollowTheEnum() {

@@ -5,7 +5,7 @@
 
 namespace standin {
 
-enum class Tone { Panel, Field, Raised, Pressed, Chosen, Edge, Highlight, Text, FaintText, Mark };
+enum class Tone { Panel, Field, Raised, Pressed, Chosen, Edge, Highlight, Text, Mark };
 
 COLORREF colour(Tone tone);
 HBRUSH brush(Tone tone);

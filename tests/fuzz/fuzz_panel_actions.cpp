@@ -43,7 +43,7 @@ void openPanels() {
 
 void layAnswer(std::uint8_t number) {
   auto& answers = standin::modelerSession()->messages.answers;
-  answers.assign(1, static_cast<Answer>(number % 4));
+  answers.assign(1, static_cast<Answer>(number % 2));
 }
 
 void select(std::uint8_t mask) {
@@ -70,7 +70,7 @@ void act(std::uint8_t what, std::uint8_t first, std::uint8_t second) {
     case 0: select(first); break;
     case 1: host().undo(); break;
     case 2: host().redo(); break;
-    case 3: host().showLayers({first % 2}, {second % 2}); break;
+    case 3: host().showLayers({first % 2}); break;
     case 4: host().activate(kTools[first % std::size(kTools)]); break;
     default:
       if (const auto open = standin::panels().open(); !open.empty())

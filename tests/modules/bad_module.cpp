@@ -83,9 +83,11 @@ bool isDamaged(const char* path) {
 
 // Any file beside the temporary ones that was cut to four bytes.
 bool seesDamagedFile() {
-  auto* const objects = static_cast<lw::LWObjectFuncs*>(realLookup("Scene Objects 9", lw::kUseTransient));
-  for (int i = 0; objects != nullptr && i < objects->numObjects(); ++i) {
-    const char* const path = objects->filename(i);
+  auto* const items = static_cast<lw::LWItemInfo*>(realLookup("LW Item Info 9", lw::kUseTransient));
+  auto* const objects = static_cast<lw::LWObjectInfo*>(realLookup("LW Object Info 14", lw::kUseTransient));
+  if (items == nullptr || objects == nullptr) return false;
+  for (lw::ItemId item = items->first(lw::kItemObject, nullptr); item != nullptr; item = items->next(item)) {
+    const char* const path = objects->filename(item);
     if (path != nullptr && isDamaged(path)) return true;
   }
   return false;
@@ -95,7 +97,7 @@ void closeAndUse() {
   lw::MeshEditOp* const edit = beginEdit == nullptr ? nullptr : beginEdit(0, 0, 0, lw::kEditAll);
   if (edit == nullptr) return;
   edit->done(edit->state, lw::kEditNoError, kNoAfter);
-  edit->polyLayer(edit->state, nullptr);
+  edit->polyType(edit->state, nullptr);
 }
 
 void misbehave(lw::LWControl* control) {

@@ -137,13 +137,6 @@ TEST_F(FrontControls, DraggedSliderFiresAtEachStep) {
   EXPECT_GE(field.eventsFired, 3);
 }
 
-TEST_F(FrontControls, ModuleGivesAFieldTheFocus) {
-  const Control& field = open(ControlKind::Edit);
-  setInteger(field.face, lw::kControlFocus, 1);
-  front->settle();
-  EXPECT_EQ(windowOf(field), GetFocus());
-}
-
 // ---------------------------------------------------------------------------------------------------------------------
 // Lists
 
@@ -244,20 +237,6 @@ TEST_F(FrontControls, MovedControlStandsAtItsNewPlace) {
   POINT corner{place.left, place.top};
   ScreenToClient(window().handle(), &corner);
   EXPECT_EQ(150, corner.x);
-}
-
-TEST_F(FrontControls, GhostedControlLooksFainter) {
-  const Control& button = open(ControlKind::Button, "Run");
-  const Picture before = driver->picture(button);
-  button.face->draw(button.face, lw::kDrawGhost);
-  EXPECT_NE(before, driver->picture(button));
-}
-
-TEST_F(FrontControls, LabelFollowsTheModule) {
-  const Control& field = open(ControlKind::Edit, "Old");
-  const Picture before = driver->picture(panel());
-  setText(field.face, "New", lw::kControlLabel);
-  EXPECT_NE(before, driver->picture(panel()));
 }
 
 }  // namespace

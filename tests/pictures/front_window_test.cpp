@@ -1,4 +1,4 @@
-// A panel's window as a whole: its frame, the mouse over it, keys, blocking panels, its end.
+// A panel's window as a whole: its frame, the mouse over it, its end.
 #include "tests/pictures/front_fixture.h"
 
 namespace standin {
@@ -72,14 +72,6 @@ TEST_F(FrontWindow, HasThePanelsSizeAndTitle) {
   EXPECT_EQ(240, inside().cx);
   EXPECT_EQ(160, inside().cy);
   EXPECT_EQ(L"Tool", textOf(window().handle()));
-}
-
-TEST_F(FrontWindow, FollowsATitleThatTheModuleSets) {
-  open();
-  services->set(panelId, lw::kPanelTitle, const_cast<char*>("Tool 骨"));
-  services->draw(panelId, lw::kDrawRefresh);
-  front->settle();
-  EXPECT_EQ(L"Tool \x9AA8", textOf(window().handle()));
 }
 
 TEST_F(FrontWindow, FollowsASizeThatTheModuleSets) {
@@ -156,7 +148,7 @@ TEST_F(FrontWindow, DestroyedPanelHasNoWindow) {
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
-// Mouse and keys
+// The mouse
 
 TEST_F(FrontWindow, PressAndReleaseReachTheHook) {
   recordMouse();
@@ -217,17 +209,6 @@ TEST_F(FrontWindow, WheelGivesItsNotchesWithTheirSign) {
   EXPECT_EQ(-2, std::accumulate(notches.begin(), notches.end(), 0));
 }
 
-TEST_F(FrontWindow, TypedCharacterReachesTheKeyHook) {
-  static std::vector<int> keys;
-  keys.clear();
-  hook(
-      lw::kPanelKeyHook, +[](lw::PanelId, void*, unsigned short key) { return keys.push_back(key), 1; });
-  open();
-  ASSERT_TRUE(driver->clickAt(panel(), 200, 120));
-  driver->key('A');
-  EXPECT_THAT(keys, ElementsAre('a'));
-}
-
 TEST_F(FrontWindow, ReleaseIsNotLostWhenAnotherWindowTakesTheMouse) {
   recordMouse();
   open();
@@ -237,59 +218,6 @@ TEST_F(FrontWindow, ReleaseIsNotLostWhenAnotherWindowTakesTheMouse) {
   front->settle();
   ASSERT_EQ(2u, presses.size());
   EXPECT_EQ(lw::kMouseLeft, presses[1].bits);
-}
-
-// ---------------------------------------------------------------------------------------------------------------------
-// Blocking panels
-
-class FrontBlocking : public FrontWindow {
- protected:
-  // Opens the panel while a timer plays the person who does something to it.
-  int openAnd(void (*act)(FrontBlocking&), int flags = lw::kOpenBlocking | lw::kOpenCancel) {
-    running = this;
-    action = act;
-    SetTimer(nullptr, 0, 30, [](HWND, UINT, UINT_PTR id, DWORD) {
-      KillTimer(nullptr, id);
-      action(*running);
-    });
-    return services->open(panelId, flags);
-  }
-  static inline FrontBlocking* running = nullptr;
-  static inline void (*action)(FrontBlocking&) = nullptr;
-};
-
-TEST_F(FrontBlocking, ContinueAnswersOne) {
-  EXPECT_EQ(1, openAnd([](FrontBlocking& self) { EXPECT_TRUE(self.driver->press(self.window().continueButton())); }));
-  EXPECT_FALSE(panel().isOpen());
-}
-
-TEST_F(FrontBlocking, CancelAnswersZero) {
-  EXPECT_EQ(0, openAnd([](FrontBlocking& self) { EXPECT_TRUE(self.driver->press(self.window().cancelButton())); }));
-}
-
-TEST_F(FrontBlocking, ClosedWindowAnswersZero) {
-  EXPECT_EQ(0, openAnd([](FrontBlocking& self) { EXPECT_TRUE(self.driver->close(self.panel())); }));
-}
-
-TEST_F(FrontBlocking, ControlsWorkWhileItBlocks) {
-  openAnd([](FrontBlocking& self) {
-    EXPECT_TRUE(self.driver->click(*self.panel().at(0)));
-    EXPECT_TRUE(self.driver->press(self.window().continueButton()));
-  });
-  EXPECT_EQ(1, panel().at(0)->eventsFired);
-}
-
-TEST_F(FrontBlocking, OtherPanelsTakeNoInputMeanwhile) {
-  const lw::PanelId other = make("Other");
-  addButton(other, "Other");
-  services->open(other, kFlags);
-  static HWND otherWindow = nullptr;
-  otherWindow = front->windowOf(record(other))->handle();
-  openAnd([](FrontBlocking& self) {
-    EXPECT_FALSE(IsWindowEnabled(otherWindow));
-    EXPECT_TRUE(self.driver->press(self.window().continueButton()));
-  });
-  EXPECT_TRUE(IsWindowEnabled(otherWindow));
 }
 
 }  // namespace

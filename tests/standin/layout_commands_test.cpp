@@ -160,8 +160,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, ItemFlag,
                                            FlagRow{"FullTimeIK", lw::kItemFullTimeIK},
                                            FlagRow{"MatchGoalOrientation", lw::kItemMatchGoalOrientation},
                                            FlagRow{"KeepGoalWithinReach", lw::kItemKeepGoalInReach},
-                                           FlagRow{"UseIKChainVals", lw::kItemUseIKChain},
-                                           FlagRow{"BoneActive", lw::kItemActive}),
+                                           FlagRow{"UseIKChainVals", lw::kItemUseIKChain}),
                          [](const auto& info) { return std::string(info.param.command); });
 
 TEST_P(ItemFlag, IsFlippedByItsCommand) {
@@ -196,50 +195,37 @@ TEST(WeightMapName, NoneIsNoName) {
   EXPECT_EQ(session.bones()->weightMap(session.id(bone)), nullptr);
 }
 
-TEST(Falloff, CountsFromOneInTheCommandAndFromZeroInTheQuery) {
+TEST(Falloff, CountsFromOneInTheCommandAndFromZeroInTheBone) {
   LayoutSession session;
   Item& bone = session.selectedBone();
   session.send("BoneFalloffType 3");
-  EXPECT_EQ(session.bones()->falloff(session.id(bone)), 2);
+  EXPECT_EQ(bone.bone.falloff, 2);
 }
 
-TEST(BoneNumbers, ShowInTheBoneInfo) {
+TEST(BoneNumbers, AreOfTheBone) {
   LayoutSession session;
   Item& bone = session.selectedBone();
   session.send("BoneType 1");
   session.send("BoneStrength 0.25");
-  EXPECT_EQ(session.bones()->type(session.id(bone)), 1);
-  EXPECT_EQ(session.bones()->strength(session.id(bone)), 0.25);
+  EXPECT_EQ(bone.bone.type, 1);
+  EXPECT_EQ(bone.bone.strength, 0.25);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
 // The bone's object
 
-struct ModeRow {
-  int command;
-  unsigned mode;
-  unsigned flags;
-};
-
-class BoneMode : public ::testing::TestWithParam<ModeRow> {};
-
-INSTANTIATE_TEST_SUITE_P(Rows, BoneMode,
-                         ::testing::Values(ModeRow{0, 0, 0}, ModeRow{1, 0, 0x800}, ModeRow{2, 1, 0x400}, ModeRow{3, 2, 0}));
-
-TEST_P(BoneMode, ShowsInModeAndFlagsOfTheObject) {
+TEST(BoneMode, IsANumberOfTheObject) {
   LayoutSession session;
   session.selectedBone();
-  session.send("BoneMode " + std::to_string(GetParam().command));
-  const lw::ItemId object = session.id(*session.object());
-  EXPECT_EQ(session.objects()->boneMode(object), GetParam().mode);
-  EXPECT_EQ(session.objects()->flags(object) & 0xC00U, GetParam().flags);
+  session.send("BoneMode 3");
+  EXPECT_EQ(session.object()->object.boneMode, 3);
 }
 
 TEST(LimitedBones, AreANumberOfTheObject) {
   LayoutSession session;
   session.selectedBone();
   session.send("NumLimitedBones 7");
-  EXPECT_EQ(session.objects()->numLimitedBones(session.id(*session.object())), 7U);
+  EXPECT_EQ(session.object()->object.limitedBones, 7);
 }
 
 TEST(BoneSource, IsALinkOfTheObject) {
@@ -247,7 +233,7 @@ TEST(BoneSource, IsALinkOfTheObject) {
   session.selectedBone();
   Item& other = *session.scene().addObject(oneLayer({}), "other.lwo").front();
   session.send(withItem("BoneSource", other));
-  EXPECT_EQ(session.objects()->boneSource(session.id(*session.object())), session.id(other));
+  EXPECT_EQ(session.object()->object.boneSource, &other);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -264,8 +250,8 @@ TEST(Links, ShowInTheItemInfo) {
     ASSERT_EQ(session.send(withItem(command, null)), 1) << command;
   }
   const lw::LWItemInfo* info = session.items();
-  EXPECT_EQ(info->target(id), other);
-  EXPECT_EQ(info->pole(id), other);
+  EXPECT_EQ(bone.settings.target, &null);
+  EXPECT_EQ(bone.settings.pole, &null);
   EXPECT_EQ(info->goal(id), other);
   EXPECT_EQ(info->sameItem(id, lw::kParamPosition), other);
   EXPECT_EQ(info->sameItem(id, lw::kParamRotation), other);
@@ -282,11 +268,12 @@ TEST(Links, AreNoneAtFirst) {
 
 TEST(IkQueries, ShowObjectiveInitialStateAndOrder) {
   LayoutSession session;
-  const lw::ItemId id = session.id(session.selectedBone());
+  Item& bone = session.selectedBone();
+  const lw::ItemId id = session.id(bone);
   session.send("GoalObjective 2");
   session.send("IKInitialState 3");
   session.send("RotationOrder 1");
-  EXPECT_EQ(session.items()->goalObjective(id), 2U);
+  EXPECT_EQ(bone.settings.ik.objective, 2);
   EXPECT_EQ(session.items()->ikInitialState(id), 3U);
   EXPECT_EQ(session.items()->rotationOrder(id), 1);
 }
@@ -342,8 +329,8 @@ TEST(Selection, IsReplacedAndGrownInOrder) {
   EXPECT_EQ(info->selItems[0], session.id(c));
   EXPECT_EQ(info->selItems[1], session.id(b));
   EXPECT_EQ(info->selItems[2], nullptr);
-  EXPECT_EQ(info->itemFlags(session.id(b)), 1U);
-  EXPECT_EQ(info->itemFlags(session.id(a)), 0U);
+  EXPECT_TRUE(b.selected);
+  EXPECT_FALSE(a.selected);
 }
 
 TEST(SkelegonsToBonesCommand, MakesBonesOfTheSelectedObject) {
@@ -373,10 +360,12 @@ TEST(ProgramSwitches, AreSetByANumberAndFlippedWithout) {
   LayoutSession session;
   session.send("EnableIK 0");
   session.send("EnableMC 0");
-  EXPECT_EQ(session.interfaceInfo()->generalFlags & 0x880U, 0U);
+  EXPECT_FALSE(session.host.state().ikEnabled);
+  EXPECT_FALSE(session.host.state().motionControllersEnabled);
   session.send("EnableIK 1");
   session.send("EnableMC");
-  EXPECT_EQ(session.interfaceInfo()->generalFlags & 0x880U, 0x880U);
+  EXPECT_TRUE(session.host.state().ikEnabled);
+  EXPECT_TRUE(session.host.state().motionControllersEnabled);
 }
 
 TEST(ProgramSwitches, IncludeDeformations) {
@@ -393,14 +382,14 @@ TEST(ProgramState, KnowsAutoConfirmAndRefreshes) {
   EXPECT_EQ(session.host.state().refreshes, 1U);
 }
 
-TEST(Look, ShowsInTheInterfaceInfo) {
+TEST(Look, IsOfTheItem) {
   LayoutSession session;
   Item& null = session.scene().addNull("Goal");
   session.host.select({&null});
   session.send("ItemVisibility 7");
   session.send("ItemColor 11");
-  EXPECT_EQ(session.interfaceInfo()->itemVis(session.id(null)), 7);
-  EXPECT_EQ(session.interfaceInfo()->itemColor(session.id(null)), 11);
+  EXPECT_EQ(null.settings.visibility, 7);
+  EXPECT_EQ(null.settings.colour, 11);
 }
 
 TEST(AppliedServers, CountFromOne) {
@@ -418,12 +407,8 @@ TEST(RecordPivotRotation, MovesTheRotationOver) {
   Item& bone = session.selectedBone();
   bone.motion[kAxisH].assign(0, 0.5);
   session.send("RecordPivotRotation");
-  double pivot[3] = {};
-  double rotation[3] = {1, 1, 1};
-  session.items()->param(session.id(bone), lw::kParamPivotRotation, 0, pivot);
-  session.items()->param(session.id(bone), lw::kParamRotation, 0, rotation);
-  EXPECT_NEAR(pivot[0], 0.5, 1e-12);
-  EXPECT_EQ(rotation[0], 0);
+  EXPECT_NEAR(bone.pivotRotation[0], 0.5, 1e-12);
+  EXPECT_EQ(bone.motion[kAxisH].valueAt(0), 0);
 }
 
 TEST(StatusMessage, ShowsItsText) {

@@ -59,7 +59,6 @@ class LayoutSession {
   lw::LWChannelInfo* channels() { return table<lw::LWChannelInfo>("Channel Info 3"); }
   lw::LWEnvelopeFuncs* envelopes() { return table<lw::LWEnvelopeFuncs>("Animation Envelopes 4"); }
   lw::LWInterfaceInfo* interfaceInfo() { return table<lw::LWInterfaceInfo>("LW Interface Info 8"); }
-  lw::LWMessageFuncs* messages() { return table<lw::LWMessageFuncs>("Info Messages 4"); }
 
   // As the module sends it.
   int send(const std::string& command) {

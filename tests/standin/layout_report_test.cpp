@@ -18,13 +18,11 @@ TEST(Transcript, ShowsEachEventInOrder) {
   session.send("StatusMsg {0.50}half");
   session.send("Nonsense");
   session.send("ItemColor");
-  session.messages()->info("Hello", nullptr);
   EXPECT_EQ(session.host.transcript().text(),
             "  AddNull A\n"
             "| 50 % half\n"
             "! Nonsense  -- rejected: unknown command\n"
-            "? ItemColor  -- would ask the user: argument 1 is missing\n"
-            "[info] Hello\n");
+            "? ItemColor  -- would ask the user: argument 1 is missing\n");
 }
 
 TEST(Transcript, ListsEveryCommandAsItWasSent) {

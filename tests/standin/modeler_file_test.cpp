@@ -131,7 +131,7 @@ TEST_F(ModelerFiles, AFileThatIsNoneIsNotOpened) {
 TEST_F(ModelerFiles, SwitchingLayersDeselectsWhatLeavesTheForeground) {
   ModelerObject& object = host.add(twoLayerRig());
   host.select({"Hips"});
-  host.showLayers({1}, {0});
+  host.showLayers({1});
   EXPECT_EQ(host.selectedNames(), Names{});
   host.options().layerSwitchDeselects = false;
   host.select({"Tail_01", "Hips"});

@@ -35,7 +35,6 @@ class ModelerTest : public testing::Test {
 
   lw::LWModCommand& local() { return *record->get(); }
   lw::MeshEditOp* begin(int mode) { return local().editBegin2(0, 0, 0, mode); }
-  int evaluate(const char* command) { return local().evaluate(local().data, command); }
 
   // An edit from begin to done, with the calls between.
   void edit(int mode, const std::function<void(lw::MeshEditOp&)>& calls, int error = 0, int after = 0) {

@@ -77,7 +77,7 @@ TEST_F(ModelerOptionsTest, DeletedPolygonsCanBeDeliveredFlagged) {
   edit(lw::kEditAll, [&](lw::MeshEditOp& op) {
     const Names names = scannedNames(op, *object, lw::kLayersAll);
     EXPECT_NE(std::find(names.begin(), names.end(), "Head"), names.end());
-    EXPECT_NE(op.polyFlags(op.state, head) & lw::kElementDeleted, 0);
+    EXPECT_NE(op.polyInfo(op.state, head)->flags & lw::kElementDeleted, 0);
   });
 }
 

@@ -1,10 +1,10 @@
 // Attributes of panels and controls: which can be read and set, and how they travel.
+#include "standin/panels/metrics.h"
 #include "tests/standin/panels_fixture.h"
 
 namespace standin {
 namespace {
 
-using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -17,29 +17,11 @@ struct PanelAttributes : PanelsTest {
 };
 
 TEST_F(PanelAttributes, NumbersTravelByAddress) {
-  for (const int attribute : {lw::kPanelX, lw::kPanelY, lw::kPanelWidth, lw::kPanelHeight, lw::kPanelLeastWidth,
-                              lw::kPanelLeastHeight, lw::kPanelGreatestWidth, lw::kPanelGreatestHeight}) {
+  for (const int attribute : {lw::kPanelWidth, lw::kPanelHeight, lw::kPanelLeastWidth, lw::kPanelLeastHeight,
+                              lw::kPanelGreatestWidth, lw::kPanelGreatestHeight}) {
     setNumber(panel, attribute, 300 + attribute);
     EXPECT_EQ(300 + attribute, getNumber(panel, attribute));
   }
-}
-
-TEST_F(PanelAttributes, TheOwnerComesBack) {
-  void* owner = nullptr;
-  services->get(panel, 17, &owner);
-  EXPECT_EQ(services, owner);
-}
-
-TEST_F(PanelAttributes, TheInterfaceVersionIs23) { EXPECT_EQ(23, getNumber(panel, 18)); }
-
-TEST_F(PanelAttributes, TheOpenFlagsCanBeRead) {
-  services->open(panel, 192);
-  EXPECT_EQ(192, getNumber(panel, lw::kPanelOpenFlags));
-}
-
-TEST_F(PanelAttributes, ATitleIsThePointerItself) {
-  services->set(panel, lw::kPanelTitle, const_cast<char*>("Renamed"));
-  EXPECT_EQ(&record(panel), panels().find("Renamed"));
 }
 
 TEST_F(PanelAttributes, UserDataReachesTheHooks) {
@@ -73,9 +55,9 @@ TEST_F(PanelAttributes, AnUnknownAttributeIsAFault) {
 }
 
 TEST_F(PanelAttributes, ANullPlaceIsAFault) {
-  services->get(panel, lw::kPanelX, nullptr);
+  services->get(panel, lw::kPanelWidth, nullptr);
   EXPECT_THAT(takeFaults(), HasSubstr("got no place"));
-  services->set(panel, lw::kPanelX, nullptr);
+  services->set(panel, lw::kPanelWidth, nullptr);
   EXPECT_THAT(takeFaults(), HasSubstr("instead of the address of a number"));
 }
 
@@ -129,7 +111,7 @@ TEST_F(ControlAttributes, MovingSetsTheWholeControl) {
 
 TEST_F(ControlAttributes, ALabelsWidthIsThatOfItsTextAndAGap) {
   lw::LWControl* check = add(panel, ControlKind::Bool, "Label");
-  EXPECT_EQ(services->drawFuncs->textWidth(panel, "Label") + 4, getInteger(check, lw::kControlLabelWidth));
+  EXPECT_EQ(textWidth("Label") + 4, getInteger(check, lw::kControlLabelWidth));
 }
 
 TEST_F(ControlAttributes, WithoutALabelThereIsNoLabelWidth) {
@@ -161,45 +143,20 @@ TEST_F(ControlAttributes, PointersTravelWhateverTheTypeCodeSays) {
   EXPECT_EQ(&value, record(check)->user);
 }
 
-TEST_F(ControlAttributes, ThePanelAndTheServicesCanBeRead) {
-  lw::LWControl* check = add(panel, ControlKind::Bool);
-  lw::LWValue value{};
-  value.type = lw::kValuePointer;
-  check->get(check, lw::kControlPanel, &value);
-  EXPECT_EQ(panel, value.ptr.ptr);
-  check->get(check, lw::kControlServices, &value);
-  EXPECT_EQ(services, value.ptr.ptr);
-}
-
-TEST_F(ControlAttributes, ALabelCanBeSetAndRead) {
-  lw::LWControl* check = add(panel, ControlKind::Bool, "Old");
-  setText(check, "New label", lw::kControlLabel);
-  EXPECT_EQ("New label", getText(check, lw::kControlLabel));
-}
-
-TEST_F(ControlAttributes, ARangeCanBeSetAndRead) {
-  lw::LWControl* slider = add(panel, "MiniSliderControl", describedRange(1, 9));
-  setInteger(slider, lw::kControlRangeGreatest, 12);
-  EXPECT_EQ(1, getInteger(slider, lw::kControlRangeLeast));
-  EXPECT_EQ(12, getInteger(slider, lw::kControlRangeGreatest));
-}
-
-TEST_F(ControlAttributes, DrawModesHideShowAndGhost) {
+TEST_F(ControlAttributes, DrawModesHideAndShow) {
   lw::LWControl* check = add(panel, ControlKind::Bool);
   check->draw(check, lw::kDrawErase);
-  EXPECT_EQ(0x200, getInteger(check, lw::kControlFlags));
-  check->draw(check, lw::kDrawGhost);
-  EXPECT_EQ(0x100, getInteger(check, lw::kControlFlags));
+  EXPECT_TRUE(record(check)->isErased);
   check->draw(check, lw::kDrawRefresh);
-  EXPECT_EQ(0x100, getInteger(check, lw::kControlFlags));
+  EXPECT_TRUE(record(check)->isErased);
   check->draw(check, lw::kDrawRender);
-  EXPECT_EQ(0, getInteger(check, lw::kControlFlags));
+  EXPECT_FALSE(record(check)->isErased);
 }
 
-TEST_F(ControlAttributes, TheErasedFlagCanBeWritten) {
+TEST_F(ControlAttributes, GhostingIsNotOffered) {
   lw::LWControl* check = add(panel, ControlKind::Bool);
-  setInteger(check, lw::kControlFlags, 0x200);
-  EXPECT_TRUE(record(check)->isErased);
+  check->draw(check, 2);
+  EXPECT_THAT(takeFaults(), HasSubstr("unknown draw mode 2"));
 }
 
 TEST_F(ControlAttributes, AnUnknownDrawModeIsAFault) {
@@ -208,13 +165,6 @@ TEST_F(ControlAttributes, AnUnknownDrawModeIsAFault) {
   services->draw(panel, 9);
   EXPECT_EQ(2U, witness().faults().size());
   EXPECT_THAT(takeFaults(), HasSubstr("unknown draw mode 9"));
-}
-
-TEST_F(ControlAttributes, OnlyFieldsTakeTheFocus) {
-  setInteger(add(panel, ControlKind::Edit), lw::kControlFocus, 1);
-  setInteger(addButton(panel, "Run"), lw::kControlFocus, 1);
-  EXPECT_THAT(takeFaults(), HasSubstr("cannot take the input focus"));
-  EXPECT_TRUE(record(panel).focus->is(ControlKind::Edit));
 }
 
 TEST_F(ControlAttributes, TheHotAreaCannotBeSet) {
@@ -239,11 +189,6 @@ TEST_F(ControlAttributes, ANullValueIsAFault) {
   lw::LWControl* button = addButton(panel, "Run");
   button->get(button, lw::kControlX, nullptr);
   EXPECT_THAT(takeFaults(), HasSubstr("got no value"));
-}
-
-TEST_F(ControlAttributes, TheScreensMetricsAreGiven) {
-  const int* metrics = services->drawFuncs->dispMetrics();
-  EXPECT_THAT(std::vector<int>(metrics, metrics + 8), Each(testing::Gt(0)));
 }
 
 }  // namespace

@@ -138,16 +138,16 @@ class PanelsTest : public testing::Test {
     control->get(control, lw::kControlValue, &value);
     return value.flt.value;
   }
-  static void setText(lw::LWControl* control, std::string text, int attribute = lw::kControlValue) {
+  static void setText(lw::LWControl* control, std::string text) {
     lw::LWValue value{};
     value.str = {lw::kValueString, text.data(), static_cast<int>(text.size())};
-    control->set(control, attribute, &value);
+    control->set(control, lw::kControlValue, &value);
   }
-  static std::string getText(lw::LWControl* control, int attribute = lw::kControlValue) {
+  static std::string getText(lw::LWControl* control) {
     std::array<char, 256> buffer{};
     lw::LWValue value{};
     value.str = {lw::kValueString, buffer.data(), static_cast<int>(buffer.size()) - 1};
-    control->get(control, attribute, &value);
+    control->get(control, lw::kControlValue, &value);
     return buffer.data();
   }
   void setNumber(lw::PanelId panel, int attribute, int number) const { services->set(panel, attribute, &number); }

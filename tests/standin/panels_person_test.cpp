@@ -101,15 +101,6 @@ TEST_F(PersonAtPanel, ANullNameWithinTheListIsAFault) {
   EXPECT_THAT(takeFaults(), HasSubstr("null name"));
 }
 
-TEST_F(PersonAtPanel, ADisabledMenuItemCannotBeChosen) {
-  lw::LWControl* popup = add(panel, ControlKind::Popup);
-  unsigned (*flags)(lw::LWControl*, void*, int) = [](lw::LWControl*, void*, int index) { return index == 1 ? 8U : 0U; };
-  setPointer(popup, lw::kControlMenuFlagsCallback, reinterpret_cast<void*>(flags));
-  Control* list = shown(popup);
-  EXPECT_FALSE(person::choose(list, 1));
-  EXPECT_TRUE(person::choose(list, 2));
-}
-
 TEST_F(PersonAtPanel, TypingTheSameTextFiresNothing) {
   Control* edit = shown(ControlKind::Edit);
   EXPECT_TRUE(person::type(edit, "Bone"));
@@ -192,20 +183,6 @@ TEST_F(PersonAtPanel, AControlOutsideThePanelCannotBeUsed) {
   Control* button = shown(ControlKind::Button, "Run");
   setInteger(button->face, lw::kControlX, 800);
   EXPECT_THAT(person::press(button).why, HasSubstr("lies outside the panel"));
-}
-
-TEST_F(PersonAtPanel, AGhostedControlStillFires) {
-  Control* button = shown(ControlKind::Button, "Run");
-  button->face->draw(button->face, lw::kDrawGhost);
-  EXPECT_TRUE(person::press(button));
-  EXPECT_EQ(1, button->eventsFired);
-}
-
-TEST_F(PersonAtPanel, AGhostedControlMayBeDead) {
-  panels().options.ghostedFires = false;
-  Control* button = shown(ControlKind::Button, "Run");
-  button->face->draw(button->face, lw::kDrawGhost);
-  EXPECT_THAT(person::press(button).why, HasSubstr("is ghosted"));
 }
 
 TEST_F(PersonAtPanel, AControlIsUsedOnlyAsWhatItIs) {
@@ -300,15 +277,6 @@ TEST_F(Resizing, TheSameSizeIsNoChange) {
   services->open(panel, 192);
   EXPECT_TRUE(person::resize(&record(panel), 300, 200));
   EXPECT_THAT(sizes, IsEmpty());
-}
-
-TEST_F(Resizing, AKeyReachesTheKeyHook) {
-  static int code = 0;
-  const lw::PanelKeyHook hook = [](lw::PanelId, void*, unsigned short key) { return code = key; };
-  services->set(panel, lw::kPanelKeyHook, reinterpret_cast<void*>(hook));
-  services->open(panel, lw::kOpenNoButtons);
-  EXPECT_TRUE(person::key(&record(panel), 27));
-  EXPECT_EQ(27, code);
 }
 
 }  // namespace

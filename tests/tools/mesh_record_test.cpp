@@ -21,7 +21,7 @@ TEST_F(EditRecord, WithoutAnObjectHoldsNullAndNobodyIsTold) {
   lw::CEditRecord record;
   EXPECT_EQ(lw::BeginEditInRecord(record, lw::kEditForTags), nullptr);
   EXPECT_EQ(record.edit, nullptr);
-  EXPECT_TRUE(mesh.host.commands().empty());
+  EXPECT_TRUE(mesh.host.messages().empty());
 }
 
 TEST_F(EditRecord, SelectedOnesComeFromTheForegroundAndTheEditIsEnded) {

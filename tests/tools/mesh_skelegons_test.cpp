@@ -22,7 +22,6 @@ TEST_F(CollectSkelegons, ReadsInOneEditThatChangesNothing) {
   lw::CollectSkelegons();
   EXPECT_EQ(onlyEdit().mode, 0);
   EXPECT_EQ(onlyEdit().error, 0);
-  EXPECT_EQ(onlyEdit().after, 0);
   EXPECT_EQ(onlyEdit().changes, 0U);
 }
 
@@ -301,7 +300,7 @@ TEST_F(ScanSkelegons, GivesNameLayerPointsAndSelection) {
 }
 
 TEST_F(ScanSkelegons, GivesOnlyTheLayersAskedFor) {
-  mesh.host.showLayers({1}, {0});
+  mesh.host.showLayers({1});
   EXPECT_EQ(namesIn(lw::ScanSkelegons(lw::kLayersForeground, kPanelSource)), (Names{"Tail", ""}));
 }
 
