@@ -109,6 +109,7 @@ class PanelsWalk : public ThreePanelsUsed {
         {"sync the selector",    1,  s.isOpen(),                 &W::syncSelector},
         {"sync the selector",    14, s.isStale(),                &W::syncSelector},
         {"value",                6,  p.isSeeing(),               &W::changeValue},
+        {"more values",          20, p.isSeeing() && isAlone,    &W::changeValue},
         {"name",                 6,  p.isSeeing() && chosen == 1, &W::typeName},
         {"show another",         3,  p.isSeeing() && chosen > 1, &W::showAnother},
         {"fill a linked name",   1,  p.isSeeing(),               &W::fillLinked},
@@ -132,7 +133,8 @@ class PanelsWalk : public ThreePanelsUsed {
         {"undo",                 2,  true,                       &W::goBack},
         {"redo",                 1,  true,                       &W::goForth},
         {"delete",               1,  true,                       &W::deleteOne},
-        {"open a panel",         3,  true,                       &W::openSome},
+        {"open a panel",         3,  !isAlone,                   &W::openSome},
+        {"open the properties",  3,  isAlone,                    &W::openProperties},
         {"close a panel",        1,  true,                       &W::closeOne},
         // clang-format on
     };
@@ -165,6 +167,7 @@ class PanelsWalk : public ThreePanelsUsed {
   }
 
   const int seed = numberOr("VARNEL_WALK_SEED", kSeed);
+  bool isAlone = false;  // the property panel
 };
 
 TEST_F(PanelsWalk, NamesSelectionAndValuesNeverDisagree) {
@@ -173,6 +176,13 @@ TEST_F(PanelsWalk, NamesSelectionAndValuesNeverDisagree) {
   openRenamer();
   openProperties();
   walkAbout(4000);
+}
+
+TEST_F(PanelsWalk, ThePropertiesAloneKeepTheMeshAsTheRulesSay) {
+  random.seed(static_cast<unsigned>(seed));
+  isAlone = true;
+  openProperties();
+  walkAbout(10000);
 }
 
 }  // namespace
