@@ -116,4 +116,39 @@ class ModelerSession {
   Panel* panel = nullptr;
 };
 
+// Acts in a session of its own while its n-th host call fails, first for n = 1, then for one that is `strideOf` greater, until
+// that is 0; nothing fails in `prepare` before it and in `look` behind it. Both learn of the refused function's name, empty once
+// the action makes no so many calls. Whatever fails, no rule of the host's may be broken. Gives the last n.
+template <class Session, class Act, class Look>
+std::uint64_t refuseEach(
+    void (*prepare)(Session&), Act act, Look look,
+    std::uint64_t (*strideOf)(const std::string&) = [](const std::string& refused) -> std::uint64_t {
+      return refused.empty() ? 0 : 1;
+    }) {
+  for (std::uint64_t call = 1;;) {
+    Session session;
+    prepare(session);
+    standin::witness().refuseCall(call);
+    act(session);
+    const std::string refused = standin::witness().refusalHappened() ? standin::witness().refusedFunction() : "";
+    SCOPED_TRACE("call " + std::to_string(call) + ", " + refused);
+    standin::witness().refuseCall(0);
+    look(session, refused);
+    const std::uint64_t stride = strideOf(refused);
+    if (stride == 0) return call;
+    call += stride;
+  }
+}
+
+inline void closeIfOpen(const char* tool) {
+  standin::Panel* const panel = standin::panels().find(tool);
+  if (panel == nullptr || !panel->isOpen()) return;
+  EXPECT_TRUE(person::close(panel));
+}
+
+// Calls that give nothing back: a module cannot know that they did not do what they should.
+inline bool cannotBeNoticed(const std::string& function) {
+  return function == "control set" || function == "control draw" || function == "panel set";
+}
+
 }  // namespace varnel::test
