@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "objectfile/rig_builder.h"
 #include "skelegon/slots.h"
 #include "standin/core/program_folder.h"
 #include "standin/core/tool_names.h"
@@ -29,6 +30,19 @@ using Text = std::optional<std::string>;  // of a tag; none where there is no su
 
 inline constexpr std::uint32_t kEnglish = 0x409;
 inline constexpr std::uint32_t kJapanese = 0x411;
+
+// Layer 0 "Body": a face, Hips, Chest, Head, weight maps "Head" and "Spine". Layer 1 "Tail": Tail_01 and Tail_02.
+inline standin::ObjectFile panelRig() {
+  standin::RigBuilder rig;
+  rig.layer(0, "Body");
+  rig.face({rig.point({0, 0, 0}), rig.point({1, 0, 0}), rig.point({0, 1, 0})}, "Skin");
+  rig.weightMap("Head", {{0, 1.0F}});
+  rig.weightMap("Spine", {{1, 1.0F}});
+  rig.chain({"Hips", "Chest", "Head"}, {{0, 0, 0}, {0, 1, 0}, {0, 2, 0}, {0, 3, 0}});
+  rig.layer(1, "Tail");
+  rig.chain({"Tail_01", "Tail_02"}, {{0, 0, 5}, {0, 0, 6}, {0, 0, 7}});
+  return rig.take();
+}
 
 // Modeler with an object, all its layers in the foreground, and the module loaded.
 class ModelerSession {

@@ -91,7 +91,7 @@ constexpr Painter kPainters[] = {Painter::DrawCallback, Painter::EventCallback, 
 // Each host with each painter; the host paints after everything that the user does.
 class SelectorHosts : public testing::TestWithParam<std::tuple<Host, Painter>>, protected SelectorSession {
  protected:
-  explicit SelectorHosts(standin::ObjectFile file = selectorRig()) : SelectorSession(std::move(file)) {
+  explicit SelectorHosts(standin::ObjectFile file = panelRig()) : SelectorSession(std::move(file)) {
     PanelOptions& options = standin::panels().options;
     host().set(options);
     options.painter = std::get<Painter>(GetParam());
