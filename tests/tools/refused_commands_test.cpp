@@ -14,6 +14,7 @@
 #include "host/lwtool2_globals.h"
 #include "layout/ST_bone_set_params.h"
 #include "layout/conversion.h"
+#include "skelegon/setting_groups.h"
 #include "standin/core/globals.h"
 #include "tests/tools/conversion_fixture.h"
 #include "tests/tools/reporting_evaluator.h"
@@ -64,48 +65,22 @@ class Scene {
 
 // Settings by which every row of the table is sent.
 Settings everything() {
-  Settings settings = {{Slot::Name, "Bone"},
-                       {Slot::UseBonesFromObject, "Object"},
-                       {Slot::BoneType, "1"},
-                       {Slot::BoneActive, "0"},
-                       {Slot::WeightMap, "Map"},
-                       {Slot::WeightMapOnly, "1"},
-                       {Slot::WeightNormalization, "1"},
-                       {Slot::StrengthMultiply, "0"},
-                       {Slot::LimitedRange, "1"},
-                       {Slot::JointComp, "1"},
-                       {Slot::JointCompParent, "1"},
-                       {Slot::MuscleFlex, "1"},
-                       {Slot::MuscleFlexParent, "1"},
-                       {Slot::Bulge, "1"},
-                       {Slot::BulgeParent, "1"},
-                       {Slot::Twist, "1"},
-                       {Slot::TargetItem, "target"},
-                       {Slot::PoleItem, "Root"},
-                       {Slot::UnaffectedByIK, "1"},
-                       {Slot::GoalObject, "goal"},
-                       {Slot::IKInitialState, "3"},
-                       {Slot::Chain, "0"},
-                       {Slot::SoftIK, "1"},
-                       {Slot::MatchGoalOrientation, "1"},
-                       {Slot::KeepGoalInReach, "1"},
-                       {Slot::FullTimeIK, "0"},
-                       {Slot::PositionItem, "position"},
-                       {Slot::RotationItem, "rotation"},
-                       {Slot::ScaleItem, "scale"},
-                       {Slot::InitialPositionItem, "initial"},
-                       {Slot::Colour, "Red"}};
-  for (const auto& [controller, limits] : {std::pair{Slot::XPositionController, Slot::XPositionLimits},
-                                           {Slot::YPositionController, Slot::YPositionLimits},
-                                           {Slot::ZPositionController, Slot::ZPositionLimits},
-                                           {Slot::HeadingController, Slot::HeadingLimits},
-                                           {Slot::PitchController, Slot::PitchLimits},
-                                           {Slot::BankController, Slot::BankLimits},
-                                           {Slot::XScaleController, Slot::XScaleLimits},
-                                           {Slot::YScaleController, Slot::YScaleLimits},
-                                           {Slot::ZScaleController, Slot::ZScaleLimits}}) {
-    settings.emplace_back(controller, "6");
-    settings.emplace_back(limits, "1");
+  Settings settings = {
+      // clang-format off
+      {Slot::Name, "Bone"}, {Slot::UseBonesFromObject, "Object"}, {Slot::BoneType, "1"}, {Slot::BoneActive, "0"},
+      {Slot::WeightMap, "Map"}, {Slot::WeightMapOnly, "1"}, {Slot::WeightNormalization, "1"}, {Slot::StrengthMultiply, "0"},
+      {Slot::LimitedRange, "1"}, {Slot::JointComp, "1"}, {Slot::JointCompParent, "1"}, {Slot::MuscleFlex, "1"},
+      {Slot::MuscleFlexParent, "1"}, {Slot::Bulge, "1"}, {Slot::BulgeParent, "1"}, {Slot::Twist, "1"},
+      {Slot::TargetItem, "target"}, {Slot::PoleItem, "Root"}, {Slot::UnaffectedByIK, "1"}, {Slot::GoalObject, "goal"},
+      {Slot::IKInitialState, "3"}, {Slot::Chain, "0"}, {Slot::SoftIK, "1"}, {Slot::MatchGoalOrientation, "1"},
+      {Slot::KeepGoalInReach, "1"}, {Slot::FullTimeIK, "0"}, {Slot::PositionItem, "position"},
+      {Slot::RotationItem, "rotation"}, {Slot::ScaleItem, "scale"}, {Slot::InitialPositionItem, "initial"},
+      {Slot::Colour, "Red"},
+      // clang-format on
+  };
+  for (const skg::AxisSettings& axis : skg::kAxes) {
+    settings.emplace_back(axis.controller, "6");
+    settings.emplace_back(axis.limits, "1");
   }
   return settings;
 }
