@@ -75,7 +75,7 @@ void requireSameFaces(const std::string& path) {
 void requireAllTags(const ObjectFileData& data) {
   const ObjectLayer layer = data.layer(0);
   if (layer.skelegonCount() != kSkelegons) throw std::runtime_error("not all skelegons were read");
-  for (const lwp::st::SkelegonRecord skelegon : layer.skelegons()) {
+  for (const lwp::st::SkelegonRecord& skelegon : layer.skelegons()) {
     if (skelegon.tags.size() != kSettings) throw std::runtime_error("not all settings were read");
   }
 }

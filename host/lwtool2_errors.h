@@ -18,7 +18,8 @@
 
 namespace lw::ex {
 
-// A failure of the host layer. Deliberately no child of std::exception.
+// A failure of the host layer. No child of std::exception on purpose: what catches errors of the
+// library must not take one of these for its own.
 class CBaseEx {
  public:
   explicit CBaseEx(std::string message) : message_(std::move(message)) {}

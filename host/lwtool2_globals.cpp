@@ -53,7 +53,7 @@ constexpr WantedService kWanted[] = {
     {Service::NodeInput,           Where::Both,    "NodeInputFuncs 5"},
     {Service::NodeOutput,          Where::Both,    "NodeOutputFuncs 4"},
     {Service::NodeFuncs,           Where::Both,    "NodeFuncs 3"},
-    {Service::InstanceUpdateAgain, Where::Both,    "Instance Update"},  // asked for twice, deliberately
+    {Service::InstanceUpdateAgain, Where::Both,    "Instance Update"},  // asked for twice, on purpose
     {Service::LightInfo,           Where::Both,    "LW Light Info 6"},
     // clang-format on
 };

@@ -181,6 +181,8 @@ int setPolygonTag(const MeshEditOp& edit, PolygonId polygon, std::uint32_t type,
 // ---------------------------------------------------------------------------------------------------------------------
 // Skelegons
 
+bool objectIsLoaded() { return stateQuery().object() != nullptr; }
+
 PolygonIds CollectSkelegons() { return collect(kEditForTags, kLayersAll, kNotDeleted); }
 
 PolygonIds CollectSelectedSkelegons() { return collect(kEditSeesSelection, kLayersForeground, kSelectedNotDeleted); }
@@ -206,7 +208,7 @@ TagTexts SkelegonNames(const PolygonIds& polygons) {
   TagTexts names(polygons.size());
   for (std::size_t i = 0; i < polygons.size(); ++i) {
     if (!edit.isSkelegon(polygons[i])) continue;
-    edit.info(polygons[i]);  // the host must know the polygon; a deleted one is named too, deliberately
+    edit.info(polygons[i]);  // the host must know the polygon; a deleted one is named, too: a list made before still has it
     names[i] = edit.tag(polygons[i], kTagBone).value_or("Bone");
   }
   edit.done();

@@ -1,9 +1,9 @@
 // The mesh as Modeler's tools need it: skelegons listed, read, tagged and selected, layers and weight maps by name.
 // To be called in Modeler only, after its services were acquired, and with no edit open but where it says so.
 //
-// Each function opens an edit of its own and ends it, whatever happens. A failing host call ends the edit with an error
-// code, so that the host drops all of it, is reported and thrown as CBaseEx. Identifiers must be polygons of the current
-// object.
+// Each function opens an edit of its own and ends it, whatever happens. When a host call fails, the edit is ended with an error
+// code, so that the host drops all of its changes; the failure is reported and thrown as CBaseEx. Identifiers must be polygons of
+// the current object.
 #pragma once
 
 #include <cstdint>
@@ -61,7 +61,7 @@ class CMeshEdit {
   bool isSkelegon(PolygonId polygon) const;
   // The host's record, good until the next call into the host. Fails with "polyInfo() !" when there is none.
   const EDPolygonInfo& info(PolygonId polygon);
-  // Changes of this edit need not show.
+  // May not show what this edit itself has changed: the host applies changes at done().
   std::optional<std::string> tag(PolygonId polygon, std::uint32_t type) const;
   // Sets the text, or applies the rule for empty texts (see setPolygonTag). Fails with "polTag() !".
   void setTag(PolygonId polygon, std::uint32_t type, const std::string& text);
@@ -89,6 +89,9 @@ int setPolygonTag(const MeshEditOp& edit, PolygonId polygon, std::uint32_t type,
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Skelegons
+
+// Without an object there is nothing to scan, and the host begins no edit.
+bool objectIsLoaded();
 
 // The skelegons of all layers, in the order in which the host scans them. Deleted ones never count.
 PolygonIds CollectSkelegons();

@@ -97,7 +97,8 @@ class CPanel {
   // Paints everything again, as it is now.
   void redraw() const;
   void bringToFront() const;
-  // The user pointer reaches the panel's hooks. They tell when the panel is shown, and when it closes by whose wish ever.
+  // The user pointer reaches the panel's hooks. They tell when the panel is shown and when it closes, whoever
+  // closes it.
   void setUser(void* user) const;
   void onOpen(PanelHook hook) const;
   void onClose(PanelHook hook) const;

@@ -124,7 +124,7 @@ ItemId CSceneItems::FindItemByName(const std::string& name) {
 void CSceneItems::added(ItemId item, const std::string& name) {
   if (!walked_) return;
   // Under another name than the one asked for, or beside an item of that name, the new item may change more than its own
-  // entry: the host counts items of equal name, and where it puts a new one among the others is its own affair.
+  // entry: the host counts items of equal name, and where it puts a new one among the others is not documented.
   const bool alone = isNamed(item, name) && first_.count(name) == 0;
   if (alone) {
     first_.emplace(name, item);

@@ -53,7 +53,7 @@ class CSkelegonWalk {
       skelegons.push_back(polygon);
       if (!action(polygon)) return;
     }
-    // Whoever asks next may have more luck with a polygon whose type was not told.
+    // Not kept when the host did not tell a type: the next scan asks again.
     if (isSure) foundSkelegons().keep(layers_, std::move(skelegons));
   }
 

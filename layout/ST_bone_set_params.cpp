@@ -36,9 +36,9 @@ Failure unlessSent(bool sent, int line) { return sent ? Failure() : Failure(line
 
 // The state of one bone while its commands are sent: read once, then brought up to date by what is sent, so that a toggle
 // goes out only when the wanted state differs.
-class BoneRun {
+class CBoneRun {
  public:
-  BoneRun(lw::CSceneItems& scene, lw::ItemId bone, const SkelegonProperties& properties)
+  CBoneRun(lw::CSceneItems& scene, lw::ItemId bone, const SkelegonProperties& properties)
       : scene_(scene), bone_(bone), properties_(properties) {
     const lw::LWItemInfo& items = lw::itemInfo();
     // The first item of the bone's name may be no bone. It gets its commands, which Layout then refuses one by one, but the
@@ -65,7 +65,8 @@ class BoneRun {
         return false;
       }
       if (command.slot == Slot::GoalObject) goal_ = lw::itemInfo().goal(bone_);
-      // What was sent counts from here on, deliberately, also where the host keeps another objective.
+      // What was sent counts from here on, also where the host keeps another objective: stored rigs get the same commands in
+      // every host.
       if (command.slot == Slot::Objective) objective_ = integer(Slot::Objective);
     }
     return true;
@@ -105,7 +106,7 @@ class BoneRun {
   bool hasWeightMap_ = false;
 };
 
-bool BoneRun::isDue(const BoneCommand& command) const {
+bool CBoneRun::isDue(const BoneCommand& command) const {
   const auto anyFlag = [this](unsigned bits) { return (flags_ & bits) != 0; };
   const auto hasSameItem = [this](int param) { return lw::itemInfo().sameItem(bone_, param) != nullptr; };
   switch (command.when) {
@@ -133,7 +134,7 @@ bool BoneRun::isDue(const BoneCommand& command) const {
   return false;
 }
 
-bool BoneRun::hasSoftIK() const {
+bool CBoneRun::hasSoftIK() const {
   lw::RefreshTimeInfo();
   unsigned distance = 0;
   double least = 0;
@@ -141,20 +142,20 @@ bool BoneRun::hasSoftIK() const {
   return lw::itemInfo().ikSoft(bone_, lw::timeInfo().time, &distance, &least, &greatest) != 0;
 }
 
-bool BoneRun::followsIKParent() const {
+bool CBoneRun::followsIKParent() const {
   const lw::ItemId parent = lw::itemInfo().parent(bone_);
   return parent != nullptr && lw::itemInfo().type(parent) == lw::kItemBone &&
          (lw::itemInfo().flags(parent) & lw::kItemUnaffectedByIK) == 0;
 }
 
-bool BoneRun::alignsToPath() const {
+bool CBoneRun::alignsToPath() const {
   constexpr int kAlignBit = 0x4;
   int kinds[3] = {};
   lw::itemInfo().controller(bone_, lw::kParamRotation, kinds);
   return ((kinds[0] | kinds[1] | kinds[2]) & kAlignBit) != 0;
 }
 
-Failure BoneRun::send(const BoneCommand& command) {
+Failure CBoneRun::send(const BoneCommand& command) {
   const auto orLine = [&](bool sent) { return unlessSent(sent, command.line); };
   switch (command.sends) {
     case Sends::Integer: return orLine(sendInteger(command));
@@ -175,14 +176,14 @@ Failure BoneRun::send(const BoneCommand& command) {
 }
 
 // The sum stays at the end of its range as the number does when it is read: a text beyond 32 bits is the greatest number.
-bool BoneRun::sendInteger(const BoneCommand& command) const {
+bool CBoneRun::sendInteger(const BoneCommand& command) const {
   constexpr std::int64_t kLeast = std::numeric_limits<int>::min();
   constexpr std::int64_t kGreatest = std::numeric_limits<int>::max();
   const std::int64_t sum = std::int64_t{integer(command.slot)} + command.offset;
   return EvalF("%s %d", command.name, static_cast<int>(std::clamp(sum, kLeast, kGreatest)));
 }
 
-bool BoneRun::sendToggle(const BoneCommand& command) {
+bool CBoneRun::sendToggle(const BoneCommand& command) {
   const bool wanted = properties_.isOn(command.slot);
   unsigned& flags = word(command.word);
   if (wanted == ((flags & command.bit) != 0)) return true;
@@ -191,7 +192,7 @@ bool BoneRun::sendToggle(const BoneCommand& command) {
   return true;
 }
 
-Failure BoneRun::sendItem(const BoneCommand& command) {
+Failure CBoneRun::sendItem(const BoneCommand& command) {
   const std::string& name = text(command.slot);
   const lw::ItemId item = command.sends == Sends::FoundItem
                               ? scene_.FindItemByName(name)
@@ -200,18 +201,18 @@ Failure BoneRun::sendItem(const BoneCommand& command) {
   return unlessSent(EvalF("%s 0x%x", command.name, lw::commandId(item)), command.secondLine);
 }
 
-Failure BoneRun::sendWeightMap(const BoneCommand& command) const {
+Failure CBoneRun::sendWeightMap(const BoneCommand& command) const {
   const std::string& map = text(command.slot);
   if (map.empty()) return unlessSent(EvalF("%s (none)", command.name), command.line);
   return unlessSent(EvalF("%s %s", command.name, map.c_str()), command.secondLine);
 }
 
-bool BoneRun::sendColour(const BoneCommand& command) const {
+bool CBoneRun::sendColour(const BoneCommand& command) const {
   const int index = skg::colourIndex(text(command.slot));
   return index == skg::kModelerColourIndex || EvalF("%s %d", command.name, index);
 }
 
-Failure BoneRun::sendAxis(skg::Axis axis) {
+Failure CBoneRun::sendAxis(skg::Axis axis) {
   constexpr int kInverseKinematics = 3;
   constexpr int kSameAsItem = 6;
   const auto index = static_cast<std::size_t>(axis);
@@ -239,7 +240,7 @@ Failure BoneRun::sendAxis(skg::Axis axis) {
 }
 
 // The switch of the limits, where it is not as wanted.
-bool BoneRun::sendAxisLimit(const AxisRow& row) {
+bool CBoneRun::sendAxisLimit(const AxisRow& row) {
   unsigned& limits = limits_[static_cast<std::size_t>(row.settings().group)];
   if (properties_.isOn(row.settings().limits) == ((limits & row.limitBit) != 0)) return true;
   if (!EvalF("Limit%s", row.name)) return false;
@@ -308,7 +309,7 @@ lw::ItemId addNull(lw::CSceneItems& scene, const std::string& missingName, const
 
 bool ApplyBoneParameters(lw::CSceneItems& scene, lw::ItemId bone, const SkelegonProperties& properties) {
   selectItem(bone);
-  if (!BoneRun(scene, bone, properties).sendAll()) return false;
+  if (!CBoneRun(scene, bone, properties).sendAll()) return false;
   const std::string& initialPosition = properties[Slot::InitialPositionItem];
   if (!initialPosition.empty()) FindOrCreateNull(scene, initialPosition, bone, true, false);
   return true;

@@ -4,6 +4,8 @@
 #include <array>
 #include <iterator>
 
+#include "skelegon/slot_table.h"
+
 namespace lwp {
 namespace {
 
@@ -19,16 +21,16 @@ constexpr AxisRow kAxes[] = {
     // axis              bit  limits    gate    limit may fail
     //                                                 lines; inside a group spaced as X's are
     {"X",  Axis::X,  0x1, 1,        Axis::X,  false, { 725,  731,  741,  747,  752,  758}},
-    // A LimitY that fails is reported and the sequence goes on, deliberately.
+    // A LimitY that fails is reported and the sequence goes on, unlike the others, on purpose: the rest of the bone is set all the same.
     {"Y",  Axis::Y,  0x2, 1,        Axis::Y,  true,  { 763,  770,  781,  787,  792,  798}},
     {"Z",  Axis::Z,  0x4, 1,        Axis::Z,  false, { 803,  809,  819,  825,  830,  836}},
-    // Only the limits of a rotation are turned into degrees; the transform goes as it is stored, deliberately.
+    // Only the limits of a rotation are turned into degrees. The transform goes as it is stored, on purpose.
     {"H",  Axis::H,  0x1, kDegrees, Axis::H,  false, { 864,  870,  882,  888,  893,  899}},
     {"P",  Axis::P,  0x2, kDegrees, Axis::P,  false, { 904,  910,  922,  928,  933,  939}},
     {"B",  Axis::B,  0x4, kDegrees, Axis::B,  false, { 944,  950,  962,  968,  973,  979}},
     {"SX", Axis::SX, 0x1, 1,        Axis::SX, false, {1002, 1008, 1018, 1024, 1029, 1035}},
     {"SY", Axis::SY, 0x2, 1,        Axis::SY, false, {1040, 1046, 1056, 1062, 1067, 1073}},
-    // SZ follows by the controller of SY, not its own, deliberately: stored rigs count on it.
+    // SZ follows by the controller of SY, not its own, on purpose: stored rigs count on it.
     {"SZ", Axis::SZ, 0x4, 1,        Axis::SY, false, {1078, 1084, 1094, 1100, 1105, 1111}},
     // clang-format on
 };
@@ -100,18 +102,18 @@ constexpr BoneCommand kCommands[] = {
     toggle  ("BoneActive",              Slot::BoneActive,             kBone, lw::kBoneActive,              389),
     {.name = "BoneWeightMapName", .sends = Sends::WeightMap, .slot = Slot::WeightMap, .line = 398, .secondLine = 401},
     toggle  ("BoneWeightMapOnly",       Slot::WeightMapOnly,          kBone, lw::kBoneWeightMapOnly,       410, When::HasWeightMap),
-    // Sent under the same name as the switch above, deliberately: there is no other command for it here.
+    // Sent under the same name as the switch above, on purpose: stored rigs count on what the second one does to the first.
     toggle  ("BoneWeightMapOnly",       Slot::WeightNormalization,    kBone, lw::kBoneWeightNormalization, 422, When::HasWeightMapAndOnly),
     real    ("BoneStrength",            Slot::Strength,               kPercent, 430),
     toggle  ("BoneStrengthMultiply",    Slot::StrengthMultiply,       kBone, lw::kBoneStrengthMultiply,    436),
     toggle  ("BoneLimitedRange",        Slot::LimitedRange,           kBone, lw::kBoneLimitedRange,        445),
-    // The range is stored in metres and sent as if it were a percentage, deliberately.
+    // The range is stored in metres and sent as if it were a percentage, on purpose: that is what stored rigs get.
     real    ("BoneMinRange",            Slot::RangeMin,               kPercent, 455, When::LimitedRangeOn),
     real    ("BoneMaxRange",            Slot::RangeMax,               kPercent, 456, When::LimitedRangeOn),
     toggle  ("BoneJointComp",           Slot::JointComp,              kBone, lw::kBoneJointComp,           463),
     toggle  ("BoneJointCompParent",     Slot::JointCompParent,        kBone, lw::kBoneJointCompParent,     472),
     reals   ("BoneJointCompAmounts",    Slot::JointCompAmount,        Slot::JointCompParentAmount,  kPercent, 483, When::JointCompOn),
-    toggle  ("BoneMuscleFlex",          Slot::MuscleFlex,             kBone, lw::kBoneMuscleFlex,          0),  // no report, deliberately
+    toggle  ("BoneMuscleFlex",          Slot::MuscleFlex,             kBone, lw::kBoneMuscleFlex,          0),  // the one command that ends without a report
     toggle  ("BoneMuscleFlexParent",    Slot::MuscleFlexParent,       kBone, lw::kBoneMuscleFlexParent,    499),
     reals   ("BoneMuscleFlexAmounts",   Slot::MuscleFlexAmount,       Slot::MuscleFlexParentAmount, kPercent, 510, When::MuscleFlexOn),
     toggle  ("BoneBulge",               Slot::Bulge,                  kBone, lw::kBoneBulge,               517),
@@ -129,7 +131,7 @@ constexpr BoneCommand kCommands[] = {
     integer ("GoalObjective",           Slot::Objective,              609, When::HasGoal),
     integer ("IKInitialState",          Slot::IKInitialState,         615),
     integer ("IKInitialStateFrame",     Slot::IKInitialStateFrame,    621, When::StartsAtFrame),
-    // What is kept of it is the bit of UnaffectedByIK, not its own, deliberately.
+    // What is kept of it is the bit of UnaffectedByIK, not its own, on purpose: nothing that is sent later asks for either.
     updating(toggle("UseIKChainVals",   Slot::Chain,                  kItem, lw::kItemUseIKChain,          633, When::FollowsIKParent),
              lw::kItemUnaffectedByIK),
     real    ("IKFKBlending",            Slot::IKFKBlending,           kPercent, 642),
@@ -151,7 +153,7 @@ constexpr BoneCommand kCommands[] = {
     integer ("RotationItemBlendMethod", Slot::RotationBlendMethod,    854),
     real    ("RotationItemBlend",       Slot::RotationBlend,          kPercent, 859, When::HasRotationItem),
     axisGroup(Axis::H), axisGroup(Axis::P), axisGroup(Axis::B),
-    // Sent whatever came of the null, deliberately.
+    // Sent whatever came of the null, unlike the other items: where none could be made, the command goes out with no item.
     item    ("ScaleItem",  Sends::ItemUnchecked, Slot::ScaleItem,     true,  true,  986, 986),
     integer ("ScaleItemBlendMethod",    Slot::ScaleBlendMethod,       992),
     real    ("ScaleItemBlend",          Slot::ScaleBlend,             kPercent, 997, When::HasScaleItem),
@@ -173,6 +175,32 @@ constexpr std::size_t countedRows() {
   return rows - kCommandsSharingARow;
 }
 static_assert(countedRows() == kBoneCommandRows);
+
+// By a command of its own, in the group of its axis, or with the linked item that it belongs to.
+constexpr bool isSent(Slot slot) {
+  for (const BoneCommand& command : kCommands) {
+    if (command.slot == slot || command.second == slot) return true;
+  }
+  for (const skg::AxisSettings& axis : skg::kAxes) {
+    for (const Slot one :
+         {axis.controller, axis.limits, axis.least, axis.greatest, axis.stiffness, axis.follow, axis.factor, axis.offset}) {
+      if (one == slot) return true;
+    }
+  }
+  for (const skg::LinkedItem& item : skg::kLinkedItems) {
+    for (const Slot one : {item.name, item.parent, item.shape, item.visibility, item.colour}) {
+      if (one == slot) return true;
+    }
+  }
+  return slot == Slot::Name || slot == Slot::ParentItem;  // by which the bone and its parent are found
+}
+constexpr bool everySettingIsSent() {
+  for (const skg::SlotRow& row : skg::kSlotTable) {
+    if (row.kind != skg::SlotKind::Reserved && !isSent(row.slot)) return false;
+  }
+  return true;
+}
+static_assert(everySettingIsSent());
 
 }  // namespace
 

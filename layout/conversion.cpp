@@ -3,6 +3,7 @@
 #include <exception>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_eval.h"
@@ -24,12 +25,11 @@ constexpr const char* kSource = "ST_CSkgConvPanel";
 // IK, motion controllers and deformations slow every command down: off for the life of this object, then on.
 class CSwitchedOff {
  public:
-  // By way of the other constructor the object is whole before anything is sent, so that it switches on also what a throw in
-  // the middle left off.
+  // Delegating completes the object before the first command is sent: if one throws, the destructor still switches everything on.
   CSwitchedOff() : CSwitchedOff(kWhole) {
     for (const char* command : {"EnableIK 0", "EnableMC 0", "EnableDeformations 0"}) lw::Eval(command);
   }
-  // Each on its own, as plain texts: a failure, want of memory as well, leaves as little as possible switched off.
+  // Each command is guarded by itself and takes no memory, so that one failure leaves no other switch off.
   ~CSwitchedOff() {
     for (const char* command : {"EnableIK 1", "EnableMC 1", "EnableDeformations 1"}) {
       lw::guarded([&] { lw::EvalPlain(command); });
@@ -85,13 +85,13 @@ ObjectNames namesOf(lw::ItemId object, const st::ObjectFileData& data) {
   return names;
 }
 
-// The first layer of that name. 'readPath' is the path of the file that was read, in UTF-8 as item names are. It is not always the
-// item's own: then the file is another one, and its only layer goes by the name of that.
+// The first layer of that name. `readPath` (UTF-8) is the path that was really read; it may be another file's, whose only layer
+// then bears that file's name.
 std::optional<st::ObjectLayer> layerNamed(const st::ObjectFileData& data, const std::string& name,
                                           const std::string& readPath) {
   const std::string fileName = skg::fileBaseName(readPath);
-  for (const st::ObjectLayer layer : data.layers()) {
-    if ((isNamedByFile(data) ? fileName : layer.name()) == name) return layer;
+  for (std::size_t i = 0; i < data.layerCount(); ++i) {
+    if ((isNamedByFile(data) ? fileName : data.layer(i).name()) == name) return data.layer(i);
   }
   return std::nullopt;
 }
@@ -100,7 +100,7 @@ bool recordPivotRotation(lw::ItemId bone) {
   EvalF("SelectItem 0x%x", lw::commandId(bone));
   lw::RefreshInterfaceInfo();
   if (!EvalF("RecordPivotRotation")) return false;
-  lw::ResetRotation(bone);  // what the host refuses of it is thrown
+  lw::ResetRotation(bone);  // throws when the host refuses
   return true;
 }
 
@@ -115,10 +115,10 @@ const char* applyAll(lw::CSceneItems& scene, lw::ItemId bone, const SkelegonProp
 
 void applyToLayer(lw::CSceneItems& scene, const st::ObjectFileData& data, const st::ObjectLayer& layer,
                   const std::string& objectName, bool recordPivot) {
-  const std::size_t count = layer.skelegonCount();
-  for (std::size_t k = 0; k < count; ++k) {
-    lw::StatusProgress(static_cast<float>(k) / static_cast<float>(count), "%s", "Now setting bone properties...");
-    SkelegonProperties properties = storedProperties(data, layer.skelegon(k));
+  const std::vector<st::SkelegonRecord> skelegons = layer.skelegons();
+  for (std::size_t k = 0; k < skelegons.size(); ++k) {
+    lw::StatusProgress(static_cast<float>(k) / static_cast<float>(skelegons.size()), "%s", "Now setting bone properties...");
+    SkelegonProperties properties = storedProperties(data, skelegons[k]);
     putObjectName(properties, objectName);
     const std::string& name = properties[Slot::Name];
     if (name.empty()) continue;
@@ -136,7 +136,7 @@ void applyToLayer(lw::CSceneItems& scene, const st::ObjectFileData& data, const 
 }
 
 // One selected object. The report line of what failed, or 0.
-int convertObject(lw::CSceneItems& scene, NarrowPath& path, lw::ItemId object, bool executeSkelegonToBone,
+int convertObject(lw::CSceneItems& scene, CNarrowPath& path, lw::ItemId object, bool executeSkelegonToBone,
                   bool recordPivot) {
   scene.forget();
   if (executeSkelegonToBone && !ConvertSkelegons(object)) return 454;
@@ -149,12 +149,12 @@ bool ConvertSkelegons(lw::ItemId object) {
   EvalF("SelectItem 0x%x", lw::commandId(object));
   lw::RefreshInterfaceInfo();
   const CAutoConfirmOffOnThrow guard;
-  // Stops at the first failure, which with this evaluator never comes: deliberately no repair of auto-confirm there.
+  // Stops at the first failure, which with this evaluator never comes: so nothing switches auto-confirm back there.
   return EvalF("AutoConfirm 1") && EvalF("RefreshNow") && EvalF("SkelegonsToBones") && EvalF("AutoConfirm 0") &&
          EvalF("RefreshNow");
 }
 
-bool ConvertObjectSkelegons(lw::CSceneItems& scene, NarrowPath& path, lw::ItemId object, bool recordPivot) {
+bool ConvertObjectSkelegons(lw::CSceneItems& scene, CNarrowPath& path, lw::ItemId object, bool recordPivot) {
   const char* const hostPath = lw::objectInfo().filename(object);
   const std::string ownPath = hostPath == nullptr ? "" : hostPath;
   st::ObjectFileData data;
@@ -174,7 +174,7 @@ void convertSelection(bool executeSkelegonToBone, bool recordPivotRotation) {
     const CSwitchedOff switches;
     const lw::CSavedSelection selection;
     lw::CSceneItems scene;
-    static NarrowPath path;
+    static CNarrowPath path;
     for (const lw::ItemId item : selection.items()) {
       if (lw::ClassifyItem(item) != lw::ItemKind::FileObject) continue;
       if (const int line = convertObject(scene, path, item, executeSkelegonToBone, recordPivotRotation)) {

@@ -19,6 +19,6 @@ void convertSelection(bool executeSkelegonToBone, bool recordPivotRotation);
 bool ConvertSkelegons(lw::ItemId object);
 
 // Reads the object's file and gives the bones of its layer their stored settings. False only when the file cannot be read.
-bool ConvertObjectSkelegons(lw::CSceneItems& scene, NarrowPath& path, lw::ItemId object, bool recordPivot);
+bool ConvertObjectSkelegons(lw::CSceneItems& scene, CNarrowPath& path, lw::ItemId object, bool recordPivot);
 
 }  // namespace lwp

@@ -7,7 +7,7 @@
 
 namespace lwp {
 
-const std::string& NarrowPath::ToNarrowPath(const char* utf8) {
+const std::string& CNarrowPath::ToNarrowPath(const char* utf8) {
   if (utf8 == nullptr) {
     path_.clear();
     utf8_.clear();

@@ -12,10 +12,10 @@ inline constexpr std::size_t kMaxPathBytes = 4096;    // narrow bytes
 inline constexpr std::size_t kPathBufferUnits = 260;  // UTF-16 units that are written: the system's longest classic path
 
 // Converts paths and remembers the last one.
-class NarrowPath {
+class CNarrowPath {
  public:
   // The narrow form of a UTF-8 path; empty for a null one. A path beyond a limit leaves the previous one in place,
-  // deliberately: the one buffer is simply not written.
+  // for the one buffer is simply not written.
   const std::string& ToNarrowPath(const char* utf8);
 
   // The same path as the host gave it. Names are to be taken from this one: in a narrow text the second byte of a letter may look

@@ -63,7 +63,7 @@ int ActivateSelector(int version, lw::GlobalFunc global, void* local, void* /*se
   return activation([&]() -> int {
     if (!fits(version, lw::kModCommandVersion, global)) return lw::kActivationBadVersion;
     const bool acquired = lw::AcquireHostGlobals(lw::Program::Modeler, global, local);
-    // Also when something was missing: deliberately before the check, unlike in the renamer.
+    // Before the check, unlike in the renamer, on purpose: the functions are taken at the first activation of all, complete or not.
     lw::AcquireModelerFunctions(lw::modelerFunctions(), global, local);
     if (!acquired) return lw::kActivationBadGlobal;
     lw::LoadModelerStrings(global);
@@ -80,7 +80,7 @@ int ActivateRenamer(int version, lw::GlobalFunc global, void* local, void* /*ser
     lw::AcquireModelerFunctions(lw::modelerFunctions(), global, local);
     lw::LoadModelerStrings(global);
     lw::LoadRenamerStrings(global);
-    // Split and held for the run, which does not get them: an argument has no effect, deliberately.
+    // Split and held for the run, which does not get them: the tools have no arguments, yet a host may pass some.
     const char* const argument = static_cast<const lw::LWModCommand*>(local)->argument;
     const std::vector<std::string> words = mst::splitArguments(argument == nullptr ? "" : argument);
     lw::guarded([] { return mst::runRenamer(); }, 0);  // not tested, nothing reported

@@ -1,24 +1,11 @@
 #include "reader/CFileStream.h"
 
 #include <algorithm>
-#include <cstring>
 #include <fstream>
 #include <locale>
 #include <utility>
 
 namespace lwp::st {
-
-namespace {
-
-// A folder opens as a file on some systems; its length is then senseless or reading it fails.
-std::streamoff lengthOf(std::ifstream& file) {
-  file.seekg(0, std::ios::end);
-  const std::streamoff length = file.tellg();
-  file.seekg(0, std::ios::beg);
-  return file ? length : -1;
-}
-
-}  // namespace
 
 bool readInBlocks(std::istream& file, std::span<std::byte> bytes, std::size_t perRead) {
   while (!bytes.empty()) {
@@ -33,16 +20,14 @@ CFileStream::CFileStream(std::span<const std::byte> bytes)
     : bytes_(bytes.size() <= kLongestFile ? bytes : std::span<const std::byte>()) {}
 
 bool CFileStream::load(const std::string& narrowPath) {
-  file_.reset();
-  bytes_ = {};
-  position_ = 0;
-
+  *this = {};
   std::ifstream file;
   file.imbue(std::locale::classic());  // a locale set in the host's process may convert what is read
-  file.open(narrowPath, std::ios::binary);
-  if (!file) return false;
-  const std::streamoff length = lengthOf(file);
+  file.open(narrowPath, std::ios::binary | std::ios::ate);
+  // A folder opens as a file on some systems; its length is then senseless or reading it fails.
+  const std::streamoff length = file ? std::streamoff{file.tellg()} : -1;
   if (length < 0 || static_cast<std::uintmax_t>(length) > kLongestFile) return false;
+  file.seekg(0);
 
   const auto size = static_cast<std::size_t>(length);
   auto bytes = std::make_unique_for_overwrite<std::byte[]>(size);
@@ -52,36 +37,21 @@ bool CFileStream::load(const std::string& narrowPath) {
   return true;
 }
 
-bool CFileStream::readF4(float& value) {
-  const std::byte* at = take(kBytesOfU4);
-  if (at == nullptr) return false;
-  value = loadF4(at);
-  return true;
-}
-
-bool CFileStream::readVEC12(Vec12& value) {
-  const std::byte* at = take(kBytesOfVec12);
-  if (at == nullptr) return false;
-  value = loadVec12(at);
-  return true;
-}
-
 bool CFileStream::readS0(std::string_view& text) {
-  if (atEnd()) return false;
-  const auto* start = reinterpret_cast<const char*>(bytes_.data() + position_);
-  const void* zero = std::memchr(start, 0, left());
-  if (zero == nullptr) return false;
-  const auto length = static_cast<std::size_t>(static_cast<const char*>(zero) - start);
-  const std::size_t withZero = length + 1;
-  if (take(withZero + withZero % 2) == nullptr) return false;
-  text = {start, length};
+  const std::span<const std::byte> bytes = rest();
+  const auto zero = std::find(bytes.begin(), bytes.end(), std::byte{});
+  const auto length = static_cast<std::size_t>(zero - bytes.begin());
+  const std::size_t padded = length + (length % 2 == 0 ? 2 : 1);
+  if (padded > bytes.size()) return false;
+  text = {reinterpret_cast<const char*>(bytes.data()), length};
+  position_ += static_cast<std::uint32_t>(padded);
   return true;
 }
 
 bool CFileStream::readWindow(std::uint32_t size, CFileStream& window) {
-  const std::byte* at = take(size);
-  if (at == nullptr) return false;
-  window = CFileStream(std::span(at, size));
+  if (size > left()) return false;
+  window = CFileStream(rest().first(size));
+  position_ += size;
   return true;
 }
 

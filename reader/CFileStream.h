@@ -2,6 +2,7 @@
 // The object reader gives every chunk a stream of its own, so that nothing reads past what it was given.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <iosfwd>
@@ -11,13 +12,37 @@
 #include <string>
 #include <string_view>
 
-#include "reader/big_endian.h"
-
 namespace lwp::st {
+
+// Three floats: a position or a pivot.
+struct Vec12 {
+  float x;
+  float y;
+  float z;
+
+  friend bool operator==(const Vec12&, const Vec12&) = default;
+};
+
+// Numbers as object files hold them: the highest byte first, on any boundary. Each function takes the address of as many bytes
+// as its type has there, and puts them together with shifts: right on every machine, and compiled to one swapped load.
+inline constexpr std::size_t kBytesOfU2 = 2;
+inline constexpr std::size_t kBytesOfU4 = 4;
+inline constexpr std::size_t kBytesOfVec12 = 12;
+
+inline std::uint16_t loadU2(const std::byte* from) {
+  return static_cast<std::uint16_t>((std::to_integer<unsigned>(from[0]) << 8U) | std::to_integer<unsigned>(from[1]));
+}
+inline std::uint32_t loadU4(const std::byte* from) { return (std::uint32_t{loadU2(from)} << 16U) | loadU2(from + 2); }
+inline float loadF4(const std::byte* from) { return std::bit_cast<float>(loadU4(from)); }
+inline Vec12 loadVec12(const std::byte* from) { return {loadF4(from), loadF4(from + 4), loadF4(from + 8)}; }
+
+// A point or polygon number takes two bytes, or four when the first is 0xFF; that one is then dropped.
+inline constexpr std::uint32_t kIndexLimit = 0x01000000;
+inline bool isLongIndex(std::span<const std::byte> bytes) { return bytes.front() == std::byte{0xFF}; }
+inline std::uint32_t loadLongIndex(const std::byte* from) { return loadU4(from) % kIndexLimit; }
 
 // Bytes that one read asks for. Windows counts those of a read with 31 bits and refuses more.
 inline constexpr std::size_t kBytesPerRead = 67'108'864;
-
 // Fills 'bytes' from where the file stands, with at most 'perRead' bytes in each read. False when the file has fewer.
 bool readInBlocks(std::istream& file, std::span<std::byte> bytes, std::size_t perRead = kBytesPerRead);
 
@@ -29,7 +54,6 @@ class CFileStream {
   CFileStream() = default;
   // Reads bytes that somebody else keeps for as long as the stream is used. More than kLongestFile count as none.
   explicit CFileStream(std::span<const std::byte> bytes);
-
   // Loads the whole file into memory of the stream's own and stands at its start. 'narrowPath' is in the system's narrow
   // code page. False, and nothing loaded, when the file cannot be opened or read, or is too long.
   bool load(const std::string& narrowPath);
@@ -40,55 +64,48 @@ class CFileStream {
   // What was not read yet.
   std::span<const std::byte> rest() const { return bytes_.subspan(position_); }
 
-  // Each reads one value and goes on behind it. False when the bytes are not there: then neither the position nor the
-  // value is touched.
-  bool readU2(std::uint16_t& value);
-  bool readU4(std::uint32_t& value);
-  bool readF4(float& value);
-  bool readVEC12(Vec12& value);
+  // Each reads one value and goes on behind it. False when the bytes are not there: then the position is not touched.
+  bool readU2(std::uint16_t& value) { return read(value, loadU2, kBytesOfU2); }
+  bool readU4(std::uint32_t& value) { return read(value, loadU4, kBytesOfU4); }
+  bool readF4(float& value) { return read(value, loadF4, kBytesOfU4); }
+  bool readVEC12(Vec12& value) { return read(value, loadVec12, kBytesOfVec12); }
   // A text up to its zero, padded to even length. 'text' refers to the stream's bytes.
   bool readS0(std::string_view& text);
-  // A point or polygon number of two or four bytes.
-  bool readVX(std::uint32_t& index);
+  // A point or polygon number of two or four bytes, or a row of them: as many as there is room for.
+  bool readVX(std::uint32_t& index) { return readVX(std::span(&index, 1)); }
+  bool readVX(std::span<std::uint32_t> indices);
   // The next 'size' bytes as a stream of their own, which refers to this stream's bytes.
   bool readWindow(std::uint32_t size, CFileStream& window);
 
  private:
-  // The address of the next 'size' bytes, which are passed; null when there are fewer.
-  const std::byte* take(std::size_t size);
+  template <class Value>
+  bool read(Value& value, Value (*load)(const std::byte*), std::uint32_t bytes) {
+    if (bytes > left()) return false;
+    value = load(bytes_.data() + position_);
+    position_ += bytes;
+    return true;
+  }
 
   std::unique_ptr<std::byte[]> file_;
   std::span<const std::byte> bytes_;
   std::uint32_t position_ = 0;
 };
 
-inline const std::byte* CFileStream::take(std::size_t size) {
-  if (size > left()) return nullptr;
-  const std::byte* at = bytes_.data() + position_;
-  position_ += static_cast<std::uint32_t>(size);
-  return at;
-}
-
-inline bool CFileStream::readU2(std::uint16_t& value) {
-  const std::byte* at = take(kBytesOfU2);
-  if (at == nullptr) return false;
-  value = loadU2(at);
-  return true;
-}
-
-inline bool CFileStream::readU4(std::uint32_t& value) {
-  const std::byte* at = take(kBytesOfU4);
-  if (at == nullptr) return false;
-  value = loadU4(at);
-  return true;
-}
-
-inline bool CFileStream::readVX(std::uint32_t& index) {
-  if (atEnd()) return false;
-  const std::size_t size = bytesOfIndexAt(bytes_.data() + position_);
-  const std::byte* at = take(size);
-  if (at == nullptr) return false;
-  index = size == kBytesOfLongIndex ? loadLongIndex(at) : loadU2(at);
+inline bool CFileStream::readVX(std::span<std::uint32_t> indices) {
+  // Nearly everywhere there are bytes for the longest form of all, and no number has to ask.
+  const bool areAllThere = left() >= indices.size() * kBytesOfU4;
+  std::span<const std::byte> bytes = rest();
+  for (std::uint32_t& index : indices) {
+    if (!areAllThere && bytes.size() < (bytes.empty() || !isLongIndex(bytes) ? kBytesOfU2 : kBytesOfU4)) return false;
+    if (isLongIndex(bytes)) [[likely]] {
+      index = loadLongIndex(bytes.data());
+      bytes = bytes.subspan(kBytesOfU4);
+    } else {
+      index = loadU2(bytes.data());
+      bytes = bytes.subspan(kBytesOfU2);
+    }
+  }
+  position_ = static_cast<std::uint32_t>(bytes_.size() - bytes.size());
   return true;
 }
 

@@ -1,72 +1,59 @@
 #include "reader/CLWOFileStream.h"
 
-#include <utility>
-
 namespace lwp::st {
 
 namespace {
 
-constexpr std::uint32_t kForm = chunkId("FORM");
-constexpr std::uint32_t kObject2 = chunkId("LWO2");
-constexpr std::uint32_t kObject3 = chunkId("LWO3");
-constexpr std::uint32_t kTagTexts = chunkId("TAGS");
-constexpr std::uint32_t kLayer = chunkId("LAYR");
-constexpr std::uint32_t kPoints = chunkId("PNTS");
-constexpr std::uint32_t kPolygons = chunkId("POLS");
-constexpr std::uint32_t kPolygonTags = chunkId("PTAG");
-constexpr std::uint32_t kFaces = chunkId("FACE");
-constexpr std::uint32_t kSkelegons = chunkId("BONE");
+// The four characters of an identifier as the number that the file holds.
+constexpr std::uint32_t id(const char (&text)[5]) {
+  std::uint32_t id = 0;
+  for (std::size_t i = 0; i < 4; ++i) id = (id << 8U) | static_cast<unsigned char>(text[i]);
+  return id;
+}
+
+// 'polygons' is the type of the polygons that came last in this layer.
+ChunkKind kindOf(std::uint32_t chunk, std::uint32_t polygons) {
+  switch (chunk) {
+    case id("TAGS"): return kTagTexts;
+    case id("LAYR"): return kLayer;
+    case id("PNTS"): return kPoints;
+    case id("POLS"): return polygons == id("FACE") ? kFaces : polygons == id("BONE") ? kSkelegons : kOther;
+    // Only the tags of skelegons are of use; those of other polygons are passed over unread.
+    case id("PTAG"): return polygons == id("BONE") ? kSkelegonTags : kOther;
+    default: return kOther;
+  }
+}
 
 }  // namespace
 
 bool CLWOFileStream::enterForm() {
-  std::uint32_t id = 0;
+  std::uint32_t form = 0;
   std::uint32_t size = 0;
   std::uint32_t type = 0;
-  if (!readU4(id) || id != kForm) return false;
+  if (!readU4(form) || form != id("FORM")) return false;
   if (!readU4(size) || size != left()) return false;
-  return readU4(type) && (type == kObject2 || type == kObject3);
+  return readU4(type) && (type == id("LWO2") || type == id("LWO3"));
 }
 
-bool CLWOFileStream::readChunks(ObjectChunks& chunks) {
-  Place place;
+bool CLWOFileStream::readChunks(const std::function<bool(const Chunk&)>& take) {
+  bool isInLayer = false;
+  std::uint32_t polygonType = 0;
   while (!atEnd()) {
-    std::uint32_t id = 0;
+    std::uint32_t chunkId = 0;
     std::uint32_t size = 0;
     CFileStream body;
     // The next chunk follows at once, also behind an odd size: writers keep sizes even, and no byte is skipped here.
-    if (!readU4(id) || !readU4(size) || !readWindow(size, body)) return false;
-    if (!readChunk(id, std::move(body), place, chunks)) return false;
+    if (!readU4(chunkId) || !readU4(size) || !readWindow(size, body)) return false;
+    if (!isInLayer && (chunkId == id("PNTS") || chunkId == id("POLS") || chunkId == id("PTAG"))) return false;
+    if (chunkId == id("LAYR")) polygonType = 0;
+    isInLayer |= chunkId == id("LAYR");
+    if (chunkId == id("POLS") && !body.readU4(polygonType)) return false;
+    const ChunkKind kind = kindOf(chunkId, polygonType);
+    std::uint32_t tagType = 0;
+    if (kind == kSkelegonTags && !body.readU4(tagType)) return false;
+    if (kind != kOther && !take({kind, body.rest(), tagType})) return false;
   }
   return true;
-}
-
-bool CLWOFileStream::readChunk(std::uint32_t id, CFileStream body, Place& place, ObjectChunks& chunks) {
-  switch (id) {
-    case kTagTexts: return chunks.takeTagTexts(std::move(body));
-    case kLayer: place = {true, Polygons::None}; return chunks.takeLayer(std::move(body));
-    case kPoints: return place.isInLayer && chunks.takePoints(std::move(body));
-    case kPolygons: return place.isInLayer && readPolygons(std::move(body), place, chunks);
-    case kPolygonTags: return place.isInLayer && readPolygonTags(std::move(body), place, chunks);
-    default: return true;
-  }
-}
-
-bool CLWOFileStream::readPolygons(CFileStream body, Place& place, ObjectChunks& chunks) {
-  std::uint32_t type = 0;
-  if (!body.readU4(type)) return false;
-  switch (type) {
-    case kFaces: place.polygons = Polygons::Faces; return chunks.takeFaces(std::move(body));
-    case kSkelegons: place.polygons = Polygons::Skelegons; return chunks.takeSkelegons(std::move(body));
-    default: place.polygons = Polygons::Others; return true;
-  }
-}
-
-bool CLWOFileStream::readPolygonTags(CFileStream body, const Place& place, ObjectChunks& chunks) {
-  // Only the tags of skelegons are of use; those of other polygons are passed over unread.
-  if (place.polygons != Polygons::Skelegons) return true;
-  std::uint32_t type = 0;
-  return body.readU4(type) && chunks.takeSkelegonTags(type, std::move(body));
 }
 
 }  // namespace lwp::st

@@ -1,113 +1,103 @@
-// What the conversion needs of an object file: its layers, the skelegons with their tags, and the list of tag texts.
+// What is kept of an object file: its layers, the skelegons with their tags, and the list of tag texts.
 // The object reader fills it; the conversion tool reads it.
+//
+// It takes at most twice the size of the file, whatever is in that: a polygon without points costs two bytes there, and four
+// here. So everything lies in a few lists for the whole object, and polygons are put together when they are asked for.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "reader/object_store.h"
+#include "reader/CFileStream.h"
 
 namespace lwp::st {
 
-// A list whose elements are made when they are asked for: get(at) gives element 'at'. Refers to what 'get' refers to.
-template <class Get>
-class ListView {
- public:
-  class Iterator {
-   public:
-    Iterator(const ListView* list, std::size_t at) : list_(list), at_(at) {}
-    auto operator*() const { return (*list_)[at_]; }
-    Iterator& operator++() {
-      ++at_;
-      return *this;
-    }
-    bool operator==(const Iterator& other) const { return at_ == other.at_; }
+// One tag of a skelegon: its four-character type, and which text of the object's tag list it has. The file may name a text
+// that the list does not have.
+struct PolygonTag {
+  std::uint32_t type;
+  std::uint16_t index;
+};
 
-   private:
-    const ListView* list_;
-    std::size_t at_;
-  };
+// The numbers of a skelegon's points, head first, and its tags in the order of the file.
+struct SkelegonRecord {
+  std::vector<std::uint32_t> points;
+  std::span<const PolygonTag> tags;
+};
 
-  ListView(std::size_t size, Get get) : size_(size), get_(get) {}
+// A layer's own values, and where its part of the lists ends, which is where the next layer's begins.
+struct LayerRecord {
+  Vec12 pivot{};
+  std::uint16_t number = 0, flags = 0, parent = 0;
+  std::uint32_t faceCount = 0;
+  std::uint32_t nameEnd = 0, pointEnd = 0, faceEnd = 0, skelegonEnd = 0, skelegonPointEnd = 0;
+};
 
-  std::size_t size() const { return size_; }
-  bool empty() const { return size_ == 0; }
-  auto operator[](std::size_t at) const { return get_(at); }
-  Iterator begin() const { return {this, 0}; }
-  Iterator end() const { return {this, size_}; }
+struct ObjectStore {
+  // The last point number of a polygon bears this mark; none is so high as to bear it by itself.
+  static constexpr std::uint32_t kMark = 0x80000000U;
+  // Stands for the numbers of a face that has none.
+  static constexpr std::uint32_t kFaceWithoutCorners = 0xFFFFFFFFU;
 
- private:
-  std::size_t size_;
-  Get get_;
+  // Each with a zero behind it. Only every second has its start noted: more would be too much beside texts of one letter.
+  std::string texts;
+  std::vector<std::uint32_t> textStarts;
+  std::size_t textCount = 0;
+  // Behind one that is no layer, whose part of every list is empty.
+  std::vector<LayerRecord> layers;
+  std::string layerNames;
+  std::unique_ptr<Vec12[]> points;
+  std::unique_ptr<std::uint32_t[]> faces, skelegonPoints;
+  std::unique_ptr<PolygonTag[]> tags;
+  // Where the tags of skelegon i end there is tagEnds[i + 1], with the mark when it has points. The first one is 0.
+  std::vector<std::uint32_t> tagEnds;
 };
 
 // A layer of an ObjectFileData: to be used while that stands where it is and keeps its contents.
 class ObjectLayer {
  public:
-  ObjectLayer(const ObjectStore& store, std::size_t layer) : store_(&store), record_(&store.layers[layer]) {}
+  ObjectLayer(const ObjectStore& store, std::size_t at)
+      : store_(&store), before_(&store.layers[at]), record_(&store.layers[at + 1]) {}
 
   std::uint16_t number() const { return record_->number; }
   std::uint16_t flags() const { return record_->flags; }
   Vec12 pivot() const { return record_->pivot; }
   // Never empty: a layer without a name is called Layer1 when its number is 0, and so on.
-  std::string_view name() const {
-    return std::string_view(store_->layerNames).substr(record_->nameStart, record_->nameLength);
-  }
+  std::string name() const;
   // The number of the parent layer; 0 also when the file says nothing of one.
   std::uint16_t parent() const { return record_->parent; }
-
-  std::span<const Vec12> points() const {
-    return {store_->points.data() + record_->firstPoint, store_->points.data() + next().firstPoint};
-  }
-
+  std::span<const Vec12> points() const;
   // FACE polygons: the numbers of their points. A file may name points that the layer does not have, or has in no chunk that is
   // read: who looks a number up in points() compares it with points().size() first.
-  std::size_t faceCount() const { return next().firstFace - record_->firstFace; }
-  std::span<const std::uint32_t> face(std::size_t at) const { return store_->faces[record_->firstFace + at]; }
-  auto faces() const {
-    return ListView(faceCount(), [layer = *this](std::size_t at) { return layer.face(at); });
-  }
-
+  std::size_t faceCount() const { return record_->faceCount; }
+  std::vector<std::vector<std::uint32_t>> faces() const;
   // BONE polygons. Of their point numbers the same holds; their tags may name texts that the tag list lacks.
-  std::size_t skelegonCount() const { return next().firstSkelegon - record_->firstSkelegon; }
-  SkelegonRecord skelegon(std::size_t at) const { return store_->skelegons[record_->firstSkelegon + at]; }
-  auto skelegons() const {
-    return ListView(skelegonCount(), [layer = *this](std::size_t at) { return layer.skelegon(at); });
-  }
+  std::size_t skelegonCount() const { return record_->skelegonEnd - before_->skelegonEnd; }
+  std::vector<SkelegonRecord> skelegons() const;
 
  private:
-  const LayerRecord& next() const { return *(record_ + 1); }
-
   const ObjectStore* store_;
+  const LayerRecord* before_;
   const LayerRecord* record_;
 };
 
 class ObjectFileData {
  public:
   ObjectFileData() = default;
-  ObjectFileData(std::string path, ObjectStore store);
+  ObjectFileData(std::string path, ObjectStore store) : path_(std::move(path)), store_(std::move(store)) {}
 
   // The path that was read; empty when nothing was read.
   const std::string& path() const { return path_; }
-
   // The tag texts of the file, in its order.
-  auto tags() const {
-    return ListView(store_.tags.size(), [this](std::size_t at) { return store_.tags[at]; });
-  }
-
+  std::size_t tagCount() const { return store_.textCount; }
+  std::string_view tag(std::size_t at) const;
   std::size_t layerCount() const { return store_.layers.empty() ? 0 : store_.layers.size() - 1; }
   ObjectLayer layer(std::size_t at) const { return {store_, at}; }
-  auto layers() const {
-    return ListView(layerCount(), [this](std::size_t at) { return layer(at); });
-  }
-
-  // Gives a layer another name. What was taken of the old names before is then void.
-  void renameLayer(std::size_t at, std::string_view name);
-
-  void clear();
 
  private:
   std::string path_;

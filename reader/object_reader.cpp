@@ -1,36 +1,236 @@
 #include "reader/object_reader.h"
 
+#include <algorithm>
+#include <array>
 #include <new>
 #include <utility>
 
 #include "reader/CLWOFileStream.h"
-#include "reader/object_passes.h"
 
 namespace lwp::st {
 
 namespace {
 
-// The file is gone through chunk by chunk up to three times, each time cheaply: to count what it holds, to count the tags of
-// each skelegon, and to put everything into memory that was taken once. Memory that is touched for the first time costs more
-// than all of this, and lists that grow would touch twice as much of it.
-bool readObject(ObjectStore& store, std::span<const std::byte> chunks) {
-  CountingPass counting;
-  if (!CLWOFileStream(chunks).readChunks(counting)) return false;
+constexpr std::uint32_t kMark = ObjectStore::kMark;
+// The upper six bits beside the number of a polygon's corners are flags.
+constexpr std::size_t kCornerCountMask = 0x03FF;
+constexpr std::size_t kMostCorners = kCornerCountMask;
 
-  store.skelegons = SkelegonStore(counting.counts().skelegons.polygons);
-  TagCountingPass tagCounting(store.skelegons);
-  if (!CLWOFileStream(chunks).readChunks(tagCounting)) return false;
-  store.skelegons.layOut();
-
-  FillingPass filling(store, counting.counts(), tagCounting.listsAscend());
-  if (!CLWOFileStream(chunks).readChunks(filling)) return false;
-  filling.finish();
+// Reads the polygons of a list: calls start(number of corners) for each, puts the numbers of its points where 'room' begins,
+// marks the last, and goes on behind them. That takes no more than a number for each two bytes of the list, and behind these
+// room for a polygon of the most corners, which may show to be too long only then. False when one runs past the end.
+template <class Start>
+bool readPolygons(CFileStream list, std::span<std::uint32_t>& room, Start start) {
+  while (!list.atEnd()) {
+    std::uint16_t count = 0;
+    if (!list.readU2(count)) return false;
+    const std::size_t corners = count & kCornerCountMask;
+    start(corners);
+    if (!list.readVX(room.first(corners))) return false;
+    if (corners > 0) room[corners - 1] |= kMark;
+    room = room.subspan(corners);
+  }
   return true;
 }
 
+// Calls take(skelegon, text) for the pairs of a list of tags, as long as their skelegon is below 'limit'. Returns what is left.
+template <class Take>
+std::span<const std::byte> readTags(std::span<const std::byte> list, std::uint32_t limit, Take take) {
+  while (list.size() >= kBytesOfU2 + kBytesOfU2) {
+    const std::byte* const from = list.data();
+    if (!isLongIndex(list)) {
+      if (loadU2(from) >= limit) break;
+      take(loadU2(from), loadU2(from + kBytesOfU2));
+      list = list.subspan(kBytesOfU2 + kBytesOfU2);
+    } else {
+      if (list.size() < kBytesOfU4 + kBytesOfU2 || loadLongIndex(from) >= limit) break;
+      take(loadLongIndex(from), loadU2(from + kBytesOfU4));
+      list = list.subspan(kBytesOfU4 + kBytesOfU2);
+    }
+  }
+  return list;
+}
+
+// What there is of everything, at most. Memory is taken for that once: what is touched for the first time costs more than all
+// reading, and lists that grow would touch twice as much of it.
+struct Sizes {
+  bool add(const Chunk& chunk) {
+    ++chunks[chunk.kind];
+    bytes[chunk.kind] += chunk.body.size();
+    if (chunk.kind != kSkelegons) return true;
+    std::array<std::uint32_t, kMostCorners> points{};
+    std::span<std::uint32_t> room;
+    return readPolygons(CFileStream(chunk.body), room, [&](std::size_t /*corners*/) {
+      ++skelegons;
+      room = points;
+    });
+  }
+
+  std::array<std::size_t, kOther> chunks{};
+  std::array<std::size_t, kOther> bytes{};
+  std::size_t skelegons = 0;
+};
+
+// Memory that is not cleared, for it is filled with what is read.
+template <class Item>
+std::span<Item> roomFor(std::size_t size, std::unique_ptr<Item[]>& memory) {
+  memory = std::make_unique_for_overwrite<Item[]>(size);
+  return {memory.get(), size};
+}
+
+// Reads all chunks. The tags of skelegons, which stand far apart in the file, in a list for each type, are only counted then, and
+// brought together by a counting sort in the end.
+class CReading {
+ public:
+  CReading(ObjectStore& store, const Sizes& sizes)
+      : store_(store),
+        sizes_(sizes),
+        points_(roomFor(sizes.bytes[kPoints] / kBytesOfVec12, store.points)),
+        faces_(roomFor(sizes.bytes[kFaces] / kBytesOfU2 + kMostCorners, store.faces)),
+        skelegonPoints_(
+            roomFor(sizes.bytes[kSkelegons] / kBytesOfU2 - sizes.skelegons + kMostCorners, store.skelegonPoints)) {
+    store.texts.reserve(sizes.bytes[kTagTexts]);
+    store.textStarts.reserve(sizes.bytes[kTagTexts] / (2 * kBytesOfU2) + 1);  // no text has less than two bytes
+    store.layers.reserve(sizes.chunks[kLayer] + 1);
+    store.layers.emplace_back();
+    const std::size_t besideNames = sizes.chunks[kLayer] * (2 * kBytesOfU2 + kBytesOfVec12);
+    store.layerNames.reserve(sizes.bytes[kLayer] - std::min(sizes.bytes[kLayer], besideNames));
+    store.tagEnds.reserve(sizes.skelegons + 1);
+    store.tagEnds.push_back(0);
+    tagLists_.reserve(sizes.chunks[kSkelegonTags]);
+  }
+
+  bool add(const Chunk& chunk) {
+    switch (chunk.kind) {
+      case kTagTexts: return addTexts(CFileStream(chunk.body));
+      case kLayer: return addLayer(CFileStream(chunk.body));
+      case kPoints: return addPoints(chunk.body);
+      case kFaces: return addFaces(CFileStream(chunk.body));
+      case kSkelegons: return addSkelegons(CFileStream(chunk.body));
+      default: return addTags({chunk.tagType, firstSkelegon_, chunk.body});
+    }
+  }
+
+  // To be called when all chunks were added.
+  void placeTags() {
+    // The number of a skelegon's tags becomes the place of its next one, which in the end is where they end.
+    std::uint32_t tags = 0;
+    for (std::uint32_t& end : store_.tagEnds) tags += std::exchange(end, (end & kMark) | tags) & ~kMark;
+    roomFor(tags, store_.tags);
+    // One list after the other would be a walk through all of the tags for each. Where the lists ascend and have something for
+    // most skelegons, these are done some at a time: as many as fit into the smallest cache with some dozens of tags.
+    const bool isForMost = sizes_.bytes[kSkelegonTags] >= tagLists_.size() * store_.tagEnds.size();
+    const std::size_t step = listsAscend_ && isForMost ? 128 : store_.tagEnds.size();
+    for (std::size_t end = step; end < store_.tagEnds.size() + step; end += step) {
+      for (TagList& list : tagLists_) placeTags(list, end);
+    }
+  }
+
+ private:
+  struct TagList {
+    std::uint32_t type;
+    std::uint32_t firstSkelegon;  // of its layer
+    std::span<const std::byte> pairs;
+  };
+
+  LayerRecord& layer() { return store_.layers.back(); }
+
+  bool addTexts(CFileStream body) {
+    for (std::string_view text; body.readS0(text); ++store_.textCount) {
+      if (store_.textCount % 2 == 0) store_.textStarts.push_back(static_cast<std::uint32_t>(store_.texts.size()));
+      store_.texts.append(text).push_back('\0');
+    }
+    return body.atEnd();
+  }
+
+  bool addLayer(CFileStream body) {
+    LayerRecord next = layer();  // its part of the lists begins where that of the one before ends
+    std::string_view name;
+    next.faceCount = 0;
+    next.parent = 0;
+    if (!body.readU2(next.number) || !body.readU2(next.flags) || !body.readVEC12(next.pivot)) return false;
+    if (!body.readS0(name) || !(body.atEnd() || body.readU2(next.parent)) || !body.atEnd()) return false;
+    store_.layerNames += name;
+    next.nameEnd += static_cast<std::uint32_t>(name.size());
+    firstSkelegon_ = next.skelegonEnd;
+    store_.layers.push_back(next);
+    return true;
+  }
+
+  bool addPoints(std::span<const std::byte> body) {
+    const std::size_t count = body.size() / kBytesOfVec12;
+    for (std::size_t i = 0; i < count; ++i) points_[i] = loadVec12(body.data() + i * kBytesOfVec12);
+    points_ = points_.subspan(count);
+    layer().pointEnd += static_cast<std::uint32_t>(count);
+    return body.size() % kBytesOfVec12 == 0;
+  }
+
+  bool addFaces(CFileStream body) {
+    std::span<std::uint32_t> room = faces_;  // of its own, for a compiler to keep in registers
+    std::uint32_t count = 0;
+    const bool isSound = readPolygons(std::move(body), room, [&](std::size_t corners) {
+      ++count;
+      if (corners > 0) return;
+      room[0] = ObjectStore::kFaceWithoutCorners;
+      room = room.subspan(1);
+    });
+    layer().faceCount += count;
+    layer().faceEnd += static_cast<std::uint32_t>(faces_.size() - room.size());
+    faces_ = room;
+    return isSound;
+  }
+
+  bool addSkelegons(CFileStream body) {
+    return readPolygons(std::move(body), skelegonPoints_, [&](std::size_t points) {
+      store_.tagEnds.push_back(points > 0 ? kMark : 0);
+      ++layer().skelegonEnd;
+      layer().skelegonPointEnd += static_cast<std::uint32_t>(points);
+    });
+  }
+
+  bool addTags(const TagList& list) {
+    tagLists_.push_back(list);
+    const std::span<std::uint32_t> counts = std::span(store_.tagEnds).subspan(firstSkelegon_ + 1);
+    std::uint32_t last = 0;
+    bool ascends = true;
+    const auto count = [&](std::uint32_t skelegon, std::uint16_t /*text*/) {
+      ++counts[skelegon];
+      ascends &= skelegon >= last;
+      last = skelegon;
+    };
+    const bool isSound = readTags(list.pairs, static_cast<std::uint32_t>(counts.size()), count).empty();
+    listsAscend_ &= ascends;
+    return isSound;
+  }
+
+  // Those of the skelegons in front of 'end'.
+  void placeTags(TagList& list, std::size_t end) {
+    if (end <= list.firstSkelegon) return;
+    const std::span ends = std::span(store_.tagEnds).subspan(list.firstSkelegon + 1);
+    const auto place = [ends, tags = store_.tags.get(), type = list.type](std::uint32_t skelegon, std::uint16_t text) {
+      tags[ends[skelegon]++ & ~kMark] = {type, text};
+    };
+    list.pairs = readTags(list.pairs, static_cast<std::uint32_t>(end - list.firstSkelegon), place);
+  }
+
+  ObjectStore& store_;
+  const Sizes& sizes_;
+  std::span<Vec12> points_;
+  std::span<std::uint32_t> faces_;
+  std::span<std::uint32_t> skelegonPoints_;
+  std::uint32_t firstSkelegon_ = 0;  // of the layer
+  std::vector<TagList> tagLists_;
+  bool listsAscend_ = true;  // none names a lower skelegon behind a higher one
+};
+
 bool readForm(ObjectFileData& data, CLWOFileStream& file, std::string path) {
+  if (!file.enterForm()) return false;
+  Sizes sizes;
+  if (!CLWOFileStream(file.rest()).readChunks([&](const Chunk& chunk) { return sizes.add(chunk); })) return false;
   ObjectStore store;
-  if (!file.enterForm() || !readObject(store, file.rest())) return false;
+  CReading reading(store, sizes);
+  if (!file.readChunks([&](const Chunk& chunk) { return reading.add(chunk); })) return false;
+  reading.placeTags();
   data = ObjectFileData(std::move(path), std::move(store));
   return true;
 }
@@ -48,7 +248,7 @@ bool falseWhenOutOfMemory(Read read) {
 }  // namespace
 
 bool ReadObjectFile(ObjectFileData& data, std::string narrowPath) {
-  data.clear();
+  data = {};
   return falseWhenOutOfMemory([&] {
     CLWOFileStream file;
     return file.load(narrowPath) && readForm(data, file, std::move(narrowPath));
@@ -56,7 +256,7 @@ bool ReadObjectFile(ObjectFileData& data, std::string narrowPath) {
 }
 
 bool ParseObjectFile(ObjectFileData& data, std::span<const std::byte> file, std::string path) {
-  data.clear();
+  data = {};
   return falseWhenOutOfMemory([&] {
     CLWOFileStream stream(file);
     return readForm(data, stream, std::move(path));

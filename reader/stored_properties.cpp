@@ -5,12 +5,11 @@
 namespace lwp {
 
 skg::SkelegonProperties storedProperties(const st::ObjectFileData& data, const st::SkelegonRecord& skelegon) {
-  const auto texts = data.tags();
   std::vector<skg::StoredTag> tags;
   tags.reserve(skelegon.tags.size());
   for (const st::PolygonTag& tag : skelegon.tags) {
-    const bool isThere = tag.index < texts.size();
-    tags.push_back({tag.type, isThere ? std::optional<std::string_view>(texts[tag.index]) : std::nullopt});
+    const bool isThere = tag.index < data.tagCount();
+    tags.push_back({tag.type, isThere ? std::optional<std::string_view>(data.tag(tag.index)) : std::nullopt});
   }
   return skg::propertiesFromFile(tags);
 }

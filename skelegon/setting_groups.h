@@ -25,7 +25,7 @@ inline constexpr std::array<LinkedItem, 7> kLinkedItems = {{
     {Slot::PositionItem, Slot::PositionParent, Slot::PositionShape, Slot::PositionVisibility, Slot::PositionColour, "_pos"},
     {Slot::RotationItem, Slot::RotationParent, Slot::RotationShape, Slot::RotationVisibility, Slot::RotationColour, "_rot"},
     {Slot::ScaleItem,    Slot::ScaleParent,    Slot::ScaleShape,    Slot::ScaleVisibility,    Slot::ScaleColour,    "_scl"},
-    // The initial position item shares the position item's parent, deliberately: it has no setting of its own for one.
+    // The initial position item shares the position item's parent: it has no setting of its own for one.
     {Slot::InitialPositionItem, Slot::PositionParent, Slot::InitialPositionShape, Slot::InitialPositionVisibility,
      Slot::InitialPositionColour, "_initpos"},
     // clang-format on

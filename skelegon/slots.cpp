@@ -37,7 +37,7 @@ SkelegonProperties propertiesFromFile(std::span<const StoredTag> tags) {
   for (const SlotRow& row : kSlotTable) {
     std::optional<std::string_view> text = usableText(tags, SlotTagId(row.slot));
     if (!text && row.slot == Slot::Colour) {
-      // The colour never takes its default: without any stored colour it stays empty. Deliberate.
+      // The colour never takes its default: without any stored colour it stays empty, which reads as the orange entry.
       text = usableText(tags, kColourCopyTag).value_or(std::string_view());
     }
     properties[row.slot] = text.value_or(row.defaultText);

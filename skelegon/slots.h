@@ -133,7 +133,7 @@ inline constexpr std::array<std::string_view, 16> BoneColourNames = {
     "Black", "DkBlu", "DkGrn", "DkCyn", "DkRed", "Purple", "Brown", "Gray",
     "Blue",  "Green", "Cyan",  "Red",   "Magen", "Orang",  "White", "Modeler",
 };
-inline constexpr int kUnknownColourIndex = 13;  // deliberate: an unknown word reads as the orange entry
+inline constexpr int kUnknownColourIndex = 13;  // an unknown word reads as the orange entry, in stored rigs, too
 inline constexpr int kModelerColourIndex = 15;  // "as Modeler has it": nothing is to be set
 
 // The index of a colour word by exact comparison; kUnknownColourIndex for any other text, the empty one included.

@@ -10,7 +10,7 @@ constexpr const char* kLeftArrow =
     "(i:MIMG_LEFTARROW)";
 
 // clang-format off
-// "IK/FKブレンディグ" is spelled so, deliberately.
+// "IK/FKブレンディグ" is spelled so on purpose: the panel has always said so.
 constexpr LabelRow kLabels[] = {
     {  2, "Reset",                             "Reset"},
     {  3, "ResetAll",                          "ResetAll"},

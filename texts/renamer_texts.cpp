@@ -69,7 +69,7 @@ constexpr std::array<RenamerListRow, kRenamerListCount> kChoices = {{
 static_assert(listsAreSound(kChoices));
 // clang-format on
 
-// The title is English in both languages, deliberately.
+// The titles are English in both languages; the host shows none of them.
 constexpr RenamerMessages kEnglishMessages = {
     "Error", "Need select the skelegon!", "", "Error", "Skelegon names are duplicated!", "",
 };

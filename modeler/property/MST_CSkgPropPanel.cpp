@@ -19,12 +19,12 @@ using skg::Slot;
 constexpr const char* kResetQuestion = "Reset selected skelegon's tag ?";
 constexpr const char* kResetAllQuestion = "Reset all skelegon's tag ?";
 
-bool objectIsLoaded() { return lw::stateQuery().object() != nullptr; }
-
 // Without an object there is nothing to scan, and the host begins no edit.
-std::vector<skg::SkelegonInfo> scan() { return objectIsLoaded() ? ScanPanelSkelegons() : std::vector<skg::SkelegonInfo>(); }
+std::vector<skg::SkelegonInfo> scan() {
+  return lw::objectIsLoaded() ? ScanPanelSkelegons() : std::vector<skg::SkelegonInfo>();
+}
 
-bool isInObject(lw::PolygonId polygon) { return objectIsLoaded() && lw::IsLivingSkelegon(polygon); }
+bool isInObject(lw::PolygonId polygon) { return lw::objectIsLoaded() && lw::IsLivingSkelegon(polygon); }
 
 // The list of a custom popup; the name popup's for all others.
 ChooserList listOf(std::size_t number) {
@@ -39,13 +39,12 @@ ChooserList listOf(std::size_t number) {
 
 CSkgPropPanel::CSkgPropPanel()
     : title_(lw::FormatString("%s(%d.%02d)%s", kPropertyName, VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR, " ")) {
-  for (std::size_t number = 0; number < kControlCount; ++number) links_[number] = {this, number};
   enterPanel(this, &OnNews);
 }
 
 CSkgPropPanel::~CSkgPropPanel() {
   removePanel(this);
-  if (form_) form_->release();
+  if (shown_) form().release();
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -58,9 +57,9 @@ bool CSkgPropPanel::OpenPropertyPanel() {
     replace();
   }
   if (life_.isOpen()) {
-    form_->bringToFront();
+    form().bringToFront();
   } else {
-    life_.open([&] { return form_->open(); });
+    life_.open([&] { return form().open(); });
   }
   if (life_.mayBeOpen()) settle();
   return life_.isOpen();
@@ -68,57 +67,50 @@ bool CSkgPropPanel::OpenPropertyPanel() {
 
 // Once the panel is on the screen. What was hidden before need not stay so, and the host may have chosen a size of its own.
 void CSkgPropPanel::settle() {
-  form_->show(page_, group_, selected().size() == 1);
-  form_->setSize(kPropertyWidth, kPropertyHeight);
+  form().show(page_, group_, selected().size() == 1);
+  form().setSize(kPropertyWidth, kPropertyHeight);
   widthToggle_ = 1;
-}
-
-FormHooks CSkgPropPanel::hooks() {
-  FormHooks hooks{&OnUsed, {&OnCount, &OnName}, &OnOpened, &OnClosed, this, {}};
-  for (std::size_t number = 0; number < kControlCount; ++number) hooks.controlUsers[number] = &links_[number];
-  return hooks;
 }
 
 // The host destroys no open panel.
 void CSkgPropPanel::takeDown() {
   if (life_.mayBeOpen()) {
-    form_->close();
+    form().close();
     closed();
   }
-  form_.reset();
+  shown_.reset();
 }
 
 // A new panel in place of the last run's. All that the host may refuse comes first: a run that fails costs no open panel.
 void CSkgPropPanel::replace() {
-  // Either panel may hold on to texts that it was given: each has its own.
-  CChooserLists former = std::exchange(choosers_, {});
-  std::optional<CPropertyForm> made;
-  Seen seen;
-  try {
-    made.emplace(build());
-    seen = look();
-  } catch (...) {
-    choosers_ = std::move(former);
-    throw;
-  }
+  std::unique_ptr<Shown> made = build();
+  Seen seen = look();
+  const bool wasOpen = life_.mayBeOpen();
   takeDown();
-  form_.emplace(std::move(*made));
+  if (wasOpen) seen = lw::guarded([] { return look(); }, seen);  // closing a panel may have written what was being typed
+  shown_ = std::move(made);
   widthToggle_ = 0;
   take(std::move(seen));
 }
 
-CPropertyForm CSkgPropPanel::build() {
-  CPropertyForm form(title_.c_str(), lw::propertyTexts(), hooks());
-  form.setChoice(control::kPages, page_);
-  form.setChoice(control::kGroups, group_);
-  return form;
+std::unique_ptr<CSkgPropPanel::Shown> CSkgPropPanel::build() {
+  auto made = std::make_unique<Shown>();
+  FormHooks hooks{&OnUsed, {&OnCount, &OnName}, &OnOpened, &OnClosed, this, {}};
+  for (std::size_t number = 0; number < kControlCount; ++number) {
+    made->links[number] = {this, &made->choosers, number};
+    hooks.controlUsers[number] = &made->links[number];
+  }
+  made->form.emplace(title_.c_str(), lw::propertyTexts(), hooks);
+  made->form->setChoice(control::kPages, page_);
+  made->form->setChoice(control::kGroups, group_);
+  return made;
 }
 
 void CSkgPropPanel::closed() {
   life_.closed();
   skelegons_.clear();
   layerNames_.clear();
-  choosers_.clearLists();
+  choosers().clearLists();
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -135,7 +127,7 @@ CSkgPropPanel::Seen CSkgPropPanel::look() {
 }
 
 void CSkgPropPanel::take(Seen seen) {
-  choosers_.set(ChooserList::WeightMaps, weightMapChoices(seen.weightMaps));
+  choosers().set(ChooserList::WeightMaps, weightMapChoices(seen.weightMaps));
   skelegons_ = std::move(seen.skelegons);
   layerNames_ = std::move(seen.layerNames);
   refreshLists();
@@ -158,13 +150,13 @@ void CSkgPropPanel::refreshLists() {
     all.push_back(skelegon.name);
     if (skelegon.isSelected) selected.push_back(skelegon.name);
   }
-  choosers_.set(ChooserList::Items, itemChoices(layerNames_, all));
-  choosers_.set(ChooserList::SelectedNames, selected);
+  choosers().set(ChooserList::Items, itemChoices(layerNames_, all));
+  choosers().set(ChooserList::SelectedNames, selected);
 }
 
 void CSkgPropPanel::load(const skg::SkelegonProperties& properties) {
-  form_->showValues(properties);
-  form_->setChoice(control::kNamePopup, 0);
+  form().showValues(properties);
+  form().setChoice(control::kNamePopup, 0);
   for (const ControlRow& row : controlTable()) {
     if (row.role == Role::WeightMaps || row.role == Role::ItemNames) rest(row.number);
   }
@@ -173,8 +165,8 @@ void CSkgPropPanel::load(const skg::SkelegonProperties& properties) {
 
 // The width goes back and forth by one at each switch: that makes the host lay the panel out again.
 void CSkgPropPanel::showPage() {
-  form_->show(page_, group_, selected().size() == 1);
-  form_->setSize(kPropertyWidth + widthToggle_, kPropertyHeight);
+  form().show(page_, group_, selected().size() == 1);
+  form().setSize(kPropertyWidth + widthToggle_, kPropertyHeight);
   widthToggle_ = 1 - widthToggle_;
 }
 
@@ -192,10 +184,10 @@ void CSkgPropPanel::use(std::size_t number) {
   const ControlRow& row = controlTable()[number];
   switch (row.role) {
     case Role::Decoration: break;
-    case Role::PageTabs: choosePage(form_->choice(number)); break;
-    case Role::GroupTabs: chooseGroup(form_->choice(number)); break;
+    case Role::PageTabs: choosePage(form().choice(number)); break;
+    case Role::GroupTabs: chooseGroup(form().choice(number)); break;
     case Role::NameEdit: writeName(); break;
-    case Role::NamePopup: showSelected(form_->choice(number)); break;
+    case Role::NamePopup: showSelected(form().choice(number)); break;
     case Role::Value: writeValue(number); break;
     case Role::WeightMaps: chooseWeightMap(number); break;
     case Role::WeightFill: fillWeightMaps(); break;
@@ -223,7 +215,7 @@ void CSkgPropPanel::chooseGroup(int group) {
 }
 
 void CSkgPropPanel::writeName() {
-  const std::string name = form_->storedText(control::kNameEdit);
+  const std::string name = form().storedText(control::kNameEdit);
   applyWrites(writesForName(skelegons_, name));
   for (skg::SkelegonInfo& skelegon : skelegons_) {
     if (skelegon.isSelected) skelegon.name = name;
@@ -238,26 +230,26 @@ void CSkgPropPanel::showSelected(int index) {
   if (index < 0 || std::cmp_greater_equal(index, polygons.size())) return;
   const lw::PolygonId polygon = polygons[static_cast<std::size_t>(index)];
   if (!isInObject(polygon)) return reload();
-  form_->showValues(ReadSkelegonProperties(polygon));
-  form_->show(page_, group_, selected().size() == 1);
+  form().showValues(ReadSkelegonProperties(polygon));
+  form().show(page_, group_, selected().size() == 1);
 }
 
 void CSkgPropPanel::writeValue(std::size_t number) {
   const Slot slot = ControlSlotMap(number).slot.value();
   if (slot == Slot::Colour) {
-    applyWrites(writesForColour(skelegons_, form_->choice(number)));
+    applyWrites(writesForColour(skelegons_, form().choice(number)));
   } else {
-    WriteSlotValue(skelegons_, slot, form_->storedText(number));
+    WriteSlotValue(skelegons_, slot, form().storedText(number));
   }
   tell();
 }
 
 // The text of a chooser's choice.
 std::string CSkgPropPanel::takeChoice(std::size_t number) {
-  const int index = form_->choice(number);
+  const int index = form().choice(number);
   rest(number);
-  form_->refresh(number);
-  return choosers_.chosen(listOf(number), index);
+  form().refresh(number);
+  return choosers().chosen(listOf(number), index);
 }
 
 // Leaves a chooser on none of its entries: it is a menu, and hosts may fire only when the choice changes, so that an entry it
@@ -266,20 +258,20 @@ std::string CSkgPropPanel::takeChoice(std::size_t number) {
 // do, and the module goes by the choices that it is told of, never by where a chooser rests.
 void CSkgPropPanel::rest(std::size_t number) {
   const ChooserList list = listOf(number);
-  for (const int outside : {-1, choosers_.count(list)}) {
-    form_->setChoice(number, outside);
-    if (!choosers_.has(list, form_->choice(number))) return;
+  for (const int outside : {-1, choosers().count(list)}) {
+    form().setChoice(number, outside);
+    if (!choosers().has(list, form().choice(number))) return;
   }
-  choosers_.endWithBlank(list);
-  form_->setChoice(number, choosers_.count(list) - 1);
+  choosers().endWithBlank(list);
+  form().setChoice(number, choosers().count(list) - 1);
 }
 
 // A map makes the bone active, none makes it inactive. Two settings, but one act of the user's and so one step to undo.
 void CSkgPropPanel::chooseWeightMap(std::size_t number) {
   const std::string map = takeChoice(number);
   const char* const active = map.empty() ? "0" : "1";
-  form_->showText(Slot::BoneActive, active);
-  form_->showText(Slot::WeightMap, map);
+  form().showText(Slot::BoneActive, active);
+  form().showText(Slot::WeightMap, map);
   TagWrites writes = writesForValue(skelegons_, Slot::BoneActive, active);
   writes.append(writesForValue(skelegons_, Slot::WeightMap, map));
   applyWrites(writes);
@@ -289,7 +281,7 @@ void CSkgPropPanel::chooseWeightMap(std::size_t number) {
 void CSkgPropPanel::chooseItem(std::size_t number) {
   const Slot slot = ControlSlotMap(number - 1).slot.value();
   const std::string item = takeChoice(number);
-  form_->showText(slot, item);
+  form().showText(slot, item);
   WriteSlotValue(skelegons_, slot, item);
   tell();
 }
@@ -315,7 +307,7 @@ void CSkgPropPanel::preset(Controller controller) {
 void CSkgPropPanel::reset(const char* question, bool all) {
   const lw::PolygonIds those = selected();  // closing the panel, while the question is open, empties the list
   if (!lw::AskYesNo(kPropertyName, question)) return;
-  const lw::PolygonIds everyone = all && objectIsLoaded() ? lw::CollectSkelegons() : lw::PolygonIds();
+  const lw::PolygonIds everyone = all && lw::objectIsLoaded() ? lw::CollectSkelegons() : lw::PolygonIds();
   applyWrites(writesForReset(all ? everyone : those));
   if (life_.mayBeOpen()) {
     reload();
@@ -330,7 +322,7 @@ void CSkgPropPanel::reset(const char* question, bool all) {
 void CSkgPropPanel::OnUsed(lw::LWControl* control, void* user) {
   lw::onTool<ControlLink>(user, [&](const ControlLink& link) {
     if (!link.panel->life_.mayBeOpen()) return;
-    const CPropertyForm& form = *link.panel->form_;
+    const CPropertyForm& form = link.panel->form();
     if (!form.owns(link.number, control) || form.isSetting()) return;
     const lw::CRaisedFlag busy(link.panel->isBusy_);
     link.panel->use(link.number);
@@ -341,7 +333,7 @@ int CSkgPropPanel::OnCount(void* user) {
   return lw::guarded(
       [&] {
         const auto* const link = static_cast<const ControlLink*>(user);
-        return link == nullptr ? 0 : link->panel->choosers_.count(listOf(link->number));
+        return link == nullptr ? 0 : link->choosers->count(listOf(link->number));
       },
       0);
 }
@@ -350,7 +342,7 @@ const char* CSkgPropPanel::OnName(void* user, int index) {
   return lw::guarded(
       [&] {
         const auto* const link = static_cast<const ControlLink*>(user);
-        return link == nullptr ? "" : link->panel->choosers_.name(listOf(link->number), index);
+        return link == nullptr ? "" : link->choosers->name(listOf(link->number), index);
       },
       "");
 }

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -35,7 +36,14 @@ class CSkgPropPanel {
   // What a control's user pointer points at.
   struct ControlLink {
     CSkgPropPanel* panel = nullptr;
+    const CChooserLists* choosers = nullptr;
     std::size_t number = 0;
+  };
+  // A host panel with all that the host may keep pointers to: one that takes another's place has its own.
+  struct Shown {
+    CChooserLists choosers;
+    std::array<ControlLink, kControlCount> links;
+    std::optional<CPropertyForm> form;
   };
 
   // The host's and the other panels' way in.
@@ -46,13 +54,14 @@ class CSkgPropPanel {
   static void OnClosed(lw::PanelId panel, void* user);
   static void OnNews(void* panel, PanelNews news);
 
-  FormHooks hooks();
   void replace();
-  CPropertyForm build();
+  std::unique_ptr<Shown> build();
+  CPropertyForm& form() const { return *shown_->form; }
+  CChooserLists& choosers() const { return shown_->choosers; }
   void takeDown();
   void settle();
   void closed();
-  bool isPanel(lw::PanelId panel) const { return form_ && form_->is(panel); }
+  bool isPanel(lw::PanelId panel) const { return shown_ && form().is(panel); }
 
   // What the panel knows of the mesh, and shows of it.
   struct Seen {
@@ -90,8 +99,7 @@ class CSkgPropPanel {
   void reset(const char* question, bool all);
 
   const std::string title_;
-  std::optional<CPropertyForm> form_;  // the panel of the last run, open or not
-  std::array<ControlLink, kControlCount> links_;
+  std::unique_ptr<Shown> shown_;  // of the last run, open or not
   lw::CPanelLife life_;
   bool isBusy_ = false;  // a control's event is under way
 
@@ -101,7 +109,6 @@ class CSkgPropPanel {
 
   std::vector<skg::SkelegonInfo> skelegons_;
   std::vector<std::string> layerNames_;
-  CChooserLists choosers_;
 };
 
 }  // namespace mst

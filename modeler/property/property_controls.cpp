@@ -55,7 +55,7 @@ constexpr int edgeBefore(std::initializer_list<int> widths) {
 // ---------------------------------------------------------------------------------------------------------------------
 // Building the table: rows are added in the order of their numbers.
 
-class TableBuilder {
+class CTableBuilder {
  public:
   constexpr const std::array<ControlRow, kControlCount>& rows() const { return rows_; }
   constexpr std::size_t count() const { return count_; }
@@ -101,6 +101,7 @@ class TableBuilder {
     add({0, section_, kind, Role::Value, slot, skg::rowOf(slot).choices, place, range});
   }
   constexpr void add(ControlRow row) {
+    if (count_ == kControlCount) throw "more controls than there are numbers";
     row.number = count_;
     rows_[count_] = row;
     ++count_;
@@ -115,7 +116,7 @@ class TableBuilder {
 // The patterns
 
 // The first three of a linked item, to the form's edge.
-constexpr void linkedName(TableBuilder& table, const LinkedItem& item, int row, int left, int edge) {
+constexpr void linkedName(CTableBuilder& table, const LinkedItem& item, int row, int left, int edge) {
   const int shape = edge - kShapeWidth;
   const int fill = shape - kGap - kFillWidth;
   table.value(item.name, from(row, left, fill - kGap));
@@ -124,7 +125,7 @@ constexpr void linkedName(TableBuilder& table, const LinkedItem& item, int row, 
 }
 
 // A linked item without a parent: name, fill button and shape; visibility and colour below.
-constexpr void linkedItem(TableBuilder& table, Slot name, int row, int left) {
+constexpr void linkedItem(CTableBuilder& table, Slot name, int row, int left) {
   const LinkedItem& item = *skg::linkedItemOf(name);
   linkedName(table, item, row, left, kEdge);
   table.value(item.visibility, at(row + 1, left, kOffOnWidth));
@@ -132,7 +133,7 @@ constexpr void linkedItem(TableBuilder& table, Slot name, int row, int left) {
 }
 
 // A linked item with a parent: name, fill button, shape and visibility; the parent, its chooser and the colour below.
-constexpr void linkedItemWithParent(TableBuilder& table, Slot name, int row) {
+constexpr void linkedItemWithParent(CTableBuilder& table, Slot name, int row) {
   constexpr int kVisibilityLabel = 68;
   constexpr int kColourLabel = 40;
   constexpr int kVisibility = kEdge - kOffOnWidth;
@@ -147,13 +148,13 @@ constexpr void linkedItemWithParent(TableBuilder& table, Slot name, int row) {
 }
 
 // A flag with its amount on one row.
-constexpr void flagAndAmount(TableBuilder& table, Slot flag, Slot amount, int row) {
+constexpr void flagAndAmount(CTableBuilder& table, Slot flag, Slot amount, int row) {
   table.flag(flag, row, kWideColumn);
   table.field(amount, row, kMiddleColumn);
 }
 
 // A flag of a range, with the least and the greatest value side by side behind it.
-constexpr void limits(TableBuilder& table, Slot flag, Slot least, Slot greatest, int row, int column) {
+constexpr void limits(CTableBuilder& table, Slot flag, Slot least, Slot greatest, int row, int column) {
   table.flag(flag, row, column);
   table.field(least, row, kMiddleColumn);
   table.field(greatest, row, kFarColumn);
@@ -161,7 +162,7 @@ constexpr void limits(TableBuilder& table, Slot flag, Slot least, Slot greatest,
 
 inline constexpr int kAxisRows = 4;
 
-constexpr void axis(TableBuilder& table, const skg::AxisSettings& axis, int row) {
+constexpr void axis(CTableBuilder& table, const skg::AxisSettings& axis, int row) {
   table.value(axis.controller, at(row, kCloseColumn, kChoiceWidth));
   limits(table, axis.limits, axis.least, axis.greatest, row + 1, kCloseColumn);
   table.value(axis.follow, at(row + 2, kCloseColumn, kChannelWidth));
@@ -175,7 +176,7 @@ struct BlendSettings {
   Slot item, method, amount;
 };
 
-constexpr void motionGroup(TableBuilder& table, skg::MotionGroup group, const BlendSettings& blend) {
+constexpr void motionGroup(CTableBuilder& table, skg::MotionGroup group, const BlendSettings& blend) {
   constexpr int kBlendRow = 2;
   constexpr int kFirstAxisRow = 3;
   if (blend.world) table.flag(*blend.world, kBlendRow, kCloseColumn);
@@ -193,7 +194,7 @@ constexpr void motionGroup(TableBuilder& table, skg::MotionGroup group, const Bl
 // ---------------------------------------------------------------------------------------------------------------------
 // The pages, control by control
 
-constexpr void addFrame(TableBuilder& table) {
+constexpr void addFrame(CTableBuilder& table) {
   table.begin(Section::Head);
   table.plain(HostControl::Border, Role::Decoration, from(2, kMargin, kEdge));  // a line below the head
   table.begin(Section::Frame);
@@ -212,7 +213,7 @@ constexpr void addFrame(TableBuilder& table) {
   table.plain(HostControl::CustomPopup, Role::NamePopup, from(1, kWideColumn, kEdge));
 }
 
-constexpr void addGroupPage(TableBuilder& table) {
+constexpr void addGroupPage(CTableBuilder& table) {
   table.begin(Section::GroupPage);
   table.value(Slot::UseBonesFromObject, from(0, kWideColumn, kEdge));
   table.value(Slot::FalloffType, at(1, kWideColumn, kChoiceWidth));
@@ -220,7 +221,7 @@ constexpr void addGroupPage(TableBuilder& table) {
   table.slider(Slot::LimitBoneNum, kBoneCounts, 3, kWideColumn);
 }
 
-constexpr void addBonePage(TableBuilder& table) {
+constexpr void addBonePage(CTableBuilder& table) {
   table.begin(Section::BonePage);
   constexpr int kMapEnd = edgeBefore({kFillWidth, kChooserWidth});
   constexpr int kMapFill = edgeBefore({kChooserWidth}) - kFillWidth;
@@ -247,7 +248,7 @@ constexpr void addBonePage(TableBuilder& table) {
   linkedItem(table, Slot::InitialPositionItem, 16, kWideColumn);
 }
 
-constexpr void addIKPage(TableBuilder& table) {
+constexpr void addIKPage(CTableBuilder& table) {
   table.begin(Section::IKPage);
   constexpr int kParentEnd = edgeBefore({kChooserWidth});
   table.value(Slot::ParentItem, from(0, kCloseColumn, kParentEnd));
@@ -272,7 +273,7 @@ constexpr void addIKPage(TableBuilder& table) {
   table.flag(Slot::FullTimeIK, 18, kCloseColumn);
 }
 
-constexpr void addControllersPage(TableBuilder& table) {
+constexpr void addControllersPage(CTableBuilder& table) {
   table.begin(Section::ControllersPage);
   table.field(Slot::PathLookAhead, 0, kWideColumn);
   table.field(Slot::PathMaxSteps, 0, kFarColumn);
@@ -283,8 +284,8 @@ constexpr void addControllersPage(TableBuilder& table) {
   table.plain(HostControl::Button, Role::SameAsItem, at(3, kWideColumn + 2 * (kPresetWidth + kGap), kPresetWidth));
 }
 
-constexpr TableBuilder build() {
-  TableBuilder table;
+constexpr CTableBuilder build() {
+  CTableBuilder table;
   addFrame(table);
   addGroupPage(table);
   addBonePage(table);
@@ -302,7 +303,7 @@ constexpr TableBuilder build() {
   return table;
 }
 
-constexpr TableBuilder kBuilt = build();
+constexpr CTableBuilder kBuilt = build();
 static_assert(kBuilt.count() == kControlCount);
 
 constexpr const std::array<ControlRow, kControlCount>& kControls = kBuilt.rows();
@@ -310,20 +311,19 @@ constexpr const std::array<ControlRow, kControlCount>& kControls = kBuilt.rows()
 // ---------------------------------------------------------------------------------------------------------------------
 // What must hold of the table
 
-constexpr std::size_t kReservedSlots = 22;
-constexpr std::size_t kValueControls = skg::kSlotCount - kReservedSlots - 1;  // the name has a field of its own rule
-
-constexpr bool everySlotIsShownOnce() {
+// The name has a field of its own rule.
+constexpr bool everySettingIsShownOnce() {
   std::array<int, skg::kSlotCount> shown{};
-  std::size_t values = 0;
   for (const ControlRow& row : kControls) {
-    if (!row.slot) continue;
-    ++values;
-    if (++shown[skg::indexOf(*row.slot)] > 1) return false;
+    if (row.slot) ++shown[skg::indexOf(*row.slot)];
   }
-  return values == kValueControls && shown[skg::indexOf(Slot::Name)] == 0;
+  for (const skg::SlotRow& row : skg::kSlotTable) {
+    const bool isShown = row.kind != skg::SlotKind::Reserved && row.slot != Slot::Name;
+    if (shown[skg::indexOf(row.slot)] != (isShown ? 1 : 0)) return false;
+  }
+  return true;
 }
-static_assert(everySlotIsShownOnce());
+static_assert(everySettingIsShownOnce());
 
 // A chooser or a fill button works on the field before it.
 constexpr bool fillersFollowTheirField() {

@@ -50,7 +50,8 @@ struct RenamerSettings {
 inline constexpr std::int32_t kFewestRowDigits = 1;
 inline constexpr std::int32_t kMostRowDigits = 6;
 
-// The letter of a column. The letters end at "X" and begin again, deliberately, though a start up to "Z" can be chosen.
+// The letter of a column. The letters end at "X" and begin again, though a start up to "Z" can be chosen: names in stored
+// rigs were counted so.
 // Empty where start and column together are negative.
 std::string columnText(std::int32_t start, std::uint32_t column);
 

@@ -33,6 +33,10 @@ class CRenamerForm : public lw::CPanel {
   // CBaseEx when the host refuses something.
   CRenamerForm(const char* title, const lw::RenamerTexts& texts, const RenamerHooks& hooks);
 
+  // The host may keep pointers into it: it stays where it is.
+  CRenamerForm(const CRenamerForm&) = delete;
+  CRenamerForm& operator=(const CRenamerForm&) = delete;
+
   // Resizable, for only then the size can change while it is open.
   int open() const { return CPanel::open(lw::kOpenNoButtons | lw::kOpenResizable); }
 

@@ -15,16 +15,14 @@ namespace {
 
 constexpr lw::ReportSource kSelectorReport = {"MST_CSkgSelPanel", 573};
 
-bool objectIsLoaded() { return lw::stateQuery().object() != nullptr; }
-
 // Without an object there is nothing to scan, and the host begins no edit.
 SkelegonInfos scan() {
-  return objectIsLoaded() ? lw::ScanSkelegons(lw::kLayersForeground, kSelectorReport, kScannedTags) : SkelegonInfos();
+  return lw::objectIsLoaded() ? lw::ScanSkelegons(lw::kLayersForeground, kSelectorReport, kScannedTags) : SkelegonInfos();
 }
 
 // Makes these the selected ones. Gives how many are selected then.
 std::size_t select(const lw::PolygonIds& polygons) {
-  if (!objectIsLoaded()) return 0;
+  if (!lw::objectIsLoaded()) return 0;
   lw::SelectSkelegons(polygons);
   return lw::CollectSelectedSkelegons().size();
 }
@@ -99,6 +97,7 @@ void CSkgSelPanel::refresh() {
 // What the user does
 
 MouseReport CSkgSelPanel::placed(MouseReport report) const {
+  report.isBarDragged = tree_.isBarDragged();
   report.isOnDraggedBar = tree_.isOnDraggedBar(report.x, report.y);
   return report;
 }
@@ -159,7 +158,7 @@ void CSkgSelPanel::OnTreeUsed(lw::LWControl* control, void* user) {
   lw::onTool<CSkgSelPanel>(user, [&](CSkgSelPanel& panel) {
     if (!panel.form_ || !panel.form_->isTree(control)) return;
     if (panel.isAskingToPaint_) {
-      panel.mouse_.painted();
+      panel.mouse_.paintedByEvent();
     } else if (panel.life_.mayBeOpen()) {
       const MouseReport report = panel.placed(panel.form_->mouseOfControl());
       panel.act(panel.mouse_.event(report), report);

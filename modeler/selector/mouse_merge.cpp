@@ -54,7 +54,9 @@ MouseStep CMouseWay::downAgain(const MouseReport& report) const {
   if (repeatsLast(report)) return tellsReleases_ ? MouseStep::Nothing : MouseStep::Guess;
   // However short the step is: a second press beside the first is as usual as a hand that trembles, and only one of the two can
   // be taken back.
-  return tellsReleases_ || !report.isInside || report.isOnDraggedBar ? MouseStep::Move : MouseStep::Guess;
+  const bool isMove = tellsReleases_ || !report.isInside || report.isOnDraggedBar ||
+                      (report.isBarDragged && tremblesFromLast(report));  // a hand may leave the strip bit by bit
+  return isMove ? MouseStep::Move : MouseStep::Guess;
 }
 
 MouseStep CMouseWay::up(const MouseReport& report, bool isTold) {
@@ -114,7 +116,7 @@ MouseStep CMouseMerge::released(const MouseReport& report, bool isTold) {
 MouseStep CMouseMerge::event(const MouseReport& report) {
   const bool mayBePaint = std::exchange(hasJustPainted_, false) || isPaintDue_;
   if (haveHooksPressed_) return eventBesideHooks(report);
-  if (!isDown(report)) return eventWithoutButton(report);
+  if (!isDown(report)) return eventWithoutButton(report, mayBePaint);
   if (!event_.isDown() && isNoPress(report, mayBePaint)) {
     doesEventPaint_ = true;
     isPaintDue_ = false;
@@ -122,7 +124,7 @@ MouseStep CMouseMerge::event(const MouseReport& report) {
     event_.forgetButton();
     return MouseStep::Nothing;
   }
-  if (event_.isDown() && isPaintOf(report)) return paintWithButton(report);
+  if (event_.isDown() && isPaintOf(report, mayBePaint)) return paintWithButton(report);
   const MouseStep step = event_.down(report);
   if (isPress(step)) eventsPress_ = report;
   return step;
@@ -134,8 +136,8 @@ bool CMouseMerge::isNoPress(const MouseReport& report, bool mayBePaint) const {
 }
 
 // With the button down, the paint that was asked for: the hand may have trembled since the press.
-bool CMouseMerge::isPaintOf(const MouseReport& report) const {
-  return doesEventPaint_ && (isPaintDue_ ? event_.tremblesFromLast(report) : event_.repeatsLast(report));
+bool CMouseMerge::isPaintOf(const MouseReport& report, bool isPaintLikely) const {
+  return doesEventPaint_ && (isPaintLikely ? event_.tremblesFromLast(report) : event_.repeatsLast(report));
 }
 
 MouseStep CMouseMerge::paintWithButton(const MouseReport& report) {
@@ -146,9 +148,9 @@ MouseStep CMouseMerge::paintWithButton(const MouseReport& report) {
 }
 
 // A release, or the host paints. Where a release may have been seen by chance only, nothing is concluded from it.
-MouseStep CMouseMerge::eventWithoutButton(const MouseReport& report) {
+MouseStep CMouseMerge::eventWithoutButton(const MouseReport& report, bool mayBePaint) {
   if (!event_.isDown()) doesEventPaint_ = true;
-  const bool isTold = !doesEventPaint_ || !isPaintDue_;
+  const bool isTold = !doesEventPaint_ || !mayBePaint;
   isPaintDue_ = false;
   const MouseStep step = event_.up(report, isTold);
   return step == MouseStep::TakeBack && doesEventPaint_ ? MouseStep::Release : step;

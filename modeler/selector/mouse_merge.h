@@ -13,7 +13,8 @@ struct MouseReport {
   int bits = 0;                 // the host's mouse bits
   int clicks = 1;               // in quick succession, as far as the host counts them
   bool isInside = true;         // of the tree; a press that is not has nothing to do with it
-  bool isOnDraggedBar = false;  // in the strip of the scroll bar that is being dragged
+  bool isBarDragged = false;    // a scroll bar is
+  bool isOnDraggedBar = false;  // in the strip of that one
 };
 
 enum class MouseStep {
@@ -27,7 +28,8 @@ enum class MouseStep {
 };
 
 // What one way has told. A report with the button down that follows another one is a move where releases are told, and a press
-// where they are not. Until the first release is heard that is open: then only a step that no press can make is a move.
+// where they are not. Until the first release is heard that is open: then only a step that no press can make is a move, or a short one while
+// a scroll bar is dragged.
 class CMouseWay {
  public:
   bool isDown() const { return isDown_; }
@@ -70,13 +72,15 @@ class CMouseMerge {
     isPaintDue_ = false;
     hasJustPainted_ = true;
   }
+  // It has painted by the event: no other half of that paint is to come.
+  void paintedByEvent() { isPaintDue_ = hasJustPainted_ = false; }
 
  private:
   MouseStep released(const MouseReport& report, bool isTold);
   bool isNoPress(const MouseReport& report, bool mayBePaint) const;
-  bool isPaintOf(const MouseReport& report) const;
+  bool isPaintOf(const MouseReport& report, bool isPaintLikely) const;
   MouseStep paintWithButton(const MouseReport& report);
-  MouseStep eventWithoutButton(const MouseReport& report);
+  MouseStep eventWithoutButton(const MouseReport& report, bool mayBePaint);
   MouseStep eventBesideHooks(const MouseReport& report);
 
   CMouseWay hooks_;

@@ -14,7 +14,8 @@ constexpr std::array<std::uint32_t, 15> kPackedColours = {
     18935968, 18882784, 23130336, 32514080, 32567392, 32514240, 33554431,
 };
 
-// From the highest byte to the lowest: 1, red, blue, green. That blue stands before green is deliberate.
+// From the highest byte to the lowest: 1, red, blue, green. Blue stands before green, as the host
+// packs them.
 constexpr Rgba unpacked(std::uint32_t packed) {
   const auto byte = [packed](unsigned shift) { return static_cast<std::uint8_t>(packed >> shift & 0xFFU); };
   const std::uint8_t red = byte(16), blue = byte(8), green = byte(0);

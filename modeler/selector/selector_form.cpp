@@ -15,7 +15,7 @@ constexpr int kSyncRightEdge = 90;
 constexpr int kSyncFromBottom = 35;
 constexpr int kBelowTree = 55;  // with what is above it
 
-// No buttons of the host's own, and the user may resize. Mouse input for the panel's hooks is deliberately not asked for: the
+// No buttons of the host's own, and the user may resize. Mouse input for the panel's hooks is not asked for: the
 // control's event tells of it, and a host may serve the hooks all the same.
 constexpr int kOpenFlags = lw::kOpenNoButtons | lw::kOpenResizable;
 static_assert(kOpenFlags == 192);

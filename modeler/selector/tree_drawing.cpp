@@ -63,9 +63,9 @@ constexpr std::array kUnwanted = {
 
 // Keeps OpenGL's state and gives it back. The matrices are read and written, for of the projection's stack only two levels are
 // promised, which may be in use; where no level is left for the attributes, nothing is kept and nothing may be drawn.
-class KeptState {
+class CKeptState {
  public:
-  explicit KeptState(const GlCalls& gl) : gl_(gl) {
+  explicit CKeptState(const GlCalls& gl) : gl_(gl) {
     int depth = 0;
     int most = 0;
     gl_.getIntegers(gl::kAttribStackDepth, &depth);
@@ -76,7 +76,7 @@ class KeptState {
     gl_.getFloats(gl::kProjectionMatrix, projection_.data());
     gl_.getFloats(gl::kModelViewMatrix, modelView_.data());
   }
-  ~KeptState() {
+  ~CKeptState() {
     if (!isKept_) return;
     gl_.matrixMode(gl::kProjection);
     gl_.loadMatrix(projection_.data());
@@ -84,8 +84,8 @@ class KeptState {
     gl_.loadMatrix(modelView_.data());
     gl_.popAttrib();
   }
-  KeptState(const KeptState&) = delete;
-  KeptState& operator=(const KeptState&) = delete;
+  CKeptState(const CKeptState&) = delete;
+  CKeptState& operator=(const CKeptState&) = delete;
 
   bool isKept() const { return isKept_; }
 
@@ -114,9 +114,9 @@ double skipCells(std::string_view& text, double cells) {
 // One picture. The owner of the rows is never asked between OpenGL's begin and end: it may throw. Places are in pixels from the
 // top left of the view: the scroll offsets are taken off here, in doubles, since OpenGL's own floats lose parts of pixels far
 // down a long tree.
-class Frame {
+class CFrame {
  public:
-  Frame(const GlCalls& gl, const TreePicture& picture)
+  CFrame(const GlCalls& gl, const TreePicture& picture)
       : gl_(gl), picture_(picture), rows_(picture.owner == nullptr ? std::span<const TreeRow>() : picture.rows) {
     const auto least = static_cast<std::size_t>(std::ceil(static_cast<double>(picture.height) / kRowHeight));
     stripes_ = std::max(least, rows_.size());
@@ -130,7 +130,7 @@ class Frame {
   void begin();
   void drawStripes();
   void drawGuideLines();
-  void drawMarkersAndTexts(CTreeFont& font, CTreeFont::Use& use);
+  void drawMarkersAndTexts(CTreeFont& font, CTreeFont::CUse& use);
   void drawScrollBars();
 
  private:
@@ -148,7 +148,7 @@ class Frame {
   void twig(std::size_t row);
   void dots(double from, double to, double across, bool isVertical);
   void marker(std::size_t row);
-  void text(std::size_t row, CTreeFont& font, CTreeFont::Use& use);
+  void text(std::size_t row, CTreeFont& font, CTreeFont::CUse& use);
 
   const GlCalls& gl_;
   const TreePicture& picture_;
@@ -158,7 +158,7 @@ class Frame {
   std::size_t end_ = 0;      // after the last one in view
 };
 
-void Frame::begin() {
+void CFrame::begin() {
   for (const unsigned capability : kUnwanted) gl_.disable(capability);
   gl_.polygonMode(gl::kFrontAndBack, gl::kFill);
   gl_.lineWidth(1);
@@ -170,26 +170,26 @@ void Frame::begin() {
   gl_.clear(gl::kColourBuffer);
 }
 
-void Frame::moveTo(double x, double y) {
+void CFrame::moveTo(double x, double y) {
   gl_.loadIdentity();
   gl_.translate(x, y, 0);
   gl_.scale(kCellWidth, kCellHeight, 1);
 }
 
 // With the matrix that 'begin' leaves.
-void Frame::rectangle(const Colour& colour, double left, double top, double right, double bottom) {
+void CFrame::rectangle(const Colour& colour, double left, double top, double right, double bottom) {
   set(colour);
   shape(std::array<Point, 4>{{{left, top}, {right, top}, {right, bottom}, {left, bottom}}});
 }
 
 template <std::size_t kCorners>
-void Frame::shape(const std::array<Point, kCorners>& corners) {
+void CFrame::shape(const std::array<Point, kCorners>& corners) {
   gl_.begin(kCorners == 3 ? gl::kTriangles : gl::kQuads);
   for (const Point& corner : corners) gl_.vertex(corner.x, corner.y);
   gl_.end();
 }
 
-void Frame::drawStripes() {
+void CFrame::drawStripes() {
   const double right = std::max(picture_.contentWidth, picture_.width) - picture_.scrollX;
   for (std::size_t row = first_; row < end_; ++row) {
     const bool isSelected = row < rows_.size() && (picture_.owner->stateOf(rows_[row].node) & kStateSelected) != 0;
@@ -197,7 +197,7 @@ void Frame::drawStripes() {
   }
 }
 
-void Frame::drawGuideLines() {
+void CFrame::drawGuideLines() {
   if (first_ >= rows_.size()) return;
   set(kGuideColour);
   gl_.enable(gl::kLineStipple);
@@ -211,13 +211,13 @@ void Frame::drawGuideLines() {
 }
 
 // From a row down to its last child.
-void Frame::branch(std::size_t row) {
+void CFrame::branch(std::size_t row) {
   if (rows_[row].lastChild == kNoRow) return;
   dots(topOf(row) + kMarkerY, topOf(rows_[row].lastChild) + kMarkerY, leftOf(rows_[row]) + kMarkerX, true);
 }
 
 // From the parent's line to a row.
-void Frame::twig(std::size_t row) {
+void CFrame::twig(std::size_t row) {
   if (rows_[row].parent == kNoRow) return;
   const double from = leftOf(rows_[rows_[row].parent]) + kMarkerX;
   dots(from, from + kIndent, topOf(row) + kMarkerY, false);
@@ -225,7 +225,7 @@ void Frame::twig(std::size_t row) {
 
 // A dotted line to the right or down. OpenGL counts the dots from where a line enters the view, so that they would crawl along
 // when the tree is scrolled: what lies before the view is left out here, and the count goes on as if it had been drawn.
-void Frame::dots(double from, double to, double across, bool isVertical) {
+void CFrame::dots(double from, double to, double across, bool isVertical) {
   const double extent = isVertical ? picture_.height : picture_.width;
   const double extentAcross = isVertical ? picture_.width : picture_.height;
   if (across < -1 || across > extentAcross + 1) return;
@@ -241,7 +241,7 @@ void Frame::dots(double from, double to, double across, bool isVertical) {
   gl_.end();
 }
 
-void Frame::drawMarkersAndTexts(CTreeFont& font, CTreeFont::Use& use) {
+void CFrame::drawMarkersAndTexts(CTreeFont& font, CTreeFont::CUse& use) {
   const bool haveFont = font.prepare(use);
   for (std::size_t row = first_; row < endOfRows(); ++row) {
     marker(row);
@@ -250,8 +250,8 @@ void Frame::drawMarkersAndTexts(CTreeFont& font, CTreeFont::Use& use) {
   gl_.loadIdentity();
 }
 
-void Frame::marker(std::size_t row) {
-  const TreeOwner& owner = *picture_.owner;
+void CFrame::marker(std::size_t row) {
+  const CTreeOwner& owner = *picture_.owner;
   const std::size_t node = rows_[row].node;
   if (owner.givesColours()) {
     const Rgba colour = owner.colourOf(node).value_or(kUncolouredMarker);
@@ -265,7 +265,7 @@ void Frame::marker(std::size_t row) {
 }
 
 // OpenGL shows no character that begins outside the view, so only those that may begin inside are given to it.
-void Frame::text(std::size_t row, CTreeFont& font, CTreeFont::Use& use) {
+void CFrame::text(std::size_t row, CTreeFont& font, CTreeFont::CUse& use) {
   const double left = leftOf(rows_[row]) + kTextX;
   std::string_view rest = picture_.owner->textOf(rows_[row].node);
   const double firstCell = left < 0 ? skipCells(rest, std::floor(-left / kCellWidth)) : 0;
@@ -287,7 +287,7 @@ void Frame::text(std::size_t row, CTreeFont& font, CTreeFont::Use& use) {
 }
 
 // Not scrolled with the rest.
-void Frame::drawScrollBars() {
+void CFrame::drawScrollBars() {
   const double width = picture_.width;
   const double height = picture_.height;
   const double right = width - kScrollBarSize;
@@ -305,11 +305,11 @@ void CTreeDrawing::draw(const TreePicture& picture) {
   if (gl_ == nullptr || picture.width <= 0 || picture.height <= 0) return;
   void* const device = gl_->currentDevice();
   if (device == nullptr) return;
-  const KeptState kept(*gl_);
+  const CKeptState kept(*gl_);
   if (!kept.isKept()) return;
 
-  CTreeFont::Use use(*gl_, device);
-  Frame frame(*gl_, picture);
+  CTreeFont::CUse use(*gl_, device);
+  CFrame frame(*gl_, picture);
   frame.begin();
   frame.drawStripes();
   frame.drawGuideLines();

@@ -22,22 +22,22 @@ constexpr std::array kUnpacking = {
 };
 
 // While lists are made.
-class ListMaking {
+class CListMaking {
  public:
-  explicit ListMaking(const GlCalls& gl) : gl_(gl) {
+  explicit CListMaking(const GlCalls& gl) : gl_(gl) {
     for (std::size_t i = 0; i < kUnpacking.size(); ++i) {
       gl_.getIntegers(kUnpacking[i].what, &before_[i]);
       gl_.pixelStore(kUnpacking[i].what, kUnpacking[i].value);
     }
   }
-  ~ListMaking() {
+  ~CListMaking() {
     // OpenGL can call the list of an empty character an error, though it is made as it should be.
     for (int i = 0; i < kMostErrors && gl_.getError() != 0; ++i) {
     }
     for (std::size_t i = 0; i < kUnpacking.size(); ++i) gl_.pixelStore(kUnpacking[i].what, before_[i]);
   }
-  ListMaking(const ListMaking&) = delete;
-  ListMaking& operator=(const ListMaking&) = delete;
+  CListMaking(const CListMaking&) = delete;
+  CListMaking& operator=(const CListMaking&) = delete;
 
  private:
   const GlCalls& gl_;
@@ -46,16 +46,16 @@ class ListMaking {
 
 }  // namespace
 
-CTreeFont::Use::~Use() {
+CTreeFont::CUse::~CUse() {
   if (selected_ && selected_->font != nullptr) gl_.giveFontBack(device_, *selected_);
 }
 
-bool CTreeFont::Use::select() {
+bool CTreeFont::CUse::select() {
   if (!selected_) selected_ = gl_.selectFont(device_);
   return selected_->font != nullptr;
 }
 
-bool CTreeFont::prepare(Use& use) {
+bool CTreeFont::prepare(CUse& use) {
   const GlCalls& gl = use.gl();
   // A new window can get the handle of a closed one's device context. Then the lists went with the old window.
   if (use.device() == madeFor_ && gl.isList(kFirstList) != 0) {
@@ -67,14 +67,14 @@ bool CTreeFont::prepare(Use& use) {
 
   forget(gl);
   madeFor_ = madeIn_ = nullptr;
-  const ListMaking making(gl);
+  const CListMaking making(gl);
   if (!use.select() || !gl.makeByteLists(use.device(), 0, kByteLists, kFirstList)) return false;
   madeFor_ = use.device();
   madeIn_ = gl.currentContext();
   return true;
 }
 
-unsigned CTreeFont::listOf(char32_t character, Use& use) {
+unsigned CTreeFont::listOf(char32_t character, CUse& use) {
   if (character < kFirstNonAscii) return kFirstList + character;
   if (character > kGreatestWide) return kQuestionList;
   if (const auto known = ownLists_.find(character); known != ownLists_.end()) return known->second;
@@ -86,9 +86,9 @@ unsigned CTreeFont::listOf(char32_t character, Use& use) {
   return list;
 }
 
-unsigned CTreeFont::madeList(char16_t character, Use& use) const {
+unsigned CTreeFont::madeList(char16_t character, CUse& use) const {
   const GlCalls& gl = use.gl();
-  const ListMaking making(gl);
+  const CListMaking making(gl);
   if (!use.select()) return kQuestionList;
   const unsigned list = gl.genLists(1);
   if (list == 0) return kQuestionList;

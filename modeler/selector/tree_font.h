@@ -18,12 +18,12 @@ class CTreeFont {
  public:
   // The font in a device context while a picture is drawn. It is made when a list has to be and goes with this object, so that
   // nothing of it is left between two pictures.
-  class Use {
+  class CUse {
    public:
-    Use(const GlCalls& gl, void* device) : gl_(gl), device_(device) {}
-    ~Use();
-    Use(const Use&) = delete;
-    Use& operator=(const Use&) = delete;
+    CUse(const GlCalls& gl, void* device) : gl_(gl), device_(device) {}
+    ~CUse();
+    CUse(const CUse&) = delete;
+    CUse& operator=(const CUse&) = delete;
 
     const GlCalls& gl() const { return gl_; }
     void* device() const { return device_; }
@@ -37,10 +37,10 @@ class CTreeFont {
 
   // [context current] Makes the lists when the device context is not the one that they were made for. False: there are none,
   // and no text can be drawn.
-  bool prepare(Use& use);
+  bool prepare(CUse& use);
 
   // [prepared] The list that shows a character; that of "?" where the font gives none.
-  unsigned listOf(char32_t character, Use& use);
+  unsigned listOf(char32_t character, CUse& use);
 
   // Deletes the lists of single characters, if the context that they were made in is current. If not they are kept: their
   // numbers may be somebody else's lists in another one, and their own may be current again at the next drawing.
@@ -49,7 +49,7 @@ class CTreeFont {
  private:
   // As giveBack, but forgets them in any case: lists of a context that is gone went with it.
   void forget(const GlCalls& gl);
-  unsigned madeList(char16_t character, Use& use) const;
+  unsigned madeList(char16_t character, CUse& use) const;
 
   void* madeFor_ = nullptr;                          // device context
   void* madeIn_ = nullptr;                           // OpenGL's context

@@ -16,7 +16,7 @@ constexpr int kGapFrom = -17;
 constexpr int kExpanderFrom = -14;
 constexpr int kLabelFrom = 10;
 
-// Left of the gap it is the label again, deliberately.
+// Left of the gap it is the label again: a click on the guide lines selects, too.
 TreePart partAt(int x, int depth) {
   const int fromIndent = x - kIndent * depth;
   if (fromIndent >= kExpanderFrom && fromIndent < kLabelFrom) return TreePart::Expander;
@@ -32,7 +32,7 @@ TreeHit hitAt(int x, int y, const TreeWindow& window, std::span<const TreeRow> r
   const bool isInBottomStrip = y >= window.height - kScrollBarSize;
   if (isInBottomStrip && !isInRightStrip) return {TreePart::HorizontalBar, kNoRow};
   if (isInRightStrip && !isInBottomStrip) return {TreePart::VerticalBar, kNoRow};
-  // The corner between the bars belongs to none of them: the row behind it is hit, deliberately.
+  // The corner between the bars belongs to none of them: the row behind it is hit, as anywhere else.
   const auto row = static_cast<std::size_t>((y + window.scrollY / kUnitsPerPixel) / kRowHeight);
   if (row >= rows.size()) return {TreePart::Neither, kNoRow};
   return {partAt(x + window.scrollX / kUnitsPerPixel, rows[row].depth), row};
@@ -45,7 +45,7 @@ TreeAction actionOf(int bits) {
   action.extend = (bits & kExtendBit) != 0;
   action.subtree = (bits & kSubtreeBit) != 0;
   action.click = (bits & kButtonBits) == kClickBits;
-  // Both bits are also how the host tells of the right button: it acts as a double-click, deliberately.
+  // Both bits are also how the host tells of the right button: it acts as a double-click does.
   action.doubleClick = (bits & kButtonBits) == kButtonBits;
   return action;
 }

@@ -34,9 +34,9 @@ enum TreeState : std::uint32_t { kStateSet = 1, kStateExpanded = 2, kStateSelect
 using Rgba = std::array<std::uint8_t, 4>;
 
 // Who owns the nodes that rows stand for.
-class TreeOwner {
+class CTreeOwner {
  public:
-  virtual ~TreeOwner() = default;
+  virtual ~CTreeOwner() = default;
   virtual std::uint32_t stateOf(std::size_t node) const = 0;
   virtual std::size_t childCountOf(std::size_t node) const = 0;  // visible or not
   virtual std::string_view textOf(std::size_t node) const = 0;   // UTF-8 as far as it is valid
@@ -60,7 +60,7 @@ struct TreePicture {
   ThumbExtent horizontalThumb;
   ThumbExtent verticalThumb;
   std::span<const TreeRow> rows;  // all of them, seen or not
-  const TreeOwner* owner = nullptr;
+  const CTreeOwner* owner = nullptr;
 };
 
 }  // namespace mst

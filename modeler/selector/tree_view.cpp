@@ -175,18 +175,18 @@ bool CTreeView::isOnDraggedBar(int x, int y) const {
 
 void CTreeView::keepForTakingBack() {
   if (kept_) return;
-  kept_.emplace(Kept{{}, anchor_});
+  kept_.emplace(Kept{{}, anchor_, clicked_});
   kept_->states.reserve(nodes_.size());
   for (const SelectorNode& node : nodes_) kept_->states.push_back(node.state);
 }
 
 TreeChange CTreeView::takeBack() {
   release();
-  clicked_ = kNoRow;
   if (!kept_) return {};
   for (std::size_t i = 0; i < nodes_.size(); ++i) nodes_[i].state = kept_->states[i];
   layOut();
   anchor_ = kept_->anchor;
+  clicked_ = kept_->clicked;
   kept_.reset();
   return {true, true};
 }

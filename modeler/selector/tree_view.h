@@ -31,7 +31,7 @@ struct TreeChange {
   bool operator==(const TreeChange&) const = default;
 };
 
-class CTreeView : private TreeOwner {
+class CTreeView : private CTreeOwner {
  public:
   // Other nodes; without any the tree is empty. Offsets stay as far as they are in range, the anchor stays with its skelegon.
   void setNodes(SelectorNodes nodes);
@@ -43,6 +43,7 @@ class CTreeView : private TreeOwner {
   TreeChange drag(int x, int y);
   void release() { drag_ = Drag::None; }
   // Whether the point lies in the strip of the scroll bar that is being dragged.
+  bool isBarDragged() const { return drag_ == Drag::Horizontal || drag_ == Drag::Vertical; }
   bool isOnDraggedBar(int x, int y) const;
 
   // A press that may prove to be none is coming: keeps what is selected and expanded, until a press that is certain.
@@ -111,6 +112,7 @@ class CTreeView : private TreeOwner {
   struct Kept {
     std::vector<std::uint32_t> states;  // by node
     std::size_t anchor;
+    std::size_t clicked;
   };
   std::optional<Kept> kept_;
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "host/lwtool2_errors.h"
+#include "host/raised_flag.h"
 
 namespace mst {
 namespace {
@@ -24,14 +25,6 @@ OpenPanels& state() {
   return panels;
 }
 
-class CBusy {
- public:
-  CBusy() { state().isWalking = true; }
-  ~CBusy() { state().isWalking = false; }
-  CBusy(const CBusy&) = delete;
-  CBusy& operator=(const CBusy&) = delete;
-};
-
 bool isOpen(const void* panel) {
   const auto& list = state().list;
   return std::any_of(list.begin(), list.end(), [panel](const OpenPanel& open) { return open.panel == panel; });
@@ -49,7 +42,7 @@ void removePanel(const void* panel) {
 
 void NotifyPanels(const void* sender, PanelNews news) {
   if (state().isWalking) return;
-  const CBusy busy;
+  const lw::CRaisedFlag walking(state().isWalking);
   // A callback may change the list: the walk has its own, and passes over panels that are gone by their turn.
   const std::vector<OpenPanel> walk = state().list;
   for (const OpenPanel& open : walk) {

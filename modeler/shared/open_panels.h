@@ -13,14 +13,14 @@ enum class PanelNews : int {
 
 using PanelCallback = void (*)(void* panel, PanelNews news);
 
-// Enters a panel at the end of the list; a panel that is in it stays where it is, with the callback it has.
+// Adds a panel at the end of the list; one that is in it keeps its place and its callback.
 void enterPanel(void* panel, PanelCallback callback);
 
 // Takes a panel out of the list, if it is in. Allowed within a callback.
 void removePanel(const void* panel);
 
-// Calls every panel of the list but the sender (may be null), in list order. What a callback throws stays with it. Within a
-// callback this does nothing, so that a refresh is not told on and on.
+// Calls every panel of the list but the sender (may be null), in list order. An exception out of one callback
+// does not keep the others from hearing. Does nothing while a callback runs: a refresh would cause the next one without end.
 void NotifyPanels(const void* sender, PanelNews news);
 
 }  // namespace mst

@@ -1,4 +1,4 @@
-// What the stand-in host sees of the module's behaviour: every call counted, the first fault kept, a chosen call refused.
+// What the stand-in host sees of the module's behaviour: every call counted, every fault kept, a chosen call refused.
 //
 // Each function that the module can call starts with a HostCall; each call that the stand-in makes into the module goes
 // through callModule. The host runs on one thread, so there is one witness, begun anew for each session.
@@ -34,9 +34,9 @@ class Witness {
 
   // Host calls since the reset.
   std::uint64_t calls() const { return calls_; }
-  // Lets the n-th host call from now fail once, in the way that call can fail. 0 takes the wish back.
+  // Lets the n-th host call from now fail once, in the way that call can fail. 0 cancels it.
   void refuseCall(std::uint64_t n);
-  // Lets the next call of that host function fail once, in the way that it can fail. An empty name takes the wish back.
+  // Lets the next call of that host function fail once, in the way that it can fail. An empty name cancels it.
   void refuseNext(std::string function);
   // True when the refusal asked for has happened.
   bool refusalHappened() const { return refusalHappened_; }
@@ -49,8 +49,8 @@ class Witness {
   bool inModule() const { return depth_ > 0; }
   // True while module code itself runs: not while a function of the host's that it called does.
   bool moduleRuns() const { return moduleRuns_; }
-  // Asked with the function's name whenever the module has returned to the host for good: what must not be left behind then.
-  // There is one such check; it outlives a reset and is taken back with nullptr by who set it.
+  // Called with the function's name each time the outermost call into the module has returned: checks what the module must not
+  // leave behind. There is one such check; it outlives a reset, and who set it takes it away with nullptr.
   void afterModule(std::function<void(const char* function)> check) { afterModule_ = std::move(check); }
 
  private:

@@ -1,5 +1,8 @@
 // What is open about Layout: items, commands, channels, names.
+#include <algorithm>
 #include <array>
+#include <map>
+#include <string>
 
 #include "standin/layout/scene.h"
 #include "standin/variants/variants.h"
@@ -132,11 +135,19 @@ void renamesItems(Scene& scene, std::string_view command) {
   scene.addNull(kOther);
 }
 
+// Items of equal name stay as they are to each other: which of them a name means after such a change, nobody could say.
 void sortsItems(Scene& scene, std::string_view command) {
   if (!changesItems(command) || scene.objects().empty()) return;
-  scene.moveInList(*scene.objects().back(), 0);
+  std::map<std::string, int> bearers;
+  for (const Item* object : scene.objects()) {
+    ++bearers[scene.nameOf(*object)];
+    for (const Item* bone : object->bones) ++bearers[scene.nameOf(*bone)];
+  }
+  const auto isAlone = [&](const Item* item) { return bearers[scene.nameOf(*item)] == 1; };
+  Item* const last = scene.objects().back();
+  if (isAlone(last) && std::all_of(last->bones.begin(), last->bones.end(), isAlone)) scene.moveInList(*last, 0);
   for (Item* object : scene.objects()) {
-    if (!object->bones.empty()) scene.moveInList(*object->bones.back(), 0);
+    if (!object->bones.empty() && isAlone(object->bones.back())) scene.moveInList(*object->bones.back(), 0);
   }
 }
 

@@ -88,8 +88,9 @@ constexpr std::array kMouseVariants{
         "presses and releases, or presses only. With hooks-beside a press that a control hears reaches no hook",
         "takes each press once. Until the first release is heard, a step with the button down counts as a press, however "
         "short; the first release shows such presses to have been moves and takes them back, but not where the event "
-        "paints too, for a paint may show the button up: there a hand that trembles at the very first click clicks twice. "
-        "Where the event tells of presses only and paints, a second press at the same pixel is told in the words of a "
+        "paints too, for a paint may show the button up: there a hand that trembles twice during a click may click twice. "
+        "Where the event tells of presses only and paints, a second press at the same place, while a paint is due, is told "
+        "in the words of a "
         "paint and is taken for one, unless the host counts it",
         kMouse},
     HostVariant{"mouse-order", "Which call comes first where a press arrives in both ways", "not documented",

@@ -8,20 +8,20 @@ namespace {
 std::string pathOf(std::size_t units) { return std::string(units, 'p'); }
 
 TEST(ToNarrowPath, IsEmptyForAMissingName) {
-  NarrowPath path;
+  CNarrowPath path;
   path.ToNarrowPath("before.lwo");
   EXPECT_EQ(path.ToNarrowPath(nullptr), "");
 }
 
 TEST(ToNarrowPath, TakesPathsThatFillTheBufferWithTheirZero) {
-  NarrowPath path;
+  CNarrowPath path;
   EXPECT_EQ(path.ToNarrowPath(pathOf(258).c_str()), pathOf(258));
   EXPECT_EQ(path.ToNarrowPath(pathOf(259).c_str()), pathOf(259));
 }
 
 // The one buffer is not written then; deliberately, the path before stays.
 TEST(ToNarrowPath, LeavesThePathBeforeForOneThatIsTooLong) {
-  NarrowPath path;
+  CNarrowPath path;
   path.ToNarrowPath("before.lwo");
   for (const std::size_t units : {260, 261, 4095, 4096, 65536})
     EXPECT_EQ(path.ToNarrowPath(pathOf(units).c_str()), "before.lwo") << units;
@@ -29,7 +29,7 @@ TEST(ToNarrowPath, LeavesThePathBeforeForOneThatIsTooLong) {
 
 // Names are taken from the UTF-8 form, so that has to be of the same path.
 TEST(ToNarrowPath, KeepsTheUtf8FormOfThePathThatItGives) {
-  NarrowPath path;
+  CNarrowPath path;
   path.ToNarrowPath("ソ/before.lwo");
   EXPECT_EQ(path.utf8(), "ソ/before.lwo");
   path.ToNarrowPath(pathOf(260).c_str());
@@ -39,7 +39,7 @@ TEST(ToNarrowPath, KeepsTheUtf8FormOfThePathThatItGives) {
 }
 
 TEST(ToNarrowPath, CountsUnitsNotBytes) {
-  NarrowPath path;
+  CNarrowPath path;
   std::string japanese;
   for (int i = 0; i < 259; ++i) japanese += "ソ";
   EXPECT_NE(path.ToNarrowPath(japanese.c_str()), "");
@@ -47,7 +47,7 @@ TEST(ToNarrowPath, CountsUnitsNotBytes) {
 }
 
 TEST(ToNarrowPath, GivesJapaneseNamesInTheSystemsCodePage) {
-  NarrowPath path;
+  CNarrowPath path;
 #if defined(_WIN32)
   EXPECT_EQ(path.ToNarrowPath("ソ.lwo"), "\x83\x5C.lwo");  // code page 932; the second byte is a backslash's
 #else

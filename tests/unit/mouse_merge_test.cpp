@@ -193,6 +193,16 @@ TEST_F(MouseMerge, AStepAlongTheDraggedBarIsAMoveFromTheBeginning) {
 }
 
 // The first release of all shows that what looked like presses were moves.
+TEST_F(MouseMerge, ShortStepsWhileABarIsDraggedAreMovesFromTheBeginning) {
+  event(kPress);
+  for (int x = 12; x < 40; x += 2) {
+    MouseReport beside = at(x, 20);
+    beside.isBarDragged = true;
+    event(beside);
+  }
+  EXPECT_EQ(steps, "P" + std::string(14, 'M'));
+}
+
 TEST_F(MouseMerge, LongStepsOfTheFirstDragAreTakenBack) {
   event(kPress);
   event(at(10, 60));
@@ -299,6 +309,37 @@ TEST_F(MouseMerge, APaintWhileTheHandTremblesIsNoPress) {
 }
 
 // Such a release may be no more than the state that a paint shows.
+// A host that paints by both calls: the event is the other half of the paint.
+TEST_F(MouseMerge, TheOtherHalfOfAPaintIsNoPressWhileTheHandTrembles) {
+  eventHasPainted();
+  event(kPress);
+  mouse.askedToPaint();
+  mouse.painted();
+  event(at(12, 20));
+  EXPECT_EQ(steps, "PM");
+}
+
+TEST_F(MouseMerge, TheOtherHalfOfAPaintThatShowsTheButtonUpTeachesNothingOfReleases) {
+  eventHasPainted();
+  event(kPress);
+  mouse.askedToPaint();
+  mouse.painted();
+  event(kRelease);
+  event(kPress);
+  event(at(30, 40));
+  EXPECT_EQ(steps, "PLPG");
+}
+
+TEST_F(MouseMerge, APressRightAfterAPaintByTheEventIsOne) {
+  eventHasPainted();
+  event(kPress);
+  mouse.askedToPaint();
+  mouse.painted();
+  mouse.paintedByEvent();
+  event(at(12, 20));
+  EXPECT_EQ(steps, "PG");
+}
+
 TEST_F(MouseMerge, NothingIsTakenBackWhereTheEventPaints) {
   eventHasPainted();
   event(kPress);

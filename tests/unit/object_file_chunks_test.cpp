@@ -1,4 +1,4 @@
-// The walk over the chunks of an object file, for collectors that want only some of them, and files that are odd in themselves.
+// The walk over the chunks of an object file, and files that are odd in themselves.
 #include <gtest/gtest.h>
 
 #if !defined(_WIN32)
@@ -18,39 +18,36 @@ namespace varnel::test {
 namespace {
 
 using lwp::st::CFileStream;
+using lwp::st::Chunk;
+using lwp::st::ChunkKind;
 using lwp::st::CLWOFileStream;
-using lwp::st::ObjectChunks;
 using lwp::st::ObjectFileData;
 using lwp::st::Vec12;
 
-// Takes nothing but what it is told to.
-class Points : public ObjectChunks {
- public:
-  bool takePoints(CFileStream body) override {
-    points += body.left() / lwp::st::kBytesOfVec12;
-    return isContent;
-  }
-  std::size_t points = 0;
-  bool isContent = true;
-};
-
-bool walk(const ObjectBytes& object, ObjectChunks& chunks) {
+// The kinds of the chunks that are handed out, up to the first of 'last'; whether the walk came to the end.
+std::pair<std::vector<ChunkKind>, bool> walk(const ObjectBytes& object, ChunkKind last = lwp::st::kOther) {
   const std::vector<std::byte> file = object.file();
   CLWOFileStream stream(file);
-  return stream.enterForm() && stream.readChunks(chunks);
+  std::vector<ChunkKind> kinds;
+  const bool isAtEnd = stream.enterForm() && stream.readChunks([&](const Chunk& chunk) {
+    kinds.push_back(chunk.kind);
+    return chunk.kind != last;
+  });
+  return {kinds, isAtEnd};
 }
 
-TEST(ObjectChunkWalk, PassesOverWhatACollectorDoesNotAskFor) {
-  Points points;
-  EXPECT_TRUE(walk(smallRig(), points));
-  EXPECT_EQ(points.points, 7U);
+TEST(ObjectChunkWalk, HandsOutTheChunksOfUseAndNoOther) {
+  using namespace lwp::st;
+  const auto [kinds, isAtEnd] = walk(smallRig());
+  EXPECT_TRUE(isAtEnd);
+  EXPECT_EQ(kinds,
+            (std::vector{kTagTexts, kLayer, kPoints, kFaces, kLayer, kPoints, kSkelegons, kSkelegonTags, kSkelegonTags}));
 }
 
-TEST(ObjectChunkWalk, EndsWhereACollectorIsNotContent) {
-  Points points;
-  points.isContent = false;
-  EXPECT_FALSE(walk(smallRig(), points));
-  EXPECT_EQ(points.points, 4U);  // those of the first layer
+TEST(ObjectChunkWalk, EndsWhereTheOneWhoTakesTheChunksIsNotContent) {
+  const auto [kinds, isAtEnd] = walk(smallRig(), lwp::st::kPoints);
+  EXPECT_FALSE(isAtEnd);
+  EXPECT_EQ(kinds.size(), 3U);  // up to the points of the first layer
 }
 
 // A form of no bytes at all, and of one to three: there is no room for its type.

@@ -81,7 +81,7 @@ TEST(ObjectReader, NamesALayerWithoutANameByItsNumberPlusOne) {
 TEST(ObjectReader, KeepsLayersInTheOrderOfTheFileAlsoWithEqualNumbers) {
   const Reading reading(ObjectBytes().layer(4, "a").layer(0, "b").layer(4, "c"));
   std::string names;
-  for (const ObjectLayer layer : reading.data.layers()) names += layer.name();
+  for (const ObjectLayer& layer : layersOf(reading.data)) names += layer.name();
   EXPECT_EQ(names, "abc");
 }
 
@@ -96,22 +96,15 @@ TEST(ObjectReader, GivesEachLayerItsOwnPointsFacesAndSkelegons) {
                             .polygons("FACE", {{3, 2, 1}})
                             .polygons("BONE", {{2, 3}, {3, 0}}));
   ASSERT_EQ(reading.data.layerCount(), 3U);
-  const auto layers = reading.data.layers();
+  const std::vector<ObjectLayer> layers = layersOf(reading.data);
   EXPECT_EQ(skelegonsOf(layers[0]), (Lists{{0, 1}}));
   EXPECT_EQ(skelegonsOf(layers[1]), Lists{});
   EXPECT_EQ(skelegonsOf(layers[2]), (Lists{{2, 3}, {3, 0}}));
   EXPECT_EQ(layers[0].points().size(), 2U);
   EXPECT_EQ(layers[1].points().size(), 0U);
   EXPECT_EQ(layers[2].points().size(), 4U);
-  EXPECT_EQ(facesOf(layers[0]), Lists{});
-  EXPECT_EQ(facesOf(layers[2]), (Lists{{3, 2, 1}}));
-}
-
-TEST(ObjectReader, RenamesALayerAndLeavesTheOthersAlone) {
-  Reading reading(ObjectBytes().layer(0, "first").layer(1, "second"));
-  reading.data.renameLayer(0, "a much longer name than before");
-  EXPECT_EQ(reading.data.layer(0).name(), "a much longer name than before");
-  EXPECT_EQ(reading.data.layer(1).name(), "second");
+  EXPECT_EQ(layers[0].faces(), Lists{});
+  EXPECT_EQ(layers[2].faces(), (Lists{{3, 2, 1}}));
 }
 
 // --- tag texts ---
@@ -146,7 +139,7 @@ TEST(ObjectReader, DropsTheFlagsBesideTheCountOfAPolygon) {
   const Reading reading(
       ObjectBytes().layer(0, "a").points(3).chunk("POLS", Bytes().id("FACE").u2(0xFC03).vx(0).vx(1).vx(2).u2(0x0401).vx(2)));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(facesOf(reading.data.layer(0)), (Lists{{0, 1, 2}, {2}}));
+  EXPECT_EQ(reading.data.layer(0).faces(), (Lists{{0, 1, 2}, {2}}));
 }
 
 TEST(ObjectReader, TakesAPolygonOfAsManyCornersAsTheCountHolds) {
@@ -155,14 +148,14 @@ TEST(ObjectReader, TakesAPolygonOfAsManyCornersAsTheCountHolds) {
   for (std::uint32_t i = 0; i < 1023; ++i) body.vx(i);
   const Reading reading(ObjectBytes().layer(0, "a").points(1023).chunk("POLS", body));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(reading.data.layer(0).face(0).size(), 1023U);
-  EXPECT_EQ(reading.data.layer(0).face(0).back(), 1022U);
+  EXPECT_EQ(reading.data.layer(0).faces()[0].size(), 1023U);
+  EXPECT_EQ(reading.data.layer(0).faces()[0].back(), 1022U);
 }
 
 TEST(ObjectReader, TakesPolygonsWithoutCorners) {
   const Reading reading(ObjectBytes().layer(0, "a").polygons("FACE", {{}, {}}).polygons("BONE", {{}}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(facesOf(reading.data.layer(0)), (Lists{{}, {}}));
+  EXPECT_EQ(reading.data.layer(0).faces(), (Lists{{}, {}}));
   EXPECT_EQ(skelegonsOf(reading.data.layer(0)), (Lists{{}}));
 }
 
@@ -171,7 +164,7 @@ TEST(ObjectReader, ReadsAnIndexOfFourBytesAsTheLastThree) {
   body.id("FACE").u2(3).longVx(2).u2(1).longVx(0x00FF01);
   const Reading reading(ObjectBytes().layer(0, "a").points(0x00FF02).chunk("POLS", body));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(facesOf(reading.data.layer(0)), (Lists{{2, 1, 0x00FF01}}));
+  EXPECT_EQ(reading.data.layer(0).faces(), (Lists{{2, 1, 0x00FF01}}));
 }
 
 TEST(ObjectReader, ReadsPolygonsOfAllWidthsAndCountsInARow) {
@@ -192,7 +185,7 @@ TEST(ObjectReader, ReadsPolygonsOfAllWidthsAndCountsInARow) {
   }
   const Reading reading(ObjectBytes().layer(0, "a").points(100).chunk("POLS", body));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(facesOf(reading.data.layer(0)), expected);
+  EXPECT_EQ(reading.data.layer(0).faces(), expected);
 }
 
 TEST(ObjectReader, AppendsPolygonsOfFurtherChunks) {
@@ -203,7 +196,7 @@ TEST(ObjectReader, AppendsPolygonsOfFurtherChunks) {
                             .polygons("BONE", {{1, 2}})
                             .polygons("FACE", {{1}, {2}})
                             .polygons("BONE", {{2, 3}}));
-  EXPECT_EQ(facesOf(reading.data.layer(0)), (Lists{{0}, {1}, {2}}));
+  EXPECT_EQ(reading.data.layer(0).faces(), (Lists{{0}, {1}, {2}}));
   EXPECT_EQ(skelegonsOf(reading.data.layer(0)), (Lists{{1, 2}, {2, 3}}));
 }
 
@@ -224,7 +217,7 @@ TEST(ObjectReader, TakesPolygonsOfPointsThatTheirLayerDoesNotHave) {
   ASSERT_TRUE(reading.isSound);
   EXPECT_EQ(skelegonsOf(reading.data.layer(0)), (Lists{{0, 1}, {1, 0xFFFFFF}}));
   EXPECT_EQ(skelegonsOf(reading.data.layer(1)), (Lists{{1, 3}}));
-  EXPECT_EQ(facesOf(reading.data.layer(1)), (Lists{{0, 1, 3}}));
+  EXPECT_EQ(reading.data.layer(1).faces(), (Lists{{0, 1, 3}}));
   EXPECT_EQ(reading.data.layer(1).points().size(), 3U);
 }
 

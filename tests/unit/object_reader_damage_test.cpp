@@ -48,6 +48,7 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Layers, DamagedObject,
     testing::Values(Damage{"EmptyLayer", ObjectBytes().chunk("LAYR", Bytes())},
+                    Damage{"LayerWithANumberAlone", ObjectBytes().chunk("LAYR", Bytes().u2(0))},
                     Damage{"LayerWithoutAName", ObjectBytes().chunk("LAYR", layerBody())},
                     Damage{"LayerNameWithoutItsZero", ObjectBytes().chunk("LAYR", layerBody().text("ab"))},
                     Damage{"HalfAParent", ObjectBytes().chunk("LAYR", layerBody().s0("a").u1(0))},

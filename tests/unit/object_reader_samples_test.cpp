@@ -49,22 +49,21 @@ std::string factName(std::uint32_t type) {
 
 nlohmann::json factsOf(const SkelegonRecord& skelegon, const ObjectFileData& data) {
   nlohmann::json facts{{"head", skelegon.points[0]}, {"tail", skelegon.points[1]}, {"tags", nlohmann::json::object()}};
-  const auto texts = data.tags();
   for (const PolygonTag& tag : skelegon.tags) {
     // The facts leave the surface out, which every polygon has.
     if (tag.type == idOf("SURF")) continue;
-    facts["tags"][factName(tag.type)] = tag.index < texts.size() ? texts[tag.index] : "(no such text)";
+    facts["tags"][factName(tag.type)] = tag.index < data.tagCount() ? data.tag(tag.index) : "(no such text)";
   }
   return facts;
 }
 
 nlohmann::json factsOf(const ObjectFileData& data) {
   nlohmann::json layers = nlohmann::json::array();
-  for (const ObjectLayer layer : data.layers()) {
+  for (const ObjectLayer& layer : layersOf(data)) {
     nlohmann::json facts{{"number", layer.number()},   {"name", layer.name()},
                          {"parent", layer.parent()},   {"points", layer.points().size()},
                          {"faces", layer.faceCount()}, {"skelegons", nlohmann::json::array()}};
-    for (const SkelegonRecord skelegon : layer.skelegons()) facts["skelegons"].push_back(factsOf(skelegon, data));
+    for (const SkelegonRecord& skelegon : layer.skelegons()) facts["skelegons"].push_back(factsOf(skelegon, data));
     layers.push_back(std::move(facts));
   }
   return layers;
@@ -97,7 +96,7 @@ TEST_F(SampleObject, OfAMeshIsReadAsByThePlainReader) {
     const Reading reading(file);
     ASSERT_TRUE(reading.isSound) << printable(mesh);
     EXPECT_TRUE(readersAgree(file)) << printable(mesh);
-    for (const ObjectLayer layer : reading.data.layers()) {
+    for (const ObjectLayer& layer : layersOf(reading.data)) {
       EXPECT_EQ(layer.skelegonCount(), 0U) << printable(mesh);
       faces += layer.faceCount();
     }

@@ -17,8 +17,9 @@ TEST(ObjectReader, GivesSkelegonsTheirTagsInTheOrderOfTheFile) {
                             .polygonTags("BONE", {{1, 2}, {1, 1}}));
   ASSERT_TRUE(reading.isSound);
   const ObjectLayer layer = reading.data.layer(0);
-  EXPECT_EQ(tagsOf(layer.skelegon(0)), (Tags{{idOf("sg1A"), 4}}));
-  EXPECT_EQ(tagsOf(layer.skelegon(1)), (Tags{{idOf("sg1A"), 5}, {idOf("sg1A"), 3}, {idOf("BONE"), 2}, {idOf("BONE"), 1}}));
+  EXPECT_EQ(tagsOf(layer.skelegons()[0]), (Tags{{idOf("sg1A"), 4}}));
+  EXPECT_EQ(tagsOf(layer.skelegons()[1]),
+            (Tags{{idOf("sg1A"), 5}, {idOf("sg1A"), 3}, {idOf("BONE"), 2}, {idOf("BONE"), 1}}));
 }
 
 TEST(ObjectReader, CountsTheSkelegonsOfATagWithinTheLayer) {
@@ -32,9 +33,9 @@ TEST(ObjectReader, CountsTheSkelegonsOfATagWithinTheLayer) {
                             .polygons("BONE", {{0, 1}})
                             .polygonTags("BONE", {{0, 2}}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(0)), Tags{});
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(1)), (Tags{{idOf("BONE"), 1}}));
-  EXPECT_EQ(tagsOf(reading.data.layer(1).skelegon(0)), (Tags{{idOf("BONE"), 2}}));
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), Tags{});
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[1]), (Tags{{idOf("BONE"), 1}}));
+  EXPECT_EQ(tagsOf(reading.data.layer(1).skelegons()[0]), (Tags{{idOf("BONE"), 2}}));
 }
 
 TEST(ObjectReader, CountsTheSkelegonsOfATagFromTheLayersFirstNotTheLastChunks) {
@@ -46,16 +47,16 @@ TEST(ObjectReader, CountsTheSkelegonsOfATagFromTheLayersFirstNotTheLastChunks) {
                             .polygons("BONE", {{1, 0}})
                             .polygonTags("BONE", {{0, 8}, {1, 9}}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(0)), (Tags{{idOf("BONE"), 7}, {idOf("BONE"), 8}}));
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(1)), (Tags{{idOf("BONE"), 9}}));
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), (Tags{{idOf("BONE"), 7}, {idOf("BONE"), 8}}));
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[1]), (Tags{{idOf("BONE"), 9}}));
 }
 
 TEST(ObjectReader, GivesTagsAlsoToSkelegonsWithoutPoints) {
   const Reading reading(ObjectBytes().layer(0, "a").polygons("BONE", {{}, {}}).polygonTags("BONE", {{1, 0}}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(0)), Tags{});
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(1)), (Tags{{idOf("BONE"), 0}}));
-  EXPECT_TRUE(reading.data.layer(0).skelegon(1).points.empty());
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), Tags{});
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[1]), (Tags{{idOf("BONE"), 0}}));
+  EXPECT_TRUE(reading.data.layer(0).skelegons()[1].points.empty());
 }
 
 TEST(ObjectReader, IgnoresTagsOfFaces) {
@@ -66,7 +67,7 @@ TEST(ObjectReader, IgnoresTagsOfFaces) {
                             .polygons("FACE", {{0, 1}})
                             .polygonTags("PART", {{0, 1}, {99, 1}}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(0)), Tags{});
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), Tags{});
 }
 
 TEST(ObjectReader, IgnoresTagsOfOtherPolygons) {
@@ -77,14 +78,14 @@ TEST(ObjectReader, IgnoresTagsOfOtherPolygons) {
                             .polygons("CURV", {{0, 1}})
                             .polygonTags("BONE", {{0, 1}, {99, 1}}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(0)), Tags{});
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), Tags{});
 }
 
 TEST(ObjectReader, IgnoresTagsOfALayerWithoutPolygons) {
   const Reading reading(
       ObjectBytes().layer(0, "a").points(2).polygons("BONE", {{0, 1}}).layer(1, "b").polygonTags("BONE", {{0, 1}, {99, 1}}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(0)), Tags{});
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), Tags{});
 }
 
 TEST(ObjectReader, IgnoresEvenBrokenTagsOfFaces) {
@@ -97,11 +98,11 @@ TEST(ObjectReader, KeepsATagWhoseTextTheListDoesNotHave) {
   const Reading reading(
       ObjectBytes().layer(0, "a").points(2).polygons("BONE", {{0, 1}}).polygonTags("BONE", {{0, 65535}}).tags({"late"}));
   ASSERT_TRUE(reading.isSound);
-  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegon(0)), (Tags{{idOf("BONE"), 65535}}));
+  EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), (Tags{{idOf("BONE"), 65535}}));
 }
 
-// Tags are placed for some skelegons at a time when all lists ascend, else list by list, and so many lists at once.
-// What comes out must not depend on it.
+// Tags are placed for some skelegons at a time when all lists ascend and are long, else list by list. What comes out must not
+// depend on it.
 struct TagOrder {
   const char* name;
   std::uint32_t skelegons;
@@ -140,10 +141,29 @@ INSTANTIATE_TEST_SUITE_P(
     , ObjectReaderTagOrder,
     testing::Values(TagOrder{"DenseAscending", 1000, 20, true, true}, TagOrder{"DenseMixed", 1000, 20, false, true},
                     TagOrder{"SparseAscending", 1000, 20, true, false}, TagOrder{"SparseMixed", 1000, 20, false, false},
-                    TagOrder{"MoreListsThanAreKept", 300, 200, true, true}, TagOrder{"OneSkelegon", 1, 187, true, true},
+                    TagOrder{"ManyLists", 300, 200, true, true}, TagOrder{"OneSkelegon", 1, 187, true, true},
                     TagOrder{"AsManyAsAreDoneAtATime", 128, 3, true, true},
                     TagOrder{"OneMoreThanAreDoneAtATime", 129, 3, true, true}),
     [](const auto& info) { return std::string(info.param.name); });
+
+// The skelegons that are done at a time are those of the object, whichever layer they are in.
+TEST(ObjectReader, GivesTagsToTheSkelegonsOfSeveralLargeLayers) {
+  ObjectBytes object;
+  for (unsigned layer = 0; layer < 3; ++layer) {
+    Bytes bones;
+    Bytes names;
+    bones.id("BONE");
+    names.id("BONE");
+    for (std::uint32_t i = 0; i < 200; ++i) {
+      bones.u2(1).vx(i);
+      names.vx(i).u2(1000 * layer + i);
+    }
+    object.layer(layer, "a").chunk("POLS", bones).chunk("PTAG", names).chunk("PTAG", names);
+  }
+  EXPECT_TRUE(readersAgree(object.file()));
+  const Reading reading(object);
+  EXPECT_EQ(tagsOf(reading.data.layer(2).skelegons()[199]), (Tags{{idOf("BONE"), 2199}, {idOf("BONE"), 2199}}));
+}
 
 }  // namespace
 }  // namespace varnel::test

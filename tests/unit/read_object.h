@@ -3,10 +3,9 @@
 
 #include <array>
 #include <bit>
+#include <cstddef>
 #include <cstdint>
-#include <span>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -23,26 +22,25 @@ using lwp::st::ReadObjectFile;
 using lwp::st::SkelegonRecord;
 
 inline bool isEmpty(const ObjectFileData& data) {
-  return data.path().empty() && data.tags().empty() && data.layers().empty();
+  return data.path().empty() && data.tagCount() == 0 && data.layerCount() == 0;
 }
 
 inline std::vector<std::string> textsOf(const ObjectFileData& data) {
   std::vector<std::string> texts;
-  for (const std::string_view text : data.tags()) texts.emplace_back(text);
+  for (std::size_t i = 0; i < data.tagCount(); ++i) texts.emplace_back(data.tag(i));
   return texts;
 }
 
-inline std::vector<std::uint32_t> listOf(std::span<const std::uint32_t> numbers) { return {numbers.begin(), numbers.end()}; }
-
-inline std::vector<std::vector<std::uint32_t>> facesOf(const ObjectLayer& layer) {
-  std::vector<std::vector<std::uint32_t>> faces;
-  for (const auto face : layer.faces()) faces.push_back(listOf(face));
-  return faces;
+// The layers of an object, which refer to it.
+inline std::vector<ObjectLayer> layersOf(const ObjectFileData& data) {
+  std::vector<ObjectLayer> layers;
+  for (std::size_t i = 0; i < data.layerCount(); ++i) layers.push_back(data.layer(i));
+  return layers;
 }
 
 inline std::vector<std::vector<std::uint32_t>> skelegonsOf(const ObjectLayer& layer) {
   std::vector<std::vector<std::uint32_t>> skelegons;
-  for (const SkelegonRecord skelegon : layer.skelegons()) skelegons.push_back(listOf(skelegon.points));
+  for (const SkelegonRecord& skelegon : layer.skelegons()) skelegons.push_back(skelegon.points);
   return skelegons;
 }
 
@@ -62,7 +60,7 @@ inline std::array<std::uint32_t, 3> bitsOf(const lwp::st::Vec12& vector) {
 inline PlainObject plainObject(const ObjectFileData& data) {
   PlainObject object;
   object.tags = textsOf(data);
-  for (const ObjectLayer layer : data.layers()) {
+  for (const ObjectLayer& layer : layersOf(data)) {
     PlainLayer& plain = object.layers.emplace_back();
     plain.number = layer.number();
     plain.flags = layer.flags();
@@ -70,9 +68,9 @@ inline PlainObject plainObject(const ObjectFileData& data) {
     plain.pivot = bitsOf(layer.pivot());
     plain.name = layer.name();
     for (const auto& point : layer.points()) plain.points.push_back(bitsOf(point));
-    plain.faces = facesOf(layer);
-    for (const SkelegonRecord skelegon : layer.skelegons()) {
-      plain.skelegons.push_back({listOf(skelegon.points), tagsOf(skelegon)});
+    plain.faces = layer.faces();
+    for (const SkelegonRecord& skelegon : layer.skelegons()) {
+      plain.skelegons.push_back({skelegon.points, tagsOf(skelegon)});
     }
   }
   return object;

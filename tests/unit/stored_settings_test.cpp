@@ -150,7 +150,7 @@ TEST_P(StoredObject, ReadsAsItsDescriptionSays) {
     ASSERT_EQ(data.layer(l).skelegonCount(), layer["skelegons"].size());
     for (std::size_t k = 0; k < data.layer(l).skelegonCount(); ++k) {
       const json& skelegon = layer["skelegons"][k];
-      EXPECT_EQ(readingOf(lwp::storedProperties(data, data.layer(l).skelegon(k)), skelegon), withoutDefaults(skelegon))
+      EXPECT_EQ(readingOf(lwp::storedProperties(data, data.layer(l).skelegons()[k]), skelegon), withoutDefaults(skelegon))
           << "skelegon " << k;
     }
   }

@@ -232,6 +232,16 @@ TEST_F(TreeViewTest, WhatIsKeptFirstIsWhatComesBack) {
   EXPECT_EQ(selected(), Names{"B"});
 }
 
+TEST_F(TreeViewTest, AfterPressesWereTakenBackTheSecondClickIsStillOne) {
+  const std::size_t rows = tree.rows().size();
+  pressLabel(2);
+  tree.keepForTakingBack();
+  pressLabel(2);
+  tree.takeBack();
+  tree.press({labelX(2), middleOf(2), kLeft | kDown, 2});
+  EXPECT_NE(tree.rows().size(), rows);
+}
+
 TEST_F(TreeViewTest, WithNothingKeptNothingIsTakenBack) {
   tree.keepForTakingBack();
   pressLabel(3);

@@ -10,7 +10,7 @@
 
 namespace mst {
 
-class TestTree : public TreeOwner {
+class TestTree : public CTreeOwner {
  public:
   struct Node {
     std::string text;
