@@ -23,6 +23,7 @@ using Rows = std::vector<RowCase>;
 
 Rows leadingRows() {
   return {
+      // clang-format off
       {"01", {{12, "rig"}}, {"BoneSource 0x"}, {}, {"BoneSource"}},
       {"02", {{13, "0"}}, {"BoneFalloffType 1"}, {{13, "7"}}, {"BoneFalloffType 7"}},
       {"03", {{16, "3"}}, {"BoneMode 3"}, {}, {"BoneMode 3"}},
@@ -35,55 +36,35 @@ Rows leadingRows() {
       {"10", {{31, "100.000000"}}, {"BoneStrength 1.0000000000"}, {{31, "50"}}, {"BoneStrength 1.0"}},
       {"11", {{32, "0"}}, {"BoneStrengthMultiply"}, {{32, "1"}}, {"BoneStrengthMultiply"}},
       {"12", {{33, "1"}}, {"BoneLimitedRange"}, {{33, "0"}}, {"BoneLimitedRange"}},
-      {"13",
-       {{33, "1"}, {34, "0.25"}, {35, "2.5"}},
-       {"BoneMinRange 0.0025000000", "BoneMaxRange 0.0250000000"},
-       {{34, "0.25"}},
-       {"BoneMinRange", "BoneMaxRange"}},
+      {"13", {{33, "1"}, {34, "0.25"}, {35, "2.5"}}, {"BoneMinRange 0.0025000000", "BoneMaxRange 0.0250000000"},
+       {{34, "0.25"}}, {"BoneMinRange", "BoneMaxRange"}},
       {"14", {{36, "1"}}, {"BoneJointComp"}, {}, {"BoneJointComp"}},
       {"15", {{38, "1"}}, {"BoneJointCompParent"}, {}, {"BoneJointCompParent"}},
-      {"16self",
-       {{36, "1"}, {37, "80.0"}, {39, "60"}},
-       {"BoneJointCompAmounts 0.8000000000 0.6000000000"},
-       {{37, "80"}},
+      {"16self", {{36, "1"}, {37, "80.0"}, {39, "60"}}, {"BoneJointCompAmounts 0.8000000000 0.6000000000"}, {{37, "80"}},
        {"BoneJointCompAmounts"}},
-      {"16parent",
-       {{38, "1"}, {39, "60"}},
-       {"BoneJointCompAmounts 1.0000000000 0.6000000000"},
-       {{39, "60"}},
+      {"16parent", {{38, "1"}, {39, "60"}}, {"BoneJointCompAmounts 1.0000000000 0.6000000000"}, {{39, "60"}},
        {"BoneJointCompAmounts"}},
       {"17", {{40, "1"}}, {"BoneMuscleFlex"}, {}, {"BoneMuscleFlex"}},
       {"18", {{42, "1"}}, {"BoneMuscleFlexParent"}, {}, {"BoneMuscleFlexParent"}},
-      {"19self",
-       {{40, "1"}, {41, "30"}},
-       {"BoneMuscleFlexAmounts 0.3000000000 1.0000000000"},
-       {{41, "30"}},
+      {"19self", {{40, "1"}, {41, "30"}}, {"BoneMuscleFlexAmounts 0.3000000000 1.0000000000"}, {{41, "30"}},
        {"BoneMuscleFlexAmounts"}},
-      {"19parent",
-       {{42, "1"}, {43, "20"}},
-       {"BoneMuscleFlexAmounts 1.0000000000 0.2000000000"},
-       {{43, "20"}},
+      {"19parent", {{42, "1"}, {43, "20"}}, {"BoneMuscleFlexAmounts 1.0000000000 0.2000000000"}, {{43, "20"}},
        {"BoneMuscleFlexAmounts"}},
       {"20", {{44, "1"}}, {"BoneBulge"}, {}, {"BoneBulge"}},
       {"21", {{44, "1"}, {45, "20"}}, {"BoneBulgeAmount 0.2000000000"}, {{45, "20"}}, {"BoneBulgeAmount"}},
       {"22", {{46, "1"}}, {"BoneBulgeParent"}, {}, {"BoneBulgeParent"}},
       {"23", {{46, "1"}, {47, "40"}}, {"BoneBulgeParentAmount 0.4000000000"}, {{47, "40"}}, {"BoneBulgeParentAmount"}},
       {"24", {{26, "1"}, {48, "1"}}, {"BoneTwist"}, {{26, "0"}, {48, "1"}}, {"BoneTwist"}},
-      {"25",
-       {{26, "1"}, {48, "1"}, {49, "75"}},
-       {"BoneTwistAmount 0.7500000000"},
-       {{26, "1"}, {49, "75"}},
+      {"25", {{26, "1"}, {48, "1"}, {49, "75"}}, {"BoneTwistAmount 0.7500000000"}, {{26, "1"}, {49, "75"}},
        {"BoneTwistAmount"}},
-      {"25type",
-       {{26, "2"}, {48, "1"}, {49, "75"}},
-       {"BoneTwistAmount 0.7500000000"},
-       {{48, "1"}, {49, "75"}},
+      {"25type", {{26, "2"}, {48, "1"}, {49, "75"}}, {"BoneTwistAmount 0.7500000000"}, {{48, "1"}, {49, "75"}},
        {"BoneTwistAmount"}},
       {"26", {{50, "200"}}, {"ItemIconScale 2.0000000000"}, {}, {"ItemIconScale 2"}},
       {"27", {{52, "tar"}}, {"TargetItem 0x"}, {}, {"TargetItem", "AddNull"}},
       {"28", {{53, "pole"}}, {"PoleItem 0x"}, {}, {"PoleItem", "AddNull"}},
       {"29", {{186, "5"}}, {"RotationOrder 5"}, {}, {"RotationOrder 5"}},
       {"30", {{54, "1"}}, {"UnaffectedByIK"}, {}, {"UnaffectedByIK"}},
+      // clang-format on
   };
 }
 
@@ -94,6 +75,7 @@ Rows ikRows() {
     return settings;
   };
   return {
+      // clang-format off
       {"31", goal, {"GoalItem 0x"}, {}, {"GoalItem", "AddNull"}},
       {"32", withGoal({{56, "1"}}), {"GoalObjective 1"}, {{56, "1"}}, {"GoalObjective"}},
       {"33", {{57, "2"}}, {"IKInitialState 2"}, {}, {"IKInitialState 2"}},
@@ -103,19 +85,15 @@ Rows ikRows() {
       {"37", withGoal({{61, "100"}}), {"GoalStrength 100.0000000000"}, {{61, "100"}}, {"GoalStrength"}},
       {"38", withGoal({{62, "2"}}), {"SoftIK 2"}, {{62, "2"}}, {"SoftIK"}},
       {"38objective", withGoal({{56, "0"}, {62, "1"}}), {"SoftIK 1"}, withGoal({{56, "2"}, {62, "1"}}), {"SoftIK"}},
-      {"39",
-       withGoal({{62, "1"}, {63, "2"}, {64, "10"}, {65, "90"}}),
-       {"SoftIKDistanceType 2", "SoftIKMin 0.1000000000", "SoftIKMax 0.9000000000"},
-       withGoal({{62, "0"}, {63, "2"}}),
+      {"39", withGoal({{62, "1"}, {63, "2"}, {64, "10"}, {65, "90"}}),
+       {"SoftIKDistanceType 2", "SoftIKMin 0.1000000000", "SoftIKMax 0.9000000000"}, withGoal({{62, "0"}, {63, "2"}}),
        {"SoftIKDistanceType", "SoftIKMin", "SoftIKMax"}},
-      {"39objective",
-       withGoal({{62, "1"}, {63, "2"}}),
-       {"SoftIKDistanceType 2"},
-       withGoal({{56, "1"}, {62, "1"}, {63, "2"}}),
+      {"39objective", withGoal({{62, "1"}, {63, "2"}}), {"SoftIKDistanceType 2"}, withGoal({{56, "1"}, {62, "1"}, {63, "2"}}),
        {"SoftIKDistanceType"}},
       {"40", withGoal({{66, "1"}}), {"MatchGoalOrientation"}, {{66, "1"}}, {"MatchGoalOrientation"}},
       {"41", withGoal({{67, "1"}}), {"KeepGoalWithinReach"}, {{67, "1"}}, {"KeepGoalWithinReach"}},
       {"42", withGoal({{68, "0"}}), {"FullTimeIK"}, {{68, "0"}}, {"FullTimeIK"}},
+      // clang-format on
   };
 }
 
@@ -184,33 +162,20 @@ Rows axisRows(const AxisCase& axis) {
   const std::string limits = axis.limitFactor == 1 ? a + "Limits " + tenDigits(-0.25) + " " + tenDigits(1.5707963267948966)
                                                    : a + "Limits " + tenDigits(-14.32394487827058) + " " + tenDigits(90);
   return {
+      // clang-format off
       {row(0), {{slot(0), "2"}}, {a + "Controller 2"}, {}, {a + "Controller 2"}},
       {row(1), {{slot(1), "1"}}, {"Limit" + a}, {{slot(1), "0"}}, {"Limit" + a}},
-      {row(2),
-       {{slot(1), "1"}, {slot(2), "-0.25"}, {slot(3), "1.5707963267948966"}},
-       {limits},
-       {{slot(2), "-0.25"}},
+      {row(2), {{slot(1), "1"}, {slot(2), "-0.25"}, {slot(3), "1.5707963267948966"}}, {limits}, {{slot(2), "-0.25"}},
        {a + "Limits"}},
-      {row(3),
-       {{axis.gate, "6"}, {followSlot(0), "4"}},
-       {a + "Follow 4"},
-       {{axis.gate, "3"}, {followSlot(0), "4"}},
+      {row(3), {{axis.gate, "6"}, {followSlot(0), "4"}}, {a + "Follow 4"}, {{axis.gate, "3"}, {followSlot(0), "4"}},
        {a + "Follow"}},
-      {row(4),
-       {{axis.gate, "6"}, {followSlot(1), "2"}, {followSlot(2), "-0.5"}},
-       {a + "Transform " + tenDigits(2) + " " + tenDigits(-0.5)},
-       {{axis.gate, "5"}, {followSlot(1), "2"}},
-       {a + "Transform"}},
-      {row(5) + "ik",
-       {{slot(0), "3"}, {slot(4), "0.5"}},
-       {a + "Stiffness " + tenDigits(0.5)},
-       {{slot(0), "2"}, {slot(4), "0.5"}},
+      {row(4), {{axis.gate, "6"}, {followSlot(1), "2"}, {followSlot(2), "-0.5"}},
+       {a + "Transform " + tenDigits(2) + " " + tenDigits(-0.5)}, {{axis.gate, "5"}, {followSlot(1), "2"}}, {a + "Transform"}},
+      {row(5) + "ik", {{slot(0), "3"}, {slot(4), "0.5"}}, {a + "Stiffness " + tenDigits(0.5)},
+       {{slot(0), "2"}, {slot(4), "0.5"}}, {a + "Stiffness"}},
+      {row(5) + "same", {{slot(0), "6"}, {slot(4), "0.5"}}, {a + "Stiffness " + tenDigits(0.5)}, {{slot(4), "0.5"}},
        {a + "Stiffness"}},
-      {row(5) + "same",
-       {{slot(0), "6"}, {slot(4), "0.5"}},
-       {a + "Stiffness " + tenDigits(0.5)},
-       {{slot(4), "0.5"}},
-       {a + "Stiffness"}},
+      // clang-format on
   };
 }
 
@@ -303,47 +268,17 @@ TEST_F(BoneRows, SendIKInitialStateAndBlendingWithoutAGoal) {
 
 TEST_F(BoneRows, ComeInTheirOrder) {
   convert(load(twoBones({{28, "Map"}, {36, "1"}, {33, "1"}, {77, "1"}, {55, "goal"}, {129, "Red"}, {95, "4"}})));
-  const std::vector<std::string> names = {"SelectItem",
-                                          "BoneFalloffType",
-                                          "BoneMode",
-                                          "NumLimitedBones",
-                                          "BoneType",
-                                          "BoneWeightMapName",
-                                          "BoneStrength",
-                                          "BoneLimitedRange",
-                                          "BoneMinRange",
-                                          "BoneMaxRange",
-                                          "BoneJointComp",
-                                          "BoneJointCompAmounts",
-                                          "ItemIconScale",
-                                          "RotationOrder",
-                                          "GoalItem",
-                                          "GoalObjective",
-                                          "IKInitialState",
-                                          "IKFKBlending",
-                                          "GoalStrength",
-                                          "SoftIK",
-                                          "PositionItemWorld",
-                                          "PositionItemBlendMethod",
-                                          "XController",
-                                          "LimitX",
-                                          "XLimits",
-                                          "YController",
-                                          "ZController",
-                                          "RotationItemWorld",
-                                          "RotationItemBlendMethod",
-                                          "HController",
-                                          "PController",
-                                          "BController",
-                                          "ScaleItemBlendMethod",
-                                          "SXController",
-                                          "SYController",
-                                          "SZController",
-                                          "PathAlignLookAhead",
-                                          "PathAlignMaxLookSteps",
-                                          "PathAlignReliableDist",
-                                          "ItemVisibility",
-                                          "ItemColor"};
+  const std::vector<std::string> names = {
+      // clang-format off
+      "SelectItem", "BoneFalloffType", "BoneMode", "NumLimitedBones", "BoneType", "BoneWeightMapName", "BoneStrength",
+      "BoneLimitedRange", "BoneMinRange", "BoneMaxRange", "BoneJointComp", "BoneJointCompAmounts", "ItemIconScale",
+      "RotationOrder", "GoalItem", "GoalObjective", "IKInitialState", "IKFKBlending", "GoalStrength", "SoftIK",
+      "PositionItemWorld", "PositionItemBlendMethod", "XController", "LimitX", "XLimits", "YController", "ZController",
+      "RotationItemWorld", "RotationItemBlendMethod", "HController", "PController", "BController", "ScaleItemBlendMethod",
+      "SXController", "SYController", "SZController", "PathAlignLookAhead", "PathAlignMaxLookSteps", "PathAlignReliableDist",
+      "ItemVisibility", "ItemColor",
+      // clang-format on
+  };
   std::size_t next = 0;
   for (const std::string& command : commandsOfSkelegon(1)) {
     if (next < names.size() && command.substr(0, command.find(' ')) == names[next]) ++next;

@@ -58,23 +58,12 @@ TEST_F(Conversion, AppliesToExistingBonesWithoutMakingNewOnes) {
 }
 
 TEST_F(Conversion, TogglesNothingTheSecondTime) {
-  const std::vector<Item*> items = load(twoBones({{27, "0"},
-                                                  {33, "1"},
-                                                  {36, "1"},
-                                                  {40, "1"},
-                                                  {44, "1"},
-                                                  {46, "1"},
-                                                  {26, "1"},
-                                                  {48, "1"},
-                                                  {54, "1"},
-                                                  {55, "goal"},
-                                                  {59, "0"},
-                                                  {66, "1"},
-                                                  {67, "1"},
-                                                  {68, "0"},
-                                                  {77, "1"},
-                                                  {96, "1"},
-                                                  {114, "1"}}));
+  const std::vector<Item*> items = load(twoBones({
+      // clang-format off
+      {27, "0"}, {33, "1"}, {36, "1"}, {40, "1"}, {44, "1"}, {46, "1"}, {26, "1"}, {48, "1"}, {54, "1"}, {55, "goal"},
+      {59, "0"}, {66, "1"}, {67, "1"}, {68, "0"}, {77, "1"}, {96, "1"}, {114, "1"},
+      // clang-format on
+  }));
   convert(items);
   const std::size_t before = commands().size();
   host.select(items);

@@ -156,16 +156,12 @@ TEST_F(HelperItems, LeaveTheBoneSelectedForTheCommandsThatFollow) {
 }
 
 TEST_F(HelperItems, GetTheirParents) {
-  convert(load(twoBones({{52, "tar"},
-                         {130, "Root"},
-                         {53, "pole"},
-                         {131, "tar"},
-                         {55, "goal"},
-                         {132, "Root"},
-                         {92, "rot"},
-                         {134, "Root"},
-                         {110, "scl"},
-                         {135, "Root"}})));
+  convert(load(twoBones({
+      // clang-format off
+      {52, "tar"}, {130, "Root"}, {53, "pole"}, {131, "tar"}, {55, "goal"}, {132, "Root"}, {92, "rot"}, {134, "Root"},
+      {110, "scl"}, {135, "Root"},
+      // clang-format on
+  })));
   EXPECT_EQ(item("tar").parent, &item("Root"));
   EXPECT_EQ(item("pole").parent, &item("tar"));
   EXPECT_EQ(item("goal").parent, &item("Root"));

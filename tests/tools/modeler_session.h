@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "objectfile/rig_builder.h"
 #include "skelegon/slots.h"
 #include "standin/core/program_folder.h"
 #include "standin/core/tool_names.h"
@@ -29,6 +30,19 @@ using Text = std::optional<std::string>;  // of a tag; none where there is no su
 
 inline constexpr std::uint32_t kEnglish = 0x409;
 inline constexpr std::uint32_t kJapanese = 0x411;
+
+// Layer 0 "Body": a face, Hips, Chest, Head, weight maps "Head" and "Spine". Layer 1 "Tail": Tail_01 and Tail_02.
+inline standin::ObjectFile panelRig() {
+  standin::RigBuilder rig;
+  rig.layer(0, "Body");
+  rig.face({rig.point({0, 0, 0}), rig.point({1, 0, 0}), rig.point({0, 1, 0})}, "Skin");
+  rig.weightMap("Head", {{0, 1.0F}});
+  rig.weightMap("Spine", {{1, 1.0F}});
+  rig.chain({"Hips", "Chest", "Head"}, {{0, 0, 0}, {0, 1, 0}, {0, 2, 0}, {0, 3, 0}});
+  rig.layer(1, "Tail");
+  rig.chain({"Tail_01", "Tail_02"}, {{0, 0, 5}, {0, 0, 6}, {0, 0, 7}});
+  return rig.take();
+}
 
 // Modeler with an object, all its layers in the foreground, and the module loaded.
 class ModelerSession {
@@ -109,5 +123,40 @@ class ModelerSession {
   standin::ModuleFile module;
   Panel* panel = nullptr;
 };
+
+// Acts in a session of its own while its n-th host call fails, first for n = 1, then for one that is `strideOf` greater, until
+// that is 0; nothing fails in `prepare` before it and in `look` behind it. Both learn of the refused function's name, empty once
+// the action makes no so many calls. Whatever fails, no rule of the host's may be broken. Gives the last n.
+template <class Session, class Act, class Look>
+std::uint64_t refuseEach(
+    void (*prepare)(Session&), Act act, Look look,
+    std::uint64_t (*strideOf)(const std::string&) = [](const std::string& refused) -> std::uint64_t {
+      return refused.empty() ? 0 : 1;
+    }) {
+  for (std::uint64_t call = 1;;) {
+    Session session;
+    prepare(session);
+    standin::witness().refuseCall(call);
+    act(session);
+    const std::string refused = standin::witness().refusalHappened() ? standin::witness().refusedFunction() : "";
+    SCOPED_TRACE("call " + std::to_string(call) + ", " + refused);
+    standin::witness().refuseCall(0);
+    look(session, refused);
+    const std::uint64_t stride = strideOf(refused);
+    if (stride == 0) return call;
+    call += stride;
+  }
+}
+
+inline void closeIfOpen(const char* tool) {
+  standin::Panel* const panel = standin::panels().find(tool);
+  if (panel == nullptr || !panel->isOpen()) return;
+  EXPECT_TRUE(person::close(panel));
+}
+
+// Calls that give nothing back: a module cannot know that they did not do what they should.
+inline bool cannotBeNoticed(const std::string& function) {
+  return function == "control set" || function == "control draw" || function == "panel set";
+}
 
 }  // namespace varnel::test

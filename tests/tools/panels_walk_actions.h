@@ -1,12 +1,17 @@
 // What a person does in the three panels at random, and what is expected to come of it.
 #pragma once
 
+#include <algorithm>
+#include <iterator>
 #include <random>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
+#include "modeler/renamer/rename_targets.h"
+#include "skelegon/orders.h"
 #include "tests/tools/panels_walk_fixture.h"
-#include "tests/tools/panels_walk_rename.h"
 
 namespace varnel::test {
 
@@ -19,22 +24,22 @@ inline constexpr const char* kNames[] = {
     "Bone10", "100%d",   "Arm_L_02", "尾",    "右腕の補助骨その一_L_Shoulder_Helper_01"};
 inline constexpr const char* kParts[] = {"", "x_", "左", "_L", "_R", "_L_", "_R_", "1", "o"};
 inline constexpr const char* kBaseNames[] = {"Bone01_[col]_[row]", "骨", "A[row]", "", "[col]"};
-struct Pattern {
-  const char* pattern;
-  const char* format;
-};
-inline constexpr Pattern kPatterns[] = {{"(.*)_L(.*)", "$1_R$2"}, {"(.*)_R(.*)", "$1_L$2"}, {"[0-9]+$", "7"}, {"o*", "-"},
-                                        {"^(.)(.)", "$2$1"},      {"腕|腰", "骨"}};
+inline constexpr const char* kPatterns[][2] = {
+    {"(.*)_L(.*)", "$1_R$2"}, {"(.*)_R(.*)", "$1_L$2"}, {"[0-9]+$", "7"}, {"o*", "-"}, {"^(.)(.)", "$2$1"}, {"腕|腰", "骨"}};
 
 class ThreePanelsUsed : public ThreePanels {
  protected:
   // The same on every system: the engine's numbers are the standard's, and no distribution is used.
-  int below(int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); }
-  std::size_t placeBelow(std::size_t count) { return static_cast<std::size_t>(random()) % count; }
+  int below(int count) {
+    const int number = static_cast<int>(random() % static_cast<unsigned>(count));
+    drawn += " " + std::to_string(number);
+    return number;
+  }
+  std::size_t placeBelow(std::size_t count) { return static_cast<std::size_t>(below(static_cast<int>(count))); }
   bool oneIn(int count) { return below(count) == 0; }
-  template <class Value, std::size_t size>
-  const Value& oneOf(const Value (&values)[size]) {
-    return values[placeBelow(size)];
+  template <class Values>
+  const auto& oneOf(const Values& values) {
+    return values[placeBelow(std::size(values))];
   }
   walk::Places someOf(const walk::Places& places) {
     const int share = 1 + below(6);
@@ -45,44 +50,24 @@ class ThreePanelsUsed : public ThreePanels {
     return some;
   }
 
-  bool always() const { return true; }
-  bool selectorIsFresh() const { return selector.isOpen() && selector.isFresh; }
-  bool propertiesAreFresh() const { return properties.isOpen() && properties.isFresh; }
-  bool oneCanBeNamed() const { return propertiesAreFresh() && mesh.selected().size() == 1; }
-  bool oneCanBeShown() const { return propertiesAreFresh() && mesh.selected().size() > 1; }
-  bool selectorIsOpen() const { return selector.isOpen(); }
-  bool propertiesAreOpen() const { return properties.isOpen(); }
-  bool selectorIsStale() const { return selector.isOpen() && !selector.isFresh; }
-  bool propertiesAreStale() const { return properties.isOpen() && !properties.isFresh; }
-  bool renamerIsOpen() const { return renamer.isOpen(); }
-  bool renamerIsAdvanced() const { return renamer.isOpen() && mode() == mst::RenameMode::Advanced; }
-  bool renamerIsSimple() const { return renamer.isOpen() && mode() != mst::RenameMode::Advanced; }
-
   // --- the selector --------------------------------------------------------------------------------------------------------
 
   walk::Tree::Press somewhere() {
-    walk::Tree::Press press;
     const auto row = placeBelow(tree.rows().size());
-    const int indent = 12 * tree.rows()[row].depth - tree.scrollX();
-    const int places[] = {indent,      indent - 16, indent + 15,       indent + 30,
-                          indent + 60, indent - 30, tree.width() - 20, below(tree.width())};
-    press.x = oneOf(places);
-    press.y = oneIn(10) ? below(tree.height()) : 14 * static_cast<int>(row) + below(14) - tree.scrollY();
-    press.x = std::clamp(press.x, 0, tree.width() - 1);
-    if (press.y < 0 || press.y >= tree.height()) press.y = below(tree.height());
+    const auto [width, height, scrollX, scrollY] = tree.window();
+    const int indent = 12 * tree.rows()[row].depth - scrollX / 8;
+    const int places[] = {indent, indent - 16, indent + 15, indent + 30, indent + 60, indent - 30, width - 20, below(width)};
+    walk::Tree::Press press;
+    press.x = std::clamp(oneOf(places), 0, width - 1);
+    press.y = oneIn(10) ? below(height) : 14 * static_cast<int>(row) + below(14) - scrollY / 8;
+    if (press.y < 0 || press.y >= height) press.y = below(height);
     return press;
   }
 
-  std::string clickTree() {
-    static constexpr int kQualifiers[] = {0,
-                                          0,
-                                          0,
-                                          lw::kMouseCtrl,
-                                          lw::kMouseCtrl,
-                                          lw::kMouseShift,
-                                          lw::kMouseShift,
-                                          lw::kMouseAlt,
-                                          lw::kMouseCtrl | lw::kMouseShift | lw::kMouseAlt};
+  void clickTree() {
+    using namespace lw;
+    static constexpr int kQualifiers[] = {
+        0, 0, 0, kMouseCtrl, kMouseCtrl, kMouseShift, kMouseShift, kMouseAlt, kMouseCtrl | kMouseShift | kMouseAlt};
     walk::Tree::Press press = somewhere();
     press.qualifiers = oneOf(kQualifiers);
     if (oneIn(8)) press.button = oneIn(2) ? standin::MouseButton::Right : standin::MouseButton::Middle;
@@ -90,30 +75,28 @@ class ThreePanelsUsed : public ThreePanels {
       if (oneIn(2)) press = lastPress_;  // twice at one place
       press.clicks = 2 + below(2);
     }
-    press.x = std::min(press.x, tree.width() - 1);
-    press.y = std::min(press.y, tree.height() - 1);
+    press.x = std::min(press.x, tree.window().width - 1);
+    press.y = std::min(press.y, tree.window().height - 1);
     lastPress_ = press;
     EXPECT_TRUE(person::click(treeControl(), press.x, press.y, press.button, press.qualifiers, press.clicks));
-    if (tree.press(press)) {
-      mesh.select(tree.selected());
-      propertiesHear();
-    }
-    return "click at " + std::to_string(press.x) + ", " + std::to_string(press.y) + " with " +
-           std::to_string(press.qualifiers) + ", clicks " + std::to_string(press.clicks);
+    if (!tree.press(press)) return;
+    mesh.select(tree.selected());
+    propertiesHear();
   }
 
   // That a host which has nothing but the event tells of releases is known from the first one on.
   void touchScrollBar() {
-    const walk::Tree::Press press{tree.width() - 5, 0};
+    const walk::Tree::Press press{tree.window().width - 5, 0};
     EXPECT_TRUE(person::click(treeControl(), press.x, press.y));
     tree.press(press);
   }
 
-  std::string dragScrollBar() {
+  void dragScrollBar() {
+    const auto [width, height, scrollX, scrollY] = tree.window();
     const bool isVertical = oneIn(2);
     walk::Tree::Press press;
-    press.x = isVertical ? tree.width() - 5 : below(tree.width() - 12);
-    press.y = isVertical ? below(tree.height() - 12) : tree.height() - 5;
+    press.x = isVertical ? width - 5 : below(width - 12);
+    press.y = isVertical ? below(height - 12) : height - 5;
     const Control& area = *treeControl();
     EXPECT_TRUE(person::mousePress(selector.panel, area.x + press.x, area.y + press.y));
     tree.press(press);
@@ -124,31 +107,27 @@ class ThreePanelsUsed : public ThreePanels {
       tree.drag(press.x, press.y);
     }
     EXPECT_TRUE(person::mouseRelease(selector.panel, area.x + press.x, area.y + press.y));
-    return isVertical ? "drag the right bar" : "drag the bottom bar";
   }
 
-  std::string turnWheel() {
+  void turnWheel() {
     const int notches = below(7) - 3;
     EXPECT_TRUE(person::wheel(selector.panel, 50, 20, notches));
     if (standin::panels().options.mouse != standin::MouseDelivery::Control) tree.wheel(notches);
-    return "wheel";
   }
 
-  std::string resizeSelector() {
+  void resizeSelector() {
     const int width = 250 + (oneIn(2) ? 0 : below(250));
     const int height = 87 + below(oneIn(2) ? 100 : 480);
-    if (width == selector.panel->width && height == selector.panel->height) return "nothing";
+    if (width == selector.panel->width && height == selector.panel->height) return;
     EXPECT_TRUE(person::resize(selector.panel, width, height));
     EXPECT_EQ(treeControl()->hotWidth, width - 10);
     EXPECT_EQ(treeControl()->hotHeight, height - 55);
     tree.setView(width - 10, height - 55);
-    return "resize";
   }
 
-  std::string syncSelector() {
+  void syncSelector() {
     EXPECT_TRUE(person::press(selector.panel->find("Sync")));
     treeHears();
-    return "Sync of the selector";
   }
 
   // --- the property panel --------------------------------------------------------------------------------------------------
@@ -165,20 +144,16 @@ class ThreePanelsUsed : public ThreePanels {
     show(number);
     EXPECT_TRUE(person::press(field(number)));
   }
+  static std::size_t fieldOf(int slot) { return mst::controlOf(static_cast<Slot>(slot)).value(); }
+  static std::uint32_t typeOf(int slot) { return walk::kFamily | static_cast<std::uint32_t>(slot); }
 
-  // The panel looks again after what changes more than one control, and tells the others of every change.
-  void changedOneValue() { treeHears(); }
   void putValue(int slot, const std::string& text) {
     mesh.putValue(slot, text);
     showOnNothing(slot, text);
   }
   // What is put into a control while nothing is selected is stored nowhere, and stays in sight until the panel looks again.
   void showOnNothing(int slot, const std::string& text) {
-    if (mesh.selected().empty()) shownOfNone[static_cast<skg::Slot>(slot)] = text;
-  }
-  void changedMore() {
-    propertiesHear();
-    treeHears();
+    if (mesh.selected().empty()) shownOfNone[static_cast<Slot>(slot)] = text;
   }
 
   void useValueControl(const mst::ControlRow& row, Control* control) {
@@ -193,104 +168,86 @@ class ThreePanelsUsed : public ThreePanels {
     }
   }
 
-  std::string changeValue() {
+  // The panel itself looks again only after what changes more than one control; the others are told of every change.
+  void changeValue() {
     const mst::ControlRow& row = mst::controlTable()[9 + placeBelow(183)];
-    if (!row.slot) return "nothing";
+    if (!row.slot) return;
     show(row.number);
     Control* const control = field(row.number);
     const int before = control->eventsFired;
     useValueControl(row, control);
+    if (control->eventsFired == before) return;
     const std::string text = valueOf(row, *control);
     const int slot = static_cast<int>(skg::indexOf(*row.slot));
-    if (control->eventsFired == before) return "the same value again";
-    if (*row.slot == skg::Slot::Colour) {
+    if (*row.slot == Slot::Colour) {
       mesh.putOnSelected(walk::kColourCopy, text);
       mesh.putOnSelected(lw::kTagColour, text == "DkCyn" || text == "Cyan" ? "" : text);
       showOnNothing(slot, text);
     } else {
       putValue(slot, text);
     }
-    changedOneValue();
-    return "slot " + std::to_string(slot) + " to \"" + text + "\"";
+    treeHears();
   }
 
-  std::string typeName() {
+  void typeName() {
     Control* const edit = field(mst::control::kNameEdit);
     const std::string name = oneOf(kNames);
     const int before = edit->eventsFired;
     EXPECT_TRUE(person::type(edit, name));
-    if (edit->eventsFired == before) return "the same name again";
+    if (edit->eventsFired == before) return;
     mesh.putOnSelected(lw::kTagBone, name);
     mesh.putOnSelected(lw::kTagPart, name);
-    changedOneValue();
-    return "name to \"" + name + "\"";
+    treeHears();
   }
 
-  std::string showAnother() {
+  void showAnother() {
     const int index = below(static_cast<int>(mesh.selected().size()));
     EXPECT_TRUE(person::choose(field(mst::control::kNamePopup), index));
     shownOfSelected = static_cast<std::size_t>(index);
-    return "show the values of number " + std::to_string(index);
   }
 
-  std::string fillLinked() {
-    struct Fill {
-      std::size_t field;
-      int slot;
-      const char* suffix;
-    };
-    static constexpr Fill kFills[] = {{42, 142, "_initpos"}, {49, 52, "_tar"},  {56, 53, "_pole"}, {65, 55, "_goal"},
-                                      {92, 73, "_pos"},      {126, 92, "_rot"}, {159, 110, "_scl"}};
-    const Fill& fill = oneOf(kFills);
-    press(fill.field + 1);
-    for (const std::size_t place : mesh.selected()) {
-      mesh.put(place, walk::kFamily | static_cast<std::uint32_t>(fill.slot), mesh[place].name() + fill.suffix);
-    }
-    changedMore();
-    return std::string("fill ") + fill.suffix;
+  void fillLinked() {
+    static constexpr std::pair<int, const char*> kFills[] = {{142, "_initpos"}, {52, "_tar"}, {53, "_pole"}, {55, "_goal"},
+                                                             {73, "_pos"},      {92, "_rot"}, {110, "_scl"}};
+    const auto& [slot, suffix] = oneOf(kFills);
+    press(fieldOf(slot) + 1);
+    for (const std::size_t place : mesh.selected()) mesh.put(place, typeOf(slot), mesh[place].name() + suffix);
+    bothHear();
   }
 
-  std::string fillWeightMaps() {
+  void fillWeightMaps() {
     press(kMapChooser + 1);
     for (const std::size_t place : mesh.selected()) {
       const std::string name = mesh[place].name();
       const bool isMap = std::find(kWalkMaps.begin(), kWalkMaps.end(), name) != kWalkMaps.end();
-      mesh.put(place, walk::kFamily | 27, isMap ? "1" : "0");
+      mesh.put(place, typeOf(27), isMap ? "1" : "0");
       mesh.put(place, lw::kTagBoneWeight, isMap ? name : "");
     }
-    changedMore();
-    return "weight maps by name";
+    bothHear();
   }
 
-  std::string chooseWeightMap() {
+  void chooseWeightMap() {
     show(kMapChooser);
     const auto index = placeBelow(kWalkMaps.size() + 1);
     EXPECT_TRUE(person::choose(field(kMapChooser), static_cast<int>(index)));
     putValue(27, index == 0 ? "0" : "1");
     putValue(28, index == 0 ? "" : kWalkMaps[index - 1]);
-    changedOneValue();
-    return "weight map " + std::to_string(index);
+    treeHears();
   }
 
-  std::string chooseItem() {
-    struct Chooser {
-      std::size_t number;
-      int slot;
-    };
-    static constexpr Chooser kChoosers[] = {{kParentChooser, 51}, {55, 130}, {62, 131}, {71, 132}, {98, 133},
-                                            {132, 134},           {165, 135}};
-    const Chooser& chooser = oneOf(kChoosers);
-    show(chooser.number);
-    const Names items = field(chooser.number)->items();
+  void chooseItem() {
+    static constexpr int kParents[] = {51, 130, 131, 132, 133, 134, 135};
+    const int slot = oneOf(kParents);
+    const std::size_t chooser = fieldOf(slot) + 1;
+    show(chooser);
+    const Names items = field(chooser)->items();
     const int index = below(static_cast<int>(items.size()));
-    EXPECT_TRUE(person::choose(field(chooser.number), index));
-    const std::string item = index == 0 ? "" : items[static_cast<std::size_t>(index)];
-    putValue(chooser.slot, item);
-    changedOneValue();
-    return "item \"" + item + "\" into slot " + std::to_string(chooser.slot);
+    EXPECT_TRUE(person::choose(field(chooser), index));
+    putValue(slot, index == 0 ? "" : items[static_cast<std::size_t>(index)]);
+    treeHears();
   }
 
-  std::string pressPreset() {
+  void pressPreset() {
     static constexpr std::size_t kControllers[] = {91, 125, 159};
     static constexpr int kFirst[] = {76, 95, 113};
     static constexpr const char* kValues[] = {"0", "3", "6"};
@@ -298,154 +255,179 @@ class ThreePanelsUsed : public ThreePanels {
     const auto which = placeBelow(3);
     show(kControllers[group]);
     EXPECT_TRUE(person::press(field(88 + which)));
-    for (int axis = 0; axis < 3; ++axis) {
-      mesh.putOnSelected(walk::kFamily | static_cast<std::uint32_t>(kFirst[group] + 5 * axis), kValues[which]);
-    }
-    changedMore();
-    return "preset";
+    for (int axis = 0; axis < 3; ++axis) mesh.putOnSelected(typeOf(kFirst[group] + 5 * axis), kValues[which]);
+    bothHear();
   }
 
-  std::string resetValues() {
+  void resetValues() {
     const bool isAll = oneIn(4);
     const bool yes = !oneIn(4);
     host.answer(yes ? standin::Answer::yes : standin::Answer::no);
     press(isAll ? mst::control::kResetAll : mst::control::kReset);
-    if (!yes) return "reset: no";
+    if (!yes) return;
     for (const std::size_t place : isAll ? mesh.living() : mesh.selected()) mesh.resetSettings(place);
-    changedMore();
-    return isAll ? "reset all" : "reset";
+    bothHear();
   }
 
-  std::string turnPage() {
-    show(9 + placeBelow(183));
-    return "page";
-  }
+  void turnPage() { show(9 + placeBelow(183)); }
 
-  std::string syncProperties() {
+  void syncProperties() {
     press(mst::control::kSync);
-    changedMore();
-    return "Sync of the property panel";
+    bothHear();
   }
 
   // --- the renamer ---------------------------------------------------------------------------------------------------------
 
   mst::RenameMode mode() const { return static_cast<mst::RenameMode>(at(Item::Mode)->integer); }
-  bool isOn(Item item) const { return at(item)->integer != 0; }
   void type(Item item, std::string_view text) { EXPECT_TRUE(person::type(at(item), text)); }
 
-  std::string chooseMode() {
-    static constexpr mst::RenameMode kModes[] = {mst::RenameMode::Change,
-                                                 mst::RenameMode::Prefix,
-                                                 mst::RenameMode::Suffix,
-                                                 mst::RenameMode::Replace,
-                                                 mst::RenameMode::RegularExpression,
-                                                 mst::RenameMode::Advanced,
-                                                 mst::RenameMode::Advanced};
-    const mst::RenameMode next = oneOf(kModes);
-    EXPECT_TRUE(person::choose(at(Item::Mode), static_cast<int>(next)));
-    return "mode " + std::to_string(static_cast<int>(next));
+  void chooseMode() {
+    static constexpr int kModes[] = {0, 1, 2, 3, 4, 5, 5};
+    EXPECT_TRUE(person::choose(at(Item::Mode), oneOf(kModes)));
   }
 
-  std::string typeTexts() {
-    const Pattern& pattern = oneOf(kPatterns);
+  void typeTexts() {
+    const auto& [pattern, format] = oneOf(kPatterns);
     switch (mode()) {
       case mst::RenameMode::RegularExpression:
-        type(Item::FirstText, pattern.pattern);
-        type(Item::SecondText, pattern.format);
+        type(Item::FirstText, pattern);
+        type(Item::SecondText, format);
         break;
       case mst::RenameMode::Replace: type(Item::SecondText, oneOf(kParts)); [[fallthrough]];
       case mst::RenameMode::Prefix:
       case mst::RenameMode::Suffix: type(Item::FirstText, oneOf(kParts)); break;
       default: type(Item::FirstText, oneOf(kNames)); break;
     }
-    return "texts";
   }
 
-  std::string changeSettings() {
-    static constexpr Item kMarks[] = {Item::BaseNameOn,   Item::PrefixOn,  Item::SuffixOn,     Item::ReplaceOn,
-                                      Item::RegexOn,      Item::ColumnOn,  Item::Invert,       Item::RowOn,
-                                      Item::SkelegonName, Item::WeightMap, Item::BoneProperty, Item::OverlapCheck};
-    for (int i = 0; i < 2; ++i) EXPECT_TRUE(person::toggle(at(oneOf(kMarks))));
+  using Settings = mst::RenamerSettings;
+  static constexpr std::pair<Item, bool Settings::*> kMarks[] = {
+      // clang-format off
+      {Item::BaseNameOn, &Settings::baseNameOn}, {Item::PrefixOn, &Settings::prefixOn}, {Item::SuffixOn, &Settings::suffixOn},
+      {Item::ReplaceOn, &Settings::replaceOn},   {Item::RegexOn, &Settings::regexOn},   {Item::ColumnOn, &Settings::columnOn},
+      {Item::Invert, &Settings::invert},         {Item::RowOn, &Settings::rowOn},
+      {Item::SkelegonName, &Settings::renameSkelegonName}, {Item::WeightMap, &Settings::renameWeightMap},
+      {Item::BoneProperty, &Settings::renameProperties},   {Item::OverlapCheck, &Settings::overlapCheck},
+      // clang-format on
+  };
+  static constexpr std::pair<Item, std::string Settings::*> kTexts[] = {
+      // clang-format off
+      {Item::Prefix, &Settings::prefix},           {Item::Suffix, &Settings::suffix},
+      {Item::ReplaceFrom, &Settings::replaceFrom}, {Item::ReplaceTo, &Settings::replaceTo},
+      {Item::BaseName, &Settings::baseName},
+      {Item::RegexPattern, &Settings::regexPattern}, {Item::RegexFormat, &Settings::regexFormat},
+      // clang-format on
+  };
+
+  Settings settings() const {
+    Settings s;
+    for (const auto& [item, mark] : kMarks) s.*mark = at(item)->integer != 0;
+    for (const auto& [item, text] : kTexts) s.*text = at(item)->text;
+    s.target = static_cast<mst::RenameTarget>(at(Item::Target)->integer);
+    s.order = at(Item::Order)->integer;
+    s.columnStart = at(Item::ColumnStart)->integer;
+    s.rowDigits = std::clamp(at(Item::RowDigits)->integer, 1, 6);
+    s.rowStart = std::max(0, at(Item::RowStart)->integer);
+    return s;
+  }
+
+  void changeSettings() {
+    for (int i = 0; i < 2; ++i) EXPECT_TRUE(person::toggle(at(oneOf(kMarks).first)));
     EXPECT_TRUE(person::choose(at(Item::Target), below(4)));
     EXPECT_TRUE(person::choose(at(Item::Order), below(17)));
     EXPECT_TRUE(person::choose(at(Item::ColumnStart), below(26)));
     EXPECT_TRUE(person::enter(at(Item::RowDigits), below(10) - 1));
     EXPECT_TRUE(person::enter(at(Item::RowStart), below(30) - 2));
-    static constexpr Item kTexts[] = {Item::Prefix, Item::Suffix, Item::ReplaceFrom, Item::ReplaceTo};
-    const Item text = oneOf(kTexts);
+    const Item text = kTexts[placeBelow(4)].first;
     type(text, oneOf(kParts));
     type(Item::BaseName, oneOf(kBaseNames));
-    const Pattern& pattern = oneOf(kPatterns);
-    type(Item::RegexPattern, pattern.pattern);
-    type(Item::RegexFormat, pattern.format);
-    return "advanced settings";
+    const auto& [pattern, format] = oneOf(kPatterns);
+    type(Item::RegexPattern, pattern);
+    type(Item::RegexFormat, format);
   }
 
-  std::string toggleBoneProperty() {
-    EXPECT_TRUE(person::toggle(at(Item::BoneProperty)));
-    return "Bone Property";
-  }
+  void toggleBoneProperty() { EXPECT_TRUE(person::toggle(at(Item::BoneProperty))); }
 
-  std::string addSelected() {
+  void addSelected() {
     EXPECT_TRUE(person::press(at(Item::Add)));
-    for (const std::size_t place : mesh.selected()) {
-      if (std::find(registered.begin(), registered.end(), place) == registered.end()) registered.push_back(place);
+    for (const skg::PolygonId id : mesh.ids(mesh.selected())) {
+      if (std::find(registered.begin(), registered.end(), id) == registered.end()) registered.push_back(id);
     }
-    return "Add";
   }
 
-  std::string clearRegistered() {
+  void clearRegistered() {
     EXPECT_TRUE(person::press(at(Item::Clear)));
     registered.clear();
-    return "Clear";
   }
 
-  mst::RenamerSettings settings() const {
-    mst::RenamerSettings s;
-    s.replaceOn = isOn(Item::ReplaceOn);
-    s.replaceFrom = at(Item::ReplaceFrom)->text;
-    s.replaceTo = at(Item::ReplaceTo)->text;
-    s.baseNameOn = isOn(Item::BaseNameOn);
-    s.baseName = at(Item::BaseName)->text;
-    s.prefixOn = isOn(Item::PrefixOn);
-    s.prefix = at(Item::Prefix)->text;
-    s.suffixOn = isOn(Item::SuffixOn);
-    s.suffix = at(Item::Suffix)->text;
-    s.regexOn = isOn(Item::RegexOn);
-    s.regexPattern = at(Item::RegexPattern)->text;
-    s.regexFormat = at(Item::RegexFormat)->text;
-    s.target = static_cast<mst::RenameTarget>(at(Item::Target)->integer);
-    s.columnOn = isOn(Item::ColumnOn);
-    s.order = at(Item::Order)->integer;
-    s.columnStart = at(Item::ColumnStart)->integer;
-    s.invert = isOn(Item::Invert);
-    s.rowOn = isOn(Item::RowOn);
-    s.rowDigits = std::clamp(at(Item::RowDigits)->integer, 1, 6);
-    s.rowStart = std::max(0, at(Item::RowStart)->integer);
-    s.overlapCheck = isOn(Item::OverlapCheck);
-    s.renameSkelegonName = isOn(Item::SkelegonName);
-    s.renameWeightMap = isOn(Item::WeightMap);
-    s.renameProperties = isOn(Item::BoneProperty);
-    return s;
+  struct Plan {
+    const char* error = nullptr;
+    struct Text {
+      std::size_t place;
+      std::uint32_t type;
+      std::string text;
+    };
+    std::vector<Text> texts;
+  };
+
+  Plan planSimple() const {
+    mst::CSimpleRule rule(mode(), at(Item::FirstText)->text, at(Item::SecondText)->text);
+    Plan plan;
+    for (const std::size_t place : mesh.selected()) {
+      for (const Slot slot : mst::kSimpleModeSlots) {
+        if (slot != Slot::Name && at(Item::BoneProperty)->integer == 0) break;
+        const std::uint32_t type = skg::SlotTagId(slot);
+        plan.texts.push_back({place, type, rule.newText(mesh[place].text(type))});
+      }
+    }
+    if (plan.texts.empty()) plan.error = kNeedSelection;
+    return plan;
   }
 
-  std::string runRenamer() {
-    using Answer = walk::RenamePlan::Answer;
+  Plan planAdvanced() const {
+    const Settings s = settings();
+    const skg::SkelegonList skelegons = mesh.list();
+    const auto [targets, heads] = mst::chooseTargets(s.target, skelegons, mesh.ids(mesh.selected()), registered);
+    if (heads.empty()) return {kNeedSelection, {}};
+    mst::setCounters(targets, skg::order(heads, s.order, s.invert));
+    mst::CNameRule rule(s);
+    if (s.renameSkelegonName && s.overlapCheck && mst::firstDuplicate(targets, rule)) return {kDuplicated, {}};
+
+    std::vector<std::uint32_t> types;
+    if (s.renameSkelegonName) types.push_back(lw::kTagBone);
+    if (s.renameWeightMap) types.push_back(lw::kTagBoneWeight);
+    for (const Slot slot : skg::kNameBearingSlots) {
+      if (s.renameProperties) types.push_back(skg::SlotTagId(slot));
+    }
+    Plan plan;
+    for (const skg::SkelegonNode* const target : targets) {
+      const std::size_t place = mesh.placeOf(target->polygon);
+      for (const std::uint32_t type : types) {
+        const std::string old = mesh[place].text(type);
+        const std::string text = rule.newText(old, target->column, target->row);
+        if (text != old) plan.texts.push_back({place, type, text});
+      }
+    }
+    return plan;
+  }
+
+  void runRenamer() {
     const bool isAdvanced = mode() == mst::RenameMode::Advanced;
-    const walk::RenamePlan plan = isAdvanced ? planAdvanced(mesh, settings(), registered)
-                                             : planSimple(mesh, mode(), at(Item::FirstText)->text,
-                                                          at(Item::SecondText)->text, isOn(Item::BoneProperty));
-    if (plan.isUndefined || plan.longest() > kLongestText) return "nothing";
+    const Plan plan = isAdvanced ? planAdvanced() : planSimple();
+    if (std::any_of(plan.texts.begin(), plan.texts.end(), [](const auto& t) { return t.text.size() > kLongestText; }))
+      return;
     EXPECT_TRUE(person::press(at(Item::Run)));
-    if (plan.answer == Answer::NeedSelection) errorsExpected = {"Need select the skelegon!"};
-    if (plan.answer == Answer::Duplicated) errorsExpected = {"Skelegon names are duplicated!"};
-    for (const auto& text : plan.texts) mesh.put(text.place, text.type, text.text);
+    if (plan.error != nullptr) errorsExpected = {plan.error};
+    for (const auto& [place, type, text] : plan.texts) mesh.put(place, type, text);
     // A simple run that failed is told to nobody.
-    if (isAdvanced || plan.answer == Answer::Renamed) changedMore();
-    return "run in mode " + std::to_string(at(Item::Mode)->integer) + ", " + std::to_string(plan.texts.size()) + " texts";
+    if (isAdvanced || plan.error == nullptr) bothHear();
   }
+
+  static constexpr const char* kNeedSelection = "Need select the skelegon!";
+  static constexpr const char* kDuplicated = "Skelegon names are duplicated!";
 
   std::mt19937 random;
+  std::string drawn;  // the numbers of the present action
   walk::Tree::Press lastPress_;
 };
 

@@ -1,6 +1,4 @@
 // The property panel on hosts that refuse calls or behave oddly.
-#include <functional>
-
 #include "skelegon/slot_table.h"
 #include "tests/tools/property_panel_fixture.h"
 
@@ -36,31 +34,22 @@ TEST_F(PropertyPanel, OneChangeIsOneEditWhereTheHostFiresEvents) {
 // ---------------------------------------------------------------------------------------------------------------------
 // A host that refuses a call
 
-// Calls that give nothing back: a module cannot know that they did not do what they should.
-bool cannotBeNoticed(const std::string& function) {
-  return function == "control set" || function == "control draw" || function == "panel set";
+void openOnTwo(PropertySession& session) {
+  session.openWith({"Hips", "Chest"});
+  session.showPage(kBonePage);
 }
 
-// Does something with a panel that is open on Hips and Chest, while the n-th host call fails: for every step-th n up to the
-// first that only shows something. `look` judges what is stored; whatever fails, no rule of the host's may be broken.
-void refuseEach(std::uint64_t step, const std::function<void(PropertySession&)>& act,
-                const std::function<void(PropertySession&)>& look) {
-  for (std::uint64_t call = 1;; call += step) {
-    PropertySession session;
-    session.openWith({"Hips", "Chest"});
-    session.showPage(kBonePage);
-    standin::witness().refuseCall(call);
-    act(session);
-    const bool happened = standin::witness().refusalHappened();
-    SCOPED_TRACE("call " + std::to_string(call) + ", " + standin::witness().refusedFunction());
-    standin::witness().refuseCall(0);
-    look(session);
-    // The next load shows what is stored.
-    session.sync();
-    const Text strength = session.stored("Hips", Slot::Strength);
-    EXPECT_EQ(session.control(Slot::Strength)->real, strength ? std::stod(*strength) : 100);
-    if (!happened || cannotBeNoticed(standin::witness().refusedFunction())) return;
-  }
+// The next load shows what is stored.
+void expectStoredShown(PropertySession& session) {
+  session.sync();
+  const Text strength = session.stored("Hips", Slot::Strength);
+  EXPECT_EQ(session.control(Slot::Strength)->real, strength ? std::stod(*strength) : 100);
+}
+
+// Every so-many-th call up to the first that only shows something.
+template <std::uint64_t stride>
+std::uint64_t untilShown(const std::string& refused) {
+  return refused.empty() || cannotBeNoticed(refused) ? 0 : stride;
 }
 
 bool isWhole(PropertySession& session, Slot slot, const std::string& first, const std::string& second) {
@@ -71,53 +60,57 @@ bool isWhole(PropertySession& session, Slot slot, const std::string& first, cons
 
 TEST(PropertyPanelRefusals, AChangeIsStoredOnAllSkelegonsOrOnNone) {
   refuseEach(
-      1,
+      &openOnTwo,
       [](PropertySession& session) {
         session.control(Slot::Strength)->real = 40;
         EXPECT_TRUE(standin::oddhost::fire(session.control(Slot::Strength)));
       },
-      [](PropertySession& session) {
+      [](PropertySession& session, const std::string&) {
         const bool isUnread = session.stored("Hips", Slot::Strength) == "0.000000";  // the host did not give the value
         EXPECT_TRUE(isUnread || isWhole(session, Slot::Strength, "40.000000", "40.000000"));
-      });
+        expectStoredShown(session);
+      },
+      &untilShown<1>);
 }
 
 TEST(PropertyPanelRefusals, AFilledNameIsStoredOnAllSkelegonsOrOnNone) {
   refuseEach(
-      3, [](PropertySession& session) { EXPECT_TRUE(standin::oddhost::fire(session.behind(Slot::InitialPositionItem))); },
-      [](PropertySession& session) {
+      &openOnTwo,
+      [](PropertySession& session) { EXPECT_TRUE(standin::oddhost::fire(session.behind(Slot::InitialPositionItem))); },
+      [](PropertySession& session, const std::string&) {
         // A name tag that the host does not give is none.
         EXPECT_TRUE(isWhole(session, Slot::InitialPositionItem, "Hips_initpos", "Chest_initpos") ||
                     isWhole(session, Slot::InitialPositionItem, "_initpos", "Chest_initpos") ||
                     isWhole(session, Slot::InitialPositionItem, "Hips_initpos", "_initpos"));
-      });
+        expectStoredShown(session);
+      },
+      &untilShown<3>);
 }
 
-TEST(PropertyPanelRefusals, ARefusedEditLeavesTheControlsAsTheyAre) {
-  PropertySession session;
-  session.openWith({"Hips"});
-  session.showPage(kBonePage);
-  std::uint64_t call = 1;
-  do {  // the first call that an edit makes
-    session.control(Slot::Strength)->real = 40;
-    standin::witness().refuseCall(call++);
-    EXPECT_TRUE(standin::oddhost::fire(session.control(Slot::Strength)));
-  } while (standin::witness().refusedFunction() != "LWModCommand::editBegin2" && call < 100);
-  EXPECT_EQ(session.control(Slot::Strength)->real, 40);
+TEST_F(PropertyPanel, ARefusedEditLeavesTheControlsAsTheyAre) {
+  openWith({"Hips"});
+  showPage(kBonePage);
+  control(Slot::Strength)->real = 40;
+  standin::witness().refuseNext("LWModCommand::editBegin2");
+  EXPECT_TRUE(standin::oddhost::fire(control(Slot::Strength)));
+  EXPECT_TRUE(standin::witness().refusalHappened());
+  EXPECT_EQ(control(Slot::Strength)->real, 40);
 }
 
 TEST(PropertyPanelRefusals, AResetRemovesEverythingOrNothing) {
   refuseEach(
-      11,
+      &openOnTwo,
       [](PropertySession& session) {
         session.store("Hips", Slot::Strength, "40.000000");
         session.store("Hips", Slot::Twist, "1");
         session.host.answer(standin::Answer::yes);
         EXPECT_TRUE(standin::oddhost::fire(session.control(mst::control::kReset)));
       },
-      [](PropertySession& session) {
+      [](PropertySession& session, const std::string&) {
         EXPECT_EQ(session.stored("Hips", Slot::Strength).has_value(), session.stored("Hips", Slot::Twist).has_value());
-      });
+        expectStoredShown(session);
+      },
+      &untilShown<11>);
 }
 
 // What the host refuses of the new panel, or of what it is to show.
@@ -157,29 +150,20 @@ TEST_P(RefusedNewPanel, IsMadeByTheNextRun) {
 // The host is called thousands of times while it makes the panel: of those calls every 23rd is refused, of all others every
 // third.
 TEST(PropertyPanelRefusals, AFailedRunLeavesTheNextOneWhole) {
-  bool happened = true;
-  for (std::uint64_t call = 1; happened;) {
-    PropertySession session;
-    session.host.select({"Hips"});
-    standin::witness().refuseCall(call);
-    session.host.activate(session.module, kPropertyTool);
-    happened = standin::witness().refusalHappened();
-    const std::string refused = standin::witness().refusedFunction();
-    SCOPED_TRACE("call " + std::to_string(call) + ", " + refused);
-    standin::witness().refuseCall(0);
-    call += refused.rfind("control", 0) == 0 || refused.rfind("panel", 0) == 0 ? 23 : 3;
-    if (cannotBeNoticed(refused)) {
-      standin::witness().reset();
-      continue;
-    }
-    standin::Panel* const opened = standin::panels().find(kPropertyTool);
-    if (opened != nullptr && opened->isOpen()) {
-      EXPECT_TRUE(person::close(opened));
-    }
-    session.openTool();
-    EXPECT_EQ(session.control(mst::control::kNameEdit)->text, "Hips");
-    EXPECT_EQ(standin::panels().all().size(), 1U);
-  }
+  refuseEach(
+      +[](PropertySession& session) { session.host.select({"Hips"}); },
+      [](PropertySession& session) { session.host.activate(session.module, kPropertyTool); },
+      [](PropertySession& session, const std::string& refused) {
+        if (cannotBeNoticed(refused)) return standin::witness().reset();
+        closeIfOpen(kPropertyTool);
+        session.openTool();
+        EXPECT_EQ(session.control(mst::control::kNameEdit)->text, "Hips");
+        EXPECT_EQ(standin::panels().all().size(), 1U);
+      },
+      [](const std::string& refused) -> std::uint64_t {
+        if (refused.empty()) return 0;
+        return refused.starts_with("control") || refused.starts_with("panel") ? 23 : 3;
+      });
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 
 #include "modeler/property/property_controls.h"
 #include "modeler/property/property_layout.h"
-#include "objectfile/rig_builder.h"
 #include "standin/panels/geometry.h"
 #include "tests/tools/modeler_session.h"
 
@@ -17,19 +16,6 @@ namespace varnel::test {
 
 enum Page { kGroupPage, kBonePage, kIKPage, kControllersPage };
 enum Group { kPositionGroup, kRotationGroup, kScaleGroup };
-
-// Layer 0 "Body": a face, Hips, Chest, Head, weight maps "Head" and "Spine". Layer 1 "Tail": Tail_01 and Tail_02.
-inline standin::ObjectFile panelRig() {
-  standin::RigBuilder rig;
-  rig.layer(0, "Body");
-  rig.face({rig.point({0, 0, 0}), rig.point({1, 0, 0}), rig.point({0, 1, 0})}, "Skin");
-  rig.weightMap("Head", {{0, 1.0F}});
-  rig.weightMap("Spine", {{1, 1.0F}});
-  rig.chain({"Hips", "Chest", "Head"}, {{0, 0, 0}, {0, 1, 0}, {0, 2, 0}, {0, 3, 0}});
-  rig.layer(1, "Tail");
-  rig.chain({"Tail_01", "Tail_02"}, {{0, 0, 5}, {0, 0, 6}, {0, 0, 7}});
-  return rig.take();
-}
 
 class PropertySession : public ModelerSession {
  public:

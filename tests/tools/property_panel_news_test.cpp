@@ -1,8 +1,7 @@
 // What the property panel tells the other open panels, and what it does when they tell it something. Here the panel is the
 // test's own, not the built module's, so that the test can stand in the list of open panels.
-#include <memory>
+#include <functional>
 
-#include "host/lwtool2_globals.h"
 #include "modeler/property/MST_CSkgPropPanel.h"
 #include "tests/tools/panel_listener.h"
 #include "tests/tools/property_panel_fixture.h"
@@ -10,24 +9,11 @@
 namespace varnel::test {
 namespace {
 
-using mst::PanelNews;
-
-class PropertyPanelNews : public testing::Test {
+class PropertyPanelNews : public OwnPanel<mst::CSkgPropPanel> {
  protected:
-  PropertyPanelNews() : object(&host.add(panelRig(), "rig.lwo")) {
-    host.showLayers({0, 1});
-    host.select({"Hips"});
-    const standin::ActivationRecord local("");
-    EXPECT_TRUE(lw::AcquireHostGlobals(lw::Program::Modeler, standin::Globals::lookup(), local.get()));
-    lw::LoadModelerStrings(standin::Globals::lookup());
-    tool = std::make_unique<mst::CSkgPropPanel>();
+  PropertyPanelNews() : OwnPanel(panelRig(), {"Hips"}) {
     EXPECT_TRUE(tool->OpenPropertyPanel());
     panel = standin::panels().find(kPropertyTool);
-  }
-  ~PropertyPanelNews() override {
-    tool.reset();
-    standin::panels().moduleUnloaded();
-    EXPECT_EQ(standin::witness().report(), "");
   }
 
   standin::Control* control(std::size_t number) const { return panel->at(static_cast<int>(number)); }
@@ -35,37 +21,18 @@ class PropertyPanelNews : public testing::Test {
   void storeStrength(const std::string& text) {
     object->setTag(*object->skelegon("Hips"), skg::SlotTagId(Slot::Strength), text);
   }
-
-  standin::ModelerHost host;
-  standin::ModelerObject* object;
-  std::unique_ptr<mst::CSkgPropPanel> tool;
-  standin::Panel* panel = nullptr;
 };
 
-const std::vector<PanelNews> kTold = {PanelNews::SelectionChanged};
-
-TEST_F(PropertyPanelNews, AChangeIsToldOnce) {
-  const PanelListener listener;
-  EXPECT_TRUE(standin::oddhost::fire(control(Slot::Strength)));
-  EXPECT_EQ(listener.heard, kTold);
-}
-
-TEST_F(PropertyPanelNews, ANewNameIsToldOnce) {
-  const PanelListener listener;
-  EXPECT_TRUE(person::type(control(mst::control::kNameEdit), "Pelvis"));
-  EXPECT_EQ(listener.heard, kTold);
-}
-
-TEST_F(PropertyPanelNews, AReloadIsToldOnce) {
-  const PanelListener listener;
-  EXPECT_TRUE(person::press(control(mst::control::kSync)));
-  EXPECT_EQ(listener.heard, kTold);
-}
-
-TEST_F(PropertyPanelNews, AFillButtonIsToldOnce) {
-  const PanelListener listener;
-  EXPECT_TRUE(standin::oddhost::fire(control(50)));
-  EXPECT_EQ(listener.heard, kTold);
+TEST_F(PropertyPanelNews, AValueANameAReloadAndAFillButtonAreToldOnce) {
+  using Act = std::function<standin::Done()>;
+  for (const Act& act : {Act([&] { return standin::oddhost::fire(control(Slot::Strength)); }),
+                         Act([&] { return person::type(control(mst::control::kNameEdit), "Pelvis"); }),
+                         Act([&] { return person::press(control(mst::control::kSync)); }),
+                         Act([&] { return standin::oddhost::fire(control(50)); })}) {
+    const PanelListener listener;
+    EXPECT_TRUE(act());
+    EXPECT_EQ(listener.heard, News{PanelNews::SelectionChanged});
+  }
 }
 
 TEST_F(PropertyPanelNews, APageSwitchIsToldToNobody) {
@@ -76,8 +43,7 @@ TEST_F(PropertyPanelNews, APageSwitchIsToldToNobody) {
 
 TEST_F(PropertyPanelNews, EveryCodeOfTheOthersLoadsTheValuesAnew) {
   int strength = 10;
-  for (const PanelNews news :
-       {PanelNews::Refresh, PanelNews::NamesChanged, PanelNews::PropertiesChanged, PanelNews::SelectionChanged}) {
+  for (const PanelNews news : kEveryNews) {
     storeStrength(std::to_string(++strength));
     mst::NotifyPanels(nullptr, news);
     EXPECT_EQ(control(Slot::Strength)->real, strength);
@@ -93,7 +59,7 @@ TEST_F(PropertyPanelNews, AnUnknownCodeLoadsNothing) {
 TEST_F(PropertyPanelNews, AReloadThatAnotherPanelAskedForIsNotToldOn) {
   const PanelListener listener;
   mst::NotifyPanels(nullptr, PanelNews::NamesChanged);
-  EXPECT_EQ(listener.heard, std::vector<PanelNews>{PanelNews::NamesChanged});
+  EXPECT_EQ(listener.heard, News{PanelNews::NamesChanged});
 }
 
 TEST_F(PropertyPanelNews, AClosedPanelLooksAtNothing) {

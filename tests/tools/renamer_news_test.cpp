@@ -1,8 +1,5 @@
 // What the renamer tells the other open panels, and what it does when they tell it something. Here the panel is the test's
 // own, not the built module's, so that the test can stand in the list of open panels.
-#include <memory>
-
-#include "host/lwtool2_globals.h"
 #include "modeler/renamer/MST_RenamerPanel.h"
 #include "tests/tools/panel_listener.h"
 #include "tests/tools/renamer_fixture.h"
@@ -10,27 +7,11 @@
 namespace varnel::test {
 namespace {
 
-using mst::PanelNews;
-using News = std::vector<PanelNews>;
-
-class RenamerNews : public testing::Test {
+class RenamerNews : public OwnPanel<mst::RenamerPanel> {
  protected:
-  RenamerNews() : object(&host.add(renamerRig(), "rig.lwo")) {
-    host.showLayers({0, 1});
-    host.select(kLeftArm);
-    const standin::ActivationRecord local("");
-    EXPECT_TRUE(lw::AcquireHostGlobals(lw::Program::Modeler, standin::Globals::lookup(), local.get()));
-    lw::modelerFunctions() = lw::ModelerFunctions{};
-    lw::AcquireModelerFunctions(lw::modelerFunctions(), standin::Globals::lookup(), local.get());
-    lw::LoadRenamerStrings(standin::Globals::lookup());
-    tool = std::make_unique<mst::RenamerPanel>();
+  RenamerNews() : OwnPanel(renamerRig(), kLeftArm) {
     EXPECT_TRUE(tool->OpenRenamerPanel());
     panel = standin::panels().find(kRenamerTool);
-  }
-  ~RenamerNews() override {
-    tool.reset();
-    standin::panels().moduleUnloaded();
-    EXPECT_EQ(standin::witness().report(), "");
   }
 
   standin::Control* at(Item item) const { return panel->at(static_cast<int>(mst::indexOf(item))); }
@@ -39,30 +20,34 @@ class RenamerNews : public testing::Test {
     EXPECT_TRUE(person::switchTo(at(Item::BoneProperty), withProperties));
     EXPECT_TRUE(person::press(at(Item::Run)));
   }
-
-  standin::ModelerHost host;
-  standin::ModelerObject* object;
-  std::unique_ptr<mst::RenamerPanel> tool;
-  standin::Panel* panel = nullptr;
 };
 
-TEST_F(RenamerNews, ASimpleRunTellsOfNames) {
-  const PanelListener listener;
-  run(false);
-  EXPECT_EQ(listener.heard, News{PanelNews::NamesChanged});
-}
+struct Run {
+  RenameMode mode;
+  bool isSelected;
+  bool withProperties;
+  News told;
+};
+class RenamerRuns : public RenamerNews, public testing::WithParamInterface<Run> {};
 
-TEST_F(RenamerNews, ASimpleRunWithPropertiesTellsOfBoth) {
-  const PanelListener listener;
-  run(true);
-  EXPECT_EQ(listener.heard, (News{PanelNews::NamesChanged, PanelNews::PropertiesChanged}));
-}
+const News kNames = {PanelNews::NamesChanged};
+const News kBoth = {PanelNews::NamesChanged, PanelNews::PropertiesChanged};
+INSTANTIATE_TEST_SUITE_P(Renamer, RenamerRuns,
+                         testing::Values(Run{RenameMode::Replace, true, false, kNames},
+                                         Run{RenameMode::Replace, true, true, kBoth},
+                                         Run{RenameMode::Replace, false, true, {}},
+                                         Run{RenameMode::Advanced, true, false, kNames},
+                                         Run{RenameMode::Advanced, true, true, kBoth},
+                                         // A failed advanced run tells all the same.
+                                         Run{RenameMode::Advanced, false, true, kBoth}));
 
-TEST_F(RenamerNews, ASimpleRunThatFailsTellsNothing) {
+TEST_P(RenamerRuns, AreTold) {
   const PanelListener listener;
-  host.deselectAll();
-  run(true);
-  EXPECT_TRUE(listener.heard.empty());
+  chooseMode(GetParam().mode);
+  if (!GetParam().isSelected) host.deselectAll();
+  run(GetParam().withProperties);
+  EXPECT_EQ(host.messages().empty(), GetParam().isSelected);
+  EXPECT_EQ(listener.heard, GetParam().told);
 }
 
 TEST_F(RenamerNews, ASimpleRunWithABadPatternTellsNothing) {
@@ -71,29 +56,6 @@ TEST_F(RenamerNews, ASimpleRunWithABadPatternTellsNothing) {
   EXPECT_TRUE(person::type(at(Item::FirstText), "("));
   run(false);
   EXPECT_TRUE(listener.heard.empty());
-}
-
-TEST_F(RenamerNews, AnAdvancedRunTellsOfNames) {
-  const PanelListener listener;
-  chooseMode(RenameMode::Advanced);
-  run(false);
-  EXPECT_EQ(listener.heard, News{PanelNews::NamesChanged});
-}
-
-TEST_F(RenamerNews, AnAdvancedRunWithPropertiesTellsOfBoth) {
-  const PanelListener listener;
-  chooseMode(RenameMode::Advanced);
-  run(true);
-  EXPECT_EQ(listener.heard, (News{PanelNews::NamesChanged, PanelNews::PropertiesChanged}));
-}
-
-TEST_F(RenamerNews, AnAdvancedRunThatFailsTellsAllTheSame) {
-  const PanelListener listener;
-  chooseMode(RenameMode::Advanced);
-  host.deselectAll();
-  run(true);
-  EXPECT_EQ(host.messages().size(), 1U);
-  EXPECT_EQ(listener.heard, (News{PanelNews::NamesChanged, PanelNews::PropertiesChanged}));
 }
 
 TEST_F(RenamerNews, ModesAndRegisteringTellNothing) {
@@ -115,8 +77,7 @@ TEST_F(RenamerNews, IsNotToldOfItsOwnRuns) {
 TEST_F(RenamerNews, ShowsTheRegisteredCountAgainWhenItIsTold) {
   chooseMode(RenameMode::Advanced);
   EXPECT_TRUE(person::press(at(Item::Add)));
-  for (const PanelNews news :
-       {PanelNews::Refresh, PanelNews::NamesChanged, PanelNews::PropertiesChanged, PanelNews::SelectionChanged}) {
+  for (const PanelNews news : kEveryNews) {
     at(Item::RegisteredCount)->integer = 0;
     mst::NotifyPanels(nullptr, news);
     EXPECT_EQ(at(Item::RegisteredCount)->integer, 3);

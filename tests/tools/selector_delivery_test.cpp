@@ -30,60 +30,22 @@ void hooks(PanelOptions& options) {
 void bothWays(PanelOptions& options) { options.hooksNeedMouseFlag = false; }
 
 constexpr Host kHosts[] = {
+    // clang-format off
     {"Presses", pressesOnly, false},
-    {"PressesUncounted",
-     [](PanelOptions& options) {
-       pressesOnly(options);
-       options.clickCount = ClickCount::Never;
-     },
-     false},
-    {"PressesAlwaysCountedOne",
-     [](PanelOptions& options) {
-       pressesOnly(options);
-       options.clickCount = ClickCount::Constant;
-     },
-     false},
-    {"PressesWithOldQualifiers",
-     [](PanelOptions& options) {
-       pressesOnly(options);
-       options.qualifiersAreOfTold = true;
-     },
-     false},
-    {"Buttons", [](PanelOptions& options) { options.eventMouse = EventMouse::Buttons; }, false},
-    {"Moves", [](PanelOptions& options) { options.mouse = MouseDelivery::Control; }, true},
-    {"FromControl", [](PanelOptions& options) { options.mouseFromControl = true; }, true},
+    {"PressesUncounted", [](PanelOptions& o) { pressesOnly(o); o.clickCount = ClickCount::Never; }, false},
+    {"PressesAlwaysCountedOne", [](PanelOptions& o) { pressesOnly(o); o.clickCount = ClickCount::Constant; }, false},
+    {"PressesWithOldQualifiers", [](PanelOptions& o) { pressesOnly(o); o.qualifiersAreOfTold = true; }, false},
+    {"Buttons", [](PanelOptions& o) { o.eventMouse = EventMouse::Buttons; }, false},
+    {"Moves", [](PanelOptions& o) { o.mouse = MouseDelivery::Control; }, true},
+    {"FromControl", [](PanelOptions& o) { o.mouseFromControl = true; }, true},
     {"Hooks", hooks, true},
-    {"HooksOfButtonsForMoves",
-     [](PanelOptions& options) {
-       hooks(options);
-       options.dragHook = DragHook::Button;
-     },
-     true},
-    {"HooksBesideControls",
-     [](PanelOptions& options) {
-       bothWays(options);
-       options.hooksBesideControlsOnly = true;
-     },
-     true},
+    {"HooksOfButtonsForMoves", [](PanelOptions& o) { hooks(o); o.dragHook = DragHook::Button; }, true},
+    {"HooksBesideControls", [](PanelOptions& o) { bothWays(o); o.hooksBesideControlsOnly = true; }, true},
     {"Both", bothWays, true},
-    {"BothEventFirst",
-     [](PanelOptions& options) {
-       bothWays(options);
-       options.eventBeforeHooks = true;
-     },
-     true},
-    {"BothEventOfPresses",
-     [](PanelOptions& options) {
-       bothWays(options);
-       options.eventMouse = EventMouse::Presses;
-     },
-     true},
-    {"BothFromControl",
-     [](PanelOptions& options) {
-       bothWays(options);
-       options.mouseFromControl = true;
-     },
-     true},
+    {"BothEventFirst", [](PanelOptions& o) { bothWays(o); o.eventBeforeHooks = true; }, true},
+    {"BothEventOfPresses", [](PanelOptions& o) { bothWays(o); o.eventMouse = EventMouse::Presses; }, true},
+    {"BothFromControl", [](PanelOptions& o) { bothWays(o); o.mouseFromControl = true; }, true},
+    // clang-format on
 };
 
 constexpr Painter kPainters[] = {Painter::DrawCallback, Painter::EventCallback, Painter::Both};
@@ -91,7 +53,7 @@ constexpr Painter kPainters[] = {Painter::DrawCallback, Painter::EventCallback, 
 // Each host with each painter; the host paints after everything that the user does.
 class SelectorHosts : public testing::TestWithParam<std::tuple<Host, Painter>>, protected SelectorSession {
  protected:
-  explicit SelectorHosts(standin::ObjectFile file = selectorRig()) : SelectorSession(std::move(file)) {
+  explicit SelectorHosts(standin::ObjectFile file = panelRig()) : SelectorSession(std::move(file)) {
     PanelOptions& options = standin::panels().options;
     host().set(options);
     options.painter = std::get<Painter>(GetParam());

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "modeler/selector/tree_rows.h"
-#include "objectfile/rig_builder.h"
 #include "standin/panels/geometry.h"
 #include "tests/tools/modeler_session.h"
 
@@ -26,20 +25,7 @@ struct SeenRow {
   int depth;
 };
 
-// Layer 0 "Body": a face, Hips, Chest, Head, weight maps "Spine" and "Head". Layer 1 "Tail": Tail_01 and Tail_02.
-inline standin::ObjectFile selectorRig() {
-  standin::RigBuilder rig;
-  rig.layer(0, "Body");
-  rig.face({rig.point({0, 0, 0}), rig.point({1, 0, 0}), rig.point({0, 1, 0})}, "Skin");
-  rig.weightMap("Spine", {{1, 1.0F}});
-  rig.weightMap("Head", {{0, 1.0F}});
-  rig.chain({"Hips", "Chest", "Head"}, {{0, 0, 0}, {0, 1, 0}, {0, 2, 0}, {0, 3, 0}});
-  rig.layer(1, "Tail");
-  rig.chain({"Tail_01", "Tail_02"}, {{0, 0, 5}, {0, 0, 6}, {0, 0, 7}});
-  return rig.take();
-}
-
-// The rows of that rig as the tool first shows them.
+// The rows of panelRig() as the tool first shows them.
 namespace row {
 inline constexpr SeenRow kTop{0, 0};
 inline constexpr SeenRow kBody{1, 1};
@@ -67,7 +53,7 @@ inline std::string nameOf(Delivery delivery) {
 
 class SelectorSession : public ModelerSession {
  public:
-  SelectorSession() : SelectorSession(selectorRig()) {}
+  SelectorSession() : SelectorSession(panelRig()) {}
   explicit SelectorSession(standin::ObjectFile file) : ModelerSession(std::move(file)) {}
 
   static void deliver(Delivery delivery) {

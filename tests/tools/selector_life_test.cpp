@@ -321,5 +321,29 @@ TEST_F(Selector, AfterTheObjectWasClosedClicksBeginNoEdit) {
   EXPECT_EQ(host.edits().size(), edits);
 }
 
+// ---------------------------------------------------------------------------------------------------------------------
+// Meshes that no skelegon tool makes
+
+TEST(SelectorRows, ALoopShowsEverySkelegonOnce) {
+  standin::RigBuilder rig;
+  const auto a = rig.point({0, 0, 0}), b = rig.point({0, 1, 0}), c = rig.point({0, 2, 0});
+  rig.between(a, b, "A");
+  rig.between(b, c, "B");
+  rig.between(c, a, "C");
+  SelectorSession session(rig.take());
+  session.openTool();
+  EXPECT_EQ(session.shown(6), (Names{"", "", "A", "B", "C", ""}));
+}
+
+TEST(SelectorRows, AChainOfFiveThousandIsShownToItsEnd) {
+  standin::RigBuilder rig;
+  standin::RigBuilder::Skelegon last = rig.root("B0", {0, 0, 0}, {0, 1, 0});
+  for (int i = 1; i < 5000; ++i) last = rig.child(last, "B" + std::to_string(i), {0, 0, 0});
+  SelectorSession session(rig.take());
+  session.openTool();
+  session.click({2, 2}, kAlt);
+  EXPECT_EQ(session.selected().size(), 5000U);
+}
+
 }  // namespace
 }  // namespace varnel::test

@@ -39,25 +39,12 @@ std::string shown(const std::string& text) { return testing::PrintToString(text)
 constexpr std::size_t kLong = 65536;
 
 TEST(IsObjectFileName, IsJustWhatThePatternMatches) {
-  const std::vector<std::string> pieces{".lwo",
-                                        ".lwo",
-                                        ".lwo",
-                                        "lwo",
-                                        ".",
-                                        ".LWO",
-                                        "a",
-                                        "/",
-                                        "\\",
-                                        "\n",
-                                        "\r",
-                                        " ",
-                                        "",
-                                        "\t",
-                                        ":",
-                                        ".lw",
-                                        "\x83",
-                                        "o",
-                                        std::string(1, '\0')};
+  const std::vector<std::string> pieces{
+      // clang-format off
+      ".lwo", ".lwo", ".lwo", "lwo", ".", ".LWO", "a", "/", "\\", "\n", "\r", " ", "", "\t", ":", ".lw", "\x83", "o",
+      std::string(1, '\0'),
+      // clang-format on
+  };
   std::minstd_rand random(1);
   int matches = 0;
   for (int run = 0; run < 20000; ++run) {

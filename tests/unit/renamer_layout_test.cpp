@@ -32,14 +32,16 @@ forms::Position inMode(Item item, RenameMode mode) { return mst::renamerPosition
 
 TEST(RenamerTable, NamesItsLabels) {
   const auto& labels = texts::renamerLabels(texts::Language::English);
-  std::vector<std::string> shown;
-  for (const mst::RenamerRow& row : mst::renamerTable()) shown.push_back(row.label ? labels[*row.label] : "");
-  // clang-format off
-  EXPECT_EQ(shown, (std::vector<std::string>{
+  const std::vector<std::string> expected = {
+      // clang-format off
       "Mode", "", "", "Target", "Registered Count", "Add", "Clear", "Conversion Method", "Based Name", "", "Add to Head", "",
       "Add to Last", "", "Replace", "", "", "RegExp", "", "", "Column Character", "Order", "Start", "Invert", "Row Digit",
-      "Number of Digits", "Start", "Target", "Skelegon", "Bone Weight Map", "Bone Property", "Overlap Check", "", "Run"}));
-  // clang-format on
+      "Number of Digits", "Start", "Target", "Skelegon", "Bone Weight Map", "Bone Property", "Overlap Check", "", "Run",
+      // clang-format on
+  };
+  std::vector<std::string> shown;
+  for (const mst::RenamerRow& row : mst::renamerTable()) shown.push_back(row.label ? labels[*row.label] : "");
+  EXPECT_EQ(shown, expected);
 }
 
 TEST(RenamerTable, HasTheSameLabelsInBothLanguages) {
