@@ -8,6 +8,8 @@
 #include <shellapi.h>
 
 #include <cstdio>
+
+#include "standin/core/wide_text.h"
 #endif
 
 namespace standin {
@@ -18,13 +20,7 @@ std::vector<std::string> utf8Arguments(int /*argc*/, char** /*argv*/) {
   std::vector<std::string> arguments;
   int count = 0;
   wchar_t** const wide = CommandLineToArgvW(GetCommandLineW(), &count);
-  for (int i = 1; wide != nullptr && i < count; ++i) {
-    const int bytes = WideCharToMultiByte(CP_UTF8, 0, wide[i], -1, nullptr, 0, nullptr, nullptr);
-    std::string text(static_cast<std::size_t>(bytes > 0 ? bytes : 1), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, wide[i], -1, text.data(), bytes, nullptr, nullptr);
-    text.pop_back();
-    arguments.push_back(std::move(text));
-  }
+  for (int i = 1; wide != nullptr && i < count; ++i) arguments.push_back(utf8(wide[i]));
   LocalFree(wide);
   return arguments;
 }

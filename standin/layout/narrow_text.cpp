@@ -2,6 +2,8 @@
 
 #ifdef _WIN32
 #include <windows.h>
+
+#include "standin/core/wide_text.h"
 #endif
 
 namespace standin {
@@ -14,10 +16,7 @@ std::string fromNarrow(std::string_view text) {
   std::wstring wide(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, text.data(), size, nullptr, 0)), L'\0');
   const int length = static_cast<int>(wide.size());
   MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), length);
-  std::string utf8(
-      static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, wide.data(), length, nullptr, 0, nullptr, nullptr)), '\0');
-  WideCharToMultiByte(CP_UTF8, 0, wide.data(), length, utf8.data(), static_cast<int>(utf8.size()), nullptr, nullptr);
-  return utf8;
+  return utf8(wide);
 }
 
 #else

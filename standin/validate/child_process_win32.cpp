@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "standin/core/wide_text.h"
 #include "standin/validate/child_process.h"
 
 namespace standin::validate {
@@ -9,13 +10,6 @@ namespace {
 
 constexpr DWORD kEndedByUs = 0xC000013A;
 constexpr DWORD kFirstException = 0xC0000000;
-
-std::wstring wide(const std::string& utf8) {
-  const int length = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), static_cast<int>(utf8.size()), nullptr, 0);
-  std::wstring text(static_cast<std::size_t>(length), L'\0');
-  MultiByteToWideChar(CP_UTF8, 0, utf8.data(), static_cast<int>(utf8.size()), text.data(), length);
-  return text;
-}
 
 // As the system's own parser takes it apart again: backslashes count only before a quote mark.
 std::wstring quoted(const std::wstring& word) {

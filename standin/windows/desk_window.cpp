@@ -5,12 +5,12 @@
 #include <algorithm>
 #include <array>
 
+#include "standin/core/wide_text.h"
 #include "standin/core/witness.h"
 #include "standin/panels/metrics.h"
 #include "standin/windows/messages.h"
 #include "standin/windows/painting.h"
 #include "standin/windows/theme.h"
-#include "standin/windows/wide_text.h"
 
 namespace standin {
 namespace {

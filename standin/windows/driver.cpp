@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-#include "standin/windows/wide_text.h"
+#include "standin/core/wide_text.h"
 
 namespace standin {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <array>
 
+#include "standin/core/wide_text.h"
 #include "standin/panels/metrics.h"
 #include "standin/windows/theme.h"
-#include "standin/windows/wide_text.h"
 
 namespace standin {
 namespace {

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "standin/core/wide_text.h"
 #include "standin/panels/metrics.h"
 #include "standin/panels/units.h"
 #include "standin/windows/front.h"
@@ -10,7 +11,6 @@
 #include "standin/windows/painting.h"
 #include "standin/windows/panel_window.h"
 #include "standin/windows/theme.h"
-#include "standin/windows/wide_text.h"
 // After windows.h, which it needs.
 #include <windowsx.h>
 

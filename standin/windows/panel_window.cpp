@@ -3,11 +3,11 @@
 
 #include <algorithm>
 
+#include "standin/core/wide_text.h"
 #include "standin/panels/metrics.h"
 #include "standin/windows/front.h"
 #include "standin/windows/messages.h"
 #include "standin/windows/part_windows.h"
-#include "standin/windows/wide_text.h"
 
 namespace standin {
 namespace {

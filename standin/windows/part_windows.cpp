@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "standin/core/wide_text.h"
 #include "standin/panels/metrics.h"
 #include "standin/windows/painting.h"
 #include "standin/windows/theme.h"
-#include "standin/windows/wide_text.h"
 // After windows.h, which it needs.
 #include <windowsx.h>
 

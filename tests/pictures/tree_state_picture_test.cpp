@@ -1,6 +1,4 @@
 // OpenGL's state around the drawing: it does not show in the picture, and it is left as it was found.
-#include <stdexcept>
-
 #include "tests/pictures/tree_picture_fixture.h"
 // After windows.h, which it needs.
 #include <GL/gl.h>
@@ -83,24 +81,6 @@ TEST_F(TreeState, IsLeftAsItWasFoundWithAllMatrixStacksInUse) {
   const Picture seen = drawn();
   EXPECT_EQ(before.differenceTo(GlState::now()), "");
   EXPECT_GT(countOf(seen, kBlack), 100);
-}
-
-class FailingTree : public mst::TestTree {
- public:
-  std::string_view textOf(std::size_t node) const override {
-    if (node == 1) throw std::runtime_error("the owner fails");
-    return TestTree::textOf(node);
-  }
-};
-
-TEST_F(TreeState, IsLeftAsItWasFoundAlsoWhenTheOwnerThrows) {
-  FailingTree failing;
-  failing.add(0, "a");
-  disturb();
-  const GlState before = GlState::now();
-  EXPECT_THROW(drawing.draw(failing.picture(kWidth, kHeight)), std::runtime_error);
-  EXPECT_EQ(before.differenceTo(GlState::now()), "");
-  EXPECT_EQ(standin::takeGlErrors(), "");
 }
 
 }  // namespace

@@ -1,6 +1,4 @@
 // The tree's texts as they are seen, and what making their font leaves behind.
-#include <set>
-
 #include "tests/pictures/tree_picture_fixture.h"
 // After windows.h, which it needs.
 #include <GL/gl.h>
@@ -47,19 +45,6 @@ TEST_F(TreeTextPictures, JapaneseTakesTwoCellsAndReadsAsItself) {
   EXPECT_NE(right, cell(drawnText("??"), 0, 0, 0, 2));
 }
 
-TEST_F(TreeTextPictures, BytesThatAreNoTextShowAsQuestionMarks) {
-  EXPECT_EQ(drawnText("a\xFF"
-                      "b\xE3\x81"),
-            drawnText("a?b??"));
-}
-
-TEST_F(TreeTextPictures, ACharacterThatBeginsLeftOfTheViewIsLeftOut) {
-  tree.nodes[0].text = "HHH";
-  const Picture seen = drawn(scrolled(5, 0));
-  EXPECT_TRUE(isBlank(seen.part({0, 0, 5, 14})));
-  EXPECT_EQ(seen.part({5, 0, 60, 14}), drawn().part({10, 0, 60, 14}));
-}
-
 // The font.
 
 TEST_F(TreeTextPictures, AnotherDeviceContextOfTheSameOpenGlContextRemakesTheFont) {
@@ -92,13 +77,6 @@ TEST_F(TreeTextPictures, WindowsOpenedOneAfterTheOtherAllShowText) {
     drawing.draw(picture());
     EXPECT_EQ(other.read(), before) << i;
   }
-}
-
-TEST_F(TreeTextPictures, NothingIsDrawnWithoutADeviceContext) {
-  wglMakeCurrent(nullptr, nullptr);
-  drawing.draw(picture());
-  window.makeCurrent();
-  EXPECT_EQ(glIsList(1000), GL_FALSE);
 }
 
 TEST_F(TreeTextPictures, TheFontLeavesTheDeviceContextAsItWas) {
@@ -161,51 +139,6 @@ TEST_F(TreeTextPictures, SymbolsFillTwoCellsEachAndDoNotOverlap) {
 TEST_F(TreeTextPictures, NamesWithSymbolsAsTheyAreSeen) {
   for (const char* const name : {"①腰_L", "Bone★※→", "Ⅳ番目_Ⅱ", "αβγΩ_tail", "Кость_Ёж", "ﾎﾞｰﾝ①"}) tree.add(0, name);
   save(drawn(), "tree-symbols");
-}
-
-// Lists of the host that stand where the font's lists end.
-TEST_F(TreeTextPictures, ListsOfTheHostAreLeftAlone) {
-  for (GLuint list = 1255; list < 1300; ++list) {
-    glNewList(list, GL_COMPILE);
-    glColor3f(1, 0, 0);
-    glEndList();
-  }
-  drawnText("右左①★");
-  drawing.giveFontBack();
-  for (GLuint list = 1255; list < 1300; ++list) {
-    glColor3f(0, 0, 0);
-    glCallList(list);
-    GLfloat colour[4] = {};
-    glGetFloatv(GL_CURRENT_COLOR, colour);
-    EXPECT_EQ(colour[0], 1.0F) << list;
-  }
-}
-
-TEST_F(TreeTextPictures, GivenBackTheFontIsMadeAgain) {
-  const Picture before = drawnText("A右①");
-  drawing.giveFontBack();
-  int lists = 0;
-  for (GLuint list = 1; list < 4000; ++list) lists += glIsList(list) == GL_TRUE ? 1 : 0;
-  EXPECT_EQ(lists, static_cast<int>(mst::kByteLists));
-  EXPECT_EQ(drawn(), before);
-}
-
-// Every character of the common ideographs once, a page of names at a time.
-TEST_F(TreeTextPictures, ManyDifferentCharactersDoNotPileUp) {
-  const auto utf8 = [](int c) {
-    const auto byte = [](int bits) { return static_cast<char>(bits); };
-    return std::string{byte(0xE0 | c >> 12), byte(0x80 | (c >> 6 & 0x3F)), byte(0x80 | (c & 0x3F))};
-  };
-  const Picture before = drawnText("右");
-  for (int first = 0x4E00; first < 0x4E00 + 5000; first += 16) {
-    std::string text;
-    for (int i = 0; i < 16; ++i) text += utf8(first + i);
-    drawnText(text);
-  }
-  int lists = 0;
-  for (GLuint list = 1; list < 20000; ++list) lists += glIsList(list) == GL_TRUE ? 1 : 0;
-  EXPECT_LE(lists, static_cast<int>(mst::kByteLists + mst::kMostOwnLists));
-  EXPECT_EQ(drawnText("右"), before);
 }
 
 }  // namespace

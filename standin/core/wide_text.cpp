@@ -1,6 +1,6 @@
-#include "standin/windows/wide_text.h"
+#include "standin/core/wide_text.h"
 
-#include "standin/windows/system.h"
+#include <windows.h>
 
 namespace standin {
 
