@@ -1,5 +1,5 @@
-// What the property panel costs in Modeler: opening it, one change of a setting, a reload; with all skelegons selected one change
-// again, and the button that fills the weight maps in by name.
+// What the property panel costs in Modeler: opening it, one change of a setting, a reload; with all skelegons selected one
+// change again, and the button that fills the weight maps in by name.
 #include <cstdio>
 #include <string>
 

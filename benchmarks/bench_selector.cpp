@@ -1,5 +1,5 @@
-// What the selector costs in Modeler: opening it (scan and layout), a new scan, a click that selects one row, one that selects
-// all, and one that expands or collapses.
+// What the selector costs in Modeler: opening it (scan and layout), a new scan, a click that selects one row, one that
+// selects all, and one that expands or collapses.
 #include "benchmarks/loaded_module.h"
 #include "benchmarks/module_cost.h"
 #include "objectfile/rig_builder.h"

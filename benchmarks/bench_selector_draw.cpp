@@ -1,5 +1,5 @@
-// What one redraw of the selector's tree asks of OpenGL, and the time that the drawing itself takes, by the number of rows. OpenGL
-// is a counter here, so that only the module's own work is measured.
+// What one redraw of the selector's tree asks of OpenGL, and the time that the drawing itself takes, by the number of rows.
+// OpenGL is a counter here, so that only the module's own work is measured.
 #include <algorithm>
 #include <cstdio>
 #include <string>

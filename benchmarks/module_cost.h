@@ -1,5 +1,5 @@
-// What an action of the user's costs in the module, and the table of it as Markdown: time and memory of the module's own (the
-// host's is not counted), its calls into the host, and how each of them grows with the size of the rig.
+// What an action of the user's costs in the module, and the table of it as Markdown: time and memory of the module's own
+// (the host's is not counted), its calls into the host, and how each of them grows with the size of the rig.
 #pragma once
 
 #include <algorithm>
@@ -86,7 +86,8 @@ class CostTable {
     std::vector<Sized> costs;
   };
 
-  // The exponent e for which the value grew with the size to the power of e: 0 when it stayed, 1 when it grew as the size did.
+  // The exponent e for which the value grew with the size to the power of e: 0 when it stayed, 1 when it grew as the size
+  // did.
   template <class Value>
   static std::string growth(const Sized* before, const Sized& row, Value ModuleCost::*value) {
     if (before == nullptr) return "";

@@ -18,8 +18,8 @@ namespace varnel::bench {
 using test::Bytes;
 using test::ObjectBytes;
 
-// A grid of triangles, two for each point but for two borders, as scanned and sculpted objects have them: points and faces of
-// about that many bytes. Most point numbers take four bytes.
+// A grid of triangles, two for each point but for two borders, as scanned and sculpted objects have them: points and faces
+// of about that many bytes. Most point numbers take four bytes.
 inline std::vector<std::byte> makeMesh(std::size_t wantedBytes) {
   constexpr std::uint32_t kWidth = 1000;
   constexpr std::size_t kBytesOfPoint = 12;

@@ -27,8 +27,8 @@ inline void forgetUsedMemory() {
 #endif
 }
 
-// Measures 'action' in each iteration: the processor's time, of the program and of the system for it, so that other work on the
-// machine counts less. What it returns is kept until the time was taken, then thrown away.
+// Measures 'action' in each iteration: the processor's time, of the program and of the system for it, so that other work on
+// the machine counts less. What it returns is kept until the time was taken, then thrown away.
 template <class Action>
 void measure(benchmark::State& state, Action action) {
   for (auto iteration : state) {

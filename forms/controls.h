@@ -1,4 +1,5 @@
-// What panels are made of, as plain data: for their tables, which need no host, and for what makes the host's controls of them.
+// What panels are made of, as plain data: for their tables, which need no host, and for what makes the host's controls of
+// them.
 #pragma once
 
 namespace forms {

@@ -1,5 +1,5 @@
-// The OpenGL 1.x functions that the selector's tree is drawn with, as a table: the system's own in the host, a recorder in tests.
-// Nothing here needs an OpenGL header or library.
+// The OpenGL 1.x functions that the selector's tree is drawn with, as a table: the system's own in the host, a recorder in
+// tests. Nothing here needs an OpenGL header or library.
 #pragma once
 
 #include <cstdint>
@@ -88,8 +88,8 @@ struct GlCalls {
   void* (*currentDevice)();
   // The OpenGL context that is current, null when there is none.
   void* (*currentContext)();
-  // Makes the tree's font and selects it into the device context; 'font' is null when that failed. What it gives must go back
-  // through giveFontBack, which selects what was selected before and deletes the font.
+  // Makes the tree's font and selects it into the device context; 'font' is null when that failed. What it gives must go
+  // back through giveFontBack, which selects what was selected before and deletes the font.
   SelectedFont (*selectFont)(void* device);
   void (*giveFontBack)(void* device, const SelectedFont& font);
   // With the font selected: bitmap lists of characters of its code page, and of one UTF-16 character. False: not made.

@@ -7,12 +7,12 @@
 
 namespace lw {
 
-// printf-style formatting into 512 bytes with the closing zero, independent of the process's locale. A longer result comes out
-// empty, not cut: a cut name would be another name.
+// printf-style formatting into 512 bytes with the closing zero, independent of the process's locale. A longer result comes
+// out empty, not cut: a cut name would be another name.
 std::string FormatString(const char* format, ...) VARNEL_PRINTF(1, 2);
 
-// Sends one command, UTF-8. Modeler: false when done, CEvalEx when refused. Layout: false when done, true when refused, which
-// is reported on the status line, and the caller goes on. An empty command throws CEvalEx in both.
+// Sends one command, UTF-8. Modeler: false when done, CEvalEx when refused. Layout: false when done, true when refused,
+// which is reported on the status line, and the caller goes on. An empty command throws CEvalEx in both.
 bool Eval(const std::string& command);
 
 // Formats a command and sends it. Always true: what Layout refuses, Eval has reported.

@@ -1,5 +1,5 @@
-// The host's services and the texts in the host's language: module-wide, filled anew at each activation, read everywhere else.
-// Nothing here is freed: the tables belong to the host.
+// The host's services and the texts in the host's language: module-wide, filled anew at each activation, read everywhere
+// else. Nothing here is freed: the tables belong to the host.
 #pragma once
 
 #include <array>

@@ -1,9 +1,9 @@
 // The mesh as Modeler's tools need it: skelegons listed, read, tagged and selected, layers and weight maps by name.
 // To be called in Modeler only, after its services were acquired, and with no edit open but where it says so.
 //
-// Each function opens an edit of its own and ends it, whatever happens. When a host call fails, the edit is ended with an error
-// code, so that the host drops all of its changes; the failure is reported and thrown as CBaseEx. Identifiers must be polygons of
-// the current object.
+// Each function opens an edit of its own and ends it, whatever happens. When a host call fails, the edit is ended with an
+// error code, so that the host drops all of its changes; the failure is reported and thrown as CBaseEx. Identifiers must be
+// polygons of the current object.
 #pragma once
 
 #include <cstdint>

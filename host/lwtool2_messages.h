@@ -1,5 +1,5 @@
-// What the user is told and asked in Modeler. Meanwhile they may do anything: nothing that was found in the mesh before holds
-// afterwards.
+// What the user is told and asked in Modeler. Meanwhile they may do anything: nothing that was found in the mesh before
+// holds afterwards.
 #pragma once
 
 namespace lw {

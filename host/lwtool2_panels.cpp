@@ -19,8 +19,8 @@ struct KindRow {
   forms::HostControl kind;
   const char* name;
   ValueType type;
-  // Of typed numbers, as far below zero too. Whether the host holds them to a range is not documented, nor in which unit it takes
-  // it: so it is far wider than what a rig needs, in whichever unit.
+  // Of typed numbers, as far below zero too. Whether the host holds them to a range is not documented, nor in which unit it
+  // takes it: so it is far wider than what a rig needs, in whichever unit.
   int widest = 0;
 };
 constexpr std::array kKinds = {
@@ -51,7 +51,8 @@ constexpr bool rowsStandInOrder() {
 }
 static_assert(rowsStandInOrder());
 
-// Cleared as a whole, then with what the type holds. Lists and lines the host only reads, though its interface does not say so.
+// Cleared as a whole, then with what the type holds. Lists and lines the host only reads, though its interface does not say
+// so.
 LWPanControlDesc describe(const KindRow& kind, const NewControl& control) {
   LWPanControlDesc made;
   for (GapSlot& slot : made.whole) slot = nullptr;

@@ -9,8 +9,8 @@
 
 namespace lw {
 
-// What users type ends with a whole character: half a one shows that the host holds no more. A text that ended with half a one when
-// it was set may end so still.
+// What users type ends with a whole character: half a one shows that the host holds no more. A text that ended with half a
+// one when it was set may end so still.
 enum class TextEnd { Whole, AsItIs };
 
 // One control of a panel. A light view: the panel owns the control, which lives as long as the panel does.

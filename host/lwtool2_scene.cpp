@@ -42,16 +42,16 @@ EnvelopeId envelopeOf(ItemId item, const char* pathName) {
   return envelope;
 }
 
-// Whether a key stands at that time, and not beside it: how far from the time asked for a host finds keys is not documented. A key
-// whose time the host does not tell is taken for the one asked for.
+// Whether a key stands at that time, and not beside it: how far from the time asked for a host finds keys is not documented.
+// A key whose time the host does not tell is taken for the one asked for.
 bool standsAt(EnvelopeId envelope, KeyId key, double time) {
   constexpr double kRounding = 1e-4;  // of a host that keeps times as floats; frames are much further apart
   double found = time;
   return envelopes().keyGet(envelope, key, kKeyTime, &found) == 0 || std::abs(found - time) <= kRounding;
 }
 
-// A new key at the current time. What a host answers where a key stands already is not documented: one that makes none there is
-// given the value for the key that it has, but no key beside that time is changed. Whatever comes of it, the run goes on.
+// A new key at the current time. What a host answers where a key stands already is not documented: one that makes none there
+// is given the value for the key that it has, but no key beside that time is changed. Whatever comes of it, the run goes on.
 void addKey(EnvelopeId envelope, const char* pathName, double value) {
   RefreshTimeInfo();
   const double now = timeInfo().time;

@@ -23,19 +23,20 @@ ItemKind ClassifyItem(ItemId item);
 // The item's name as the host has it now; empty where the host gives none.
 std::string itemName(ItemId item);
 
-// The object part (group 1) or the layer part (group 2) of an item name "object:layer"; empty when the name has another form.
+// The object part (group 1) or the layer part (group 2) of an item name "object:layer"; empty when the name has another
+// form.
 std::string SplitItemName(ItemId item, int group);
 
 // The number by which a command names the item. Only the low 32 bits count there.
 unsigned commandId(ItemId item);
 
-// Items by name during one run. The first item wins in this order: each object followed by its bones, then the lights, then the
-// cameras.
+// Items by name during one run. The first item wins in this order: each object followed by its bones, then the lights, then
+// the cameras.
 //
-// The scene is walked once and what was found is kept: a walk for every name would make large rigs slow. Other plug-ins may add
-// and rename items in answer to our commands, so nothing of it is simply believed: a kept item is asked its name, and a name that
-// no kept item bears is looked for in the scene before it counts as missing. So a name that is there costs one question, and one
-// that is missing costs a walk.
+// The scene is walked once and what was found is kept: a walk for every name would make large rigs slow. Other plug-ins may
+// add and rename items in answer to our commands, so nothing of it is simply believed: a kept item is asked its name, and a
+// name that no kept item bears is looked for in the scene before it counts as missing. So a name that is there costs one
+// question, and one that is missing costs a walk.
 //
 // What this does not notice is an item that comes to stand before the kept one under the same name; forget() does.
 class CSceneItems {
@@ -78,8 +79,8 @@ class CSavedSelection {
 };
 
 // Sets a motion channel, named by its path below the item's channel group ("Position.X"): the value of its only key, else
-// of a key at the current time. Throws CBaseEx when there is no such channel or the host does not change the only key; nothing
-// else ends a run. A channel without an envelope holds no keys: that is reported, and the channel is left as it is.
+// of a key at the current time. Throws CBaseEx when there is no such channel or the host does not change the only key;
+// nothing else ends a run. A channel without an envelope holds no keys: that is reported, and the channel is left as it is.
 void SetChannelValue(ItemId item, const char* pathName, double value);
 
 // Metres, radians (heading, pitch, bank), factors. All true; they throw as SetChannelValue does.

@@ -3,8 +3,8 @@
 
 namespace lw {
 
-// The hooks tell it. What `open` answers for a panel that does not block is not documented: anything but 0 is taken for success,
-// but 0 alone for nothing, for the open hook may have come already, or come yet.
+// The hooks tell it. What `open` answers for a panel that does not block is not documented: anything but 0 is taken for
+// success, but 0 alone for nothing, for the open hook may have come already, or come yet.
 class CPanelLife {
  public:
   bool isOpen() const { return state_ == State::Open; }

@@ -1,4 +1,5 @@
-// What only the operating system knows. Source files per system: platform_win32.cpp and platform_gl_win32.cpp, platform_posix.cpp.
+// What only the operating system knows. Source files per system: platform_win32.cpp and platform_gl_win32.cpp,
+// platform_posix.cpp.
 #pragma once
 
 #include <optional>
@@ -9,7 +10,8 @@ struct GlCalls;
 
 namespace platform {
 
-// The text in the system's narrow code page, or nothing when it is no valid UTF-8 or has a character that the code page lacks.
+// The text in the system's narrow code page, or nothing when it is no valid UTF-8 or has a character that the code page
+// lacks.
 std::optional<std::string> exactNarrow(std::string_view utf8);
 
 // The same for text already in UTF-16; a character that the code page lacks comes out as the system's replacement.

@@ -2,7 +2,8 @@
 //
 // Declared here once, for the module and for the stand-in host. Every layout is asserted byte by byte below its
 // declaration: a wrong offset crashes a user's session. The numbers hold for 64-bit Windows and 64-bit Linux alike, since
-// no member is a C `long`. Tables are declared only as far as they are used; `gap` members stand for slots that nobody calls.
+// no member is a C `long`. Tables are declared only as far as they are used; `gap` members stand for slots that nobody
+// calls.
 //
 // Texts are zero-terminated UTF-8 unless a member says otherwise. Texts, records and arrays that the host returns belong
 // to the host and are good until the next call into it: copy at once.

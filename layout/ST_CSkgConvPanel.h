@@ -11,7 +11,8 @@
 namespace lwp {
 
 // One record for the module's lifetime, built at the tool's first run. The host's panel in it is destroyed only when one in
-// another language takes its place, and not at unload: the host may be on its way out then, so nothing of it is called any more.
+// another language takes its place, and not at unload: the host may be on its way out then, so nothing of it is called any
+// more.
 struct ConversionSettings {
   std::string title;
   lw::PanelId panel = nullptr;
@@ -27,8 +28,8 @@ struct ConversionSettings {
 class CSkgConvPanel {
  public:
   // The tool's run. Builds the panel where there is none in the present language and opens it, without waiting for the user.
-  // A panel that is still open is opened again by the host, in the language that it has. What the host's open gives; 0 when no
-  // panel could be made.
+  // A panel that is still open is opened again by the host, in the language that it has. What the host's open gives; 0 when
+  // no panel could be made.
   int OpenConversionPanel();
 
  private:

@@ -267,8 +267,8 @@ bool parentByName(lw::CSceneItems& scene, const std::string& childName, const st
   return child == nullptr || parent == nullptr || parentTo(child, parent);
 }
 
-// The null of that name among the new selected items, which need not all be ours: other plug-ins may add items, too. The host may
-// have put a counter behind the name. Null when none is called so.
+// The null of that name among the new selected items, which need not all be ours: other plug-ins may add items, too. The
+// host may have put a counter behind the name. Null when none is called so.
 lw::ItemId namedSo(const lw::Selection& fresh, const std::string& name) {
   for (const bool exactly : {true, false}) {
     for (const lw::ItemId item : fresh) {
@@ -284,8 +284,8 @@ lw::Selection without(lw::Selection items, const lw::Selection& gone) {
   return items;
 }
 
-// Asks Layout for a null; of the name that the scene has no item of, or of any for an empty one. Null when Layout refused, or
-// selects nothing.
+// Asks Layout for a null; of the name that the scene has no item of, or of any for an empty one. Null when Layout refused,
+// or selects nothing.
 lw::ItemId addNull(lw::CSceneItems& scene, const std::string& missingName, const lw::Selection& before) {
   const std::string name(missingName.empty() ? std::string_view("Null") : missingName);
   // Eval, not EvalF: only a null that was really made may be moved. The name is a text, never a format.
@@ -298,8 +298,8 @@ lw::ItemId addNull(lw::CSceneItems& scene, const std::string& missingName, const
   }
   // What the scene holds now is not known.
   scene.forget();
-  // A host that leaves the selection as it was does not show the null that it made: the first selected item is the bone still,
-  // which must not be taken for it. It is the item of the name that was missing.
+  // A host that leaves the selection as it was does not show the null that it made: the first selected item is the bone
+  // still, which must not be taken for it. It is the item of the name that was missing.
   const lw::ItemId found = after.empty() || missingName.empty() ? nullptr : scene.FindItemByName(name);
   if (found != nullptr || fresh.empty()) return found;
   return fresh.front();  // by whatever name

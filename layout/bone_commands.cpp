@@ -21,7 +21,8 @@ constexpr AxisRow kAxes[] = {
     // axis              bit  limits    gate    limit may fail
     //                                                 lines; inside a group spaced as X's are
     {"X",  Axis::X,  0x1, 1,        Axis::X,  false, { 725,  731,  741,  747,  752,  758}},
-    // A LimitY that fails is reported and the sequence goes on, unlike the others, on purpose: the rest of the bone is set all the same.
+    // A LimitY that fails is reported and the sequence goes on, unlike the others, on purpose: the rest of the bone is set
+    // all the same.
     {"Y",  Axis::Y,  0x2, 1,        Axis::Y,  true,  { 763,  770,  781,  787,  792,  798}},
     {"Z",  Axis::Z,  0x4, 1,        Axis::Z,  false, { 803,  809,  819,  825,  830,  836}},
     // Only the limits of a rotation are turned into degrees. The transform goes as it is stored, on purpose.

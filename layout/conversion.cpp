@@ -25,7 +25,8 @@ constexpr const char* kSource = "ST_CSkgConvPanel";
 // IK, motion controllers and deformations slow every command down: off for the life of this object, then on.
 class CSwitchedOff {
  public:
-  // Delegating completes the object before the first command is sent: if one throws, the destructor still switches everything on.
+  // Delegating completes the object before the first command is sent: if one throws, the destructor still switches
+  // everything on.
   CSwitchedOff() : CSwitchedOff(kWhole) {
     for (const char* command : {"EnableIK 0", "EnableMC 0", "EnableDeformations 0"}) lw::Eval(command);
   }
@@ -66,8 +67,8 @@ struct ObjectNames {
 // Whether the file's only layer goes by the name of the file, as Layout names its item.
 bool isNamedByFile(const st::ObjectFileData& data) { return data.layerCount() == 1 && data.layer(0).number() == 0; }
 
-// Whether the item holds the first layer of its file, or the only one. The host's number of that layer is 0, or 1 where it counts
-// from 1: a file that has no other layer tells which.
+// Whether the item holds the first layer of its file, or the only one. The host's number of that layer is 0, or 1 where it
+// counts from 1: a file that has no other layer tells which.
 bool holdsFirstLayer(lw::ItemId object, const st::ObjectFileData& data) {
   const int loaded = lw::objectInfo().layerLoaded(object);
   return loaded == 0 || (loaded == 1 && isNamedByFile(data));
@@ -85,8 +86,8 @@ ObjectNames namesOf(lw::ItemId object, const st::ObjectFileData& data) {
   return names;
 }
 
-// The first layer of that name. `readPath` (UTF-8) is the path that was really read; it may be another file's, whose only layer
-// then bears that file's name.
+// The first layer of that name. `readPath` (UTF-8) is the path that was really read; it may be another file's, whose only
+// layer then bears that file's name.
 std::optional<st::ObjectLayer> layerNamed(const st::ObjectFileData& data, const std::string& name,
                                           const std::string& readPath) {
   const std::string fileName = skg::fileBaseName(readPath);

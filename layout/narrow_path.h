@@ -18,8 +18,8 @@ class CNarrowPath {
   // for the one buffer is simply not written.
   const std::string& ToNarrowPath(const char* utf8);
 
-  // The same path as the host gave it. Names are to be taken from this one: in a narrow text the second byte of a letter may look
-  // like a backslash.
+  // The same path as the host gave it. Names are to be taken from this one: in a narrow text the second byte of a letter may
+  // look like a backslash.
   const std::string& utf8() const { return utf8_; }
 
  private:

@@ -63,7 +63,8 @@ int ActivateSelector(int version, lw::GlobalFunc global, void* local, void* /*se
   return activation([&]() -> int {
     if (!fits(version, lw::kModCommandVersion, global)) return lw::kActivationBadVersion;
     const bool acquired = lw::AcquireHostGlobals(lw::Program::Modeler, global, local);
-    // Before the check, unlike in the renamer, on purpose: the functions are taken at the first activation of all, complete or not.
+    // Before the check, unlike in the renamer, on purpose: the functions are taken at the first activation of all, complete
+    // or not.
     lw::AcquireModelerFunctions(lw::modelerFunctions(), global, local);
     if (!acquired) return lw::kActivationBadGlobal;
     lw::LoadModelerStrings(global);

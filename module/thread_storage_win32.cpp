@@ -1,8 +1,8 @@
 // Gives thread-storage indices back at unload.
 //
-// The compiler's runtime is linked into the module. At the first throw it takes indices of thread storage from the system, of
-// which a process has about a thousand, and never gives them back: a host that loads and unloads the module again and again
-// would run out of them. So the runtime's way to the system's function, the import below, leads here.
+// The compiler's runtime is linked into the module. At the first throw it takes indices of thread storage from the system,
+// of which a process has about a thousand, and never gives them back: a host that loads and unloads the module again and
+// again would run out of them. So the runtime's way to the system's function, the import below, leads here.
 #include <windows.h>
 
 #include <array>

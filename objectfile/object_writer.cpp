@@ -1,6 +1,6 @@
-// Object to bytes. An object that came from a file is written along that file's chunks: each is kept as it is while the object
-// still says the same, rebuilt when it does not, left out when its content is gone; new content is added where a program that
-// wrote the whole object would have put it.
+// Object to bytes. An object that came from a file is written along that file's chunks: each is kept as it is while the
+// object still says the same, rebuilt when it does not, left out when its content is gone; new content is added where a
+// program that wrote the whole object would have put it.
 #include <algorithm>
 #include <map>
 #include <set>

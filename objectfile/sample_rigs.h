@@ -16,8 +16,8 @@ ObjectFile makeDemoRig();
 // A small rig with names, weight map and linked items in Japanese.
 ObjectFile makeJapaneseRig();
 
-// `skelegons` in one chain, each with its first `settingsEach` (0 to 20) settings stored, for measurements. Names are unique up to 50,000
-// skelegons and begin again after that, since a file can number 65,536 different texts.
+// `skelegons` in one chain, each with its first `settingsEach` (0 to 20) settings stored, for measurements. Names are unique
+// up to 50,000 skelegons and begin again after that, since a file can number 65,536 different texts.
 ObjectFile makeChainRig(std::size_t skelegons, std::size_t settingsEach);
 
 // Write them as object files. Empty when written, else the failure.

@@ -57,7 +57,8 @@ void showPropertyPanel(Panel& panel, const std::string& language) {
 
 void showSelector(Panel& panel, const std::string& language) { show("selector, " + language, panel); }
 
-// Without the look for cut labels: some of its fields have widths that leave out the end of their longest text, deliberately.
+// Without the look for cut labels: some of its fields have widths that leave out the end of their longest text,
+// deliberately.
 void showRenamer(Panel& panel, const std::string& language) {
   const std::size_t modes = person::menu(panel.find(ControlKind::Popup, 0)).size();
   for (std::size_t mode = 0; mode < modes; ++mode) {

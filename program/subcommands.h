@@ -1,4 +1,5 @@
-// The subcommands of the program. Where no comment says otherwise, the exit codes are 0 for done and 1 for something went wrong.
+// The subcommands of the program. Where no comment says otherwise, the exit codes are 0 for done and 1 for something went
+// wrong.
 #pragma once
 
 #include "program/command_line.h"
@@ -13,8 +14,8 @@ Command tripCommand();
 Command panelsCommand();
 // What the renamer does, as trees before and after.
 Command renameCommand();
-// Pictures of the module's panels, shown as real windows and used by a person's hands. Where panels cannot be shown as windows
-// this command and the next only say so.
+// Pictures of the module's panels, shown as real windows and used by a person's hands. Where panels cannot be shown as
+// windows this command and the next only say so.
 Command picturesCommand();
 // A person opens an object, uses the module's Modeler tools in real windows, and saves.
 Command deskCommand();

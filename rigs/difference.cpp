@@ -25,8 +25,8 @@ std::string positionShown(const Skelegon& skelegon) {
   return point(skelegon.head) + " - " + point(skelegon.tail);
 }
 
-// A tag that is shown by itself: none that a setting has, not the name, which Modeler stores twice, and not the surface, which
-// says nothing of a skelegon.
+// A tag that is shown by itself: none that a setting has, not the name, which Modeler stores twice, and not the surface,
+// which says nothing of a skelegon.
 bool isOtherTag(std::uint32_t tag) {
   return settingOfTag(tag) == nullptr && tag != lw::kTagBone && tag != lw::kTagPart && tag != kTagSurface;
 }

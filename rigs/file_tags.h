@@ -11,8 +11,8 @@
 
 namespace standin::rigs {
 
-// A type that the file stores several times on one polygon, with different texts at the ends. The conversion takes the first,
-// Modeler perhaps the last.
+// A type that the file stores several times on one polygon, with different texts at the ends. The conversion takes the
+// first, Modeler perhaps the last.
 struct RepeatedTag {
   std::uint32_t type = 0;
   std::size_t times = 0;

@@ -58,8 +58,8 @@ struct Finding {
   std::string number;
 };
 
-// In the order of the file: the file itself, then each layer with its skelegons and their settings; the names that become nulls
-// stand last.
+// In the order of the file: the file itself, then each layer with its skelegons and their settings; the names that become
+// nulls stand last.
 std::vector<Finding> findingsOf(const Rig& rig, const CodePage& codePage);
 
 // "Rig / Toe_L / Color (bone)"; empty for the file itself.

@@ -1,5 +1,5 @@
-// Rigs, findings and differences as text for people and as JSON for programs. All is UTF-8 and ends with a line end; it depends
-// on nothing but what it is given, so that it can be compared from one day to the next.
+// Rigs, findings and differences as text for people and as JSON for programs. All is UTF-8 and ends with a line end; it
+// depends on nothing but what it is given, so that it can be compared from one day to the next.
 #pragma once
 
 #include <string>

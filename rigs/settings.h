@@ -1,8 +1,8 @@
 // The settings that a skelegon can store, as a person meets them: name in both languages, kind, default and choices.
 //
 // All of this is data of the file format, and stands once, in the tables that the module is built from too. The library
-// varnel_rigs is a tool on that format; it plays no host. The parts of the stand-in that do play the host use no table of the
-// module's, so that a wrong row there cannot excuse itself.
+// varnel_rigs is a tool on that format; it plays no host. The parts of the stand-in that do play the host use no table of
+// the module's, so that a wrong row there cannot excuse itself.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-// Settings that belong together: the seven items that a bone may be linked to, and the nine channels of its motion. The panel
-// lays them out, the conversion sends them, and the tools that look into rigs judge them from these rows.
+// Settings that belong together: the seven items that a bone may be linked to, and the nine channels of its motion. The
+// panel lays them out, the conversion sends them, and the tools that look into rigs judge them from these rows.
 #pragma once
 
 #include <algorithm>

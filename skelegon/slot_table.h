@@ -1,6 +1,6 @@
-// What each of the 187 settings is, in one row: everything that reads, shows, writes, sends or documents a setting walks this
-// table. To give a setting to a reserved slot, fill in its row; what else it needs then fails to compile or in a test that names
-// it.
+// What each of the 187 settings is, in one row: everything that reads, shows, writes, sends or documents a setting walks
+// this table. To give a setting to a reserved slot, fill in its row; what else it needs then fails to compile or in a test
+// that names it.
 #pragma once
 
 #include <array>
@@ -31,7 +31,8 @@ using texts::ChoiceList;
 // So are the Max of Y position and of Y scale, which differ from those of X and Z.
 inline constexpr std::array<SlotRow, kSlotCount> kSlotTable = {{
     // clang-format off
-    // slot                        kind                     default        setting                                  choices, scope
+    // slot                        kind                     default        setting                                  choices,
+    // scope
     {Slot::Reserved0,              SlotKind::Reserved,      "",            ""},
     {Slot::Reserved1,              SlotKind::Reserved,      "",            ""},
     {Slot::Reserved2,              SlotKind::Reserved,      "",            ""},

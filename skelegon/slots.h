@@ -1,5 +1,5 @@
-// The 187 bone settings that a skelegon carries: number, kind, default text and tag type of each, and the rule by which Layout
-// reads them back from an object file. Modeler's tools write them, the conversion tool applies them.
+// The 187 bone settings that a skelegon carries: number, kind, default text and tag type of each, and the rule by which
+// Layout reads them back from an object file. Modeler's tools write them, the conversion tool applies them.
 #pragma once
 
 #include <array>

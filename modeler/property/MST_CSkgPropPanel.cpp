@@ -252,10 +252,10 @@ std::string CSkgPropPanel::takeChoice(std::size_t number) {
   return choosers().chosen(listOf(number), index);
 }
 
-// Leaves a chooser on none of its entries: it is a menu, and hosts may fire only when the choice changes, so that an entry it
-// rests on could not be chosen. What a host makes of an index outside the list is not documented: where it holds indices to the
-// list, there is a blank entry to rest on. That one is not read back: a host that takes no index of its list either leaves nothing to
-// do, and the module goes by the choices that it is told of, never by where a chooser rests.
+// Leaves a chooser on none of its entries: it is a menu, and hosts may fire only when the choice changes, so that an entry
+// it rests on could not be chosen. What a host makes of an index outside the list is not documented: where it holds indices
+// to the list, there is a blank entry to rest on. That one is not read back: a host that takes no index of its list either
+// leaves nothing to do, and the module goes by the choices that it is told of, never by where a chooser rests.
 void CSkgPropPanel::rest(std::size_t number) {
   const ChooserList list = listOf(number);
   for (const int outside : {-1, choosers().count(list)}) {

@@ -1,7 +1,7 @@
 // The property tool: a panel that shows the bone settings of the selected skelegons and stores each change at once.
 //
-// It works on the skelegons that its last scan found. A scan is made when the panel opens, when the user asks for it ("Sync"),
-// when another tool tells of a change, and after every action that changes more than the control it began in.
+// It works on the skelegons that its last scan found. A scan is made when the panel opens, when the user asks for it
+// ("Sync"), when another tool tells of a change, and after every action that changes more than the control it began in.
 #pragma once
 
 #include <array>

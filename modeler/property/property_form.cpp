@@ -21,8 +21,8 @@ int entriesOf(texts::ChoiceList list) {
   return static_cast<int>(texts::propertyChoices()[static_cast<std::size_t>(list)].count) - 1;  // without the null
 }
 
-// What a control shows of a stored number. An index outside its list, which a host may not bear, shows as the default; what is
-// stored stays, until the user chooses.
+// What a control shows of a stored number. An index outside its list, which a host may not bear, shows as the default; what
+// is stored stays, until the user chooses.
 int shownNumber(const ControlRow& row, int stored) {
   if (row.kind == HostControl::Bool || row.kind == HostControl::BoolButton) return stored != 0 ? 1 : 0;
   if (!row.choices || (stored >= 0 && stored < entriesOf(*row.choices))) return stored;

@@ -34,8 +34,8 @@ class CPropertyForm : public lw::CPanel {
 
   bool owns(std::size_t number, const lw::LWControl* control) const { return controls_[number].is(control); }
 
-  // The settings and the name in all value controls. Unknown colours show as the orange entry, choices that are none of their
-  // list as the setting's default.
+  // The settings and the name in all value controls. Unknown colours show as the orange entry, choices that are none of
+  // their list as the setting's default.
   void showValues(const skg::SkelegonProperties& properties);
   // A setting that has a control, in that control, which must be in sight.
   void showText(skg::Slot slot, const std::string& text);

@@ -1,5 +1,5 @@
-// When and where the property panel's controls are seen. The table names sections, rows and columns; this turns them into pages and
-// positions. No host here.
+// When and where the property panel's controls are seen. The table names sections, rows and columns; this turns them into
+// pages and positions. No host here.
 #pragma once
 
 #include "modeler/property/property_controls.h"

@@ -13,8 +13,8 @@ namespace {
 
 using skg::Slot;
 
-// Colours whose word the host's own colour tag is never given, on purpose: it is blanked, and only the copy knows them. Whoever
-// reads the host's tag sees no cyan there.
+// Colours whose word the host's own colour tag is never given, on purpose: it is blanked, and only the copy knows them.
+// Whoever reads the host's tag sees no cyan there.
 constexpr bool isKeptFromHost(std::string_view colour) { return colour == "DkCyn" || colour == "Cyan"; }
 
 template <class Write>

@@ -126,8 +126,8 @@ void RenamerPanel::showRegistered() {
   form_->setNumber(RenamerItem::RegisteredCount, static_cast<int>(registered_.size()), life_.mayBeOpen());
 }
 
-// The others are told of an advanced run whatever came of it, of a simple one only when it renamed. The difference is kept on
-// purpose: a refresh after an advanced run that failed shows the user that nothing was renamed.
+// The others are told of an advanced run whatever came of it, of a simple one only when it renamed. The difference is kept
+// on purpose: a refresh after an advanced run that failed shows the user that nothing was renamed.
 void RenamerPanel::run() {
   const RenameMode mode = chosenMode();
   const bool withProperties = form_->number(RenamerItem::BoneProperty) != 0;

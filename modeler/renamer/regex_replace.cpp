@@ -148,8 +148,8 @@ class CPatternSize {
   bool looksAhead_ = false;
 };
 
-// Throws where a limit is passed. Gives what a step of the matcher costs: to look ahead, the library makes a matcher of its own,
-// which takes time for each state.
+// Throws where a limit is passed. Gives what a step of the matcher costs: to look ahead, the library makes a matcher of its
+// own, which takes time for each state.
 std::int64_t checkedCost(std::string_view pattern) {
   constexpr std::uint64_t kStatesPerStep = 16;
   if (pattern.size() > kLongestPattern) throw std::regex_error(error::error_space);

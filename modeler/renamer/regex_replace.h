@@ -13,16 +13,16 @@
 
 namespace mst {
 
-// Bytes of a name, before and after a replacement. Names are some dozen bytes long; a replacement that is run again and again
-// must not fill the memory.
+// Bytes of a name, before and after a replacement. Names are some dozen bytes long; a replacement that is run again and
+// again must not fill the memory.
 inline constexpr std::size_t kLongestName = 65'536;
 
 // Bytes of a pattern. The library's parser goes deeper with each one: by about 130 bytes of stack, measured.
 inline constexpr std::size_t kLongestPattern = 1'000;
 // Groups within each other: about 1,000 bytes of stack for each, in the parser and in the matcher together.
 inline constexpr int kDeepestGroups = 100;
-// States of the library's automaton, roughly: a repetition with a count is as many copies of what it repeats. The matcher goes
-// through states that take no character without being seen, some 150 bytes of stack at a time.
+// States of the library's automaton, roughly: a repetition with a count is as many copies of what it repeats. The matcher
+// goes through states that take no character without being seen, some 150 bytes of stack at a time.
 inline constexpr std::uint64_t kMostStates = 1'000;
 // Choices that take no character, in a pattern that refers back to a group: a reference to a group that took no part fails
 // without being seen, so the ways to it are bounded. In other patterns every way ends at a step that is counted.

@@ -21,8 +21,8 @@ struct RenameResult {
   std::string complaint;  // the library's, about the pattern
 };
 
-// Renames the selected skelegons and, with the bone properties, the names of other items that they hold. Writes all tags, the
-// unchanged ones too. Throws CBaseEx when the host refuses a call.
+// Renames the selected skelegons and, with the bone properties, the names of other items that they hold. Writes all tags,
+// the unchanged ones too. Throws CBaseEx when the host refuses a call.
 RenameResult runSimplePass(RenameMode mode, const std::string& first, const std::string& second, bool withProperties);
 
 // Renames by the name rule. Writes only what changes. Throws CBaseEx when the host refuses a call.

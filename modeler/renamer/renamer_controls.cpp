@@ -15,14 +15,15 @@ constexpr RenamerPlace at(int x, int y, Block block = Block::None) { return {By:
 constexpr RenamerPlace labelled(int y) { return {By::HotArea, 100, y, Block::None}; }
 constexpr RenamerPlace beside(Block block, int y) { return {By::Beside, 0, y, block}; }
 
-// In simple modes the last two stand 500 pixels higher: the border frames the check mark that is there then, the button keeps
-// clear of it.
+// In simple modes the last two stand 500 pixels higher: the border frames the check mark that is there then, the button
+// keeps clear of it.
 constexpr int kBorderTop = 568;
 constexpr int kRunTop = 600;
 
 // clang-format off
 constexpr std::array<RenamerRow, kRenamerItemCount> kTable = {{
-    // item                   kind              label      width  place                        number text                  choices
+    // item                   kind              label      width  place                        number text
+    // choices
     {Item::Mode,              Kind::Popup,      0,          140,  labelled(0),                 0,     "",                   List::RenameMode},
     {Item::FirstText,         Kind::Edit,       kNoLabel,    33,  labelled(24),                0,     "",                   {}},
     {Item::SecondText,        Kind::Edit,       kNoLabel,    33,  labelled(48),                0,     "",                   {}},

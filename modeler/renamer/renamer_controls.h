@@ -56,8 +56,8 @@ using forms::HostControl;
 // Controls beside a check mark line up with each other, block by block.
 enum class RenamerBlock { None, Names, Columns, Rows };
 
-// The x of a control: of its left edge, of its hot area with the label left of it, or of the column beside the check marks of
-// its block.
+// The x of a control: of its left edge, of its hot area with the label left of it, or of the column beside the check marks
+// of its block.
 struct RenamerPlace {
   enum class By { LeftEdge, HotArea, Beside };
 

@@ -68,8 +68,8 @@ void CRenamerForm::placeAtHome() const {
   for (std::size_t i = 0; i < kRenamerItemCount; ++i) controls_[i].moveTo(homes[i].x, homes[i].y);
 }
 
-// Where the panel is open, controls are erased before they move, or their pictures stay; and as erasing paints over whatever is
-// there, all of them before the first one is shown again.
+// Where the panel is open, controls are erased before they move, or their pictures stay; and as erasing paints over whatever
+// is there, all of them before the first one is shown again.
 void CRenamerForm::lookLike(RenameMode mode, bool isOpen) const {
   if (isOpen) showAll(false);
   for (const RenamerRow& row : renamerTable()) {

@@ -141,8 +141,8 @@ void CSkgSelPanel::askToPaint(Paint what) {
   }
 }
 
-// The host keeps what it can: of skelegons that are gone or not in the foreground any more it keeps none. The tree is then not
-// that of the mesh any more.
+// The host keeps what it can: of skelegons that are gone or not in the foreground any more it keeps none. The tree is then
+// not that of the mesh any more.
 void CSkgSelPanel::pushSelection() {
   const lw::PolygonIds wanted = tree_.selectedPolygons();
   if (select(wanted) != wanted.size()) refresh();
@@ -152,8 +152,8 @@ void CSkgSelPanel::pushSelection() {
 // ---------------------------------------------------------------------------------------------------------------------
 // Called by the host and by other panels
 
-// Some hosts paint by the event. Which calls do is not told, so each one draws, after it has done what the mouse asks for; the
-// drawing context is current in all of them.
+// Some hosts paint by the event. Which calls do is not told, so each one draws, after it has done what the mouse asks for;
+// the drawing context is current in all of them.
 void CSkgSelPanel::OnTreeUsed(lw::LWControl* control, void* user) {
   lw::onTool<CSkgSelPanel>(user, [&](CSkgSelPanel& panel) {
     if (!panel.form_ || !panel.form_->isTree(control)) return;

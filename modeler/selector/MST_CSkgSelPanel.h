@@ -1,5 +1,5 @@
-// The selector tool: a panel with a tree of the skelegons of the current layers and of the weight maps. What the user selects
-// in the tree becomes Modeler's selection at once.
+// The selector tool: a panel with a tree of the skelegons of the current layers and of the weight maps. What the user
+// selects in the tree becomes Modeler's selection at once.
 #pragma once
 
 #include <optional>
@@ -14,8 +14,8 @@
 
 namespace mst {
 
-// One object for the module's lifetime, and one host panel that each run opens again. It has no text that depends on the host's
-// language, and so needs no other panel when that changes.
+// One object for the module's lifetime, and one host panel that each run opens again. It has no text that depends on the
+// host's language, and so needs no other panel when that changes.
 class CSkgSelPanel {
  public:
   CSkgSelPanel();

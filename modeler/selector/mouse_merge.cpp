@@ -52,8 +52,8 @@ MouseStep CMouseWay::down(const MouseReport& report) {
 MouseStep CMouseWay::downAgain(const MouseReport& report) const {
   if (!haveSame(kButtonBits, report, last_) || report.clicks > clicks_) return MouseStep::Press;  // no move does that
   if (repeatsLast(report)) return tellsReleases_ ? MouseStep::Nothing : MouseStep::Guess;
-  // However short the step is: a second press beside the first is as usual as a hand that trembles, and only one of the two can
-  // be taken back.
+  // However short the step is: a second press beside the first is as usual as a hand that trembles, and only one of the two
+  // can be taken back.
   const bool isMove = tellsReleases_ || !report.isInside || report.isOnDraggedBar ||
                       (report.isBarDragged && tremblesFromLast(report));  // a hand may leave the strip bit by bit
   return isMove ? MouseStep::Move : MouseStep::Guess;

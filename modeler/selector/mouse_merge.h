@@ -1,5 +1,5 @@
-// The host may tell of the mouse in two ways: through the panel's hooks and through the control's event, or in both at once; of
-// every press, move and release, or of presses only. This makes one stream of presses, moves and releases of them.
+// The host may tell of the mouse in two ways: through the panel's hooks and through the control's event, or in both at once;
+// of every press, move and release, or of presses only. This makes one stream of presses, moves and releases of them.
 #pragma once
 
 #include <optional>
@@ -27,9 +27,9 @@ enum class MouseStep {
   TakeBack,     // a release that shows the guesses since the last press to have been moves
 };
 
-// What one way has told. A report with the button down that follows another one is a move where releases are told, and a press
-// where they are not. Until the first release is heard that is open: then only a step that no press can make is a move, or a short one while
-// a scroll bar is dragged.
+// What one way has told. A report with the button down that follows another one is a move where releases are told, and a
+// press where they are not. Until the first release is heard that is open: then only a step that no press can make is a
+// move, or a short one while a scroll bar is dragged.
 class CMouseWay {
  public:
   bool isDown() const { return isDown_; }

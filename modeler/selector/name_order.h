@@ -5,8 +5,8 @@
 
 namespace mst {
 
-// True when `first` comes before `second`. Apart from the numbers it goes by bytes. Names that differ only in leading zeros of
-// their numbers are equal.
+// True when `first` comes before `second`. Apart from the numbers it goes by bytes. Names that differ only in leading zeros
+// of their numbers are equal.
 bool comesBefore(std::string_view first, std::string_view second);
 
 }  // namespace mst

@@ -95,7 +95,8 @@ MouseReport CSelectorForm::mouseOfControl() {
   return countsFromControl(x, y, left, top) ? fromTree(bits, x, y) : fromTree(bits, x - left, y - top);
 }
 
-// It counts from the panel's corner. The panel's own position, which does so too, shows a host that counts from the control's.
+// It counts from the panel's corner. The panel's own position, which does so too, shows a host that counts from the
+// control's.
 bool CSelectorForm::countsFromControl(int x, int y, int left, int top) {
   const int panelX = measure(lw::kPanelMouseX);
   const int panelY = measure(lw::kPanelMouseY);

@@ -10,8 +10,8 @@ struct TextCell {
   int cells;  // 2 for a full-width character, else 1
 };
 
-// Takes the first character off a text, which must not be empty. A byte that belongs to no valid character is one of its own:
-// it comes as "?", alone.
+// Takes the first character off a text, which must not be empty. A byte that belongs to no valid character is one of its
+// own: it comes as "?", alone.
 TextCell takeCell(std::string_view& text);
 
 int cellsOf(std::string_view text);

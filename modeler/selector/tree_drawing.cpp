@@ -61,8 +61,8 @@ constexpr std::array kUnwanted = {
     gl::kLineStipple,   gl::kColourLogicOperation,
 };
 
-// Keeps OpenGL's state and gives it back. The matrices are read and written, for of the projection's stack only two levels are
-// promised, which may be in use; where no level is left for the attributes, nothing is kept and nothing may be drawn.
+// Keeps OpenGL's state and gives it back. The matrices are read and written, for of the projection's stack only two levels
+// are promised, which may be in use; where no level is left for the attributes, nothing is kept and nothing may be drawn.
 class CKeptState {
  public:
   explicit CKeptState(const GlCalls& gl) : gl_(gl) {
@@ -111,9 +111,9 @@ double skipCells(std::string_view& text, double cells) {
   return skipped;
 }
 
-// One picture. The owner of the rows is never asked between OpenGL's begin and end: it may throw. Places are in pixels from the
-// top left of the view: the scroll offsets are taken off here, in doubles, since OpenGL's own floats lose parts of pixels far
-// down a long tree.
+// One picture. The owner of the rows is never asked between OpenGL's begin and end: it may throw. Places are in pixels from
+// the top left of the view: the scroll offsets are taken off here, in doubles, since OpenGL's own floats lose parts of
+// pixels far down a long tree.
 class CFrame {
  public:
   CFrame(const GlCalls& gl, const TreePicture& picture)
@@ -223,8 +223,9 @@ void CFrame::twig(std::size_t row) {
   dots(from, from + kIndent, topOf(row) + kMarkerY, false);
 }
 
-// A dotted line to the right or down. OpenGL counts the dots from where a line enters the view, so that they would crawl along
-// when the tree is scrolled: what lies before the view is left out here, and the count goes on as if it had been drawn.
+// A dotted line to the right or down. OpenGL counts the dots from where a line enters the view, so that they would crawl
+// along when the tree is scrolled: what lies before the view is left out here, and the count goes on as if it had been
+// drawn.
 void CFrame::dots(double from, double to, double across, bool isVertical) {
   const double extent = isVertical ? picture_.height : picture_.width;
   const double extentAcross = isVertical ? picture_.width : picture_.height;

@@ -1,5 +1,5 @@
-// Draws the selector's tree with OpenGL into the device context that is current. Reads what is to be seen from a TreePicture;
-// where a press hits is computed elsewhere from the same numbers.
+// Draws the selector's tree with OpenGL into the device context that is current. Reads what is to be seen from a
+// TreePicture; where a press hits is computed elsewhere from the same numbers.
 #pragma once
 
 #include "host/platform.h"
@@ -13,12 +13,13 @@ class CTreeDrawing {
   // 'gl' outlives the drawing; null: nothing is ever drawn.
   explicit CTreeDrawing(const GlCalls* gl = platform::glCalls()) : gl_(gl) {}
 
-  // Does nothing without a current device context. Costs what the rows in view cost, however many there are. OpenGL is left as
-  // it was found, also when the owner of the rows throws.
+  // Does nothing without a current device context. Costs what the rows in view cost, however many there are. OpenGL is left
+  // as it was found, also when the owner of the rows throws.
   void draw(const TreePicture& picture);
 
-  // Gives OpenGL back the lists that it numbered, if the context that they were made in is current; draw makes them again. To be
-  // called while the host still runs: the destructor asks OpenGL for nothing, since at a program's end it may be gone already.
+  // Gives OpenGL back the lists that it numbered, if the context that they were made in is current; draw makes them again.
+  // To be called while the host still runs: the destructor asks OpenGL for nothing, since at a program's end it may be gone
+  // already.
   void giveFontBack();
 
  private:

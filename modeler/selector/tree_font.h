@@ -1,5 +1,5 @@
-// The tree's characters as bitmap lists of OpenGL: those of the font's first 255 byte codes, made together under fixed numbers, and
-// one for each other character that a name holds, made when it is first drawn under a number that OpenGL gives.
+// The tree's characters as bitmap lists of OpenGL: those of the font's first 255 byte codes, made together under fixed
+// numbers, and one for each other character that a name holds, made when it is first drawn under a number that OpenGL gives.
 #pragma once
 
 #include <cstddef>
@@ -16,8 +16,8 @@ inline constexpr std::size_t kMostOwnLists = 2048;  // more than a view shows; w
 
 class CTreeFont {
  public:
-  // The font in a device context while a picture is drawn. It is made when a list has to be and goes with this object, so that
-  // nothing of it is left between two pictures.
+  // The font in a device context while a picture is drawn. It is made when a list has to be and goes with this object, so
+  // that nothing of it is left between two pictures.
   class CUse {
    public:
     CUse(const GlCalls& gl, void* device) : gl_(gl), device_(device) {}

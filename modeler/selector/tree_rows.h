@@ -1,5 +1,5 @@
-// What the selector's tree shows at one moment: its visible rows in order, and where everything is, in pixels. Computed by the
-// tree view without OpenGL; the drawing and the hit test read it.
+// What the selector's tree shows at one moment: its visible rows in order, and where everything is, in pixels. Computed by
+// the tree view without OpenGL; the drawing and the hit test read it.
 #pragma once
 
 #include <array>

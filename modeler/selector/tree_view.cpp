@@ -16,7 +16,8 @@ constexpr int kTextFrom = 4;  // from a row's indent, where the drawing begins i
 constexpr int kWheelRows = 3;
 constexpr int kGreatestView = std::numeric_limits<int>::max() / kUnitsPerPixel;
 
-// Calls `visit` with a node and everything below it, shown or not, from top to bottom. Without recursion: a chain may be long.
+// Calls `visit` with a node and everything below it, shown or not, from top to bottom. Without recursion: a chain may be
+// long.
 template <class Nodes, class Visit>
 void walk(Nodes& nodes, std::size_t from, Visit visit) {
   if (from >= nodes.size()) return;
@@ -134,8 +135,8 @@ TreeChange CTreeView::press(const TreePress& press) {
   return use(hit, action);
 }
 
-// Makes the second of two quick clicks on one row a double-click. Hosts may count clicks by time alone, wherever they are, so
-// the row is looked at too. With a qualifier it is a click like the first: two toggles are two toggles.
+// Makes the second of two quick clicks on one row a double-click. Hosts may count clicks by time alone, wherever they are,
+// so the row is looked at too. With a qualifier it is a click like the first: two toggles are two toggles.
 void CTreeView::pairClicks(const TreeHit& hit, TreeAction& action, int clicks) {
   const bool isPlainClick = hit.part == TreePart::Label && action.click && !action.isQualified();
   const bool isSecond = isPlainClick && clicks > 1 && hit.row == clicked_;

@@ -1,5 +1,5 @@
-// The selector's tree view: rows laid out, scrolled, hit and selected. It owns the nodes. What is drawn comes from picture();
-// what a press changed is told by the result, the owner then redraws or passes the selection on.
+// The selector's tree view: rows laid out, scrolled, hit and selected. It owns the nodes. What is drawn comes from
+// picture(); what a press changed is told by the result, the owner then redraws or passes the selection on.
 #pragma once
 
 #include <cstddef>
@@ -33,7 +33,8 @@ struct TreeChange {
 
 class CTreeView : private CTreeOwner {
  public:
-  // Other nodes; without any the tree is empty. Offsets stay as far as they are in range, the anchor stays with its skelegon.
+  // Other nodes; without any the tree is empty. Offsets stay as far as they are in range, the anchor stays with its
+  // skelegon.
   void setNodes(SelectorNodes nodes);
   // Another size in pixels; the view begins anew: no anchor, not scrolled.
   void setView(int width, int height);

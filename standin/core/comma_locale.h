@@ -1,5 +1,5 @@
-// A locale with a decimal comma for the whole process, as a host or another plug-in may set it: what is formatted or read by the
-// system's or the library's locale then has commas for points and points between thousands.
+// A locale with a decimal comma for the whole process, as a host or another plug-in may set it: what is formatted or read by
+// the system's or the library's locale then has commas for points and points between thousands.
 #pragma once
 
 #include <locale>

@@ -1,6 +1,6 @@
 // The registers that a called function has to give back as they were, watched around each call into the module: a host whose
-// registers are changed goes on with wrong numbers, far from the cause. On Windows these are xmm6 to xmm15 among others, and a
-// function that catches an exception takes them from where the compiler said that they were saved.
+// registers are changed goes on with wrong numbers, far from the cause. On Windows these are xmm6 to xmm15 among others, and
+// a function that catches an exception takes them from where the compiler said that they were saved.
 #pragma once
 
 #include <string>
@@ -10,8 +10,8 @@ namespace standin {
 
 #if defined(_WIN32) && defined(__GNUC__)
 inline constexpr bool kRegistersAreWatched = true;
-// Calls function(data) with values of its own in xmm6 to xmm15. Names those that came back with others, "xmm6 xmm7"; empty when
-// all are as they were. The caller's own are kept in any case, also when an exception passes.
+// Calls function(data) with values of its own in xmm6 to xmm15. Names those that came back with others, "xmm6 xmm7"; empty
+// when all are as they were. The caller's own are kept in any case, also when an exception passes.
 std::string changedRegisters(void (*function)(void*), void* data);
 #else
 inline constexpr bool kRegistersAreWatched = false;

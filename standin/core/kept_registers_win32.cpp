@@ -24,8 +24,8 @@ using Registers = std::array<Xmm, kKeptCount>;
 // Takes the function, its data, the values to call it with and where the values of its return go.
 extern "C" void standin_call_with_registers(void (*function)(void*), void* data, const void* before, void* after);
 
-// The frame: 32 bytes for the called function, ten saved registers, the place for the values, 16 bytes in line. The words behind
-// the points tell the unwinder where everything is.
+// The frame: 32 bytes for the called function, ten saved registers, the place for the values, 16 bytes in line. The words
+// behind the points tell the unwinder where everything is.
 asm(R"(
     .text
     .globl standin_call_with_registers

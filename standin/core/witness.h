@@ -49,8 +49,8 @@ class Witness {
   bool inModule() const { return depth_ > 0; }
   // True while module code itself runs: not while a function of the host's that it called does.
   bool moduleRuns() const { return moduleRuns_; }
-  // Called with the function's name each time the outermost call into the module has returned: checks what the module must not
-  // leave behind. There is one such check; it outlives a reset, and who set it takes it away with nullptr.
+  // Called with the function's name each time the outermost call into the module has returned: checks what the module must
+  // not leave behind. There is one such check; it outlives a reset, and who set it takes it away with nullptr.
   void afterModule(std::function<void(const char* function)> check) { afterModule_ = std::move(check); }
 
  private:

@@ -1,7 +1,7 @@
 // Handles of channel groups, channels, envelopes and keys: numbers that say what they name and cannot be used as addresses.
 //
-// Each item has a group with its nine motion channels, and below it the group "IK" with two channels that have no envelope. By an
-// option the motion channels stand in three groups of their own below it.
+// Each item has a group with its nine motion channels, and below it the group "IK" with two channels that have no envelope.
+// By an option the motion channels stand in three groups of their own below it.
 #pragma once
 
 #include <cstddef>

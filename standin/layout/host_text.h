@@ -1,5 +1,6 @@
-// Texts that the host returns. As a rule each is good until the next one is returned: then it is filled with X, so that a module
-// which kept the pointer reads nonsense instead of something that happens to be right. Or they live otherwise, by an option.
+// Texts that the host returns. As a rule each is good until the next one is returned: then it is filled with X, so that a
+// module which kept the pointer reads nonsense instead of something that happens to be right. Or they live otherwise, by an
+// option.
 #pragma once
 
 #include <array>

@@ -1,5 +1,5 @@
-// What is known of the real Layout leaves some behaviour open. The defaults here are the strict, well-behaved reading; the table
-// of host variants and single tests turn others on to see that the module works in each.
+// What is known of the real Layout leaves some behaviour open. The defaults here are the strict, well-behaved reading; the
+// table of host variants and single tests turn others on to see that the module works in each.
 #pragma once
 
 #include <cstdint>
@@ -22,8 +22,8 @@ enum class NoFileName { Null, Empty, Blank, OwnName };
 // The names of items that were given the same one: "a (1)" and "a (2)", "a" and "a (2)", "a" and "a (1)", or just "a" twice.
 enum class Counters { All, FromTwo, FromOne, None };
 
-// createKey at the time of a key: the value is changed, or is and null is given back, or nothing is done, or there are two keys
-// then, of which the new one counts.
+// createKey at the time of a key: the value is changed, or is and null is given back, or nothing is done, or there are two
+// keys then, of which the new one counts.
 enum class KeyAtSameTime { Changed, ChangedSilently, Refused, Second };
 
 // The bones of SkelegonsToBones: as in the file, each followed by those below it, or from the last to the first.

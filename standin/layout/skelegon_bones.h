@@ -12,7 +12,8 @@ inline constexpr std::array<const char*, 15> kColourNames{"Black",  "DkBlu", "Dk
                                                           "Purple", "Brown", "Gray",  "Blue",  "Green",
                                                           "Cyan",   "Red",   "Magen", "Orang", "White"};
 
-// The items whose skelegons become bones of the object: the object itself where it has any, and by an option the others of its file.
+// The items whose skelegons become bones of the object: the object itself where it has any, and by an option the others of
+// its file.
 std::vector<Item*> skelegonSources(Scene& scene, const Item& object);
 
 // Turns these skelegons into bones and uses them up: a second call makes none. (Options say otherwise.)

@@ -1,7 +1,8 @@
 // The geometry of items: rotations in the host's six orders, and axes in space.
 //
 // Axes are left-handed: +X right, +Y up, +Z forward. A positive heading turns forward towards right, a positive pitch turns
-// forward down, a positive bank turns right up. The name of an order reads as a matrix product: HPB is heading * pitch * bank.
+// forward down, a positive bank turns right up. The name of an order reads as a matrix product: HPB is heading * pitch *
+// bank.
 #pragma once
 
 #include <array>

@@ -1,7 +1,7 @@
 // Every point and polygon that the stand-in Modeler ever hands out, by the identifier that the module knows it by.
 //
-// Identifiers are numbers that cannot be used as addresses. They are never used twice, so one that has outlived its element or
-// its object is told from a living one, and a point from a polygon. Only on demand do new polygons get the identifiers of
+// Identifiers are numbers that cannot be used as addresses. They are never used twice, so one that has outlived its element
+// or its object is told from a living one, and a point from a polygon. Only on demand do new polygons get the identifiers of
 // polygons that are gone, as in a host whose identifiers are addresses.
 #pragma once
 

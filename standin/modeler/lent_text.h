@@ -1,5 +1,5 @@
-// Texts, arrays and records that the host lends to the module until the next call into it: they are overwritten then, so that a module
-// that kept one reads nonsense instead of being lucky.
+// Texts, arrays and records that the host lends to the module until the next call into it: they are overwritten then, so
+// that a module that kept one reads nonsense instead of being lucky.
 #pragma once
 
 #include <cstring>

@@ -25,7 +25,8 @@ struct MessageDesk {
   std::vector<Message> shown;
   // For the questions to come. A question without an answer laid ready is a fault and is answered with no.
   std::deque<Answer> answers;
-  // A person in front of the screen: sees every message, and answers the questions without an answer laid ready. May be empty.
+  // A person in front of the screen: sees every message, and answers the questions without an answer laid ready. May be
+  // empty.
   std::function<Answer(const Message&)> person;
 };
 

@@ -1,8 +1,8 @@
 // The stand-in for Modeler: what a test or the program `varnel` drives, as a person in front of the screen would.
 //
-// Make one, open objects, activate the module's servers, use its panels (standin/panels), look at the objects. Making it begins
-// a new session: the witness, the globals and the panel services start afresh. One at a time; everything on one thread.
-// witness().report() tells what the module did wrong.
+// Make one, open objects, activate the module's servers, use its panels (standin/panels), look at the objects. Making it
+// begins a new session: the witness, the globals and the panel services start afresh. One at a time; everything on one
+// thread. witness().report() tells what the module did wrong.
 #pragma once
 
 #include <cstddef>

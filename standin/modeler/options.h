@@ -1,5 +1,5 @@
-// What is known of the real Modeler leaves some behaviour open. The defaults are the strict, well-behaved reading; tests turn
-// single ones round to see that the module works either way.
+// What is known of the real Modeler leaves some behaviour open. The defaults are the strict, well-behaved reading; tests
+// turn single ones round to see that the module works either way.
 #pragma once
 
 #include <cstdint>

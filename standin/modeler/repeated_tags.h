@@ -5,8 +5,8 @@
 
 namespace standin {
 
-// The object as it is with one tag of each type on each polygon: the first of the file, or the last. Its chunks hold no others
-// either, so that none comes back when the object is saved.
+// The object as it is with one tag of each type on each polygon: the first of the file, or the last. Its chunks hold no
+// others either, so that none comes back when the object is saved.
 Outcome<ObjectFile> withOneOfEachTag(ObjectFile object, bool theFirst);
 
 }  // namespace standin

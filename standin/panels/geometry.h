@@ -18,8 +18,8 @@ std::vector<ControlPair> overlapping(const Panel& panel);
 // Visible controls that are only partly inside the panel.
 std::vector<const Control*> leaving(const Panel& panel);
 
-// Visible controls whose text has not enough room: a label left of the panel, a button narrower than its label, tabs narrower
-// than their items, a popup narrower than the longest item of its fixed list.
+// Visible controls whose text has not enough room: a label left of the panel, a button narrower than its label, tabs
+// narrower than their items, a popup narrower than the longest item of its fixed list.
 std::vector<const Control*> cut(const Panel& panel);
 
 // Controls that are shown but lie wholly outside the panel, where nobody sees them.

@@ -119,8 +119,8 @@ struct Control {
   std::vector<std::string> items() const;
   // The lines of a text control.
   std::vector<std::string> lines() const;
-  // The value as the control shows it: "on", "15.2 %", "90°", "1.5 m", the name of the chosen item. An index outside the list
-  // shows as "(7)". Empty for kinds without a value.
+  // The value as the control shows it: "on", "15.2 %", "90°", "1.5 m", the name of the chosen item. An index outside the
+  // list shows as "(7)". Empty for kinds without a value.
   std::string shown() const;
   // "ButtonControl "Run" of panel "Tool""
   std::string describe() const;
@@ -178,8 +178,8 @@ struct Panel {
   bool isResizable() const { return (openFlags & lw::kOpenResizable) != 0; }
   Rectangle area() const { return {0, 0, width, height}; }
 
-  // The n-th (from 0) living control that fits; null when there is none. An absent kind or label fits all. `visibleOnly` leaves
-  // out what a person does not see.
+  // The n-th (from 0) living control that fits; null when there is none. An absent kind or label fits all. `visibleOnly`
+  // leaves out what a person does not see.
   Control* find(std::optional<ControlKind> kind, std::optional<std::string_view> label, int n = 0,
                 bool visibleOnly = true) const;
   Control* find(std::string_view label, int n = 0) const { return find(std::nullopt, label, n); }
@@ -188,8 +188,8 @@ struct Panel {
   Control* at(int index) const;
 };
 
-// True when a person sees the control: its panel is open, it is neither erased nor painted over, it was drawn where it is, and
-// it does not lie wholly outside the panel.
+// True when a person sees the control: its panel is open, it is neither erased nor painted over, it was drawn where it is,
+// and it does not lie wholly outside the panel.
 bool isVisible(const Control& control);
 
 // Told of what changes on the screen; a front that shows panels as windows implements it. The default does nothing.
@@ -230,8 +230,8 @@ class Panels {
   Panel* find(std::string_view title) const;
   // A line for each panel that was created and not destroyed.
   std::vector<std::string> undestroyed() const;
-  // The module is gone, and with it all that its pointers point at: destroys what it left, without calling into it. Gives what
-  // undestroyed() gave before.
+  // The module is gone, and with it all that its pointers point at: destroys what it left, without calling into it. Gives
+  // what undestroyed() gave before.
   std::vector<std::string> moduleUnloaded();
   // What is no fault but worth knowing, in order.
   const std::vector<std::string>& notes() const { return notes_; }
@@ -254,7 +254,8 @@ class Panels {
   void callHook(Panel& panel, lw::PanelHook hook, const char* name);
   void callMouseHook(Panel& panel, lw::PanelMouseHook hook, const char* name, int bits);
   void callResizeHook(Panel& panel);
-  // Has the module paint one visible control, by the callback that the options name; false when it has none or is not visible.
+  // Has the module paint one visible control, by the callback that the options name; false when it has none or is not
+  // visible.
   bool paint(Control& control);
   // Paints the controls that were exposed or drawn since their last paint. Gives their number.
   int paintWanted(Panel& panel);

@@ -46,7 +46,8 @@ Done drag(Control* slider, double shown, int steps = 4);
 
 // The mouse over a panel; x and y from the panel's upper left corner. `qualifiers` are the bits for Ctrl, Shift and Alt.
 // `clicks` counts the presses that the person makes quickly, wherever they are; what the host makes of it is an option.
-// A press reaches the panel's hook and, over an "OpenGLControl", the control; moves and the release go to where it was pressed.
+// A press reaches the panel's hook and, over an "OpenGLControl", the control; moves and the release go to where it was
+// pressed.
 Done mousePress(Panel* panel, int x, int y, MouseButton button = MouseButton::Left, int qualifiers = 0, int clicks = 1);
 Done mouseMove(Panel* panel, int x, int y);
 Done mouseRelease(Panel* panel, int x, int y);

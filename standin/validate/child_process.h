@@ -17,7 +17,8 @@ struct ProcessEnd {
 
 class ChildProcess {
  public:
-  // Starts the program (UTF-8 path) with the arguments; what it prints goes to the file. Check `why` then: empty when started.
+  // Starts the program (UTF-8 path) with the arguments; what it prints goes to the file. Check `why` then: empty when
+  // started.
   ChildProcess(const std::string& program, const std::vector<std::string>& arguments, const std::string& outputFile);
   // Ends the process if it still runs.
   ~ChildProcess();

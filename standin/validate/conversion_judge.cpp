@@ -138,8 +138,8 @@ bool ConversionJudge::isInAnotherLayer(const std::string& name, std::size_t laye
                      [&](const Skelegon& other) { return other.name == name && other.layer != layer; });
 }
 
-// Where a host makes the bones of the whole file for each of its layers, several have the name; one of them was the first of that
-// name when the settings were sent.
+// Where a host makes the bones of the whole file for each of its layers, several have the name; one of them was the first of
+// that name when the settings were sent.
 Arrival ConversionJudge::arrival(const Skelegon& skelegon, int slot) const {
   for (const Item& item : host_.scene().all()) {
     if (item.kind != ItemKind::bone || host_.scene().nameOf(item) != skelegon.name) continue;

@@ -1,4 +1,5 @@
-// Whether a conversion did its whole job: every stored setting is on its bone, and every null was made at the bone it was made for.
+// Whether a conversion did its whole job: every stored setting is on its bone, and every null was made at the bone it was
+// made for.
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,5 @@
-// The eleventh level: every trip and a walk in each program on hosts that differ in what the documents leave open, one thing at
-// a time and in mixtures.
+// The eleventh level: every trip and a walk in each program on hosts that differ in what the documents leave open, one thing
+// at a time and in mixtures.
 #include <array>
 #include <string>
 

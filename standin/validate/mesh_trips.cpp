@@ -1,5 +1,5 @@
-// Trips around the mesh: skelegons and objects that go while panels show them, layers that are not there, calls refused once,
-// tags that a file has twice.
+// Trips around the mesh: skelegons and objects that go while panels show them, layers that are not there, calls refused
+// once, tags that a file has twice.
 #include <algorithm>
 #include <array>
 

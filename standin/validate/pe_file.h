@@ -1,4 +1,5 @@
-// What a Windows module exports and imports, read from the tables of its file. Every offset is checked before it is followed.
+// What a Windows module exports and imports, read from the tables of its file. Every offset is checked before it is
+// followed.
 #pragma once
 
 #include <string>

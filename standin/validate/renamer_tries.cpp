@@ -14,7 +14,8 @@ bool isJapanese(const std::string& text) {
 
 }  // namespace
 
-// The host's language changes: an open panel keeps its own in all that it says, a closed one takes the new one with all values.
+// The host's language changes: an open panel keeps its own in all that it says, a closed one takes the new one with all
+// values.
 std::vector<std::string> tryRenamer(Session& session, std::uint32_t language, const Panel& first) {
   Tries user;
   const bool wasJapanese = language == kJapanese;

@@ -19,7 +19,8 @@ Done touch(Control& control, std::uint32_t pick);
 const std::string& textToType(std::uint32_t pick);
 
 // What a person would find wrong with the panel's layout: controls that overlap, leave the panel or have too little room for
-// their text. Empty when it is sound. Controls whose room is part of a tool's design, with all that it lacks, are passed over.
+// their text. Empty when it is sound. Controls whose room is part of a tool's design, with all that it lacks, are passed
+// over.
 std::string layoutFaults(const Panel& panel);
 
 // Turns to each combination of the panel's tabs and calls `look` with its name ("1/2: "). Ends on the first of each.

@@ -1,5 +1,5 @@
-// The fifth to seventh level: the trips on a host that fails in nothing, then with each of its calls and each of the module's
-// allocations failing once.
+// The fifth to seventh level: the trips on a host that fails in nothing, then with each of its calls and each of the
+// module's allocations failing once.
 #include <array>
 #include <functional>
 #include <stdexcept>

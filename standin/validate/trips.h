@@ -15,7 +15,8 @@ struct TripOrder {
   const Rig* rig = nullptr;
   std::uint32_t language = kEnglish;
   HostChoice host = {};  // where it is played
-  // Called when all is ready and the tool is about to be opened, and when the user is done. What fails in between is made to.
+  // Called when all is ready and the tool is about to be opened, and when the user is done. What fails in between is made
+  // to.
   std::function<void()> begin;
   std::function<void()> end;
 };

@@ -1,4 +1,5 @@
-// Modeler or Layout on a chosen host: the program with its options, the panel services with theirs, and the process around them.
+// Modeler or Layout on a chosen host: the program with its options, the panel services with theirs, and the process around
+// them.
 #pragma once
 
 #include <optional>

@@ -1,8 +1,9 @@
-// What the host's documents leave open, as one table: each open question with every plausible answer. Hosts that differ in these
-// are all possible; the module has to do its whole job in each. The validator plays them one by one and in mixtures, and
-// docs/stand-in.md is printed from the rows.
+// What the host's documents leave open, as one table: each open question with every plausible answer. Hosts that differ in
+// these are all possible; the module has to do its whole job in each. The validator plays them one by one and in mixtures,
+// and docs/stand-in.md is printed from the rows.
 //
-// To add a question: an option in options.h of the area, whose initial value is the default, and a row in the file of the area.
+// To add a question: an option in options.h of the area, whose initial value is the default, and a row in the file of the
+// area.
 #pragma once
 
 #include <cstddef>

@@ -35,8 +35,8 @@ class DeskWindow {
   void refresh();
   bool isChanged() const;
 
-  // How the person is asked; message boxes and the system's file window by default. `answers` takes what MessageBox takes and
-  // gives what it gives; an empty path is a refusal.
+  // How the person is asked; message boxes and the system's file window by default. `answers` takes what MessageBox takes
+  // and gives what it gives; an empty path is a refusal.
   std::function<int(const std::string& text, UINT kind)> ask;
   std::function<std::string()> askPath;
 

@@ -1,7 +1,7 @@
 // A person's hands and eyes before the stand-in's windows: real mouse and key input, and pictures of what the screen shows.
 //
-// Input goes where the system sends it: to the window below the pointer, to the field with the focus. Each action waits until
-// nothing more happens.
+// Input goes where the system sends it: to the window below the pointer, to the field with the focus. Each action waits
+// until nothing more happens.
 #pragma once
 
 #include <string_view>

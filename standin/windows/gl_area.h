@@ -21,7 +21,8 @@ class GlArea {
   bool works() const { return framebuffer_ != 0; }
 
   // Makes the call with the context current and the viewport over the whole area, and makes the context current again that
-  // was so before. Gives what the call left changed, or did wrong; empty when nothing. What a call that draws has drawn is kept.
+  // was so before. Gives what the call left changed, or did wrong; empty when nothing. What a call that draws has drawn is
+  // kept.
   std::string during(const std::function<void()>& call, bool draws);
   // Shows what was drawn last.
   void show() const;

@@ -1,7 +1,8 @@
 // One open panel of the stand-in as a real window, made of the system's own controls.
 //
-// The window shows what the panel's record holds: whoever changes the record calls wantSync(), and the window follows with the
-// next message. What a person does in the window goes through standin/panels/person.h, so that one rule stands in one place.
+// The window shows what the panel's record holds: whoever changes the record calls wantSync(), and the window follows with
+// the next message. What a person does in the window goes through standin/panels/person.h, so that one rule stands in one
+// place.
 #pragma once
 
 #include <memory>

@@ -10,7 +10,8 @@ enum class Tone { Panel, Field, Raised, Pressed, Chosen, Edge, Highlight, Text, 
 COLORREF colour(Tone tone);
 HBRUSH brush(Tone tone);
 
-// Of fixed pitch and with Japanese characters; its cells are those of standin/panels/metrics.h. Lives as long as the program.
+// Of fixed pitch and with Japanese characters; its cells are those of standin/panels/metrics.h. Lives as long as the
+// program.
 HFONT panelFont();
 // Of a line of its text, in pixels.
 int fontHeight();

@@ -1,5 +1,6 @@
-// Bytes as what a user does with Modeler's three panels, one action for each three bytes, through the stand-in host. The module
-// is linked in, so that its code guides the fuzzer; it and its panels stay over all inputs, the object is new for each.
+// Bytes as what a user does with Modeler's three panels, one action for each three bytes, through the stand-in host. The
+// module is linked in, so that its code guides the fuzzer; it and its panels stay over all inputs, the object is new for
+// each.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>

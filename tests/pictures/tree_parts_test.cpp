@@ -1,4 +1,5 @@
-// However the tree is scrolled, the view shows what the whole tree, plainly drawn in a window as high as itself, shows there.
+// However the tree is scrolled, the view shows what the whole tree, plainly drawn in a window as high as itself, shows
+// there.
 #include <string>
 
 #include "tests/pictures/plain_tree_drawing.h"
@@ -67,9 +68,9 @@ TEST_F(PartsOfTheWhole, LinesAndMarkersAreTheSameAtEveryOffset) {
   }
 }
 
-// Where the upper edge cuts a row, OpenGL leaves its text out once the baseline is above the view, and at the left edge every
-// character that begins outside.
-// Between whole pixels OpenGL may take another column for a line, but its dots still follow each other.
+// Where the upper edge cuts a row, OpenGL leaves its text out once the baseline is above the view, and at the left edge
+// every character that begins outside. Between whole pixels OpenGL may take another column for a line, but its dots still
+// follow each other.
 TEST_F(PartsOfTheWhole, DotsFollowEachOtherAtPartsOfPixelsToo) {
   const std::size_t top = tree.add(0, "");
   for (int i = 0; i < 60; ++i) tree.add(top, "");

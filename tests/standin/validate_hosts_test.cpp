@@ -1,4 +1,5 @@
-// The level that plays hosts which differ: the real module does its job on each, and a bad one fails only where its fault shows.
+// The level that plays hosts which differ: the real module does its job on each, and a bad one fails only where its fault
+// shows.
 #include "tests/standin/validate_fixture.h"
 
 namespace standin::validate {
@@ -33,8 +34,8 @@ class OneHost : public Validation {
   OneHost() { choose(BadFault::GivesUpAtNestedEvents); }
 };
 
-// The default host never fires an event while another one runs. That "hosts-panels" finds it is seen where each level finds its
-// fault.
+// The default host never fires an event while another one runs. That "hosts-panels" finds it is seen where each level finds
+// its fault.
 TEST_F(OneHost, IsNeededToShowAFaultThatNoOtherShows) {
   for (const CheckResult& result :
        runChecks(orderOf(sampleModule("bad_module"), {"trip-property", "trip-renamer", "hosts-both"}))) {

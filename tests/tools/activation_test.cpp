@@ -89,7 +89,8 @@ TEST_F(LayoutActivation, ReportsARunThatMadeNoPanelAndIsDoneAllTheSame) {
   EXPECT_TRUE(statusSays("*** ERROR:  ***")) << host.transcript().text();
 }
 
-// Modeler's services as far as an activation asks for them. Nothing behind them is called: the runs of these tests fail before.
+// Modeler's services as far as an activation asks for them. Nothing behind them is called: the runs of these tests fail
+// before.
 class ModelerActivation : public testing::Test {
  protected:
   void SetUp() override {

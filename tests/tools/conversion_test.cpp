@@ -1,4 +1,5 @@
-// The conversion as a whole: which objects, which layers, what is switched and restored, and what happens when something fails.
+// The conversion as a whole: which objects, which layers, what is switched and restored, and what happens when something
+// fails.
 #include <algorithm>
 #include <cstdio>
 #include <tuple>
@@ -114,8 +115,8 @@ TEST_F(LayersFromOne, AreMatchedByTheFileNameToo) {
   EXPECT_TRUE(has("arm:tar"));
 }
 
-// Of such an object nothing is known, deliberately: the file that was read last is read again, and the object's own name is not
-// the name of that.
+// Of such an object nothing is known, deliberately: the file that was read last is read again, and the object's own name is
+// not the name of that.
 TEST_F(Conversion, GivesNothingOfTheFileBeforeToAnObjectWhosePathIsTooLong) {
   const std::vector<Item*> before = load(chainIn(0, "", "Bone", {{13, "2"}, {26, "1"}}), "before.lwo");
   const std::string longPath = folder.file(std::string(260, 'p')) + "/after.lwo";

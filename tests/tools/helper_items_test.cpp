@@ -1,4 +1,5 @@
-// The nulls that a conversion makes for goals, targets and the like: where they are put, whose children they become, how they look.
+// The nulls that a conversion makes for goals, targets and the like: where they are put, whose children they become, how
+// they look.
 #include <algorithm>
 #include <functional>
 #include <utility>

@@ -124,9 +124,9 @@ class ModelerSession {
   Panel* panel = nullptr;
 };
 
-// Acts in a session of its own while its n-th host call fails, first for n = 1, then for one that is `strideOf` greater, until
-// that is 0; nothing fails in `prepare` before it and in `look` behind it. Both learn of the refused function's name, empty once
-// the action makes no so many calls. Whatever fails, no rule of the host's may be broken. Gives the last n.
+// Acts in a session of its own while its n-th host call fails, first for n = 1, then for one that is `strideOf` greater,
+// until that is 0; nothing fails in `prepare` before it and in `look` behind it. Both learn of the refused function's name,
+// empty once the action makes no so many calls. Whatever fails, no rule of the host's may be broken. Gives the last n.
 template <class Session, class Act, class Look>
 std::uint64_t refuseEach(
     void (*prepare)(Session&), Act act, Look look,

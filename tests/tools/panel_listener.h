@@ -1,5 +1,5 @@
-// For tests that have a tool's code in their own program, not in the built module, so that they can stand in the list of open
-// panels.
+// For tests that have a tool's code in their own program, not in the built module, so that they can stand in the list of
+// open panels.
 #pragma once
 
 #include <gtest/gtest.h>

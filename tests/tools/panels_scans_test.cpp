@@ -1,5 +1,5 @@
-// How often the mesh is scanned for one thing that the user does, with all panels open. A scan goes through every polygon of a
-// character, so that each further one is felt.
+// How often the mesh is scanned for one thing that the user does, with all panels open. A scan goes through every polygon of
+// a character, so that each further one is felt.
 #include <algorithm>
 #include <functional>
 

@@ -52,8 +52,8 @@ inline standin::ObjectFile walkRig() {
   return rig.take();
 }
 
-// The panels see what others did when they are told of it, when they are opened, or when the user asks for it. `isFresh`: the
-// panel is open and has seen everything.
+// The panels see what others did when they are told of it, when they are opened, or when the user asks for it. `isFresh`:
+// the panel is open and has seen everything.
 class ThreePanels : public testing::Test, protected ModelerSession {
  protected:
   ThreePanels() : ModelerSession(walkRig()), mesh(*object), tree(kWalkLayers, kWalkMaps) { showLayers({0, 1}); }
@@ -117,7 +117,8 @@ class ThreePanels : public testing::Test, protected ModelerSession {
 
   // --- comparing -----------------------------------------------------------------------------------------------------------
 
-  // What is stored for a setting, as the panel reads it. With nothing selected the defaults, and what the user put over them.
+  // What is stored for a setting, as the panel reads it. With nothing selected the defaults, and what the user put over
+  // them.
   std::string storedValue(const walk::Skelegon* skelegon, Slot slot) const {
     const std::string byDefault(skg::SlotDefaults(slot));
     if (skelegon == nullptr) return shownOfNone.contains(slot) ? shownOfNone.at(slot) : byDefault;

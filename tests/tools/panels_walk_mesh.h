@@ -1,5 +1,5 @@
-// What a walk over the panels expects of the mesh: tags and selection of each skelegon, changed by the walk's own few lines for
-// the storing rules, and the steps by which the user goes back.
+// What a walk over the panels expects of the mesh: tags and selection of each skelegon, changed by the walk's own few lines
+// for the storing rules, and the steps by which the user goes back.
 #pragma once
 
 #include <gtest/gtest.h>

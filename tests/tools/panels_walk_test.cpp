@@ -1,6 +1,7 @@
 // A seeded random walk of a person over the three open panels at once: what one of them does, the others know. After each
-// action mesh, panels and undo steps are compared with a model that knows the storing rules and what a press selects from its
-// own few lines. The rules that need no host, of rows and of new names, it shares with the module: they have tests of their own.
+// action mesh, panels and undo steps are compared with a model that knows the storing rules and what a press selects from
+// its own few lines. The rules that need no host, of rows and of new names, it shares with the module: they have tests of
+// their own.
 //
 // VARNEL_WALK_SEED and VARNEL_WALK_ACTIONS choose another walk.
 #include <cstdlib>

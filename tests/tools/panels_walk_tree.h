@@ -1,5 +1,5 @@
-// What a walk over the panels expects of the selector: the rows of the mesh, which of them are selected, and what a press does.
-// Nothing of it can be seen but by what Modeler has selected after a press.
+// What a walk over the panels expects of the selector: the rows of the mesh, which of them are selected, and what a press
+// does. Nothing of it can be seen but by what Modeler has selected after a press.
 #pragma once
 
 #include <algorithm>

@@ -85,8 +85,8 @@ Settings everything() {
   return settings;
 }
 
-// Refuses the first, the second, ... command of an action, each time in a scene of its own, until none was refused. Gives how
-// many commands there were.
+// Refuses the first, the second, ... command of an action, each time in a scene of its own, until none was refused. Gives
+// how many commands there were.
 std::size_t refuseEach(const std::function<bool(Scene&)>& act,
                        const std::function<void(Scene&, bool result, const std::string& refused)>& look) {
   for (std::size_t n = 1;; ++n) {
@@ -168,8 +168,8 @@ TEST(RefusedBoneCommands, OfAToggleLeaveTheStateThatWasRead) {
   EXPECT_EQ(std::count(sent.begin(), sent.end(), "BoneLimitedRange"), 1);
 }
 
-// The line of each command, written out apart from the module's table. Of the commands inside an axis group other than X only the
-// first and the last line are laid down, and that of LimitY: what lies between has to ascend.
+// The line of each command, written out apart from the module's table. Of the commands inside an axis group other than X
+// only the first and the last line are laid down, and that of LimitY: what lies between has to ascend.
 struct LineOfCommand {
   const char* command;
   int line;

@@ -29,8 +29,8 @@ inline constexpr RenameMode kEveryMode[] = {
     RenameMode::Change,  RenameMode::Prefix, RenameMode::Suffix, RenameMode::Replace, RenameMode::RegularExpression,
     RenameMode::Advanced};
 
-// Layer 0: a face, two arms of three skelegons from the shoulder out, the left one first. Layer 1: Root with two branches, of
-// which one branches again.
+// Layer 0: a face, two arms of three skelegons from the shoulder out, the left one first. Layer 1: Root with two branches,
+// of which one branches again.
 //
 //   Arm_L_01 - Arm_L_02 - Arm_L_03      Root - Spine - Head
 //   Arm_R_01 - Arm_R_02 - Arm_R_03           \ Tail - TailTip

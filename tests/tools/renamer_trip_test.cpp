@@ -7,8 +7,8 @@
 namespace varnel::test {
 namespace {
 
-// A leg with a goal at the foot, a target, a pole and an initial position item, whose helper items hang below other bones; its
-// upper part hangs below the hips. Everything bears names of the left side but the hips.
+// A leg with a goal at the foot, a target, a pole and an initial position item, whose helper items hang below other bones;
+// its upper part hangs below the hips. Everything bears names of the left side but the hips.
 standin::ObjectFile leftLeg() {
   standin::RigBuilder rig;
   rig.layer(0, "Rig");

@@ -1,6 +1,6 @@
 // An evaluator that tells its callers what Layout refused, in the place of the module's own, which reports a refused command
-// itself and always says that it went. The sequences of commands are written for either: programs that link this one show that
-// they end where they should.
+// itself and always says that it went. The sequences of commands are written for either: programs that link this one show
+// that they end where they should.
 #pragma once
 
 #include <functional>

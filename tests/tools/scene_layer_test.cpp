@@ -1,5 +1,5 @@
-// The scene layer of Layout and what stands directly on it, without the tool: on hosts that answer oddly, and where a tool would
-// have to be in odd company to come there.
+// The scene layer of Layout and what stands directly on it, without the tool: on hosts that answer oddly, and where a tool
+// would have to be in odd company to come there.
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -1,4 +1,5 @@
-// The selector on hosts that tell of the mouse in other ways than the usual ones, count clicks otherwise, or paint by the event.
+// The selector on hosts that tell of the mouse in other ways than the usual ones, count clicks otherwise, or paint by the
+// event.
 #include "tests/tools/selector_fixture.h"
 
 namespace varnel::test {

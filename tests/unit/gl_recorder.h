@@ -1,5 +1,5 @@
-// OpenGL for tests: works out where things would be drawn, writes them down, and notes what may not be done. One at a time, for
-// OpenGL's functions have no object.
+// OpenGL for tests: works out where things would be drawn, writes them down, and notes what may not be done. One at a time,
+// for OpenGL's functions have no object.
 #pragma once
 
 #include <array>

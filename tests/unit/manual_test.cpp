@@ -187,8 +187,8 @@ std::optional<std::string> quotedAfter(const std::string& line, std::string_view
   return line.substr(open + 1, line.find('"', open + 1) - open - 1);
 }
 
-// Subcommands and their options as the tables of the sources list them; a command that the help hides is left out. What a command
-// has more names than one, counts once for each: "-o,--output".
+// Subcommands and their options as the tables of the sources list them; a command that the help hides is left out. What a
+// command has more names than one, counts once for each: "-o,--output".
 std::vector<CommandOption> commandOptions() {
   std::vector<CommandOption> found;
   for (const std::string& file : filesIn(repository() / "program", ".cpp")) {
@@ -234,8 +234,8 @@ std::string helpOfTheProgram() {
   return process.why().empty() && process.wait(60'000) ? textOf(standin::pathFromUtf8(printed)) : "";
 }
 
-// Commands with their options and positionals, as the help lists them: a command stands at the beginning of a line, what it takes
-// four places in. What stands before the commands is for all of them, and is listed two places in.
+// Commands with their options and positionals, as the help lists them: a command stands at the beginning of a line, what it
+// takes four places in. What stands before the commands is for all of them, and is listed two places in.
 std::vector<CommandOption> optionsInHelp(const std::string& help) {
   std::vector<CommandOption> found;
   std::string command;

@@ -91,8 +91,8 @@ TEST(FileStreamLength, BeyondWhatTheFileGivesIsRefused) {
   EXPECT_TRUE(stream.atEnd());
 }
 
-// A name that is no file but gives bytes once: there is no length to be asked for. Opened for both ways first, so that opening
-// it again does not wait for a writer.
+// A name that is no file but gives bytes once: there is no length to be asked for. Opened for both ways first, so that
+// opening it again does not wait for a writer.
 TEST(FileStreamLength, OfAPipeIsUnknownAndNothingIsRead) {
   const std::string path = TemporaryFile({}).path() + ".pipe";
   ASSERT_EQ(mkfifo(path.c_str(), S_IRUSR | S_IWUSR), 0);

@@ -101,8 +101,8 @@ TEST(ObjectReader, KeepsATagWhoseTextTheListDoesNotHave) {
   EXPECT_EQ(tagsOf(reading.data.layer(0).skelegons()[0]), (Tags{{idOf("BONE"), 65535}}));
 }
 
-// Tags are placed for some skelegons at a time when all lists ascend and are long, else list by list. What comes out must not
-// depend on it.
+// Tags are placed for some skelegons at a time when all lists ascend and are long, else list by list. What comes out must
+// not depend on it.
 struct TagOrder {
   const char* name;
   std::uint32_t skelegons;

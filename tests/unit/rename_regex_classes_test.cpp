@@ -1,5 +1,5 @@
-// Patterns with classes of characters and counted repetitions, in all their forms: the walk over a pattern that judges its size
-// must neither stop at a sound one nor run past the end of a broken one.
+// Patterns with classes of characters and counted repetitions, in all their forms: the walk over a pattern that judges its
+// size must neither stop at a sound one nor run past the end of a broken one.
 #include <gtest/gtest.h>
 
 #include <algorithm>

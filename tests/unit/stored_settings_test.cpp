@@ -124,7 +124,8 @@ json readingOf(const skg::SkelegonProperties& properties, const json& expected) 
   return reading;
 }
 
-// A default may be written down in full; it is left out of what is compared. The colour's default never is: nothing puts it in.
+// A default may be written down in full; it is left out of what is compared. The colour's default never is: nothing puts it
+// in.
 json withoutDefaults(json expected) {
   json texts = json::object();
   for (const auto& [number, text] : expected["texts"].items()) {

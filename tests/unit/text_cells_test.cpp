@@ -40,7 +40,8 @@ TEST(TextCells, ZeroIsACharacterLikeAnyOther) {
   EXPECT_EQ(charactersOf(std::string_view("a\0b", 3)), std::u32string(U"a\0b", 3));
 }
 
-// One question mark for each byte: cut short, too long a form, surrogates, beyond the last character, bytes that begin nothing.
+// One question mark for each byte: cut short, too long a form, surrogates, beyond the last character, bytes that begin
+// nothing.
 TEST(TextCells, BytesThatAreNoTextAreQuestionMarks) {
   for (const char* const broken : {"\xE8\x85", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xFF\xFE",
                                    "\x80\xBF", "\xF0\x80\x80\x80", "\xF8\x88\x80\x80\x80", "\xC3"}) {

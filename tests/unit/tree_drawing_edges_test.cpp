@@ -1,4 +1,5 @@
-// The drawing of the tree where something lies at or beyond the view's edges, where OpenGL refuses, and of the tree view itself.
+// The drawing of the tree where something lies at or beyond the view's edges, where OpenGL refuses, and of the tree view
+// itself.
 #include "modeler/selector/selector_colours.h"
 #include "tests/unit/tree_drawing_fixture.h"
 #include "tests/unit/tree_view_fixture.h"
@@ -11,7 +12,8 @@ using testing::IsEmpty;
 
 class TreeAtTheEdge : public DrawnTree {};
 
-// The text begins at 4: scrolled by 10, its first cell lies before the view and the wide character that begins there goes whole.
+// The text begins at 4: scrolled by 10, its first cell lies before the view and the wide character that begins there goes
+// whole.
 TEST_F(TreeAtTheEdge, AWideCharacterThatBeginsLeftOfTheViewIsLeftOut) {
   tree.nodes[0].text = "日ab";
   drawScrolled(10, 0);

@@ -76,8 +76,8 @@ inline Names selectedTexts(const CTreeView& tree) {
   return names;
 }
 
-// Rows: 0 [Top], 1 [Layer1]:L, 2 A, 3 B, 4 C, 5 D, 6 [WMaps]. A, B, C are a chain, D stands beside it. The view is 212 by 162:
-// 200 by 150 without the bars.
+// Rows: 0 [Top], 1 [Layer1]:L, 2 A, 3 B, 4 C, 5 D, 6 [WMaps]. A, B, C are a chain, D stands beside it. The view is 212 by
+// 162: 200 by 150 without the bars.
 class TreeViewTest : public testing::Test {
  protected:
   TreeViewTest() {
