@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-#include "reader/CFileStream.h"
+#include "reader/file_streams.h"
 
 namespace lwp::st {
 
@@ -68,19 +68,49 @@ class ObjectLayer {
   std::uint16_t flags() const { return record_->flags; }
   Vec12 pivot() const { return record_->pivot; }
   // Never empty: a layer without a name is called Layer1 when its number is 0, and so on.
-  std::string name() const;
+  std::string name() const {
+    const std::string name = store_->layerNames.substr(before_->nameEnd, record_->nameEnd - before_->nameEnd);
+    return name.empty() ? "Layer" + std::to_string(number() + 1) : name;
+  }
   // The number of the parent layer; 0 also when the file says nothing of one.
   std::uint16_t parent() const { return record_->parent; }
-  std::span<const Vec12> points() const;
+  std::span<const Vec12> points() const {
+    return {store_->points.get() + before_->pointEnd, store_->points.get() + record_->pointEnd};
+  }
+
   // FACE polygons: the numbers of their points. A file may name points that the layer does not have, or has in no chunk that is
   // read: who looks a number up in points() compares it with points().size() first.
   std::size_t faceCount() const { return record_->faceCount; }
-  std::vector<std::vector<std::uint32_t>> faces() const;
+  std::vector<std::vector<std::uint32_t>> faces() const {
+    std::vector<std::vector<std::uint32_t>> faces(faceCount());
+    const std::uint32_t* next = store_->faces.get() + before_->faceEnd;
+    for (std::vector<std::uint32_t>& face : faces) face = polygonAt(next);
+    return faces;
+  }
   // BONE polygons. Of their point numbers the same holds; their tags may name texts that the tag list lacks.
   std::size_t skelegonCount() const { return record_->skelegonEnd - before_->skelegonEnd; }
-  std::vector<SkelegonRecord> skelegons() const;
+  std::vector<SkelegonRecord> skelegons() const {
+    std::vector<SkelegonRecord> skelegons(skelegonCount());
+    const std::uint32_t* next = store_->skelegonPoints.get() + before_->skelegonPointEnd;
+    const std::uint32_t* end = store_->tagEnds.data() + before_->skelegonEnd;
+    for (SkelegonRecord& skelegon : skelegons) {
+      const std::uint32_t first = *end++ & ~ObjectStore::kMark;
+      skelegon.tags = std::span(store_->tags.get() + first, (*end & ~ObjectStore::kMark) - first);
+      if ((*end & ObjectStore::kMark) != 0) skelegon.points = polygonAt(next);
+    }
+    return skelegons;
+  }
 
  private:
+  // The numbers of one polygon. 'next' goes on behind the marked one.
+  static std::vector<std::uint32_t> polygonAt(const std::uint32_t*& next) {
+    std::vector<std::uint32_t> numbers;
+    do {
+      if (*next != ObjectStore::kFaceWithoutCorners) numbers.push_back(*next & ~ObjectStore::kMark);
+    } while ((*next++ & ObjectStore::kMark) == 0);
+    return numbers;
+  }
+
   const ObjectStore* store_;
   const LayerRecord* before_;
   const LayerRecord* record_;
@@ -95,7 +125,10 @@ class ObjectFileData {
   const std::string& path() const { return path_; }
   // The tag texts of the file, in its order.
   std::size_t tagCount() const { return store_.textCount; }
-  std::string_view tag(std::size_t at) const;
+  std::string_view tag(std::size_t at) const {
+    const std::string_view even = store_.texts.data() + store_.textStarts[at / 2];
+    return at % 2 == 0 ? even : std::string_view(even.data() + even.size() + 1);
+  }
   std::size_t layerCount() const { return store_.layers.empty() ? 0 : store_.layers.size() - 1; }
   ObjectLayer layer(std::size_t at) const { return {store_, at}; }
 

@@ -5,7 +5,7 @@
 #include <new>
 #include <utility>
 
-#include "reader/CLWOFileStream.h"
+#include "reader/file_streams.h"
 
 namespace lwp::st {
 
@@ -13,8 +13,7 @@ namespace {
 
 constexpr std::uint32_t kMark = ObjectStore::kMark;
 // The upper six bits beside the number of a polygon's corners are flags.
-constexpr std::size_t kCornerCountMask = 0x03FF;
-constexpr std::size_t kMostCorners = kCornerCountMask;
+constexpr std::size_t kMostCorners = 0x03FF;
 
 // Reads the polygons of a list: calls start(number of corners) for each, puts the numbers of its points where 'room' begins,
 // marks the last, and goes on behind them. That takes no more than a number for each two bytes of the list, and behind these
@@ -24,7 +23,7 @@ bool readPolygons(CFileStream list, std::span<std::uint32_t>& room, Start start)
   while (!list.atEnd()) {
     std::uint16_t count = 0;
     if (!list.readU2(count)) return false;
-    const std::size_t corners = count & kCornerCountMask;
+    const std::size_t corners = count & kMostCorners;
     start(corners);
     if (!list.readVX(room.first(corners))) return false;
     if (corners > 0) room[corners - 1] |= kMark;
@@ -35,18 +34,15 @@ bool readPolygons(CFileStream list, std::span<std::uint32_t>& room, Start start)
 
 // Calls take(skelegon, text) for the pairs of a list of tags, as long as their skelegon is below 'limit'. Returns what is left.
 template <class Take>
-std::span<const std::byte> readTags(std::span<const std::byte> list, std::uint32_t limit, Take take) {
-  while (list.size() >= kBytesOfU2 + kBytesOfU2) {
-    const std::byte* const from = list.data();
-    if (!isLongIndex(list)) {
-      if (loadU2(from) >= limit) break;
-      take(loadU2(from), loadU2(from + kBytesOfU2));
-      list = list.subspan(kBytesOfU2 + kBytesOfU2);
-    } else {
-      if (list.size() < kBytesOfU4 + kBytesOfU2 || loadLongIndex(from) >= limit) break;
-      take(loadLongIndex(from), loadU2(from + kBytesOfU4));
-      list = list.subspan(kBytesOfU4 + kBytesOfU2);
-    }
+std::span<const std::byte> readTags(std::span<const std::byte> list, std::size_t limit, Take take) {
+  while (!list.empty()) {
+    const bool isLong = isLongIndex(list);
+    const std::size_t bytes = (isLong ? kBytesOfU4 : kBytesOfU2) + kBytesOfU2;
+    if (list.size() < bytes) break;
+    const std::uint32_t skelegon = isLong ? loadLongIndex(list.data()) : loadU2(list.data());
+    if (skelegon >= limit) break;
+    take(skelegon, loadU2(list.data() + bytes - kBytesOfU2));
+    list = list.subspan(bytes);
   }
   return list;
 }
@@ -107,7 +103,7 @@ class CReading {
       case kPoints: return addPoints(chunk.body);
       case kFaces: return addFaces(CFileStream(chunk.body));
       case kSkelegons: return addSkelegons(CFileStream(chunk.body));
-      default: return addTags({chunk.tagType, firstSkelegon_, chunk.body});
+      default: return addTags(chunk);
     }
   }
 
@@ -122,7 +118,12 @@ class CReading {
     const bool isForMost = sizes_.bytes[kSkelegonTags] >= tagLists_.size() * store_.tagEnds.size();
     const std::size_t step = listsAscend_ && isForMost ? 128 : store_.tagEnds.size();
     for (std::size_t end = step; end < store_.tagEnds.size() + step; end += step) {
-      for (TagList& list : tagLists_) placeTags(list, end);
+      for (auto& [type, first, pairs] : tagLists_) {
+        const auto place = [type = type, placed = store_.tags.get(), ends = &store_.tagEnds[first + 1]](auto skelegon, auto text) {
+          placed[ends[skelegon]++ & ~kMark] = {type, text};
+        };
+        if (end > first) pairs = readTags(pairs, end - first, place);
+      }
     }
   }
 
@@ -188,29 +189,18 @@ class CReading {
     });
   }
 
-  bool addTags(const TagList& list) {
-    tagLists_.push_back(list);
+  bool addTags(const Chunk& chunk) {
+    tagLists_.push_back({chunk.tagType, firstSkelegon_, chunk.body});
     const std::span<std::uint32_t> counts = std::span(store_.tagEnds).subspan(firstSkelegon_ + 1);
     std::uint32_t last = 0;
-    bool ascends = true;
+    bool ascends = listsAscend_;
     const auto count = [&](std::uint32_t skelegon, std::uint16_t /*text*/) {
       ++counts[skelegon];
-      ascends &= skelegon >= last;
-      last = skelegon;
+      ascends &= skelegon >= std::exchange(last, skelegon);
     };
-    const bool isSound = readTags(list.pairs, static_cast<std::uint32_t>(counts.size()), count).empty();
-    listsAscend_ &= ascends;
+    const bool isSound = readTags(chunk.body, counts.size(), count).empty();
+    listsAscend_ = ascends;
     return isSound;
-  }
-
-  // Those of the skelegons in front of 'end'.
-  void placeTags(TagList& list, std::size_t end) {
-    if (end <= list.firstSkelegon) return;
-    const std::span ends = std::span(store_.tagEnds).subspan(list.firstSkelegon + 1);
-    const auto place = [ends, tags = store_.tags.get(), type = list.type](std::uint32_t skelegon, std::uint16_t text) {
-      tags[ends[skelegon]++ & ~kMark] = {type, text};
-    };
-    list.pairs = readTags(list.pairs, static_cast<std::uint32_t>(end - list.firstSkelegon), place);
   }
 
   ObjectStore& store_;
@@ -235,32 +225,23 @@ bool readForm(ObjectFileData& data, CLWOFileStream& file, std::string path) {
   return true;
 }
 
-// A file that does not fit into memory is one that cannot be read.
-template <class Read>
-bool falseWhenOutOfMemory(Read read) {
-  try {
-    return read();
-  } catch (const std::bad_alloc&) {
-    return false;
-  }
-}
-
 }  // namespace
 
-bool ReadObjectFile(ObjectFileData& data, std::string narrowPath) {
+// A file that does not fit into memory is one that cannot be read.
+bool ReadObjectFile(ObjectFileData& data, std::string narrowPath) try {
   data = {};
-  return falseWhenOutOfMemory([&] {
-    CLWOFileStream file;
-    return file.load(narrowPath) && readForm(data, file, std::move(narrowPath));
-  });
+  CLWOFileStream file;
+  return file.load(narrowPath) && readForm(data, file, std::move(narrowPath));
+} catch (const std::bad_alloc&) {
+  return false;
 }
 
-bool ParseObjectFile(ObjectFileData& data, std::span<const std::byte> file, std::string path) {
+bool ParseObjectFile(ObjectFileData& data, std::span<const std::byte> file, std::string path) try {
   data = {};
-  return falseWhenOutOfMemory([&] {
-    CLWOFileStream stream(file);
-    return readForm(data, stream, std::move(path));
-  });
+  CLWOFileStream stream(file);
+  return readForm(data, stream, std::move(path));
+} catch (const std::bad_alloc&) {
+  return false;
 }
 
 }  // namespace lwp::st

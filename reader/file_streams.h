@@ -1,10 +1,11 @@
-// A file in memory and a reading position in it: the primitives that object files are made of.
-// The object reader gives every chunk a stream of its own, so that nothing reads past what it was given.
+// A file in memory with a reading position in it: the primitives that object files are made of, and the walk over the chunks of
+// one. Every chunk gets a stream of its own, so that nothing reads past what it was given.
 #pragma once
 
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <iosfwd>
 #include <limits>
 #include <memory>
@@ -16,9 +17,7 @@ namespace lwp::st {
 
 // Three floats: a position or a pivot.
 struct Vec12 {
-  float x;
-  float y;
-  float z;
+  float x, y, z;
 
   friend bool operator==(const Vec12&, const Vec12&) = default;
 };
@@ -37,9 +36,8 @@ inline float loadF4(const std::byte* from) { return std::bit_cast<float>(loadU4(
 inline Vec12 loadVec12(const std::byte* from) { return {loadF4(from), loadF4(from + 4), loadF4(from + 8)}; }
 
 // A point or polygon number takes two bytes, or four when the first is 0xFF; that one is then dropped.
-inline constexpr std::uint32_t kIndexLimit = 0x01000000;
 inline bool isLongIndex(std::span<const std::byte> bytes) { return bytes.front() == std::byte{0xFF}; }
-inline std::uint32_t loadLongIndex(const std::byte* from) { return loadU4(from) % kIndexLimit; }
+inline std::uint32_t loadLongIndex(const std::byte* from) { return loadU4(from) & 0x00FFFFFFU; }
 
 // Bytes that one read asks for. Windows counts those of a read with 31 bits and refuses more.
 inline constexpr std::size_t kBytesPerRead = 67'108'864;
@@ -53,7 +51,8 @@ class CFileStream {
 
   CFileStream() = default;
   // Reads bytes that somebody else keeps for as long as the stream is used. More than kLongestFile count as none.
-  explicit CFileStream(std::span<const std::byte> bytes);
+  explicit CFileStream(std::span<const std::byte> bytes)
+      : bytes_(bytes.size() <= kLongestFile ? bytes : std::span<const std::byte>()) {}
   // Loads the whole file into memory of the stream's own and stands at its start. 'narrowPath' is in the system's narrow
   // code page. False, and nothing loaded, when the file cannot be opened or read, or is too long.
   bool load(const std::string& narrowPath);
@@ -71,9 +70,25 @@ class CFileStream {
   bool readVEC12(Vec12& value) { return read(value, loadVec12, kBytesOfVec12); }
   // A text up to its zero, padded to even length. 'text' refers to the stream's bytes.
   bool readS0(std::string_view& text);
-  // A point or polygon number of two or four bytes, or a row of them: as many as there is room for.
+  // A point or polygon number, or a row of them.
   bool readVX(std::uint32_t& index) { return readVX(std::span(&index, 1)); }
-  bool readVX(std::span<std::uint32_t> indices);
+  bool readVX(std::span<std::uint32_t> indices) {
+    // Nearly everywhere there are bytes for the longest form of all, and no number has to ask.
+    const bool areAllThere = left() >= indices.size() * kBytesOfU4;
+    std::span<const std::byte> bytes = rest();
+    for (std::uint32_t& index : indices) {
+      if (!areAllThere && bytes.size() < (bytes.empty() || !isLongIndex(bytes) ? kBytesOfU2 : kBytesOfU4)) return false;
+      if (isLongIndex(bytes)) [[likely]] {
+        index = loadLongIndex(bytes.data());
+        bytes = bytes.subspan(kBytesOfU4);
+      } else {
+        index = loadU2(bytes.data());
+        bytes = bytes.subspan(kBytesOfU2);
+      }
+    }
+    position_ = static_cast<std::uint32_t>(bytes_.size() - bytes.size());
+    return true;
+  }
   // The next 'size' bytes as a stream of their own, which refers to this stream's bytes.
   bool readWindow(std::uint32_t size, CFileStream& window);
 
@@ -91,22 +106,28 @@ class CFileStream {
   std::uint32_t position_ = 0;
 };
 
-inline bool CFileStream::readVX(std::span<std::uint32_t> indices) {
-  // Nearly everywhere there are bytes for the longest form of all, and no number has to ask.
-  const bool areAllThere = left() >= indices.size() * kBytesOfU4;
-  std::span<const std::byte> bytes = rest();
-  for (std::uint32_t& index : indices) {
-    if (!areAllThere && bytes.size() < (bytes.empty() || !isLongIndex(bytes) ? kBytesOfU2 : kBytesOfU4)) return false;
-    if (isLongIndex(bytes)) [[likely]] {
-      index = loadLongIndex(bytes.data());
-      bytes = bytes.subspan(kBytesOfU4);
-    } else {
-      index = loadU2(bytes.data());
-      bytes = bytes.subspan(kBytesOfU2);
-    }
-  }
-  position_ = static_cast<std::uint32_t>(bytes_.size() - bytes.size());
-  return true;
-}
+// The chunks that are of use. Points, polygons and tags belong to the layer that came last; there is one.
+enum ChunkKind : std::size_t { kTagTexts, kLayer, kPoints, kFaces, kSkelegons, kSkelegonTags, kOther };
+
+// The body of one chunk: of polygons and their tags, what follows the type. Tags are of 'tagType'.
+struct Chunk {
+  ChunkKind kind;
+  std::span<const std::byte> body;
+  std::uint32_t tagType = 0;
+};
+
+// An object file as a run of chunks.
+class CLWOFileStream : public CFileStream {
+ public:
+  using CFileStream::CFileStream;
+
+  // Goes into the form that the file consists of and stands at its first chunk. False when the file is no object of a
+  // kind that is read, or is not just as long as it says.
+  bool enterForm();
+
+  // [inside the form] Hands every chunk of use to 'take', in the order of the file; it answers whether the chunk is sound. True
+  // when all were and the last ended at the end of the form.
+  bool readChunks(const std::function<bool(const Chunk& chunk)>& take);
+};
 
 }  // namespace lwp::st
