@@ -1,6 +1,5 @@
 #include "reader/file_streams.h"
 
-#include <algorithm>
 #include <fstream>
 #include <locale>
 #include <utility>
@@ -25,30 +24,11 @@ bool CFileStream::load(const std::string& narrowPath) {
   const std::streamoff length = file ? std::streamoff{file.tellg()} : -1;
   if (length < 0 || static_cast<std::uintmax_t>(length) > kLongestFile) return false;
   file.seekg(0);
-
   const auto size = static_cast<std::size_t>(length);
   auto bytes = std::make_unique_for_overwrite<std::byte[]>(size);
   if (!readInBlocks(file, std::span(bytes.get(), size))) return false;
   file_ = std::move(bytes);
   bytes_ = {file_.get(), size};
-  return true;
-}
-
-bool CFileStream::readS0(std::string_view& text) {
-  const std::span<const std::byte> bytes = rest();
-  const auto zero = std::find(bytes.begin(), bytes.end(), std::byte{});
-  const auto length = static_cast<std::size_t>(zero - bytes.begin());
-  const std::size_t padded = length + (length % 2 == 0 ? 2 : 1);
-  if (padded > bytes.size()) return false;
-  text = {reinterpret_cast<const char*>(bytes.data()), length};
-  position_ += static_cast<std::uint32_t>(padded);
-  return true;
-}
-
-bool CFileStream::readWindow(std::uint32_t size, CFileStream& window) {
-  if (size > left()) return false;
-  window = CFileStream(rest().first(size));
-  position_ += size;
   return true;
 }
 
@@ -77,20 +57,16 @@ ChunkKind kindOf(std::uint32_t chunk, std::uint32_t polygons) {
 }  // namespace
 
 bool CLWOFileStream::enterForm() {
-  std::uint32_t form = 0;
-  std::uint32_t size = 0;
-  std::uint32_t type = 0;
-  if (!readU4(form) || form != id("FORM")) return false;
-  if (!readU4(size) || size != left()) return false;
-  return readU4(type) && (type == id("LWO2") || type == id("LWO3"));
+  std::uint32_t form = 0, size = 0, type = 0;
+  return readU4(form) && form == id("FORM") && readU4(size) && size == left() && readU4(type) &&
+         (type == id("LWO2") || type == id("LWO3"));
 }
 
 bool CLWOFileStream::readChunks(const std::function<bool(const Chunk&)>& take) {
   bool isInLayer = false;
   std::uint32_t polygonType = 0;
   while (!atEnd()) {
-    std::uint32_t chunkId = 0;
-    std::uint32_t size = 0;
+    std::uint32_t chunkId = 0, size = 0, tagType = 0;
     CFileStream body;
     // The next chunk follows at once, also behind an odd size: writers keep sizes even, and no byte is skipped here.
     if (!readU4(chunkId) || !readU4(size) || !readWindow(size, body)) return false;
@@ -99,7 +75,6 @@ bool CLWOFileStream::readChunks(const std::function<bool(const Chunk&)>& take) {
     isInLayer |= chunkId == id("LAYR");
     if (chunkId == id("POLS") && !body.readU4(polygonType)) return false;
     const ChunkKind kind = kindOf(chunkId, polygonType);
-    std::uint32_t tagType = 0;
     if (kind == kSkelegonTags && !body.readU4(tagType)) return false;
     if (kind != kOther && !take({kind, body.rest(), tagType})) return false;
   }

@@ -1,7 +1,8 @@
-// A file in memory with a reading position in it: the primitives that object files are made of, and the walk over the chunks of
-// one. Every chunk gets a stream of its own, so that nothing reads past what it was given.
+// A file in memory with a reading position in it: the primitives that object files are made of, and the walk over the chunks
+// of one. Every chunk gets a stream of its own, so that nothing reads past what it was given.
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -18,15 +19,12 @@ namespace lwp::st {
 // Three floats: a position or a pivot.
 struct Vec12 {
   float x, y, z;
-
   friend bool operator==(const Vec12&, const Vec12&) = default;
 };
 
-// Numbers as object files hold them: the highest byte first, on any boundary. Each function takes the address of as many bytes
-// as its type has there, and puts them together with shifts: right on every machine, and compiled to one swapped load.
-inline constexpr std::size_t kBytesOfU2 = 2;
-inline constexpr std::size_t kBytesOfU4 = 4;
-inline constexpr std::size_t kBytesOfVec12 = 12;
+// Numbers as object files hold them: the highest byte first, on any boundary. Each function takes the address of as many
+// bytes as its type has there, and puts them together with shifts: right on every machine, and compiled to one swapped load.
+inline constexpr std::size_t kBytesOfU2 = 2, kBytesOfU4 = 4, kBytesOfVec12 = 12;
 
 inline std::uint16_t loadU2(const std::byte* from) {
   return static_cast<std::uint16_t>((std::to_integer<unsigned>(from[0]) << 8U) | std::to_integer<unsigned>(from[1]));
@@ -60,8 +58,7 @@ class CFileStream {
   std::uint32_t position() const { return position_; }
   std::uint32_t left() const { return static_cast<std::uint32_t>(bytes_.size()) - position_; }
   bool atEnd() const { return left() == 0; }
-  // What was not read yet.
-  std::span<const std::byte> rest() const { return bytes_.subspan(position_); }
+  std::span<const std::byte> rest() const { return bytes_.subspan(position_); }  // what was not read yet
 
   // Each reads one value and goes on behind it. False when the bytes are not there: then the position is not touched.
   bool readU2(std::uint16_t& value) { return read(value, loadU2, kBytesOfU2); }
@@ -69,7 +66,15 @@ class CFileStream {
   bool readF4(float& value) { return read(value, loadF4, kBytesOfU4); }
   bool readVEC12(Vec12& value) { return read(value, loadVec12, kBytesOfVec12); }
   // A text up to its zero, padded to even length. 'text' refers to the stream's bytes.
-  bool readS0(std::string_view& text);
+  bool readS0(std::string_view& text) {
+    const std::span<const std::byte> bytes = rest();
+    const auto length = static_cast<std::size_t>(std::find(bytes.begin(), bytes.end(), std::byte{}) - bytes.begin());
+    const std::size_t padded = length + (length % 2 == 0 ? 2 : 1);
+    if (padded > bytes.size()) return false;
+    text = {reinterpret_cast<const char*>(bytes.data()), length};
+    position_ += static_cast<std::uint32_t>(padded);
+    return true;
+  }
   // A point or polygon number, or a row of them.
   bool readVX(std::uint32_t& index) { return readVX(std::span(&index, 1)); }
   bool readVX(std::span<std::uint32_t> indices) {
@@ -90,7 +95,12 @@ class CFileStream {
     return true;
   }
   // The next 'size' bytes as a stream of their own, which refers to this stream's bytes.
-  bool readWindow(std::uint32_t size, CFileStream& window);
+  bool readWindow(std::uint32_t size, CFileStream& window) {
+    if (size > left()) return false;
+    window = CFileStream(rest().first(size));
+    position_ += size;
+    return true;
+  }
 
  private:
   template <class Value>
@@ -121,12 +131,10 @@ class CLWOFileStream : public CFileStream {
  public:
   using CFileStream::CFileStream;
 
-  // Goes into the form that the file consists of and stands at its first chunk. False when the file is no object of a
-  // kind that is read, or is not just as long as it says.
+  // Goes into the form that the file consists of, to its first chunk. False for no object, or one not as long as it says.
   bool enterForm();
-
-  // [inside the form] Hands every chunk of use to 'take', in the order of the file; it answers whether the chunk is sound. True
-  // when all were and the last ended at the end of the form.
+  // [inside the form] Hands every chunk of use to 'take', in the order of the file; it answers whether the chunk is sound.
+  // True when all were and the last ended at the end of the form.
   bool readChunks(const std::function<bool(const Chunk& chunk)>& take);
 };
 
