@@ -5,16 +5,11 @@
 #include <new>
 #include <utility>
 
-#include "reader/CLWOFileStream.h"
-
 namespace lwp::st {
-
 namespace {
 
 constexpr std::uint32_t kMark = ObjectStore::kMark;
-// The upper six bits beside the number of a polygon's corners are flags.
-constexpr std::size_t kCornerCountMask = 0x03FF;
-constexpr std::size_t kMostCorners = kCornerCountMask;
+constexpr std::size_t kMostCorners = 0x03FF;  // the upper six bits beside the number of a polygon's corners are flags
 
 // Reads the polygons of a list: calls start(number of corners) for each, puts the numbers of its points where 'room' begins,
 // marks the last, and goes on behind them. That takes no more than a number for each two bytes of the list, and behind these
@@ -24,7 +19,7 @@ bool readPolygons(CFileStream list, std::span<std::uint32_t>& room, Start start)
   while (!list.atEnd()) {
     std::uint16_t count = 0;
     if (!list.readU2(count)) return false;
-    const std::size_t corners = count & kCornerCountMask;
+    const std::size_t corners = count & kMostCorners;
     start(corners);
     if (!list.readVX(room.first(corners))) return false;
     if (corners > 0) room[corners - 1] |= kMark;
@@ -33,26 +28,23 @@ bool readPolygons(CFileStream list, std::span<std::uint32_t>& room, Start start)
   return true;
 }
 
-// Calls take(skelegon, text) for the pairs of a list of tags, as long as their skelegon is below 'limit'. Returns what is left.
+// Calls take(skelegon, text) for the pairs of a list of tags, as long as their skelegon is below 'limit'. Returns the rest.
 template <class Take>
-std::span<const std::byte> readTags(std::span<const std::byte> list, std::uint32_t limit, Take take) {
-  while (list.size() >= kBytesOfU2 + kBytesOfU2) {
-    const std::byte* const from = list.data();
-    if (!isLongIndex(list)) {
-      if (loadU2(from) >= limit) break;
-      take(loadU2(from), loadU2(from + kBytesOfU2));
-      list = list.subspan(kBytesOfU2 + kBytesOfU2);
-    } else {
-      if (list.size() < kBytesOfU4 + kBytesOfU2 || loadLongIndex(from) >= limit) break;
-      take(loadLongIndex(from), loadU2(from + kBytesOfU4));
-      list = list.subspan(kBytesOfU4 + kBytesOfU2);
-    }
+std::span<const std::byte> readTags(std::span<const std::byte> list, std::size_t limit, Take take) {
+  while (!list.empty()) {
+    const bool isLong = isLongIndex(list);
+    const std::size_t bytes = (isLong ? kBytesOfU4 : kBytesOfU2) + kBytesOfU2;
+    if (list.size() < bytes) break;
+    const std::uint32_t skelegon = isLong ? loadLongIndex(list.data()) : loadU2(list.data());
+    if (skelegon >= limit) break;
+    take(skelegon, loadU2(list.data() + bytes - kBytesOfU2));
+    list = list.subspan(bytes);
   }
   return list;
 }
 
-// What there is of everything, at most. Memory is taken for that once: what is touched for the first time costs more than all
-// reading, and lists that grow would touch twice as much of it.
+// What there is of everything, at most. Memory is taken for that once: what is touched for the first time costs more than
+// all reading, and lists that grow would touch twice as much of it.
 struct Sizes {
   bool add(const Chunk& chunk) {
     ++chunks[chunk.kind];
@@ -66,8 +58,7 @@ struct Sizes {
     });
   }
 
-  std::array<std::size_t, kOther> chunks{};
-  std::array<std::size_t, kOther> bytes{};
+  std::array<std::size_t, kOther> chunks{}, bytes{};
   std::size_t skelegons = 0;
 };
 
@@ -78,8 +69,8 @@ std::span<Item> roomFor(std::size_t size, std::unique_ptr<Item[]>& memory) {
   return {memory.get(), size};
 }
 
-// Reads all chunks. The tags of skelegons, which stand far apart in the file, in a list for each type, are only counted then, and
-// brought together by a counting sort in the end.
+// Reads all chunks. The tags of skelegons, which stand far apart in the file, in a list for each type, are only counted then
+// and brought together by a counting sort when all chunks were read.
 class CReading {
  public:
   CReading(ObjectStore& store, const Sizes& sizes)
@@ -107,33 +98,37 @@ class CReading {
       case kPoints: return addPoints(chunk.body);
       case kFaces: return addFaces(CFileStream(chunk.body));
       case kSkelegons: return addSkelegons(CFileStream(chunk.body));
-      default: return addTags({chunk.tagType, firstSkelegon_, chunk.body});
+      default: return addTags(chunk);
     }
   }
 
-  // To be called when all chunks were added.
   void placeTags() {
     // The number of a skelegon's tags becomes the place of its next one, which in the end is where they end.
     std::uint32_t tags = 0;
     for (std::uint32_t& end : store_.tagEnds) tags += std::exchange(end, (end & kMark) | tags) & ~kMark;
-    roomFor(tags, store_.tags);
-    // One list after the other would be a walk through all of the tags for each. Where the lists ascend and have something for
-    // most skelegons, these are done some at a time: as many as fit into the smallest cache with some dozens of tags.
+    const std::span<PolygonTag> placed = roomFor(tags, store_.tags);
+    // One list after the other would be a walk through all of the tags for each. Where the lists ascend and have something
+    // for most skelegons, these are done some at a time: as many as fit into the smallest cache with some dozens of tags.
     const bool isForMost = sizes_.bytes[kSkelegonTags] >= tagLists_.size() * store_.tagEnds.size();
     const std::size_t step = listsAscend_ && isForMost ? 128 : store_.tagEnds.size();
     for (std::size_t end = step; end < store_.tagEnds.size() + step; end += step) {
-      for (TagList& list : tagLists_) placeTags(list, end);
+      for (TagList& list : tagLists_) {
+        const auto place = [placed, type = list.type, next = endsFrom(list.firstSkelegon)](auto skelegon, auto text) {
+          placed[next[skelegon]++ & ~kMark] = {type, text};
+        };
+        if (end > list.firstSkelegon) list.pairs = readTags(list.pairs, end - list.firstSkelegon, place);
+      }
     }
   }
 
  private:
   struct TagList {
-    std::uint32_t type;
-    std::uint32_t firstSkelegon;  // of its layer
+    std::uint32_t type, firstSkelegon;  // the first of its layer
     std::span<const std::byte> pairs;
   };
 
   LayerRecord& layer() { return store_.layers.back(); }
+  std::span<std::uint32_t> endsFrom(std::size_t skelegon) { return std::span(store_.tagEnds).subspan(skelegon + 1); }
 
   bool addTexts(CFileStream body) {
     for (std::string_view text; body.readS0(text); ++store_.textCount) {
@@ -146,13 +141,11 @@ class CReading {
   bool addLayer(CFileStream body) {
     LayerRecord next = layer();  // its part of the lists begins where that of the one before ends
     std::string_view name;
-    next.faceCount = 0;
     next.parent = 0;
     if (!body.readU2(next.number) || !body.readU2(next.flags) || !body.readVEC12(next.pivot)) return false;
     if (!body.readS0(name) || !(body.atEnd() || body.readU2(next.parent)) || !body.atEnd()) return false;
     store_.layerNames += name;
     next.nameEnd += static_cast<std::uint32_t>(name.size());
-    firstSkelegon_ = next.skelegonEnd;
     store_.layers.push_back(next);
     return true;
   }
@@ -167,14 +160,11 @@ class CReading {
 
   bool addFaces(CFileStream body) {
     std::span<std::uint32_t> room = faces_;  // of its own, for a compiler to keep in registers
-    std::uint32_t count = 0;
     const bool isSound = readPolygons(std::move(body), room, [&](std::size_t corners) {
-      ++count;
       if (corners > 0) return;
       room[0] = ObjectStore::kFaceWithoutCorners;
       room = room.subspan(1);
     });
-    layer().faceCount += count;
     layer().faceEnd += static_cast<std::uint32_t>(faces_.size() - room.size());
     faces_ = room;
     return isSound;
@@ -188,42 +178,30 @@ class CReading {
     });
   }
 
-  bool addTags(const TagList& list) {
-    tagLists_.push_back(list);
-    const std::span<std::uint32_t> counts = std::span(store_.tagEnds).subspan(firstSkelegon_ + 1);
+  bool addTags(const Chunk& chunk) {
+    const std::uint32_t firstSkelegon = store_.layers.end()[-2].skelegonEnd;  // where those of the layer before end
+    tagLists_.push_back({chunk.tagType, firstSkelegon, chunk.body});
+    const std::span<std::uint32_t> counts = endsFrom(firstSkelegon);
     std::uint32_t last = 0;
-    bool ascends = true;
+    bool ascends = listsAscend_;
     const auto count = [&](std::uint32_t skelegon, std::uint16_t /*text*/) {
       ++counts[skelegon];
-      ascends &= skelegon >= last;
-      last = skelegon;
+      ascends &= skelegon >= std::exchange(last, skelegon);
     };
-    const bool isSound = readTags(list.pairs, static_cast<std::uint32_t>(counts.size()), count).empty();
-    listsAscend_ &= ascends;
+    const bool isSound = readTags(chunk.body, counts.size(), count).empty();
+    listsAscend_ = ascends;
     return isSound;
-  }
-
-  // Those of the skelegons in front of 'end'.
-  void placeTags(TagList& list, std::size_t end) {
-    if (end <= list.firstSkelegon) return;
-    const std::span ends = std::span(store_.tagEnds).subspan(list.firstSkelegon + 1);
-    const auto place = [ends, tags = store_.tags.get(), type = list.type](std::uint32_t skelegon, std::uint16_t text) {
-      tags[ends[skelegon]++ & ~kMark] = {type, text};
-    };
-    list.pairs = readTags(list.pairs, static_cast<std::uint32_t>(end - list.firstSkelegon), place);
   }
 
   ObjectStore& store_;
   const Sizes& sizes_;
   std::span<Vec12> points_;
-  std::span<std::uint32_t> faces_;
-  std::span<std::uint32_t> skelegonPoints_;
-  std::uint32_t firstSkelegon_ = 0;  // of the layer
+  std::span<std::uint32_t> faces_, skelegonPoints_;
   std::vector<TagList> tagLists_;
   bool listsAscend_ = true;  // none names a lower skelegon behind a higher one
 };
 
-bool readForm(ObjectFileData& data, CLWOFileStream& file, std::string path) {
+bool readForm(ObjectFileData& data, CLWOFileStream file, std::string path) {
   if (!file.enterForm()) return false;
   Sizes sizes;
   if (!CLWOFileStream(file.rest()).readChunks([&](const Chunk& chunk) { return sizes.add(chunk); })) return false;
@@ -235,32 +213,22 @@ bool readForm(ObjectFileData& data, CLWOFileStream& file, std::string path) {
   return true;
 }
 
-// A file that does not fit into memory is one that cannot be read.
-template <class Read>
-bool falseWhenOutOfMemory(Read read) {
-  try {
-    return read();
-  } catch (const std::bad_alloc&) {
-    return false;
-  }
-}
-
 }  // namespace
 
-bool ReadObjectFile(ObjectFileData& data, std::string narrowPath) {
+// A file that does not fit into memory is one that cannot be read.
+bool ReadObjectFile(ObjectFileData& data, std::string narrowPath) try {
   data = {};
-  return falseWhenOutOfMemory([&] {
-    CLWOFileStream file;
-    return file.load(narrowPath) && readForm(data, file, std::move(narrowPath));
-  });
+  CLWOFileStream file;
+  return file.load(narrowPath) && readForm(data, std::move(file), std::move(narrowPath));
+} catch (const std::bad_alloc&) {
+  return false;
 }
 
-bool ParseObjectFile(ObjectFileData& data, std::span<const std::byte> file, std::string path) {
+bool ParseObjectFile(ObjectFileData& data, std::span<const std::byte> file, std::string path) try {
   data = {};
-  return falseWhenOutOfMemory([&] {
-    CLWOFileStream stream(file);
-    return readForm(data, stream, std::move(path));
-  });
+  return readForm(data, CLWOFileStream(file), std::move(path));
+} catch (const std::bad_alloc&) {
+  return false;
 }
 
 }  // namespace lwp::st

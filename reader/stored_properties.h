@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "reader/object_file_data.h"
+#include "reader/object_reader.h"
 #include "skelegon/slots.h"
 
 namespace lwp {

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "reader/CLWOFileStream.h"
+#include "reader/file_streams.h"
 #include "reader/object_reader.h"
 #include "tests/unit/object_reader_fixture.h"
 

@@ -10,7 +10,7 @@
 #include <locale>
 #include <streambuf>
 
-#include "reader/CFileStream.h"
+#include "reader/file_streams.h"
 #include "tests/unit/object_reader_fixture.h"
 
 namespace lwp::st {
