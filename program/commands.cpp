@@ -32,10 +32,10 @@ std::vector<rigs::SentCommand> sentCommands(const Transcript& transcript) {
   std::vector<rigs::SentCommand> commands;
   for (const Event& event : transcript.events()) {
     switch (event.kind) {
-      case EventKind::command: commands.push_back({event.text, "accepted", {}}); break;
-      case EventKind::rejected: commands.push_back({event.text, "rejected", event.why}); break;
-      case EventKind::asked: commands.push_back({event.text, "asked", event.why}); break;
-      case EventKind::status: break;
+      case EventKind::Command: commands.push_back({event.text, "accepted", {}}); break;
+      case EventKind::Rejected: commands.push_back({event.text, "rejected", event.why}); break;
+      case EventKind::Asked: commands.push_back({event.text, "asked", event.why}); break;
+      case EventKind::Status: break;
     }
   }
   return commands;

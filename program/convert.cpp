@@ -56,7 +56,7 @@ void convertFile(const std::string& file, const ConvertOptions& options) {
   }
   std::cout << "after\n";
   indent(sceneReport(host.scene()));
-  const std::size_t refused = transcript.count(EventKind::rejected) + transcript.count(EventKind::asked);
+  const std::size_t refused = transcript.count(EventKind::Rejected) + transcript.count(EventKind::Asked);
   std::cout << "commands: " << transcript.commandCount() << " sent, " << refused << " refused\n";
   endSession(module);
 }

@@ -131,7 +131,7 @@ bool isHeldBack(const Look& look, int slot) {
   if (slot == 56 || slot == 61 || between(66, 68)) return noGoal;
   if (slot == 58) return look.number(57) != 3;
   if (slot == 59)
-    return look.bone.parent == nullptr || look.bone.parent->kind != ItemKind::bone ||
+    return look.bone.parent == nullptr || look.bone.parent->kind != ItemKind::Bone ||
            look.bone.parent->settings.ik.unaffected;
   if (slot == 62) return noGoal || look.number(56) != 0;
   if (between(63, 65)) return noGoal || look.number(56) != 0 || look.number(62) == 0;

@@ -52,20 +52,20 @@ std::string readItem(Scene& scene, std::string_view text, Argument& out) {
 std::string readOne(Scene& scene, const ArgumentRule& rule, std::string_view text, Argument& out) {
   out.given = true;
   switch (rule.kind) {
-    case ArgumentKind::integer:
-    case ArgumentKind::optionalInteger: return readInteger(rule, text, out);
-    case ArgumentKind::real: return readReal(text, out);
-    case ArgumentKind::wholeReal: return readWholeReal(text, out);
-    case ArgumentKind::item: return readItem(scene, text, out);
-    case ArgumentKind::word:
-    case ArgumentKind::rest:
-    case ArgumentKind::optionalRest: out.text = text; return {};
+    case ArgumentKind::Integer:
+    case ArgumentKind::OptionalInteger: return readInteger(rule, text, out);
+    case ArgumentKind::Real: return readReal(text, out);
+    case ArgumentKind::WholeReal: return readWholeReal(text, out);
+    case ArgumentKind::Item: return readItem(scene, text, out);
+    case ArgumentKind::Word:
+    case ArgumentKind::Rest:
+    case ArgumentKind::OptionalRest: out.text = text; return {};
   }
   return "unknown kind of argument";
 }
 
-bool takesRest(ArgumentKind kind) { return kind == ArgumentKind::rest || kind == ArgumentKind::optionalRest; }
-bool mayBeMissing(ArgumentKind kind) { return kind == ArgumentKind::optionalInteger || kind == ArgumentKind::optionalRest; }
+bool takesRest(ArgumentKind kind) { return kind == ArgumentKind::Rest || kind == ArgumentKind::OptionalRest; }
+bool mayBeMissing(ArgumentKind kind) { return kind == ArgumentKind::OptionalInteger || kind == ArgumentKind::OptionalRest; }
 
 }  // namespace
 

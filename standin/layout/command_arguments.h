@@ -12,18 +12,18 @@
 namespace standin {
 
 enum class ArgumentKind {
-  integer,          // decimal, within a range
-  optionalInteger,  // may be left out
-  real,
-  wholeReal,  // a real text whose value is a whole number
-  item,       // 0x and up to eight hexadecimal digits
-  word,       // up to the next space
-  rest,       // everything that is left, spaces included; not empty
-  optionalRest,
+  Integer,          // decimal, within a range
+  OptionalInteger,  // may be left out
+  Real,
+  WholeReal,  // a real text whose value is a whole number
+  Item,       // 0x and up to eight hexadecimal digits
+  Word,       // up to the next space
+  Rest,       // everything that is left, spaces included; not empty
+  OptionalRest,
 };
 
 struct ArgumentRule {
-  ArgumentKind kind = ArgumentKind::integer;
+  ArgumentKind kind = ArgumentKind::Integer;
   int least = 0;
   int greatest = 0;
 };

@@ -17,9 +17,9 @@ constexpr int kAnyInt = std::numeric_limits<int>::max();
 // ---------------------------------------------------------------------------------------------------------------------
 // Kinds of rows
 
-ArgumentRule whole(int least, int greatest) { return {ArgumentKind::integer, least, greatest}; }
-constexpr ArgumentRule kReal{ArgumentKind::real, 0, 0};
-constexpr ArgumentRule kItem{ArgumentKind::item, 0, 0};
+ArgumentRule whole(int least, int greatest) { return {ArgumentKind::Integer, least, greatest}; }
+constexpr ArgumentRule kReal{ArgumentKind::Real, 0, 0};
+constexpr ArgumentRule kItem{ArgumentKind::Item, 0, 0};
 
 // A part of an item that a row sets: from the item to a reference.
 template <class T>
@@ -66,7 +66,7 @@ CommandRow twoReals(std::string name, CommandTarget target, Part<std::array<doub
 
 CommandRow link(std::string name, Part<Item*> part) {
   return {std::move(name),
-          CommandTarget::item,
+          CommandTarget::Item,
           {kItem},
           [part](LayoutState&, Item* item, const Arguments& arguments) -> Rejection {
             if (arguments[0].item == item) return "an item cannot point to itself";
@@ -78,8 +78,8 @@ CommandRow link(std::string name, Part<Item*> part) {
 // A switch of the whole program. The command page knows it as a plain toggle; with 0 or 1 it is set.
 CommandRow programSwitch(std::string name, bool LayoutState::*member) {
   return {std::move(name),
-          CommandTarget::none,
-          {{ArgumentKind::optionalInteger, 0, 1}},
+          CommandTarget::None,
+          {{ArgumentKind::OptionalInteger, 0, 1}},
           [member](LayoutState& state, Item*, const Arguments& arguments) -> Rejection {
             const SwitchArgument habit = state.scene.options().switchArgument;
             if (arguments[0].given && habit == SwitchArgument::Refused) return "it takes no argument";
@@ -131,7 +131,7 @@ Rejection skelegonsToBones(LayoutState& state, Item* item, const Arguments&) {
 
 Rejection statusMessage(LayoutState& state, Item*, const Arguments& arguments) {
   const std::string& text = arguments[0].text;
-  Event event{EventKind::status, text, {}, std::nullopt};
+  Event event{EventKind::Status, text, {}, std::nullopt};
   const std::size_t close = text.find('}');
   if (text.starts_with('{') && close != std::string::npos) {
     double fraction = 0;
@@ -179,7 +179,7 @@ Rejection applyServer(LayoutState& state, Item* item, const Arguments& arguments
 }
 
 Rejection itemVisibility(LayoutState&, Item* item, const Arguments& arguments) {
-  const int greatest = item->kind == ItemKind::object ? 13 : 1;
+  const int greatest = item->kind == ItemKind::Object ? 13 : 1;
   if (arguments[0].integer > greatest) return "visibility " + std::to_string(arguments[0].integer) + " is for objects only";
   item->settings.visibility = arguments[0].integer;
   return {};
@@ -198,7 +198,7 @@ Rejection weightMapName(LayoutState&, Item* item, const Arguments& arguments) {
 }
 
 Rejection boneSource(LayoutState&, Item* item, const Arguments& arguments) {
-  if (arguments[0].item->kind != ItemKind::object) return "bones come from an object";
+  if (arguments[0].item->kind != ItemKind::Object) return "bones come from an object";
   item->owner->object.boneSource = arguments[0].item;
   return {};
 }
@@ -213,68 +213,71 @@ Rejection useIkChain(LayoutState&, Item* item, const Arguments& arguments) {
 // ---------------------------------------------------------------------------------------------------------------------
 // The rows
 
+constexpr CommandTarget kNoTarget = CommandTarget::None;
+constexpr CommandTarget kToItem = CommandTarget::Item;
+constexpr CommandTarget kToBone = CommandTarget::Bone;
+constexpr CommandTarget kToObject = CommandTarget::Object;
+
 void addProgramRows(Rows& rows) {
-  using enum CommandTarget;
-  rows.push_back({"SelectItem", none, {kItem}, selectItem});
-  rows.push_back({"AddToSelection", none, {kItem}, addToSelection});
-  rows.push_back({"AddNull", none, {{ArgumentKind::rest, 0, 0}}, addNull});
-  rows.push_back({"SkelegonsToBones", object, {}, skelegonsToBones});
+  rows.push_back({"SelectItem", kNoTarget, {kItem}, selectItem});
+  rows.push_back({"AddToSelection", kNoTarget, {kItem}, addToSelection});
+  rows.push_back({"AddNull", kNoTarget, {{ArgumentKind::Rest, 0, 0}}, addNull});
+  rows.push_back({"SkelegonsToBones", kToObject, {}, skelegonsToBones});
   rows.push_back(
-      {"AutoConfirm", none, {whole(-1, 1)}, [](LayoutState& state, Item*, const Arguments& arguments) -> Rejection {
+      {"AutoConfirm", kNoTarget, {whole(-1, 1)}, [](LayoutState& state, Item*, const Arguments& arguments) -> Rejection {
          state.autoConfirm = arguments[0].integer;
          return {};
        }});
-  rows.push_back({"RefreshNow", none, {}, [](LayoutState& state, Item*, const Arguments&) -> Rejection {
+  rows.push_back({"RefreshNow", kNoTarget, {}, [](LayoutState& state, Item*, const Arguments&) -> Rejection {
                     ++state.refreshes;
                     return {};
                   }});
-  rows.push_back({"StatusMsg", none, {{ArgumentKind::optionalRest, 0, 0}}, statusMessage});
+  rows.push_back({"StatusMsg", kNoTarget, {{ArgumentKind::OptionalRest, 0, 0}}, statusMessage});
   rows.push_back(programSwitch("EnableIK", &LayoutState::ikEnabled));
   rows.push_back(programSwitch("EnableMC", &LayoutState::motionControllersEnabled));
   rows.push_back(programSwitch("EnableDeformations", &LayoutState::deformationsEnabled));
 }
 
 void addItemRows(Rows& rows) {
-  using enum CommandTarget;
-  rows.push_back({"ParentItem", item, {kItem}, parentItem});
+  rows.push_back({"ParentItem", kToItem, {kItem}, parentItem});
   rows.push_back(link("TargetItem", [](Item& i) -> Item*& { return i.settings.target; }));
   rows.push_back(link("PoleItem", [](Item& i) -> Item*& { return i.settings.pole; }));
   rows.push_back(link("GoalItem", [](Item& i) -> Item*& { return i.settings.ik.goal; }));
-  rows.push_back({"RotationOrder", item, {whole(0, 5)}, rotationOrder});
-  rows.push_back({"RecordPivotRotation", item, {}, recordPivotRotation});
-  rows.push_back({"ApplyServer", object, {{ArgumentKind::word, 0, 0}, {ArgumentKind::rest, 0, 0}}, applyServer});
-  rows.push_back({"ItemVisibility", item, {whole(0, 13)}, itemVisibility});
-  rows.push_back(number("ItemColor", item, 0, 14, [](Item& i) -> int& { return i.settings.colour; }));
-  rows.push_back(real("ItemIconScale", item, [](Item& i) -> double& { return i.settings.iconScale; }));
-  rows.push_back(real("PathAlignLookAhead", item, [](Item& i) -> double& { return i.settings.pathAlign.lookAhead; }));
+  rows.push_back({"RotationOrder", kToItem, {whole(0, 5)}, rotationOrder});
+  rows.push_back({"RecordPivotRotation", kToItem, {}, recordPivotRotation});
+  rows.push_back({"ApplyServer", kToObject, {{ArgumentKind::Word, 0, 0}, {ArgumentKind::Rest, 0, 0}}, applyServer});
+  rows.push_back({"ItemVisibility", kToItem, {whole(0, 13)}, itemVisibility});
+  rows.push_back(number("ItemColor", kToItem, 0, 14, [](Item& i) -> int& { return i.settings.colour; }));
+  rows.push_back(real("ItemIconScale", kToItem, [](Item& i) -> double& { return i.settings.iconScale; }));
+  rows.push_back(real("PathAlignLookAhead", kToItem, [](Item& i) -> double& { return i.settings.pathAlign.lookAhead; }));
   rows.push_back({"PathAlignMaxLookSteps",
-                  item,
-                  {{ArgumentKind::wholeReal, 0, 0}},
+                  kToItem,
+                  {{ArgumentKind::WholeReal, 0, 0}},
                   [](LayoutState&, Item* i, const Arguments& arguments) -> Rejection {
                     i->settings.pathAlign.maxSteps = arguments[0].integer;
                     return {};
                   }});
   rows.push_back(
-      real("PathAlignReliableDist", item, [](Item& i) -> double& { return i.settings.pathAlign.reliableDistance; }));
+      real("PathAlignReliableDist", kToItem, [](Item& i) -> double& { return i.settings.pathAlign.reliableDistance; }));
 }
 
 void addIkRows(Rows& rows) {
-  using enum CommandTarget;
-  rows.push_back(toggle("UnaffectedByIK", item, [](Item& i) -> bool& { return i.settings.ik.unaffected; }));
-  rows.push_back(toggle("FullTimeIK", item, [](Item& i) -> bool& { return i.settings.ik.fullTime; }));
-  rows.push_back(toggle("MatchGoalOrientation", item, [](Item& i) -> bool& { return i.settings.ik.matchGoalOrientation; }));
-  rows.push_back(toggle("KeepGoalWithinReach", item, [](Item& i) -> bool& { return i.settings.ik.keepGoalInReach; }));
-  rows.push_back({"UseIKChainVals", item, {{ArgumentKind::optionalInteger, 0, 1}}, useIkChain});
-  rows.push_back(number("GoalObjective", item, 0, 2, [](Item& i) -> int& { return i.settings.ik.objective; }));
-  rows.push_back(real("GoalStrength", item, [](Item& i) -> double& { return i.settings.ik.goalStrength; }));
-  rows.push_back(number("IKInitialState", item, 0, 3, [](Item& i) -> int& { return i.settings.ik.initialState; }));
-  rows.push_back(number("IKInitialStateFrame", item, -kAnyInt, kAnyInt,
+  rows.push_back(toggle("UnaffectedByIK", kToItem, [](Item& i) -> bool& { return i.settings.ik.unaffected; }));
+  rows.push_back(toggle("FullTimeIK", kToItem, [](Item& i) -> bool& { return i.settings.ik.fullTime; }));
+  rows.push_back(
+      toggle("MatchGoalOrientation", kToItem, [](Item& i) -> bool& { return i.settings.ik.matchGoalOrientation; }));
+  rows.push_back(toggle("KeepGoalWithinReach", kToItem, [](Item& i) -> bool& { return i.settings.ik.keepGoalInReach; }));
+  rows.push_back({"UseIKChainVals", kToItem, {{ArgumentKind::OptionalInteger, 0, 1}}, useIkChain});
+  rows.push_back(number("GoalObjective", kToItem, 0, 2, [](Item& i) -> int& { return i.settings.ik.objective; }));
+  rows.push_back(real("GoalStrength", kToItem, [](Item& i) -> double& { return i.settings.ik.goalStrength; }));
+  rows.push_back(number("IKInitialState", kToItem, 0, 3, [](Item& i) -> int& { return i.settings.ik.initialState; }));
+  rows.push_back(number("IKInitialStateFrame", kToItem, -kAnyInt, kAnyInt,
                         [](Item& i) -> int& { return i.settings.ik.initialStateFrame; }));
-  rows.push_back(real("IKFKBlending", item, [](Item& i) -> double& { return i.settings.ik.blending; }));
-  rows.push_back(number("SoftIK", item, 0, 3, [](Item& i) -> int& { return i.settings.ik.softKind; }));
-  rows.push_back(number("SoftIKDistanceType", item, 0, 2, [](Item& i) -> int& { return i.settings.ik.softDistance; }));
-  rows.push_back(real("SoftIKMin", item, [](Item& i) -> double& { return i.settings.ik.softLeast; }));
-  rows.push_back(real("SoftIKMax", item, [](Item& i) -> double& { return i.settings.ik.softGreatest; }));
+  rows.push_back(real("IKFKBlending", kToItem, [](Item& i) -> double& { return i.settings.ik.blending; }));
+  rows.push_back(number("SoftIK", kToItem, 0, 3, [](Item& i) -> int& { return i.settings.ik.softKind; }));
+  rows.push_back(number("SoftIKDistanceType", kToItem, 0, 2, [](Item& i) -> int& { return i.settings.ik.softDistance; }));
+  rows.push_back(real("SoftIKMin", kToItem, [](Item& i) -> double& { return i.settings.ik.softLeast; }));
+  rows.push_back(real("SoftIKMax", kToItem, [](Item& i) -> double& { return i.settings.ik.softGreatest; }));
 }
 
 template <std::size_t Which>
@@ -284,12 +287,11 @@ SameItemSettings& same(Item& item) {
 
 template <std::size_t Which>
 void addSameItemRows(Rows& rows, const std::string& name) {
-  using enum CommandTarget;
   rows.push_back(link(name, [](Item& i) -> Item*& { return same<Which>(i).item; }));
-  rows.push_back(number(name + "BlendMethod", item, 0, 1, [](Item& i) -> int& { return same<Which>(i).blendMethod; }));
-  rows.push_back(real(name + "Blend", item, [](Item& i) -> double& { return same<Which>(i).blend; }));
+  rows.push_back(number(name + "BlendMethod", kToItem, 0, 1, [](Item& i) -> int& { return same<Which>(i).blendMethod; }));
+  rows.push_back(real(name + "Blend", kToItem, [](Item& i) -> double& { return same<Which>(i).blend; }));
   // Scale has no world switch.
-  if (Which != 2) rows.push_back(flag(name + "World", item, [](Item& i) -> bool& { return same<Which>(i).world; }));
+  if (Which != 2) rows.push_back(flag(name + "World", kToItem, [](Item& i) -> bool& { return same<Which>(i).world; }));
 }
 
 template <std::size_t Which>
@@ -299,19 +301,19 @@ AxisSettings& axis(Item& item) {
 
 template <std::size_t Which>
 void addAxisRows(Rows& rows) {
-  using enum CommandTarget;
   const std::string name = kAxisNames[Which];
-  rows.push_back(number(name + "Controller", item, 0, 7, [](Item& i) -> int& { return axis<Which>(i).controller; }));
-  rows.push_back(toggle("Limit" + name, item, [](Item& i) -> bool& { return axis<Which>(i).limited; }));
-  rows.push_back({name + "Limits", item, {kReal, kReal}, [](LayoutState&, Item* i, const Arguments& arguments) -> Rejection {
-                    axis<Which>(*i).least = arguments[0].real;
-                    axis<Which>(*i).greatest = arguments[1].real;
-                    return {};
-                  }});
-  rows.push_back(real(name + "Stiffness", item, [](Item& i) -> double& { return axis<Which>(i).stiffness; }));
-  rows.push_back(number(name + "Follow", item, 0, 8, [](Item& i) -> int& { return axis<Which>(i).follow; }));
+  rows.push_back(number(name + "Controller", kToItem, 0, 7, [](Item& i) -> int& { return axis<Which>(i).controller; }));
+  rows.push_back(toggle("Limit" + name, kToItem, [](Item& i) -> bool& { return axis<Which>(i).limited; }));
   rows.push_back(
-      {name + "Transform", item, {kReal, kReal}, [](LayoutState&, Item* i, const Arguments& arguments) -> Rejection {
+      {name + "Limits", kToItem, {kReal, kReal}, [](LayoutState&, Item* i, const Arguments& arguments) -> Rejection {
+         axis<Which>(*i).least = arguments[0].real;
+         axis<Which>(*i).greatest = arguments[1].real;
+         return {};
+       }});
+  rows.push_back(real(name + "Stiffness", kToItem, [](Item& i) -> double& { return axis<Which>(i).stiffness; }));
+  rows.push_back(number(name + "Follow", kToItem, 0, 8, [](Item& i) -> int& { return axis<Which>(i).follow; }));
+  rows.push_back(
+      {name + "Transform", kToItem, {kReal, kReal}, [](LayoutState&, Item* i, const Arguments& arguments) -> Rejection {
          axis<Which>(*i).factor = arguments[0].real;
          axis<Which>(*i).offset = arguments[1].real;
          return {};
@@ -324,42 +326,41 @@ void addAllAxisRows(Rows& rows, std::index_sequence<Which...>) {
 }
 
 void addBoneRows(Rows& rows) {
-  using enum CommandTarget;
-  rows.push_back({"BoneSource", bone, {kItem}, boneSource});
+  rows.push_back({"BoneSource", kToBone, {kItem}, boneSource});
   // The command counts from 1, the query from 0.
   rows.push_back(number(
-      "BoneFalloffType", bone, 1, 9, [](Item& i) -> int& { return i.bone.falloff; }, 1));
+      "BoneFalloffType", kToBone, 1, 9, [](Item& i) -> int& { return i.bone.falloff; }, 1));
   // Of the bone's object, for all its bones.
-  rows.push_back(number("BoneMode", bone, 0, 3, [](Item& i) -> int& { return i.owner->object.boneMode; }));
-  rows.push_back(number("NumLimitedBones", bone, 0, kAnyInt, [](Item& i) -> int& { return i.owner->object.limitedBones; }));
-  rows.push_back(number("BoneType", bone, 0, 1, [](Item& i) -> int& { return i.bone.type; }));
-  rows.push_back(toggle("BoneActive", bone, [](Item& i) -> bool& { return i.bone.active; }));
-  rows.push_back({"BoneWeightMapName", bone, {{ArgumentKind::rest, 0, 0}}, weightMapName});
-  rows.push_back({"BoneWeightMapOnly", bone, {}, weightMapOnly});
-  rows.push_back(toggle("BoneNormalization", bone, [](Item& i) -> bool& { return i.bone.weightNormalization; }));
-  rows.push_back(real("BoneStrength", bone, [](Item& i) -> double& { return i.bone.strength; }));
-  rows.push_back(toggle("BoneStrengthMultiply", bone, [](Item& i) -> bool& { return i.bone.strengthMultiply; }));
-  rows.push_back(toggle("BoneLimitedRange", bone, [](Item& i) -> bool& { return i.bone.limitedRange; }));
-  rows.push_back(real("BoneMinRange", bone, [](Item& i) -> double& { return i.bone.minRange; }));
-  rows.push_back(real("BoneMaxRange", bone, [](Item& i) -> double& { return i.bone.maxRange; }));
+  rows.push_back(number("BoneMode", kToBone, 0, 3, [](Item& i) -> int& { return i.owner->object.boneMode; }));
+  rows.push_back(
+      number("NumLimitedBones", kToBone, 0, kAnyInt, [](Item& i) -> int& { return i.owner->object.limitedBones; }));
+  rows.push_back(number("BoneType", kToBone, 0, 1, [](Item& i) -> int& { return i.bone.type; }));
+  rows.push_back(toggle("BoneActive", kToBone, [](Item& i) -> bool& { return i.bone.active; }));
+  rows.push_back({"BoneWeightMapName", kToBone, {{ArgumentKind::Rest, 0, 0}}, weightMapName});
+  rows.push_back({"BoneWeightMapOnly", kToBone, {}, weightMapOnly});
+  rows.push_back(toggle("BoneNormalization", kToBone, [](Item& i) -> bool& { return i.bone.weightNormalization; }));
+  rows.push_back(real("BoneStrength", kToBone, [](Item& i) -> double& { return i.bone.strength; }));
+  rows.push_back(toggle("BoneStrengthMultiply", kToBone, [](Item& i) -> bool& { return i.bone.strengthMultiply; }));
+  rows.push_back(toggle("BoneLimitedRange", kToBone, [](Item& i) -> bool& { return i.bone.limitedRange; }));
+  rows.push_back(real("BoneMinRange", kToBone, [](Item& i) -> double& { return i.bone.minRange; }));
+  rows.push_back(real("BoneMaxRange", kToBone, [](Item& i) -> double& { return i.bone.maxRange; }));
 }
 
 void addBoneFormRows(Rows& rows) {
-  using enum CommandTarget;
-  rows.push_back(toggle("BoneJointComp", bone, [](Item& i) -> bool& { return i.bone.jointComp; }));
-  rows.push_back(toggle("BoneJointCompParent", bone, [](Item& i) -> bool& { return i.bone.jointCompParent; }));
+  rows.push_back(toggle("BoneJointComp", kToBone, [](Item& i) -> bool& { return i.bone.jointComp; }));
+  rows.push_back(toggle("BoneJointCompParent", kToBone, [](Item& i) -> bool& { return i.bone.jointCompParent; }));
   rows.push_back(twoReals(
-      "BoneJointCompAmounts", bone, [](Item & i) -> auto& { return i.bone.jointCompAmounts; }));
-  rows.push_back(toggle("BoneMuscleFlex", bone, [](Item& i) -> bool& { return i.bone.muscleFlex; }));
-  rows.push_back(toggle("BoneMuscleFlexParent", bone, [](Item& i) -> bool& { return i.bone.muscleFlexParent; }));
+      "BoneJointCompAmounts", kToBone, [](Item & i) -> auto& { return i.bone.jointCompAmounts; }));
+  rows.push_back(toggle("BoneMuscleFlex", kToBone, [](Item& i) -> bool& { return i.bone.muscleFlex; }));
+  rows.push_back(toggle("BoneMuscleFlexParent", kToBone, [](Item& i) -> bool& { return i.bone.muscleFlexParent; }));
   rows.push_back(twoReals(
-      "BoneMuscleFlexAmounts", bone, [](Item & i) -> auto& { return i.bone.muscleFlexAmounts; }));
-  rows.push_back(toggle("BoneBulge", bone, [](Item& i) -> bool& { return i.bone.bulge; }));
-  rows.push_back(real("BoneBulgeAmount", bone, [](Item& i) -> double& { return i.bone.bulgeAmount; }));
-  rows.push_back(toggle("BoneBulgeParent", bone, [](Item& i) -> bool& { return i.bone.bulgeParent; }));
-  rows.push_back(real("BoneBulgeParentAmount", bone, [](Item& i) -> double& { return i.bone.bulgeParentAmount; }));
-  rows.push_back(toggle("BoneTwist", bone, [](Item& i) -> bool& { return i.bone.twist; }));
-  rows.push_back(real("BoneTwistAmount", bone, [](Item& i) -> double& { return i.bone.twistAmount; }));
+      "BoneMuscleFlexAmounts", kToBone, [](Item & i) -> auto& { return i.bone.muscleFlexAmounts; }));
+  rows.push_back(toggle("BoneBulge", kToBone, [](Item& i) -> bool& { return i.bone.bulge; }));
+  rows.push_back(real("BoneBulgeAmount", kToBone, [](Item& i) -> double& { return i.bone.bulgeAmount; }));
+  rows.push_back(toggle("BoneBulgeParent", kToBone, [](Item& i) -> bool& { return i.bone.bulgeParent; }));
+  rows.push_back(real("BoneBulgeParentAmount", kToBone, [](Item& i) -> double& { return i.bone.bulgeParentAmount; }));
+  rows.push_back(toggle("BoneTwist", kToBone, [](Item& i) -> bool& { return i.bone.twist; }));
+  rows.push_back(real("BoneTwistAmount", kToBone, [](Item& i) -> double& { return i.bone.twistAmount; }));
 }
 
 Rows allRows() {

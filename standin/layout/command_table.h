@@ -13,7 +13,7 @@
 namespace standin {
 
 // Which of the selected items a command works on. All of them must be of the kind.
-enum class CommandTarget { none, item, bone, object };
+enum class CommandTarget { None, Item, Bone, Object };
 
 // Empty when done, else why the command is rejected.
 using Rejection = std::string;
@@ -23,7 +23,7 @@ inline constexpr std::string_view kAsksUser = "?";
 
 struct CommandRow {
   std::string name;
-  CommandTarget target = CommandTarget::none;
+  CommandTarget target = CommandTarget::None;
   std::vector<ArgumentRule> arguments;
   // Called once for each selected item, or once with null for the target `none`.
   std::function<Rejection(LayoutState&, Item*, const Arguments&)> act;

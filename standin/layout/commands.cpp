@@ -8,25 +8,25 @@ namespace standin {
 namespace {
 
 Event outcome(std::string_view command, const Rejection& why) {
-  if (why.empty()) return {EventKind::command, std::string(command), {}, {}};
-  if (why.starts_with(kAsksUser)) return {EventKind::asked, std::string(command), why.substr(kAsksUser.size()), {}};
-  return {EventKind::rejected, std::string(command), why, {}};
+  if (why.empty()) return {EventKind::Command, std::string(command), {}, {}};
+  if (why.starts_with(kAsksUser)) return {EventKind::Asked, std::string(command), why.substr(kAsksUser.size()), {}};
+  return {EventKind::Rejected, std::string(command), why, {}};
 }
 
 bool fits(const Item& item, CommandTarget target) {
   switch (target) {
-    case CommandTarget::bone: return item.kind == ItemKind::bone;
-    case CommandTarget::object: return item.kind == ItemKind::object;
+    case CommandTarget::Bone: return item.kind == ItemKind::Bone;
+    case CommandTarget::Object: return item.kind == ItemKind::Object;
     default: return true;
   }
 }
 
 Rejection act(LayoutState& state, const CommandRow& row, const Arguments& arguments) {
-  if (row.target == CommandTarget::none) return row.act(state, nullptr, arguments);
+  if (row.target == CommandTarget::None) return row.act(state, nullptr, arguments);
   const std::vector<Item*> selection = state.scene.selection();
   if (selection.empty()) return "nothing is selected";
   if (!std::all_of(selection.begin(), selection.end(), [&](const Item* item) { return fits(*item, row.target); })) {
-    return row.target == CommandTarget::bone ? "the selection is not of bones" : "the selection is not of objects";
+    return row.target == CommandTarget::Bone ? "the selection is not of bones" : "the selection is not of objects";
   }
   for (Item* item : selection) {
     Rejection why = row.act(state, item, arguments);

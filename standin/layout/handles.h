@@ -9,7 +9,7 @@
 
 namespace standin {
 
-enum class HandleKind : std::uint64_t { group = 0x6B01, channel = 0x6B02, envelope = 0x6B03, key = 0x6B04 };
+enum class HandleKind : std::uint64_t { Group = 0x6B01, Channel = 0x6B02, Envelope = 0x6B03, Key = 0x6B04 };
 
 struct Handle {
   std::size_t item = 0;   // its serial number

@@ -142,7 +142,7 @@ std::string serversText(const std::vector<AppliedServer>& servers) {
 
 void listLook(Lister& list, const Item& item) {
   const ItemSettings& settings = item.settings;
-  if (item.kind == ItemKind::object) {
+  if (item.kind == ItemKind::Object) {
     list.named("visibility", kVisibilities, settings.visibility);
   } else {
     list.text("visibility", settings.visibility == 0 ? "hidden" : "visible");
@@ -161,8 +161,8 @@ std::string degrees(const Vec3& angles) {
 
 std::vector<Setting> settingsOf(const Scene& scene, const Item& item) {
   Lister list(scene);
-  if (item.kind == ItemKind::object) listObject(list, item.object);
-  if (item.kind == ItemKind::bone) listBone(list, item.bone);
+  if (item.kind == ItemKind::Object) listObject(list, item.object);
+  if (item.kind == ItemKind::Bone) listBone(list, item.bone);
   list.link("target", item.settings.target);
   list.link("pole", item.settings.pole);
   list.named("rotation order", kOrders, static_cast<int>(item.settings.order));
@@ -188,8 +188,8 @@ std::vector<Setting> freshSettings(const Scene& scene, ItemKind kind) {
 
 std::vector<Setting> changedSettings(const Scene& scene, const Item& item) {
   static const std::array<std::vector<Setting>, 4> fresh{
-      freshSettings(scene, ItemKind::object), freshSettings(scene, ItemKind::light), freshSettings(scene, ItemKind::camera),
-      freshSettings(scene, ItemKind::bone)};
+      freshSettings(scene, ItemKind::Object), freshSettings(scene, ItemKind::Light), freshSettings(scene, ItemKind::Camera),
+      freshSettings(scene, ItemKind::Bone)};
   const std::vector<Setting>& before = fresh[static_cast<std::size_t>(item.kind)];
   std::vector<Setting> now = settingsOf(scene, item);
   std::vector<Setting> changed;

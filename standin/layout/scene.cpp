@@ -52,7 +52,7 @@ Item& Scene::make(ItemKind kind, const std::string& name, Item* owner) {
 }
 
 std::vector<Item*>& Scene::listOf(const Item& item) {
-  return item.kind == ItemKind::bone ? item.owner->bones : lists_[kindIndex(item.kind)];
+  return item.kind == ItemKind::Bone ? item.owner->bones : lists_[kindIndex(item.kind)];
 }
 
 void Scene::giveName(Item& item, const std::string& name) {
@@ -64,12 +64,12 @@ void Scene::giveName(Item& item, const std::string& name) {
   namesakes.push_back(&item);
 }
 
-Item& Scene::addNull(const std::string& name) { return make(ItemKind::object, name, nullptr); }
-Item& Scene::addLight(const std::string& name) { return make(ItemKind::light, name, nullptr); }
-Item& Scene::addCamera(const std::string& name) { return make(ItemKind::camera, name, nullptr); }
+Item& Scene::addNull(const std::string& name) { return make(ItemKind::Object, name, nullptr); }
+Item& Scene::addLight(const std::string& name) { return make(ItemKind::Light, name, nullptr); }
+Item& Scene::addCamera(const std::string& name) { return make(ItemKind::Camera, name, nullptr); }
 
 Item& Scene::addBone(Item& object, const std::string& name, Item* parentBone) {
-  Item& bone = make(ItemKind::bone, name, &object);
+  Item& bone = make(ItemKind::Bone, name, &object);
   attach(bone, parentBone == nullptr ? &object : parentBone);
   return bone;
 }
@@ -82,7 +82,7 @@ std::vector<Item*> Scene::addObject(const ObjectFile& file, const std::string& p
     std::string name = base;
     if (!namedAfterFile)
       name.append(":").append(layer.name.empty() ? "Layer" + std::to_string(layer.number + 1) : layer.name);
-    Item& item = make(ItemKind::object, name, nullptr);
+    Item& item = make(ItemKind::Object, name, nullptr);
     item.source = LayerSource{path, layer.number};
     item.pivot = vectorOf(layer.pivot);
     for (const PolygonGroup& group : layer.groups) {

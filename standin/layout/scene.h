@@ -25,10 +25,10 @@ namespace standin {
 inline Vec3 vectorOf(const FilePoint& point) { return {point[0], point[1], point[2]}; }
 
 enum class ItemKind : int {
-  object = lw::kItemObject,
-  light = lw::kItemLight,
-  camera = lw::kItemCamera,
-  bone = lw::kItemBone,
+  Object = lw::kItemObject,
+  Light = lw::kItemLight,
+  Camera = lw::kItemCamera,
+  Bone = lw::kItemBone,
 };
 
 // Items of one kind (bones: of one object) that were given the same name.
@@ -47,7 +47,7 @@ struct LayerSource {
 };
 
 struct Item {
-  ItemKind kind = ItemKind::object;
+  ItemKind kind = ItemKind::Object;
   std::uint32_t number = 0;  // the identifier's low 32 bits
   std::size_t serial = 0;    // place among all items ever made
   bool alive = true;
@@ -79,7 +79,7 @@ struct Item {
   double placementTime = 0;
   Placement placement;
 
-  bool isNull() const { return kind == ItemKind::object && !source; }
+  bool isNull() const { return kind == ItemKind::Object && !source; }
 };
 
 class Scene {

@@ -67,18 +67,18 @@ Item* checkedHandle(const HostCall& call, Id id, HandleKind kind, const char* wh
 }
 
 Item* checkedGroup(const HostCall& call, lw::GroupId id, Handle& handle) {
-  return checkedHandle(call, id, HandleKind::group, "channel group", kGroupCount, handle);
+  return checkedHandle(call, id, HandleKind::Group, "channel group", kGroupCount, handle);
 }
 
 Item* checkedChannel(const HostCall& call, lw::ChannelId id, Handle& handle) {
-  return checkedHandle(call, id, HandleKind::channel, "channel", kChannelCount, handle);
+  return checkedHandle(call, id, HandleKind::Channel, "channel", kChannelCount, handle);
 }
 
 // The group of the first item that is alive, from a serial number on. Null at the end.
 lw::GroupId rootGroupFrom(std::size_t serial) {
   const auto& items = currentScene().all();
   while (serial < items.size() && !items[serial].alive) ++serial;
-  return serial < items.size() ? toHandle<lw::GroupId>(HandleKind::group, {serial, kItemGroup, 0}) : nullptr;
+  return serial < items.size() ? toHandle<lw::GroupId>(HandleKind::Group, {serial, kItemGroup, 0}) : nullptr;
 }
 
 lw::GroupId nextGroup(lw::GroupId parent, lw::GroupId previous) {
@@ -95,7 +95,7 @@ lw::GroupId nextGroup(lw::GroupId parent, lw::GroupId previous) {
   const std::size_t next = previous == nullptr ? kIkGroup : before.part + 1;
   const std::size_t end = areNested() ? kGroupCount : kMotionGroup;
   if (above.part != kItemGroup || next >= end) return nullptr;
-  return toHandle<lw::GroupId>(HandleKind::group, {above.item, next, 0});
+  return toHandle<lw::GroupId>(HandleKind::Group, {above.item, next, 0});
 }
 
 lw::ChannelId nextChannel(lw::GroupId group, lw::ChannelId previous) {
@@ -111,7 +111,7 @@ lw::ChannelId nextChannel(lw::GroupId group, lw::ChannelId previous) {
   if (call.refused()) return nullptr;
   for (std::size_t channel = previous == nullptr ? 0 : before.part + 1; channel < kChannelCount; ++channel) {
     if (groupOf(channel) != in.part || !isThere(channel)) continue;
-    return toHandle<lw::ChannelId>(HandleKind::channel, {in.item, channel, 0});
+    return toHandle<lw::ChannelId>(HandleKind::Channel, {in.item, channel, 0});
   }
   return nullptr;
 }
@@ -138,7 +138,7 @@ lw::EnvelopeId channelEnvelope(lw::ChannelId channel) {
   if (item == nullptr || call.refused() || handle.part >= kAxisCount) return nullptr;
   const std::string& without = currentScene().options().channelWithoutKeys;
   if (!without.empty() && std::string_view(kChannels[handle.part].name).starts_with(without)) return nullptr;
-  return toHandle<lw::EnvelopeId>(HandleKind::envelope, {handle.item, handle.part, 0});
+  return toHandle<lw::EnvelopeId>(HandleKind::Envelope, {handle.item, handle.part, 0});
 }
 
 }  // namespace
@@ -147,11 +147,11 @@ lw::GroupId channelGroupOf(lw::ItemId id) {
   const HostCall call("LWItemInfo::chanGroup");
   const Item* item = checkedItem(call, id);
   if (item == nullptr || call.refused()) return nullptr;
-  return toHandle<lw::GroupId>(HandleKind::group, {item->serial, kItemGroup, 0});
+  return toHandle<lw::GroupId>(HandleKind::Group, {item->serial, kItemGroup, 0});
 }
 
 Item* checkedEnvelope(const HostCall& call, lw::EnvelopeId id, Handle& handle) {
-  return checkedHandle(call, id, HandleKind::envelope, "envelope", kAxisCount, handle);
+  return checkedHandle(call, id, HandleKind::Envelope, "envelope", kAxisCount, handle);
 }
 
 lw::LWChannelInfo* channelInfoTable() {

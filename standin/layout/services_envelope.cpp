@@ -20,13 +20,13 @@ struct OpenEnvelope {
   }
 
   lw::KeyId idOf(const Key* key) const {
-    return key == nullptr ? nullptr : toHandle<lw::KeyId>(HandleKind::key, {handle.item, handle.part, key->number});
+    return key == nullptr ? nullptr : toHandle<lw::KeyId>(HandleKind::Key, {handle.item, handle.part, key->number});
   }
 
   // Null with a fault when it is no key of this envelope.
   Key* key(const HostCall& call, lw::KeyId id) const {
     Handle wanted;
-    const bool isKey = fromHandle(id, HandleKind::key, wanted);
+    const bool isKey = fromHandle(id, HandleKind::Key, wanted);
     if (!isKey || wanted.item != handle.item || wanted.part != handle.part) {
       call.fault(isKey ? "was given a key of another envelope" : "was given something that is no key");
       return nullptr;

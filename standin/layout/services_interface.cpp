@@ -16,7 +16,7 @@ int command(const char* text) {
   if (!checkedOutput(call, text)) return 0;
   LayoutState& state = LayoutHost::current().state();
   if (call.refused()) {
-    state.transcript.add({EventKind::rejected, fromNarrow(text), kRefused, std::nullopt});
+    state.transcript.add({EventKind::Rejected, fromNarrow(text), kRefused, std::nullopt});
     return 0;
   }
   const std::string utf8 = fromNarrow(text);

@@ -54,9 +54,9 @@ lw::ItemId next(lw::ItemId id) {
   const Item* item = checkedItem(call, id);
   if (item == nullptr || call.refused()) return nullptr;
   Scene& scene = currentScene();
-  const auto& list = item->kind == ItemKind::bone     ? item->owner->bones
-                     : item->kind == ItemKind::object ? scene.objects()
-                     : item->kind == ItemKind::light  ? scene.lights()
+  const auto& list = item->kind == ItemKind::Bone     ? item->owner->bones
+                     : item->kind == ItemKind::Object ? scene.objects()
+                     : item->kind == ItemKind::Light  ? scene.lights()
                                                       : scene.cameras();
   return item->placeInList + 1 < list.size() ? scene.idOf(list[item->placeInList + 1]) : nullptr;
 }
@@ -65,7 +65,7 @@ lw::ItemId parent(lw::ItemId id) {
   const HostCall call("LWItemInfo::parent");
   const Item* item = checkedItem(call, id);
   if (item == nullptr || call.refused()) return nullptr;
-  const bool top = item->kind == ItemKind::bone && item->parent == item->owner;
+  const bool top = item->kind == ItemKind::Bone && item->parent == item->owner;
   return top && !currentScene().options().topBoneHasParent ? nullptr : currentScene().idOf(item->parent);
 }
 

@@ -6,19 +6,19 @@ namespace standin {
 namespace {
 
 bool isCommand(const Event& event) {
-  return event.kind == EventKind::command || event.kind == EventKind::rejected || event.kind == EventKind::asked;
+  return event.kind == EventKind::Command || event.kind == EventKind::Rejected || event.kind == EventKind::Asked;
 }
 
 bool isShownOnStatusLine(const Event& event) {
-  return event.kind == EventKind::command && event.text.starts_with("StatusMsg");
+  return event.kind == EventKind::Command && event.text.starts_with("StatusMsg");
 }
 
 std::string line(const Event& event) {
   switch (event.kind) {
-    case EventKind::command: return "  " + event.text;
-    case EventKind::rejected: return "! " + event.text + "  -- rejected: " + event.why;
-    case EventKind::asked: return "? " + event.text + "  -- would ask the user: " + event.why;
-    case EventKind::status:
+    case EventKind::Command: return "  " + event.text;
+    case EventKind::Rejected: return "! " + event.text + "  -- rejected: " + event.why;
+    case EventKind::Asked: return "? " + event.text + "  -- would ask the user: " + event.why;
+    case EventKind::Status:
       return "| " + (event.progress ? fixedText(*event.progress * 100, 0) + " % " : std::string()) + event.text;
   }
   return {};

@@ -11,17 +11,17 @@
 namespace standin {
 
 enum class EventKind {
-  command,   // accepted
-  rejected,  // a command that was not; `why` says the reason
-  asked,     // a command that would have asked the user for something and so did not go on
-  status,    // a text on the status line
+  Command,   // accepted
+  Rejected,  // a command that was not; `why` says the reason
+  Asked,     // a command that would have asked the user for something and so did not go on
+  Status,    // a text on the status line
 };
 
 // The reason of a command that was rejected only because the witness was asked to refuse that call.
 inline constexpr const char* kRefused = "refused";
 
 struct Event {
-  EventKind kind = EventKind::command;
+  EventKind kind = EventKind::Command;
   std::string text;
   std::string why;
   std::optional<double> progress;  // of a status text: how far the progress bar is
@@ -37,7 +37,7 @@ class Transcript {
 
   std::size_t count(EventKind kind) const { return counts_[static_cast<std::size_t>(kind)]; }
   std::size_t commandCount() const {
-    return count(EventKind::command) + count(EventKind::rejected) + count(EventKind::asked);
+    return count(EventKind::Command) + count(EventKind::Rejected) + count(EventKind::Asked);
   }
   // Texts of one kind, in order.
   std::vector<std::string> texts(EventKind kind) const;

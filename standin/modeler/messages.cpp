@@ -18,7 +18,7 @@ void error(const char* first, const char* second) {
   ModelerSession* session = call.session();
   if (session == nullptr) return;
   MessageDesk& desk = session->messages;
-  desk.shown.push_back({MessageKind::error, {}, copied(first), copied(second), Answer::no});
+  desk.shown.push_back({MessageKind::Error, {}, copied(first), copied(second), Answer::No});
   if (desk.person) desk.person(desk.shown.back());
 }
 
@@ -28,7 +28,7 @@ int yesNo(const char* title, const char* first, const char* second) {
   ModelerSession* session = call.session();
   if (session == nullptr) return 0;
   MessageDesk& desk = session->messages;
-  Message question{MessageKind::yesNo, copied(title), copied(first), copied(second), Answer::no};
+  Message question{MessageKind::YesNo, copied(title), copied(first), copied(second), Answer::No};
   if (!desk.answers.empty()) {
     question.answer = desk.answers.front();
     desk.answers.pop_front();
@@ -38,7 +38,7 @@ int yesNo(const char* title, const char* first, const char* second) {
     call.fault("asked \"" + question.first + "\", for which no answer was laid ready");
   }
   desk.shown.push_back(question);
-  return question.answer == Answer::yes ? 1 : 0;
+  return question.answer == Answer::Yes ? 1 : 0;
 }
 
 }  // namespace

@@ -8,17 +8,17 @@
 
 namespace standin {
 
-enum class MessageKind { error, yesNo };
+enum class MessageKind { Error, YesNo };
 
 // What the user presses.
-enum class Answer { no, yes };
+enum class Answer { No, Yes };
 
 struct Message {
-  MessageKind kind = MessageKind::error;
+  MessageKind kind = MessageKind::Error;
   std::string title;  // of questions
   std::string first;
   std::string second;
-  Answer answer = Answer::no;  // to questions
+  Answer answer = Answer::No;  // to questions
 };
 
 struct MessageDesk {

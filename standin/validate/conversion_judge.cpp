@@ -101,7 +101,7 @@ void ConversionJudge::look(LayoutState& state, std::string_view command) {
   ++nulls_;
   const std::vector<Item*>& selection = state.scene.selection();
   Item* const bone = selection.size() == 1 ? selection.front() : nullptr;
-  if (bone == nullptr || bone->kind != ItemKind::bone) {
+  if (bone == nullptr || bone->kind != ItemKind::Bone) {
     wrong_.push_back("one bone is selected when it is told of " + state.scene.nameOf(*null));
   } else if (!isAt(state.scene.placement(*null, state.time), state.scene.placement(*bone, state.time), link->match)) {
     wrong_.push_back(state.scene.nameOf(*null) + " is made at " + state.scene.nameOf(*bone));
@@ -142,7 +142,7 @@ bool ConversionJudge::isInAnotherLayer(const std::string& name, std::size_t laye
 // that name when the settings were sent.
 Arrival ConversionJudge::arrival(const Skelegon& skelegon, int slot) const {
   for (const Item& item : host_.scene().all()) {
-    if (item.kind != ItemKind::bone || host_.scene().nameOf(item) != skelegon.name) continue;
+    if (item.kind != ItemKind::Bone || host_.scene().nameOf(item) != skelegon.name) continue;
     const Arrival come = arrivalOf(host_.scene(), item, skelegon.stored, slot);
     if (come != Arrival::Missing) return come;
   }
@@ -155,7 +155,7 @@ std::vector<std::string> ConversionJudge::verdict() const {
   const Scene& scene = host_.scene();
   for (std::size_t i = 0; i < skelegons_.size(); ++i) {
     const Item* const bone = scene.find(skelegons_[i].name);
-    if (bone == nullptr || bone->kind != ItemKind::bone) {
+    if (bone == nullptr || bone->kind != ItemKind::Bone) {
       wrong.push_back("there is a bone " + skelegons_[i].name);
       continue;
     }

@@ -8,7 +8,7 @@
 namespace standin::validate {
 namespace {
 
-constexpr std::array kVerdicts{Verdict::pass, Verdict::fail, Verdict::crash, Verdict::hang, Verdict::skip};
+constexpr std::array kVerdicts{Verdict::Pass, Verdict::Fail, Verdict::Crash, Verdict::Hang, Verdict::Skip};
 
 struct Sums {
   std::array<std::size_t, kVerdicts.size()> verdicts{};
@@ -134,7 +134,7 @@ p{margin:.2rem 0;color:#555}ul{margin:.3rem 0;padding-left:1.2rem;overflow-wrap:
 
 bool isSound(std::span<const CheckResult> results) {
   return std::all_of(results.begin(), results.end(), [](const CheckResult& result) {
-    return result.verdict == Verdict::pass || result.verdict == Verdict::skip;
+    return result.verdict == Verdict::Pass || result.verdict == Verdict::Skip;
   });
 }
 

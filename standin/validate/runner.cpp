@@ -47,7 +47,7 @@ struct Told {
     } else if (word == "at") {
       at = text;
     } else if (word == "fail") {
-      failures.push_back({Verdict::fail, step, where(), text});
+      failures.push_back({Verdict::Fail, step, where(), text});
     } else if (word == "skip") {
       skip = text;
     } else if (word == "note") {
@@ -106,7 +106,7 @@ class CheckKeeper {
       from = runFrom(*from, base_ + "-" + std::to_string(starts));
     }
     result_.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-    if (result_.verdict == Verdict::skip) {
+    if (result_.verdict == Verdict::Skip) {
       result_.cases = 0;
     } else if (result_.cases == 0) {
       result_.cases = 1;
@@ -141,7 +141,7 @@ class CheckKeeper {
     for (const std::string& word : order_.host.words()) words.insert(words.end(), {"--host", word});
     ChildProcess process(order_.program, words, output);
     if (!process.why().empty()) {
-      add({Verdict::crash, std::nullopt, {}, process.why()});
+      add({Verdict::Crash, std::nullopt, {}, process.why()});
       return std::nullopt;
     }
     const std::optional<ProcessEnd> end = watch(process, log);
@@ -149,23 +149,23 @@ class CheckKeeper {
     take(told);
     std::filesystem::remove_all(pathFromUtf8(folder), ignored);
     if (end && end->ofItself && end->code == 0 && told.ended) {
-      if (result_.verdict == Verdict::pass && !told.skip.empty()) {
-        result_.verdict = Verdict::skip;
+      if (result_.verdict == Verdict::Pass && !told.skip.empty()) {
+        result_.verdict = Verdict::Skip;
         result_.reason = told.skip;
       }
       return told.pausedBefore;
     }
     if (end && end->ofItself && told.ended) {
       // Only at the very end something was wrong: memory that nobody gave back, in a build that looks for it.
-      add({Verdict::fail, std::nullopt, "after the check's end", end->how + ": " + lastWords(output)});
+      add({Verdict::Fail, std::nullopt, "after the check's end", end->how + ": " + lastWords(output)});
       return told.pausedBefore;
     }
     ++deaths_;
     if (end) {
       const std::string words = lastWords(output);
-      add({Verdict::crash, told.step, told.where(), end->how + (words.empty() ? "" : ": " + words)});
+      add({Verdict::Crash, told.step, told.where(), end->how + (words.empty() ? "" : ": " + words)});
     } else {
-      add({Verdict::hang, told.step, told.where(),
+      add({Verdict::Hang, told.step, told.where(),
            "no sign of life for " + std::to_string(order_.limit.count()) + " s, and was ended"});
     }
     return told.step ? std::optional(*told.step + 1) : std::nullopt;
@@ -199,10 +199,10 @@ class CheckKeeper {
   // The worst that was found is what became of the check: it crashed, else it hung, else it failed.
   void add(Finding finding) {
     const auto weight = [](Verdict verdict) {
-      return verdict == Verdict::crash ? 3 : verdict == Verdict::hang ? 2 : verdict == Verdict::fail ? 1 : 0;
+      return verdict == Verdict::Crash ? 3 : verdict == Verdict::Hang ? 2 : verdict == Verdict::Fail ? 1 : 0;
     };
     if (weight(finding.verdict) > weight(result_.verdict)) result_.verdict = finding.verdict;
-    if (result_.findings.size() < kMostFindings || finding.verdict != Verdict::fail) {
+    if (result_.findings.size() < kMostFindings || finding.verdict != Verdict::Fail) {
       result_.findings.push_back(std::move(finding));
     } else {
       ++result_.furtherFindings;
@@ -219,11 +219,11 @@ class CheckKeeper {
 
 const char* nameOf(Verdict verdict) {
   switch (verdict) {
-    case Verdict::pass: return "pass";
-    case Verdict::fail: return "fail";
-    case Verdict::crash: return "crash";
-    case Verdict::hang: return "hang";
-    case Verdict::skip: return "skip";
+    case Verdict::Pass: return "pass";
+    case Verdict::Fail: return "fail";
+    case Verdict::Crash: return "crash";
+    case Verdict::Hang: return "hang";
+    case Verdict::Skip: return "skip";
   }
   return "";
 }

@@ -13,12 +13,12 @@
 
 namespace standin::validate {
 
-enum class Verdict { pass, fail, crash, hang, skip };
+enum class Verdict { Pass, Fail, Crash, Hang, Skip };
 const char* nameOf(Verdict verdict);
 
 // One thing that was found.
 struct Finding {
-  Verdict verdict = Verdict::fail;  // fail, crash or hang
+  Verdict verdict = Verdict::Fail;  // fail, crash or hang
   std::optional<std::uint64_t> step;
   std::string where;  // the step's name and what was being done; may be empty
   std::string what;
@@ -26,7 +26,7 @@ struct Finding {
 
 struct CheckResult {
   const Check* check = nullptr;
-  Verdict verdict = Verdict::pass;
+  Verdict verdict = Verdict::Pass;
   std::vector<Finding> findings;
   std::size_t furtherFindings = 0;  // that were counted but not kept
   std::string reason;               // of a skip

@@ -46,7 +46,7 @@ class Session {
   void setLocale(std::uint32_t word);
   void setProduct(std::uint32_t word);
   // Lays an answer to the next question ready, unless one is.
-  void layAnswer(Answer answer = Answer::yes);
+  void layAnswer(Answer answer = Answer::Yes);
 
   std::optional<int> activate(const Tool& tool, std::optional<int> version = std::nullopt);
   // Activates the tool; its open panel. Null when there is none.

@@ -142,7 +142,7 @@ TripReport selectorTrip(const TripOrder& order) {
 // The command that was refused by way of trial; empty when it was another call.
 std::string refusedCommand(const Transcript& transcript) {
   for (const Event& event : transcript.events()) {
-    if (event.kind == EventKind::rejected && event.why == kRefused) return event.text;
+    if (event.kind == EventKind::Rejected && event.why == kRefused) return event.text;
   }
   return {};
 }
@@ -156,7 +156,7 @@ bool isSwitch(const std::string& command) {
 std::string refusedInVain(const LayoutHost& host) {
   const bool refusesSwitches = host.scene().options().switchArgument == SwitchArgument::Refused;
   for (const Event& event : host.transcript().events()) {
-    const bool failed = event.kind == EventKind::rejected || event.kind == EventKind::asked;
+    const bool failed = event.kind == EventKind::Rejected || event.kind == EventKind::Asked;
     if (failed && !(refusesSwitches && isSwitch(event.text))) return event.text + " (" + event.why + ")";
   }
   return {};

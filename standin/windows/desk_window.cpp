@@ -344,8 +344,8 @@ void DeskWindow::close() {
 
 Answer DeskWindow::answered(const Message& message) const {
   const std::string text = message.first + (message.second.empty() ? "" : "\n" + message.second);
-  const UINT box = message.kind == MessageKind::error ? MB_OK | MB_ICONERROR : MB_YESNO;
-  return ask(text, box) == IDYES ? Answer::yes : Answer::no;
+  const UINT box = message.kind == MessageKind::Error ? MB_OK | MB_ICONERROR : MB_YESNO;
+  return ask(text, box) == IDYES ? Answer::Yes : Answer::No;
 }
 
 void DeskWindow::draw(const DRAWITEMSTRUCT& item) const {

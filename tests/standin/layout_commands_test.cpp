@@ -352,7 +352,7 @@ TEST(SkelegonsToBonesCommand, WouldAskTheUserWithoutAutoConfirm) {
       *session.scene().addObject(oneLayer(skelegonLayer({{0, 0, 0}, {0, 0, 1}}, {named(0, 1, "Hips")})), "rig.lwo").front();
   session.host.select({&object});
   EXPECT_EQ(session.send("SkelegonsToBones"), 0);
-  EXPECT_EQ(session.host.transcript().count(EventKind::asked), 1U);
+  EXPECT_EQ(session.host.transcript().count(EventKind::Asked), 1U);
   EXPECT_TRUE(object.bones.empty());
 }
 
@@ -414,7 +414,7 @@ TEST(RecordPivotRotation, MovesTheRotationOver) {
 TEST(StatusMessage, ShowsItsText) {
   LayoutSession session;
   session.send("StatusMsg all {0.5} done");
-  EXPECT_EQ(session.host.transcript().texts(EventKind::status), std::vector<std::string>{"all {0.5} done"});
+  EXPECT_EQ(session.host.transcript().texts(EventKind::Status), std::vector<std::string>{"all {0.5} done"});
   EXPECT_FALSE(session.host.transcript().events().front().progress.has_value());
 }
 
@@ -449,35 +449,35 @@ class RejectedCommand : public ::testing::TestWithParam<RejectedRow> {};
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, RejectedCommand,
-    ::testing::Values(RejectedRow{"NoSuchThing 1", EventKind::rejected, "unknown command"},
-                      RejectedRow{"boneactive", EventKind::rejected, "unknown command"},
-                      RejectedRow{"", EventKind::rejected, "unknown command"},
-                      RejectedRow{" BoneActive", EventKind::rejected, "unknown command"},
-                      RejectedRow{"BoneActive 1", EventKind::rejected, "too many arguments"},
-                      RejectedRow{"BoneType", EventKind::asked, "argument 1 is missing"},
-                      RejectedRow{"BoneType ", EventKind::asked, "argument 1 is missing"},
-                      RejectedRow{"XLimits 1.0", EventKind::asked, "argument 2 is missing"},
-                      RejectedRow{"AddNull ", EventKind::asked, "argument 1 is missing"},
-                      RejectedRow{"BoneType 2", EventKind::rejected, "2 is out of range"},
-                      RejectedRow{"BoneType 1.0", EventKind::rejected, "\"1.0\" is no whole number"},
-                      RejectedRow{"BoneType one", EventKind::rejected, "\"one\" is no whole number"},
-                      RejectedRow{"BoneType  1", EventKind::rejected, "two spaces in a row"},
-                      RejectedRow{"BoneFalloffType 0", EventKind::rejected, "0 is out of range"},
-                      RejectedRow{"BoneFalloffType 10", EventKind::rejected, "10 is out of range"},
-                      RejectedRow{"BoneStrength 1,5", EventKind::rejected, "\"1,5\" is no number"},
-                      RejectedRow{"BoneStrength nan", EventKind::rejected, "\"nan\" is no number"},
-                      RejectedRow{"BoneStrength \"1\"", EventKind::rejected, "\"\"1\"\" is no number"},
-                      RejectedRow{"PathAlignMaxLookSteps 1.5", EventKind::rejected, "1.5 is not whole"},
-                      RejectedRow{"GoalItem 268435456", EventKind::rejected, "\"268435456\" is no item identifier"},
-                      RejectedRow{"GoalItem 0x0", EventKind::rejected, "0x0 is no item"},
-                      RejectedRow{"GoalItem 0x40000000", EventKind::rejected, "an item cannot point to itself"},
-                      RejectedRow{"ParentItem 0x40000000", EventKind::rejected, "an item cannot come to stand below itself"},
-                      RejectedRow{"BoneSource 0x40000000", EventKind::rejected, "bones come from an object"},
-                      RejectedRow{"SkelegonsToBones", EventKind::rejected, "the selection is not of objects"},
-                      RejectedRow{"ItemVisibility 7", EventKind::rejected, "visibility 7 is for objects only"},
-                      RejectedRow{"ItemColor 15", EventKind::rejected, "15 is out of range"},
-                      RejectedRow{"ScaleItemWorld 1", EventKind::rejected, "unknown command"},
-                      RejectedRow{"RotationOrder 6", EventKind::rejected, "6 is out of range"}));
+    ::testing::Values(RejectedRow{"NoSuchThing 1", EventKind::Rejected, "unknown command"},
+                      RejectedRow{"boneactive", EventKind::Rejected, "unknown command"},
+                      RejectedRow{"", EventKind::Rejected, "unknown command"},
+                      RejectedRow{" BoneActive", EventKind::Rejected, "unknown command"},
+                      RejectedRow{"BoneActive 1", EventKind::Rejected, "too many arguments"},
+                      RejectedRow{"BoneType", EventKind::Asked, "argument 1 is missing"},
+                      RejectedRow{"BoneType ", EventKind::Asked, "argument 1 is missing"},
+                      RejectedRow{"XLimits 1.0", EventKind::Asked, "argument 2 is missing"},
+                      RejectedRow{"AddNull ", EventKind::Asked, "argument 1 is missing"},
+                      RejectedRow{"BoneType 2", EventKind::Rejected, "2 is out of range"},
+                      RejectedRow{"BoneType 1.0", EventKind::Rejected, "\"1.0\" is no whole number"},
+                      RejectedRow{"BoneType one", EventKind::Rejected, "\"one\" is no whole number"},
+                      RejectedRow{"BoneType  1", EventKind::Rejected, "two spaces in a row"},
+                      RejectedRow{"BoneFalloffType 0", EventKind::Rejected, "0 is out of range"},
+                      RejectedRow{"BoneFalloffType 10", EventKind::Rejected, "10 is out of range"},
+                      RejectedRow{"BoneStrength 1,5", EventKind::Rejected, "\"1,5\" is no number"},
+                      RejectedRow{"BoneStrength nan", EventKind::Rejected, "\"nan\" is no number"},
+                      RejectedRow{"BoneStrength \"1\"", EventKind::Rejected, "\"\"1\"\" is no number"},
+                      RejectedRow{"PathAlignMaxLookSteps 1.5", EventKind::Rejected, "1.5 is not whole"},
+                      RejectedRow{"GoalItem 268435456", EventKind::Rejected, "\"268435456\" is no item identifier"},
+                      RejectedRow{"GoalItem 0x0", EventKind::Rejected, "0x0 is no item"},
+                      RejectedRow{"GoalItem 0x40000000", EventKind::Rejected, "an item cannot point to itself"},
+                      RejectedRow{"ParentItem 0x40000000", EventKind::Rejected, "an item cannot come to stand below itself"},
+                      RejectedRow{"BoneSource 0x40000000", EventKind::Rejected, "bones come from an object"},
+                      RejectedRow{"SkelegonsToBones", EventKind::Rejected, "the selection is not of objects"},
+                      RejectedRow{"ItemVisibility 7", EventKind::Rejected, "visibility 7 is for objects only"},
+                      RejectedRow{"ItemColor 15", EventKind::Rejected, "15 is out of range"},
+                      RejectedRow{"ScaleItemWorld 1", EventKind::Rejected, "unknown command"},
+                      RejectedRow{"RotationOrder 6", EventKind::Rejected, "6 is out of range"}));
 
 TEST_P(RejectedCommand, GivesZeroAndIsListedWithItsReason) {
   LayoutSession session;

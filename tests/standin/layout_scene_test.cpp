@@ -176,7 +176,7 @@ TEST(SkelegonBones, TakeWeightMapAndColourFromTheHostsTags) {
 TEST(SkelegonBones, KeepTheirColourForAnUnknownName) {
   Scene scene({});
   const auto bones = bonesOf(scene, {{0, 1, {{lw::kTagColour, "Modeler"}}}});
-  EXPECT_EQ(bones[0]->settings.colour, Scene::freshColour(ItemKind::bone));
+  EXPECT_EQ(bones[0]->settings.colour, Scene::freshColour(ItemKind::Bone));
 }
 
 TEST(SkelegonBones, OfALongChainAreMade) {

@@ -122,16 +122,16 @@ TEST_F(ModelerServices, AMapWithoutANameHasNone) {
 TEST_F(ModelerServices, MessagesAreKept) {
   messageServices()->error("Need select the skelegon!", "");
   ASSERT_EQ(host->messages().size(), 1U);
-  EXPECT_EQ(host->messages()[0].kind, MessageKind::error);
+  EXPECT_EQ(host->messages()[0].kind, MessageKind::Error);
   EXPECT_EQ(host->messages()[0].first, "Need select the skelegon!");
 }
 
 TEST_F(ModelerServices, AQuestionIsAnsweredWithOneForYes) {
-  host->answer(Answer::yes);
-  host->answer(Answer::no);
+  host->answer(Answer::Yes);
+  host->answer(Answer::No);
   EXPECT_EQ(messageServices()->yesNo("t", "a", nullptr), 1);
   EXPECT_EQ(messageServices()->yesNo("t", "a", nullptr), 0);
-  EXPECT_EQ(host->messages()[1].answer, Answer::no);
+  EXPECT_EQ(host->messages()[1].answer, Answer::No);
 }
 
 // --- refusals ------------------------------------------------------------------------------------------------------------

@@ -23,32 +23,32 @@ void PrintTo(const Expectation& expectation, std::ostream* out) { *out << wordOf
 
 // clang-format off
 constexpr Expectation kExpectations[] = {
-    {BadFault::StartsNull,            1, "descriptor",        Verdict::fail,  "startup returned null"},
-    {BadFault::StartCrashes,          1, "descriptor",        Verdict::crash, ""},
-    {BadFault::StartHangs,            1, "descriptor",        Verdict::hang,  "no sign of life"},
-    {BadFault::StaysLoaded,           1, "loading",           Verdict::fail,  "stays in memory"},
-    {BadFault::TakesAnyVersion,       2, "versions",          Verdict::fail,  "answers 0 instead of 1"},
-    {BadFault::TakesAnyRelease,       2, "products",          Verdict::fail,  "answers 0 instead of 1"},
-    {BadFault::ThrowsAtActivation,    2, "versions",          Verdict::fail,  "an exception"},
-    {BadFault::CrashesWithoutService, 3, "withheld",          Verdict::crash, "without Color Picker"},
-    {BadFault::RunsWithoutService,    3, "withheld",          Verdict::fail,  "without Color Picker answers 0 instead of 2"},
-    {BadFault::LeaksPanels,           4, "opening",           Verdict::fail,  "panels after being opened again"},
-    {BadFault::OverlapsControls,      4, "geometry",          Verdict::fail,  "overlaps"},
-    {BadFault::ThrowsFromCallback,    4, "controls",          Verdict::fail,  "let an exception out into the host"},
-    {BadFault::LeavesEditOpen,        4, "controls",          Verdict::fail,  "with a mesh edit still open"},
-    {BadFault::UsesClosedEdit,        4, "controls",          Verdict::fail,  "used on an edit that is done"},
-    {BadFault::LosesChoices,          5, "trip-typical",      Verdict::fail,  "the bone has the falloff that was chosen"},
-    {BadFault::LeavesSwitchesOff,     5, "trip-conversion",   Verdict::fail,  "everything is switched on again"},
-    {BadFault::CrashesAtRefusal,      6, "calls-conversion",  Verdict::crash, ""},
-    {BadFault::CrashesLater,          8, "walks",             Verdict::crash, "action"},
-    {BadFault::CrashesAtLongText,     9, "hostile-texts",     Verdict::crash, "64 KB"},
-    {BadFault::HangsAtPercent,        9, "hostile-texts",     Verdict::hang,  "percent signs"},
-    {BadFault::CrashesAtDamagedFile,  9, "damaged-objects",   Verdict::crash, "four bytes"},
-    {BadFault::GivesUpAtNestedEvents, 11, "hosts-panels",     Verdict::fail,  "sets=fire"},
+    {BadFault::StartsNull,            1, "descriptor",        Verdict::Fail,  "startup returned null"},
+    {BadFault::StartCrashes,          1, "descriptor",        Verdict::Crash, ""},
+    {BadFault::StartHangs,            1, "descriptor",        Verdict::Hang,  "no sign of life"},
+    {BadFault::StaysLoaded,           1, "loading",           Verdict::Fail,  "stays in memory"},
+    {BadFault::TakesAnyVersion,       2, "versions",          Verdict::Fail,  "answers 0 instead of 1"},
+    {BadFault::TakesAnyRelease,       2, "products",          Verdict::Fail,  "answers 0 instead of 1"},
+    {BadFault::ThrowsAtActivation,    2, "versions",          Verdict::Fail,  "an exception"},
+    {BadFault::CrashesWithoutService, 3, "withheld",          Verdict::Crash, "without Color Picker"},
+    {BadFault::RunsWithoutService,    3, "withheld",          Verdict::Fail,  "without Color Picker answers 0 instead of 2"},
+    {BadFault::LeaksPanels,           4, "opening",           Verdict::Fail,  "panels after being opened again"},
+    {BadFault::OverlapsControls,      4, "geometry",          Verdict::Fail,  "overlaps"},
+    {BadFault::ThrowsFromCallback,    4, "controls",          Verdict::Fail,  "let an exception out into the host"},
+    {BadFault::LeavesEditOpen,        4, "controls",          Verdict::Fail,  "with a mesh edit still open"},
+    {BadFault::UsesClosedEdit,        4, "controls",          Verdict::Fail,  "used on an edit that is done"},
+    {BadFault::LosesChoices,          5, "trip-typical",      Verdict::Fail,  "the bone has the falloff that was chosen"},
+    {BadFault::LeavesSwitchesOff,     5, "trip-conversion",   Verdict::Fail,  "everything is switched on again"},
+    {BadFault::CrashesAtRefusal,      6, "calls-conversion",  Verdict::Crash, ""},
+    {BadFault::CrashesLater,          8, "walks",             Verdict::Crash, "action"},
+    {BadFault::CrashesAtLongText,     9, "hostile-texts",     Verdict::Crash, "64 KB"},
+    {BadFault::HangsAtPercent,        9, "hostile-texts",     Verdict::Hang,  "percent signs"},
+    {BadFault::CrashesAtDamagedFile,  9, "damaged-objects",   Verdict::Crash, "four bytes"},
+    {BadFault::GivesUpAtNestedEvents, 11, "hosts-panels",     Verdict::Fail,  "sets=fire"},
 #ifndef _WIN32  // where a module's memory can be watched
-    {BadFault::ThrowsWithoutMemory,   7, "memory-conversion", Verdict::fail,  "let an exception out into the host"},
-    {BadFault::CrashesWithoutMemory,  7, "memory-conversion", Verdict::crash, ""},
-    {BadFault::LeaksMemory,          10, "actions",           Verdict::fail,  "bytes more at the end"},
+    {BadFault::ThrowsWithoutMemory,   7, "memory-conversion", Verdict::Fail,  "let an exception out into the host"},
+    {BadFault::CrashesWithoutMemory,  7, "memory-conversion", Verdict::Crash, ""},
+    {BadFault::LeaksMemory,          10, "actions",           Verdict::Fail,  "bytes more at the end"},
 #endif
 };
 // clang-format on
@@ -58,7 +58,7 @@ class BadModule : public Validation, public testing::WithParamInterface<Expectat
   // Level 7 is done whole: its fault sits in one allocation.
   CheckResult validated() const {
     RunOrder order = orderOf(sampleModule("bad_module"), {GetParam().check});
-    order.limit = std::chrono::seconds(GetParam().verdict == Verdict::hang ? 3 : 60);
+    order.limit = std::chrono::seconds(GetParam().verdict == Verdict::Hang ? 3 : 60);
     if (GetParam().level == 7) order.share = 1;
     return runChecks(order).at(0);
   }

@@ -11,7 +11,7 @@ TEST_F(RealModule, PassesTheFirstLevels) {
       orderOf(modulePath(), {"file-exports", "file-imports", "descriptor", "servers", "versions", "products", "locales",
                              "local-data", "withheld", "null-lookups", "gone-while-open"});
   for (const CheckResult& result : runChecks(order)) {
-    EXPECT_TRUE(result.verdict == Verdict::pass || result.verdict == Verdict::skip) << result.check->name;
+    EXPECT_TRUE(result.verdict == Verdict::Pass || result.verdict == Verdict::Skip) << result.check->name;
     EXPECT_TRUE(result.findings.empty()) << result.check->name << ": " << result.findings.at(0).what;
   }
 }
@@ -38,7 +38,7 @@ TEST_F(RealModule, PassesTheConversionWithoutMemory) {
   RunOrder order = orderOf(modulePath(), {"memory-conversion"});
   order.share = 1;
   const CheckResult result = runChecks(order).at(0);
-  if (result.verdict == Verdict::skip) GTEST_SKIP() << result.reason;
+  if (result.verdict == Verdict::Skip) GTEST_SKIP() << result.reason;
   EXPECT_GT(result.injected, 200U);
   EXPECT_TRUE(result.findings.empty()) << result.findings.at(0).what;
 }

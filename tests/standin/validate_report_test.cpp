@@ -12,10 +12,10 @@ std::vector<CheckResult> twoResults() {
   good.cases = 3;
   CheckResult bad;
   bad.check = checkNamed("walks");
-  bad.verdict = Verdict::crash;
+  bad.verdict = Verdict::Crash;
   bad.cases = 40;
   bad.injected = 7;
-  bad.findings.push_back({Verdict::crash, 12, "walk 12; action 5", "signal 11 <script>"});
+  bad.findings.push_back({Verdict::Crash, 12, "walk 12; action 5", "signal 11 <script>"});
   return {good, bad};
 }
 
@@ -56,7 +56,7 @@ TEST(ValidationReport, MakesAPageOfItsOwn) {
 TEST(ValidationReport, SaysWhyACheckWasSkipped) {
   CheckResult skipped;
   skipped.check = checkNamed("file-exports");
-  skipped.verdict = Verdict::skip;
+  skipped.verdict = Verdict::Skip;
   skipped.reason = "no such file here";
   EXPECT_TRUE(holds(resultText(skipped), "skipped: no such file here"));
   EXPECT_TRUE(holds(reportPage(someHead(), {{skipped}}), "no such file here"));

@@ -91,7 +91,7 @@ class ConversionTest : public testing::Test {
     return count;
   }
 
-  std::vector<std::string> statusTexts() const { return host.transcript().texts(EventKind::status); }
+  std::vector<std::string> statusTexts() const { return host.transcript().texts(EventKind::Status); }
 
   bool statusSays(const std::string& text) const {
     for (const std::string& status : statusTexts()) {

@@ -120,7 +120,7 @@ TEST_F(Scanned, AfreshAfterAQuestion) {
   host.showMessagesTo([this](const standin::Message&) {
     clickRow(3);
     host.deleteSkelegons({"Head"});
-    return standin::Answer::yes;
+    return standin::Answer::Yes;
   });
   EXPECT_EQ(scansOf([this] { press(mst::control::kResetAll); }).front(), lw::kLayersForeground);
   host.showMessagesTo(nullptr);

@@ -262,7 +262,7 @@ class ThreePanelsUsed : public ThreePanels {
   void resetValues() {
     const bool isAll = oneIn(4);
     const bool yes = !oneIn(4);
-    host.answer(yes ? standin::Answer::yes : standin::Answer::no);
+    host.answer(yes ? standin::Answer::Yes : standin::Answer::No);
     press(isAll ? mst::control::kResetAll : mst::control::kReset);
     if (!yes) return;
     for (const std::size_t place : isAll ? mesh.living() : mesh.selected()) mesh.resetSettings(place);

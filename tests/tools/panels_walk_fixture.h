@@ -175,7 +175,7 @@ class ThreePanels : public testing::Test, protected ModelerSession {
     EXPECT_EQ(standin::witness().report(), "");
     Names errors;
     for (const standin::Message& message : host.messages()) {
-      if (message.kind == standin::MessageKind::error) errors.push_back(message.first);
+      if (message.kind == standin::MessageKind::Error) errors.push_back(message.first);
     }
     EXPECT_EQ(errors, std::exchange(errorsExpected, {}));
     host.forgetRecords();

@@ -245,7 +245,7 @@ TEST_F(Reset, RemovesEverySettingOfTheSelectedSkelegonsOnYes) {
   fill("Hips");
   fill("Chest");
   openWith({"Hips"});
-  host.answer(standin::Answer::yes);
+  host.answer(standin::Answer::Yes);
   press(mst::control::kReset);
   EXPECT_EQ(settingsOf("Hips"), 0U);
   EXPECT_EQ(settingsOf("Chest"), skg::kSlotCount);
@@ -255,7 +255,7 @@ TEST_F(Reset, RemovesEverySettingOfTheSelectedSkelegonsOnYes) {
 TEST_F(Reset, KeepsNamePartWeightMapAndColour) {
   fill("Hips");
   openWith({"Hips"});
-  host.answer(standin::Answer::yes);
+  host.answer(standin::Answer::Yes);
   press(mst::control::kReset);
   EXPECT_EQ(stored("Hips", lw::kTagBone), "Hips");
   EXPECT_EQ(stored("Hips", lw::kTagPart), "Part");
@@ -267,7 +267,7 @@ TEST_F(Reset, ShowsTheDefaultsAfterwards) {
   fill("Hips");
   openWith({"Hips"});
   EXPECT_EQ(control(Slot::Strength)->real, 1);
-  host.answer(standin::Answer::yes);
+  host.answer(standin::Answer::Yes);
   press(mst::control::kReset);
   EXPECT_EQ(control(Slot::Strength)->real, 100);
 }
@@ -275,8 +275,8 @@ TEST_F(Reset, ShowsTheDefaultsAfterwards) {
 TEST_F(Reset, DoesNothingOnNo) {
   fill("Hips");
   openWith({"Hips"});
-  host.answer(standin::Answer::no);
-  host.answer(standin::Answer::no);
+  host.answer(standin::Answer::No);
+  host.answer(standin::Answer::No);
   press(mst::control::kReset);
   press(mst::control::kResetAll);
   EXPECT_EQ(settingsOf("Hips"), skg::kSlotCount);
@@ -285,12 +285,12 @@ TEST_F(Reset, DoesNothingOnNo) {
 
 TEST_F(Reset, AsksBothQuestionsInTheirWords) {
   openWith({"Hips"});
-  host.answer(standin::Answer::no);
-  host.answer(standin::Answer::no);
+  host.answer(standin::Answer::No);
+  host.answer(standin::Answer::No);
   press(mst::control::kReset);
   press(mst::control::kResetAll);
   ASSERT_EQ(host.messages().size(), 2U);
-  EXPECT_EQ(host.messages()[0].kind, standin::MessageKind::yesNo);
+  EXPECT_EQ(host.messages()[0].kind, standin::MessageKind::YesNo);
   EXPECT_EQ(host.messages()[0].first, "Reset selected skelegon's tag ?");
   EXPECT_EQ(host.messages()[1].first, "Reset all skelegon's tag ?");
 }
@@ -300,7 +300,7 @@ TEST_F(Reset, OfAllReachesUnselectedSkelegonsAndHiddenLayers) {
   fill("Tail_01");
   openWith({"Hips"});
   host.showLayers({0});
-  host.answer(standin::Answer::yes);
+  host.answer(standin::Answer::Yes);
   press(mst::control::kResetAll);
   EXPECT_EQ(settingsOf("Chest"), 0U);
   EXPECT_EQ(settingsOf("Tail_01"), 0U);

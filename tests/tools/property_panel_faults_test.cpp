@@ -103,7 +103,7 @@ TEST(PropertyPanelRefusals, AResetRemovesEverythingOrNothing) {
       [](PropertySession& session) {
         session.store("Hips", Slot::Strength, "40.000000");
         session.store("Hips", Slot::Twist, "1");
-        session.host.answer(standin::Answer::yes);
+        session.host.answer(standin::Answer::Yes);
         EXPECT_TRUE(standin::oddhost::fire(session.control(mst::control::kReset)));
       },
       [](PropertySession& session, const std::string&) {

@@ -66,7 +66,7 @@ class RunWithinItsEvent : public PropertyPanel {
   void whenAsked(const std::function<void()>& act) {
     host.showMessagesTo([act](const standin::Message&) {
       act();
-      return standin::Answer::no;
+      return standin::Answer::No;
     });
   }
 };

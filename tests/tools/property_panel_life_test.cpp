@@ -284,8 +284,8 @@ class AnyAction : public testing::TestWithParam<int>, protected PropertySession 
       case 5: return chooseBehind(Slot::WeightMap, "Spine");
       case 6: return chooseBehind(Slot::ParentItem, "(none)");
       case 7: return press(88);
-      case 8: host.answer(standin::Answer::yes); return press(kReset);
-      case 9: host.answer(standin::Answer::yes); return press(kResetAll);
+      case 8: host.answer(standin::Answer::Yes); return press(kReset);
+      case 9: host.answer(standin::Answer::Yes); return press(kResetAll);
       default: EXPECT_TRUE(standin::oddhost::fire(control(kNameEdit)));
     }
   }

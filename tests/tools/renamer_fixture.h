@@ -127,7 +127,7 @@ class RenamerSession : public ModelerSession {
   std::string onlyMessage() const {
     if (host.messages().size() != 1) return std::to_string(host.messages().size()) + " messages";
     const standin::Message& message = host.messages().front();
-    EXPECT_EQ(message.kind, standin::MessageKind::error);
+    EXPECT_EQ(message.kind, standin::MessageKind::Error);
     EXPECT_EQ(message.second, "");
     return message.first;
   }

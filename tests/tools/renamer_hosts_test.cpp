@@ -135,7 +135,7 @@ TEST_F(RenamerLanguage, WaitsForThePanelsOwnEvent) {
     EXPECT_TRUE(person::close(panel));
     host.options().localeInfo = kJapanese;
     EXPECT_EQ(host.activate(module, kRenamerTool), 0);
-    return standin::Answer::yes;
+    return standin::Answer::Yes;
   });
   run();
   EXPECT_TRUE(panel->isOpen());

@@ -43,7 +43,7 @@ class SceneLayer : public testing::Test {
   lw::ItemId id(const Item& item) const { return host.scene().idOf(&item); }
   std::vector<std::string> commands() const { return host.transcript().commands(); }
   bool statusSays(const std::string& text) const {
-    const std::vector<std::string> texts = host.transcript().texts(standin::EventKind::status);
+    const std::vector<std::string> texts = host.transcript().texts(standin::EventKind::Status);
     return std::find(texts.begin(), texts.end(), text) != texts.end();
   }
   static std::string thrownBy(const std::function<void()>& action) {
