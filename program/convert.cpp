@@ -6,7 +6,7 @@
 #include "program/shipped_rigs.h"
 #include "program/subcommands.h"
 #include "program/support.h"
-#include "standin/layout/report.h"
+#include "standin/layout/scene_report.h"
 #include "standin/panels/text.h"
 #include "standin/variants/played_host.h"
 

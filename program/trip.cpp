@@ -7,7 +7,7 @@
 #include "program/property_panel.h"
 #include "program/subcommands.h"
 #include "program/support.h"
-#include "standin/layout/report.h"
+#include "standin/layout/scene_report.h"
 #include "standin/variants/played_host.h"
 
 namespace standin {

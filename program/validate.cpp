@@ -11,7 +11,7 @@
 #include "program/support.h"
 #include "standin/core/program_folder.h"
 #include "standin/validate/check_run.h"
-#include "standin/validate/report.h"
+#include "standin/validate/ladder_report.h"
 
 namespace standin {
 namespace {

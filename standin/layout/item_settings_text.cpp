@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "standin/layout/number_text.h"
-#include "standin/layout/report.h"
+#include "standin/layout/scene_report.h"
 #include "standin/layout/skelegon_bones.h"
 
 namespace standin {

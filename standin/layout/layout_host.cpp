@@ -9,7 +9,7 @@
 #include "standin/core/globals.h"
 #include "standin/core/service_names.h"
 #include "standin/core/witness.h"
-#include "standin/layout/commands.h"
+#include "standin/layout/command_interface.h"
 #include "standin/layout/services.h"
 #include "standin/panels/services.h"
 

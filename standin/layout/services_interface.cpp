@@ -1,6 +1,6 @@
 // "LW Interface Info 8" and "LW Command Interface".
 #include "standin/core/gap_slots.h"
-#include "standin/layout/commands.h"
+#include "standin/layout/command_interface.h"
 #include "standin/layout/narrow_text.h"
 #include "standin/layout/services.h"
 

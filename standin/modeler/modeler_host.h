@@ -16,7 +16,7 @@
 #include "standin/core/globals.h"
 #include "standin/core/module_file.h"
 #include "standin/core/witness.h"
-#include "standin/modeler/commands.h"
+#include "standin/modeler/activation_record.h"
 #include "standin/modeler/session.h"
 
 namespace standin {

@@ -127,7 +127,7 @@ std::string Control::valueShown() const {
 
 std::string Control::describe() const {
   return std::string(kind->name) + " " + std::to_string(index) + " \"" +
-         (isAlive ? printable(label.read()) : std::string()) + "\" of panel \"" + printable(panel->titleAtCreation) + "\"";
+         (isAlive ? spelledOut(label.read()) : std::string()) + "\" of panel \"" + spelledOut(panel->titleAtCreation) + "\"";
 }
 
 void askAnything(const Control& popup) {

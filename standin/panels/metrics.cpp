@@ -86,12 +86,12 @@ int textWidth(std::string_view text) {
   return width;
 }
 
-std::string printable(std::string_view text) {
+std::string spelledOut(std::string_view text) {
   std::string out;
   while (!text.empty()) {
     const TextPiece piece = takePiece(text);
     if (piece.kind == TextPiece::Kind::Icon) {
-      out.append("<").append(printable(piece.bytes.substr(1))).append(">");
+      out.append("<").append(spelledOut(piece.bytes.substr(1))).append(">");
     } else if (piece.kind == TextPiece::Kind::Broken || piece.character < 0x20 || piece.character == 0x7F) {
       out += hexByte(static_cast<unsigned char>(piece.bytes[0]));
     } else {

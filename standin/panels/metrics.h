@@ -40,6 +40,6 @@ bool isWide(char32_t character);
 int textWidth(std::string_view text);
 
 // The text as it can be printed: escapes as "<(code)>", broken bytes as "\xNN", quotes and control characters escaped.
-std::string printable(std::string_view text);
+std::string spelledOut(std::string_view text);
 
 }  // namespace standin

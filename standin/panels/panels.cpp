@@ -165,7 +165,7 @@ Panel* Panels::find(std::string_view title) const {
 std::vector<std::string> Panels::undestroyed() const {
   std::vector<std::string> lines;
   for (const Panel* panel : all()) {
-    lines.push_back("panel \"" + printable(panel->titleAtCreation) + "\" was never destroyed" +
+    lines.push_back("panel \"" + spelledOut(panel->titleAtCreation) + "\" was never destroyed" +
                     (panel->isOpen() ? " and is open" : ""));
   }
   return lines;
@@ -237,7 +237,7 @@ Panel* Panels::resolve(lw::PanelId id, std::string& why) const {
     return nullptr;
   }
   if (!panel->isAlive) {
-    why = "got the destroyed panel \"" + printable(panel->titleAtCreation) + "\"";
+    why = "got the destroyed panel \"" + spelledOut(panel->titleAtCreation) + "\"";
     return nullptr;
   }
   return panel;

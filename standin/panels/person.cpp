@@ -40,7 +40,7 @@ Done reachableAs(const Control* control, Handling handling, const char* use) {
 
 Done usablePanel(const Panel* panel) {
   if (panel == nullptr) return failed("there is no such panel");
-  if (!panel->isAlive || !panel->isOpen()) return failed("panel \"" + printable(panel->titleAtCreation) + "\" is not open");
+  if (!panel->isAlive || !panel->isOpen()) return failed("panel \"" + spelledOut(panel->titleAtCreation) + "\" is not open");
   return {};
 }
 
@@ -94,7 +94,7 @@ Done typeWhole(Control& field, std::string_view text) {
     return {};
   }
   const std::optional<double> value = parseTyped(field.kind->kind, text);
-  if (!value) return failed(field.describe() + " does not take \"" + printable(text) + "\"");
+  if (!value) return failed(field.describe() + " does not take \"" + spelledOut(text) + "\"");
   return storeTyped(field, *value);
 }
 
@@ -156,7 +156,7 @@ Done choose(Control* list, std::string_view item) {
   if (Done done = reachableAs(list, Handling::Choose, "chosen from"); !done) return done;
   const std::vector<std::string> items = list->items();
   const auto found = std::find(items.begin(), items.end(), item);
-  if (found == items.end()) return failed(list->describe() + " has no item \"" + printable(item) + "\"");
+  if (found == items.end()) return failed(list->describe() + " has no item \"" + spelledOut(item) + "\"");
   return chooseItem(*list, static_cast<int>(found - items.begin()));
 }
 
@@ -237,7 +237,7 @@ Done click(Control* area, int x, int y, MouseButton button, int qualifiers, int 
 
 Done resize(Panel* panel, int width, int height) {
   if (Done done = usablePanel(panel); !done) return done;
-  if (!panel->isResizable()) return failed("panel \"" + printable(panel->titleAtCreation) + "\" is not resizable");
+  if (!panel->isResizable()) return failed("panel \"" + spelledOut(panel->titleAtCreation) + "\" is not resizable");
   resizePanel(*panel, within(width, panel->leastWidth, panel->greatestWidth),
               within(height, panel->leastHeight, panel->greatestHeight), true);
   return {};

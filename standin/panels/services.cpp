@@ -1,4 +1,5 @@
 #include "standin/panels/services.h"
+#include "standin/panels/metrics.h"
 
 #include <algorithm>
 #include <set>
@@ -140,7 +141,7 @@ Panel* resolved(const HostCall& call, lw::PanelId id) {
   return panel;
 }
 
-std::string named(const Panel& panel) { return "panel \"" + printable(panel.titleAtCreation) + "\""; }
+std::string named(const Panel& panel) { return "panel \"" + spelledOut(panel.titleAtCreation) + "\""; }
 
 lw::LWPanelFuncs* panelServices() { return &servicesTable(); }
 

@@ -20,13 +20,13 @@ std::string sizeText(int width, int height) { return std::to_string(width) + "x"
 std::string valueText(const Control& control) {
   if (control.is(ControlKind::Text)) {
     std::string text;
-    for (const std::string& line : control.lines()) text += (text.empty() ? "\"" : ", \"") + printable(line) + "\"";
+    for (const std::string& line : control.lines()) text += (text.empty() ? "\"" : ", \"") + spelledOut(line) + "\"";
     return text;
   }
   if (control.kind->value == ValueForm::None) return {};
   const std::string shown = control.shown();
-  if (control.kind->handling == Handling::Choose) return std::to_string(control.integer) + " \"" + printable(shown) + "\"";
-  return control.kind->value == ValueForm::String ? "\"" + printable(shown) + "\"" : shown;
+  if (control.kind->handling == Handling::Choose) return std::to_string(control.integer) + " \"" + spelledOut(shown) + "\"";
+  return control.kind->value == ValueForm::String ? "\"" + spelledOut(shown) + "\"" : shown;
 }
 
 std::string trimmedRight(std::string text) {
@@ -43,7 +43,7 @@ std::string controlText(const Control& control) {
                      padded(sizeText(control.width(), control.height()), placeColumn) +
                      padded(control.kind->name, kindColumn);
   const std::string label = control.label.read();
-  if (!label.empty()) line += "\"" + printable(label) + "\" ";
+  if (!label.empty()) line += "\"" + spelledOut(label) + "\" ";
   const std::string value = valueText(control);
   if (!value.empty()) line += "= " + value;
   return trimmedRight(line);
@@ -60,7 +60,7 @@ std::vector<const Control*> readingOrder(const Panel& panel) {
 }
 
 std::string panelText(const Panel& panel) {
-  std::string text = "Panel \"" + printable(panel.title.read()) + "\" " + sizeText(panel.width, panel.height);
+  std::string text = "Panel \"" + spelledOut(panel.title.read()) + "\" " + sizeText(panel.width, panel.height);
   text += panel.isOpen() ? (panel.isResizable() ? " (resizable)\n" : "\n") : " (closed)\n";
   for (const Control* control : readingOrder(panel)) text += "  " + controlText(*control) + "\n";
   return text;

@@ -34,7 +34,7 @@ void expectAnswer(CheckRun& run, Session& session, const Tool& tool, const std::
 // Does something with each tool, in a session of its own. The step's number is that of the tool.
 template <class Act>
 void withEachTool(CheckRun& run, Act&& act) {
-  const Rig rig = lizardRig(run.file(""));
+  const TripRig rig = lizardRig(run.file(""));
   for (std::size_t i = 0; i < kTools.size(); ++i) {
     if (!run.step(i, kTools[i].server)) continue;
     Session session(kTools[i].program, rig, run.module(), run.host().options());
@@ -123,7 +123,7 @@ std::set<std::string> servicesToWithhold(Session& session, const Tool& tool) {
 }
 
 void withheld(CheckRun& run) {
-  const Rig rig = lizardRig(run.file(""));
+  const TripRig rig = lizardRig(run.file(""));
   std::uint64_t n = 0;
   for (const Tool& tool : kTools) {
     std::set<std::string> names;
@@ -151,7 +151,7 @@ void withheld(CheckRun& run) {
 
 // Whichever lookup gives null: the activation ends with one of its answers.
 void nullLookups(CheckRun& run) {
-  const Rig rig = lizardRig(run.file(""));
+  const TripRig rig = lizardRig(run.file(""));
   std::uint64_t n = 0;
   for (const Tool& tool : kTools) {
     for (std::uint64_t lookup = 1;; ++lookup) {

@@ -63,7 +63,7 @@ bool isAt(const Placement& null, const Placement& bone, Match match) {
 
 }  // namespace
 
-ConversionJudge::ConversionJudge(LayoutHost& host, const Rig& rig) : host_(host) {
+ConversionJudge::ConversionJudge(LayoutHost& host, const TripRig& rig) : host_(host) {
   const std::string base = fileBaseName(rig.path);
   for (const ObjectLayer& layer : rig.object.layers) read(layer, base);
   for (const Item& item : host.scene().all()) seen_.insert(&item);

@@ -16,7 +16,7 @@ namespace standin::validate {
 class ConversionJudge {
  public:
   // Before the run; looks on from then until its own end.
-  ConversionJudge(LayoutHost& host, const Rig& rig);
+  ConversionJudge(LayoutHost& host, const TripRig& rig);
   ~ConversionJudge();
   ConversionJudge(const ConversionJudge&) = delete;
   ConversionJudge& operator=(const ConversionJudge&) = delete;

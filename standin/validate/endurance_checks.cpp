@@ -59,7 +59,7 @@ class Flatness {
 };
 
 // Brings everything to the same point: a fresh object, every tool opened once and closed.
-void bringToRest(Session& session, const Rig& rig) {
+void bringToRest(Session& session, const TripRig& rig) {
   ModelerHost& host = *session.modeler();
   host.closeAll();
   host.add(rig.object, rig.path);
@@ -72,7 +72,7 @@ void bringToRest(Session& session, const Rig& rig) {
 
 void actions(CheckRun& run) {
   if (const char* const why = memory::whyUnwatched()) return run.skip(why);
-  const Rig rig = lizardRig(run.file(""));
+  const TripRig rig = lizardRig(run.file(""));
   Session session(Program::Modeler, rig, run.module(), run.host().options());
   if (!session.refusal().empty()) return run.fail(session.refusal());
   Walk walk(session, rig, run.seed());
@@ -94,7 +94,7 @@ void actions(CheckRun& run) {
 
 void conversions(CheckRun& run) {
   if (const char* const why = memory::whyUnwatched()) return run.skip(why);
-  const Rig rig = lizardRig(run.file(""));
+  const TripRig rig = lizardRig(run.file(""));
   Session session(Program::Layout, rig, run.module(), run.host().options());
   if (!session.refusal().empty()) return run.fail(session.refusal());
   LayoutHost& host = *session.layout();

@@ -18,7 +18,7 @@ constexpr std::size_t kFewestActions = 60;
 // What is brought to a host, and in which language: some things differ only with wide characters, or with several layers.
 struct Luggage {
   const char* what;
-  Rig (*rig)(const std::string& folder);
+  TripRig (*rig)(const std::string& folder);
   std::uint32_t language;
 };
 constexpr std::array kLuggage{
@@ -28,7 +28,7 @@ constexpr std::array kLuggage{
     Luggage{"one layer in English", japaneseRig, kEnglish},
 };
 
-void goOn(CheckRun& run, const HostChoice& host, const Luggage& luggage, const Rig& rig, std::span<const Trip> trips) {
+void goOn(CheckRun& run, const HostChoice& host, const Luggage& luggage, const TripRig& rig, std::span<const Trip> trips) {
   for (const Trip& trip : trips) {
     run.at(trip.name);
     TripOrder order;
@@ -44,7 +44,7 @@ void goOn(CheckRun& run, const HostChoice& host, const Luggage& luggage, const R
 }
 
 void playOn(CheckRun& run, const HostChoice& host, const Luggage& luggage, std::uint64_t seed) {
-  const Rig rig = luggage.rig(run.file(""));
+  const TripRig rig = luggage.rig(run.file(""));
   goOn(run, host, luggage, rig, allTrips());
   goOn(run, host, luggage, rig, meshTrips());
   const int actions = static_cast<int>(run.shareOf(kActionsOfAWalk, kFewestActions));

@@ -41,7 +41,7 @@ void useEverything(CheckRun& run, Session& session, Program program, const std::
 }
 
 // Both programs with the rig loaded.
-void useRig(CheckRun& run, const Rig& rig, const std::string* type = nullptr) {
+void useRig(CheckRun& run, const TripRig& rig, const std::string* type = nullptr) {
   for (const Program program : {Program::Modeler, Program::Layout}) {
     Session session(program, rig, run.module(), run.host().options());
     if (!session.refusal().empty()) return run.fail(session.refusal());
@@ -57,7 +57,7 @@ void useRig(CheckRun& run, const Rig& rig, const std::string* type = nullptr) {
 
 void texts(CheckRun& run) {
   std::uint64_t n = 0;
-  const Rig rig = lizardRig(run.file(""));
+  const TripRig rig = lizardRig(run.file(""));
   for (const HostileText& text : hostileTexts()) {
     if (!run.step(n++, std::string("typed: ") + text.name)) continue;
     run.injected();
@@ -87,7 +87,7 @@ void settings(CheckRun& run) {
 
 // A file that was sound when Layout loaded it and is not when the module reads it.
 void convertDamaged(CheckRun& run, const std::function<void(const std::string& path)>& damage) {
-  const Rig rig = lizardRig(run.file(""));
+  const TripRig rig = lizardRig(run.file(""));
   Session session(Program::Layout, rig, run.module(), run.host().options());
   if (!session.refusal().empty()) return run.fail(session.refusal());
   Panel* const panel = session.open(kConversion);

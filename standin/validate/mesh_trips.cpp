@@ -175,7 +175,7 @@ void readsTheLists(MeshTraveller& user, const TripOrder& order) {
 }
 
 TripReport layersTrip(const TripOrder& order) {
-  const Rig rig = rigOf(layeredRig(), order.rig->path + ".layers.lwo");
+  const TripRig rig = rigOf(layeredRig(), order.rig->path + ".layers.lwo");
   TripOrder further = order;
   further.rig = &rig;
   MeshTraveller user(further);

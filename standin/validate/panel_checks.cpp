@@ -27,7 +27,7 @@ constexpr const char* kHabits[]{
 // Each tool in each language, in a session of its own with its panel open.
 template <class Act>
 void withEachPanel(CheckRun& run, std::uint64_t& n, const std::string& where, Act&& act) {
-  const Rig rig = lizardRig(run.file(""));
+  const TripRig rig = lizardRig(run.file(""));
   for (const Tool& tool : kTools) {
     for (const std::uint32_t language : kLanguages) {
       if (!run.step(n++, std::string(tool.server) + " in " + languageName(language) + where)) continue;

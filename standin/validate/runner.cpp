@@ -28,7 +28,7 @@ struct Told {
   std::uint64_t injected = 0;
   std::string skip;
   std::vector<std::string> notes;
-  std::vector<Finding> failures;
+  std::vector<CheckFinding> failures;
   std::optional<std::uint64_t> pausedBefore;
   bool ended = false;
 
@@ -193,11 +193,11 @@ class CheckKeeper {
     result_.cases += told.cases.value_or(told.steps);
     result_.injected += told.injected;
     result_.notes.insert(result_.notes.end(), told.notes.begin(), told.notes.end());
-    for (const Finding& failure : told.failures) add(failure);
+    for (const CheckFinding& failure : told.failures) add(failure);
   }
 
   // The worst that was found is what became of the check: it crashed, else it hung, else it failed.
-  void add(Finding finding) {
+  void add(CheckFinding finding) {
     const auto weight = [](Verdict verdict) {
       return verdict == Verdict::Crash ? 3 : verdict == Verdict::Hang ? 2 : verdict == Verdict::Fail ? 1 : 0;
     };

@@ -17,7 +17,7 @@ enum class Verdict { Pass, Fail, Crash, Hang, Skip };
 const char* nameOf(Verdict verdict);
 
 // One thing that was found.
-struct Finding {
+struct CheckFinding {
   Verdict verdict = Verdict::Fail;  // fail, crash or hang
   std::optional<std::uint64_t> step;
   std::string where;  // the step's name and what was being done; may be empty
@@ -27,7 +27,7 @@ struct Finding {
 struct CheckResult {
   const Check* check = nullptr;
   Verdict verdict = Verdict::Pass;
-  std::vector<Finding> findings;
+  std::vector<CheckFinding> findings;
   std::size_t furtherFindings = 0;  // that were counted but not kept
   std::string reason;               // of a skip
   std::vector<std::string> notes;

@@ -13,15 +13,15 @@
 
 namespace standin::validate {
 
-Rig rigOf(ObjectFile object, const std::string& path) {
+TripRig rigOf(ObjectFile object, const std::string& path) {
   if (const auto failure = writeObject(object, path)) throw std::runtime_error(failure->text);
   return {std::move(object), path};
 }
 
-Rig lizardRig(const std::string& folder) { return rigOf(makeDemoRig(), folder + "/lizard.lwo"); }
-Rig japaneseRig(const std::string& folder) { return rigOf(makeJapaneseRig(), folder + "/人形.lwo"); }
+TripRig lizardRig(const std::string& folder) { return rigOf(makeDemoRig(), folder + "/lizard.lwo"); }
+TripRig japaneseRig(const std::string& folder) { return rigOf(makeJapaneseRig(), folder + "/人形.lwo"); }
 
-Session::Session(Program program, const Rig& rig, const std::string& module, const HostOptions& host) : path_(module) {
+Session::Session(Program program, const TripRig& rig, const std::string& module, const HostOptions& host) : path_(module) {
   if (program == Program::Modeler) {
     modeler_ = std::make_unique<PlayedModeler>(host);
     modeler_->add(rig.object, rig.path);

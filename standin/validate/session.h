@@ -16,22 +16,22 @@ inline constexpr std::uint32_t kEnglish = 0x409;
 inline constexpr std::uint32_t kJapanese = 0x411;
 
 // A rig, and the file that holds it.
-struct Rig {
+struct TripRig {
   ObjectFile object;
   std::string path;
 };
 
 // The rigs that are shipped, written into a folder.
-Rig lizardRig(const std::string& folder);
-Rig japaneseRig(const std::string& folder);
+TripRig lizardRig(const std::string& folder);
+TripRig japaneseRig(const std::string& folder);
 // Writes any object under a name.
-Rig rigOf(ObjectFile object, const std::string& path);
+TripRig rigOf(ObjectFile object, const std::string& path);
 
 class Session {
  public:
   // Starts the program, loads the rig (in Modeler with all layers in the foreground, in Layout selected) and the module.
   // On the default host, or on another.
-  Session(Program program, const Rig& rig, const std::string& module, const HostOptions& host = {});
+  Session(Program program, const TripRig& rig, const std::string& module, const HostOptions& host = {});
   // Unloads the module without looking.
   ~Session();
   Session(const Session&) = delete;

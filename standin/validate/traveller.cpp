@@ -109,7 +109,7 @@ void convertSaved(const TripOrder& order, const std::string& saved, TripReport& 
     report.troubles.push_back(object.why());
     return;
   }
-  const Rig rig{*object, saved};
+  const TripRig rig{*object, saved};
   TripOrder inLayout = order;
   inLayout.rig = &rig;
   Traveller user(inLayout, Program::Layout);

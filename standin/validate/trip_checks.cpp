@@ -26,7 +26,7 @@ void undisturbed(CheckRun& run, std::string_view name) {
   const Trip& trip = tripNamed(name);
   const std::array rigs{lizardRig(run.file("")), japaneseRig(run.file(""))};
   std::uint64_t n = 0;
-  for (const Rig& rig : rigs) {
+  for (const TripRig& rig : rigs) {
     for (const std::uint32_t language : {kEnglish, kJapanese}) {
       if (!run.step(n++,
                     rig.path.substr(rig.path.rfind('/') + 1) + (language == kEnglish ? " in English" : " in Japanese"))) {
@@ -56,7 +56,7 @@ struct Disturber {
 // The trip again and again with the n-th thing failing, until n runs past its end.
 void disturbed(CheckRun& run, std::string_view name, const Disturber& disturber, std::uint64_t stride) {
   const Trip& trip = tripNamed(name);
-  const Rig rig = japaneseRig(run.file(""));
+  const TripRig rig = japaneseRig(run.file(""));
   for (std::uint64_t n = run.from() == 0 ? 1 : run.from();; ++n) {
     if (n % stride != 1 % stride) continue;
     if (!run.step(n, "")) continue;

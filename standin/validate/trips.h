@@ -12,7 +12,7 @@ namespace standin::validate {
 
 struct TripOrder {
   std::string module;
-  const Rig* rig = nullptr;
+  const TripRig* rig = nullptr;
   std::uint32_t language = kEnglish;
   HostChoice host = {};  // where it is played
   // Called when all is ready and the tool is about to be opened, and when the user is done. What fails in between is made

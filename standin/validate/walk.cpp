@@ -13,7 +13,7 @@ constexpr std::size_t kMostObjects = 12;  // objects in the scene before some ar
 
 }  // namespace
 
-Walk::Walk(Session& session, const Rig& rig, std::uint64_t seed) : session_(session), rig_(rig), random_(seed) {}
+Walk::Walk(Session& session, const TripRig& rig, std::uint64_t seed) : session_(session), rig_(rig), random_(seed) {}
 
 std::string Walk::act() {
   const std::uint32_t choice = below(100);

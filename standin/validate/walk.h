@@ -15,7 +15,7 @@ class CheckRun;
 // A whole walk in a session of its own.
 struct WalkOrder {
   Program program = Program::Modeler;
-  const Rig* rig = nullptr;
+  const TripRig* rig = nullptr;
   std::uint64_t seed = 1;
   int actions = 1000;
   HostChoice host = {};
@@ -27,7 +27,7 @@ void walkOnce(CheckRun& run, const WalkOrder& order);
 class Walk {
  public:
   // `session` must have the rig loaded; the walk opens tools on its way.
-  Walk(Session& session, const Rig& rig, std::uint64_t seed);
+  Walk(Session& session, const TripRig& rig, std::uint64_t seed);
 
   // One action; what it was.
   std::string act();
@@ -43,7 +43,7 @@ class Walk {
   std::string changeScene();
 
   Session& session_;
-  const Rig& rig_;
+  const TripRig& rig_;
   std::mt19937_64 random_;
 };
 

@@ -45,8 +45,8 @@ void walkOnce(CheckRun& run, const WalkOrder& order) {
 namespace {
 
 void walks(CheckRun& run, Program program) {
-  const Rig rig = lizardRig(run.file(""));
-  const Rig japanese = japaneseRig(run.file(""));
+  const TripRig rig = lizardRig(run.file(""));
+  const TripRig japanese = japaneseRig(run.file(""));
   const std::size_t count = run.shareOf(kWalks / 2);
   for (std::size_t i = 0; i < count; ++i) {
     if (run.step(i, "walk " + std::to_string(i))) {

@@ -11,7 +11,7 @@
 #include "standin/core/globals.h"
 #include "standin/core/witness.h"
 #include "standin/layout/layout_host.h"
-#include "standin/layout/report.h"
+#include "standin/layout/scene_report.h"
 
 namespace standin {
 

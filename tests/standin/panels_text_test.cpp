@@ -27,7 +27,7 @@ TEST(PanelTextWidth, BrokenBytesTakeACellEach) {
   EXPECT_EQ(2 * kCellWidth, textWidth("\x03("));
 }
 
-TEST(PanelTextPrintable, EscapesAndBrokenBytesCanBeSeen) { EXPECT_EQ("<(i:X)>a\\\"\\xff", printable("\x03(i:X)a\"\xFF")); }
+TEST(PanelTextSpelledOut, EscapesAndBrokenBytesCanBeSeen) { EXPECT_EQ("<(i:X)>a\\\"\\xff", spelledOut("\x03(i:X)a\"\xFF")); }
 
 struct PanelsAsText : PanelsTest {
   lw::PanelId panel = nullptr;

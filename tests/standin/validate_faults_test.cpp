@@ -70,12 +70,12 @@ TEST_P(BadModule, IsFoundOut) {
   EXPECT_EQ(result.check->level, GetParam().level);
   EXPECT_STREQ(nameOf(result.verdict), nameOf(GetParam().verdict));
   std::string all;
-  for (const Finding& finding : result.findings) all += finding.where + ": " + finding.what + "\n";
+  for (const CheckFinding& finding : result.findings) all += finding.where + ": " + finding.what + "\n";
   ASSERT_FALSE(result.findings.empty());
   EXPECT_NE(all.find(GetParam().words), std::string::npos) << all;
   if (GetParam().level != 11) return;
   // Of all the hosts that are played only the one that shows the fault is named.
-  for (const Finding& finding : result.findings) EXPECT_TRUE(finding.where.starts_with(GetParam().words)) << all;
+  for (const CheckFinding& finding : result.findings) EXPECT_TRUE(finding.where.starts_with(GetParam().words)) << all;
 }
 
 INSTANTIATE_TEST_SUITE_P(Faults, BadModule, testing::ValuesIn(kExpectations), [](const auto& info) {

@@ -7,7 +7,7 @@ namespace {
 
 void expectPassed(const CheckResult& result) {
   EXPECT_STREQ(nameOf(result.verdict), "pass") << result.check->name;
-  for (const Finding& finding : result.findings) ADD_FAILURE() << finding.where << ": " << finding.what;
+  for (const CheckFinding& finding : result.findings) ADD_FAILURE() << finding.where << ": " << finding.what;
 }
 
 std::vector<std::string> hostChecks() {

@@ -1,7 +1,7 @@
 // What the reports say.
 #include <gtest/gtest.h>
 
-#include "standin/validate/report.h"
+#include "standin/validate/ladder_report.h"
 
 namespace standin::validate {
 namespace {

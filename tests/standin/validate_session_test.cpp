@@ -66,7 +66,7 @@ TEST(MemoryWatch, RefusesTheChosenAllocationOnly) {
 
 class Sessions : public Validation {
  protected:
-  Rig rig() const { return japaneseRig(folder_.path()); }
+  TripRig rig() const { return japaneseRig(folder_.path()); }
 };
 
 TEST_F(Sessions, LoadTheModuleAndLetItGo) {

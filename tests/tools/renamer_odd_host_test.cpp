@@ -1,5 +1,5 @@
 // The renamer on hosts that behave as no host should: events out of turn, without or with wrong handles.
-#include "standin/modeler/commands.h"
+#include "standin/modeler/activation_record.h"
 #include "tests/tools/renamer_fixture.h"
 
 namespace varnel::test {

@@ -1,4 +1,4 @@
-#include "standin/modeler/commands.h"
+#include "standin/modeler/activation_record.h"
 
 #include <algorithm>
 

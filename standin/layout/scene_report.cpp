@@ -1,4 +1,4 @@
-#include "standin/layout/report.h"
+#include "standin/layout/scene_report.h"
 
 #include <algorithm>
 

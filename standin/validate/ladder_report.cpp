@@ -1,4 +1,4 @@
-#include "standin/validate/report.h"
+#include "standin/validate/ladder_report.h"
 
 #include <algorithm>
 #include <array>
@@ -49,7 +49,7 @@ std::string left(const std::string& text, std::size_t width) {
   return text + std::string(text.size() < width ? width - text.size() : 0, ' ');
 }
 
-std::string findingText(const Finding& finding) {
+std::string findingText(const CheckFinding& finding) {
   std::string text = nameOf(finding.verdict);
   if (finding.step) text += " at step " + std::to_string(*finding.step);
   if (!finding.where.empty()) text += " (" + finding.where + ")";
@@ -111,7 +111,7 @@ std::string checkRow(const CheckResult& result) {
   for (const std::string& note : result.notes) details += "<p>" + escaped(note) + "</p>";
   if (!result.findings.empty()) {
     details += "<ul>";
-    for (const Finding& finding : result.findings) details += "<li>" + escaped(findingText(finding)) + "</li>";
+    for (const CheckFinding& finding : result.findings) details += "<li>" + escaped(findingText(finding)) + "</li>";
     if (result.furtherFindings > 0) details += "<li>and " + std::to_string(result.furtherFindings) + " more</li>";
     details += "</ul>";
   }
@@ -144,7 +144,7 @@ std::string resultText(const CheckResult& result) {
                      right(std::to_string(result.injected), 9) + " faults" + right(seconds(result.seconds), 8) + " s\n";
   if (!result.reason.empty()) text += "      skipped: " + result.reason + "\n";
   for (const std::string& note : result.notes) text += "      " + note + "\n";
-  for (const Finding& finding : result.findings) text += "      " + findingText(finding) + "\n";
+  for (const CheckFinding& finding : result.findings) text += "      " + findingText(finding) + "\n";
   if (result.furtherFindings > 0) text += "      and " + std::to_string(result.furtherFindings) + " more\n";
   return text;
 }

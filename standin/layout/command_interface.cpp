@@ -1,4 +1,4 @@
-#include "standin/layout/commands.h"
+#include "standin/layout/command_interface.h"
 
 #include <algorithm>
 
