@@ -10,7 +10,7 @@ constexpr const char* kLeftArrow =
     "(i:MIMG_LEFTARROW)";
 
 // clang-format off
-// "IK/FKブレンディグ" is spelled so on purpose: the panel has always said so.
+// "IK/FKブレンディグ" is spelled so on purpose.
 constexpr LabelRow kLabels[] = {
     {  2, "Reset",                             "Reset"},
     {  3, "ResetAll",                          "ResetAll"},
