@@ -6,6 +6,7 @@
 
 #include "host/lwtool2_errors.h"
 #include "host/lwtool2_globals.h"
+#include "skelegon/table_order.h"
 #include "texts/whole_text.h"
 
 namespace lw {
@@ -43,13 +44,7 @@ constexpr std::array kKinds = {
     KindRow{forms::HostControl::Text, "TextControl", kValueText},
 };
 
-constexpr bool rowsStandInOrder() {
-  for (std::size_t i = 0; i < kKinds.size(); ++i) {
-    if (static_cast<std::size_t>(kKinds[i].kind) != i) return false;
-  }
-  return true;
-}
-static_assert(rowsStandInOrder());
+static_assert(skg::standInOrder(kKinds, &KindRow::kind));
 
 // Cleared as a whole, then with what the type holds. Lists and lines the host only reads, though its interface does not say
 // so.

@@ -66,8 +66,8 @@ struct PopupFunctions {
 struct NewControl {
   forms::HostControl kind{};
   const char* label = "";
-  int width =
-      0;  // in pixels and without the label, of edit fields in characters, of sliders of the field; 0 leaves it to the host
+  // In pixels and without the label; of edit fields in characters, of sliders that of the field. 0 leaves it to the host.
+  int width = 0;
   int height = 0;                      // of borders and OpenGL areas
   texts::Choices choices = nullptr;    // of popups and tabs
   forms::Range range{};                // of sliders

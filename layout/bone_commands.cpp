@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "skelegon/slot_table.h"
+#include "skelegon/table_order.h"
 
 namespace lwp {
 namespace {
@@ -37,13 +38,7 @@ constexpr AxisRow kAxes[] = {
 };
 constexpr const AxisRow& rowOf(Axis axis) { return kAxes[static_cast<std::size_t>(axis)]; }
 
-constexpr bool rowsStandInOrder() {
-  for (const AxisRow& row : kAxes) {
-    if (&rowOf(row.axis) != &row) return false;
-  }
-  return std::size(kAxes) == skg::kAxes.size();
-}
-static_assert(rowsStandInOrder());
+static_assert(skg::standInOrder(kAxes, &AxisRow::axis) && std::size(kAxes) == skg::kAxes.size());
 
 // One maker for each form, so that a row names only what is its own.
 constexpr BoneCommand integer(const char* name, Slot slot, int line, When when = When::Always) {

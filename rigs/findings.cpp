@@ -12,6 +12,7 @@
 #include "skelegon/item_names.h"
 #include "skelegon/numbers.h"
 #include "skelegon/setting_groups.h"
+#include "skelegon/table_order.h"
 
 namespace standin::rigs {
 namespace {
@@ -93,13 +94,7 @@ constexpr std::array<FindingRow, kFindingKinds> kRows = {{
     // clang-format on
 }};
 
-constexpr bool rowsStandInOrder() {
-  for (std::size_t i = 0; i < kRows.size(); ++i) {
-    if (static_cast<std::size_t>(kRows[i].kind) != i) return false;
-  }
-  return true;
-}
-static_assert(rowsStandInOrder());
+static_assert(skg::standInOrder(kRows, &FindingRow::kind));
 static_assert(static_cast<std::size_t>(FindingKind::TextMissing) + 1 == kFindingKinds);
 
 class FindingSearch {

@@ -8,8 +8,7 @@
 namespace skg {
 namespace {
 
-// Both coordinates are negated, also a positive zero, which then lies at the very start of a turn: columns of existing rigs
-// were counted from there.
+// Both coordinates are negated on purpose, also a positive zero, which then lies at the very start of a turn.
 double angle(const OrderRow& row, const Position& head) {
   const double plain = std::atan2(-head[row.first], -head[row.second]);
   return plain < row.start ? plain + kFullTurn : plain;

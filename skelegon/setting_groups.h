@@ -7,6 +7,7 @@
 #include <cstddef>
 
 #include "skelegon/slots.h"
+#include "skelegon/table_order.h"
 
 namespace skg {
 
@@ -87,12 +88,12 @@ inline constexpr std::array<AxisSettings, 9> kAxes = {{
 
 constexpr const AxisSettings& settingsOf(Axis axis) { return kAxes[static_cast<std::size_t>(axis)]; }
 
-constexpr bool axesStandInOrder() {
+constexpr bool groupsHaveThreeAxesEach() {
   for (std::size_t i = 0; i < kAxes.size(); ++i) {
-    if (static_cast<std::size_t>(kAxes[i].axis) != i || static_cast<std::size_t>(kAxes[i].group) != i / 3) return false;
+    if (static_cast<std::size_t>(kAxes[i].group) != i / 3) return false;
   }
   return true;
 }
-static_assert(axesStandInOrder());
+static_assert(standInOrder(kAxes, &AxisSettings::axis) && groupsHaveThreeAxesEach());
 
 }  // namespace skg

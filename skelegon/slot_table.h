@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "skelegon/slots.h"
+#include "skelegon/table_order.h"
 #include "texts/texts.h"
 
 namespace skg {
@@ -225,16 +226,14 @@ inline constexpr std::array<SlotRow, kSlotCount> kSlotTable = {{
 
 constexpr const SlotRow& rowOf(Slot slot) { return kSlotTable[indexOf(slot)]; }
 
-constexpr bool rowsStandInSlotOrder() {
-  for (std::size_t i = 0; i < kSlotTable.size(); ++i) {
-    const SlotRow& row = kSlotTable[i];
-    if (indexOf(row.slot) != i) return false;
+constexpr bool rowsAreWhole() {
+  for (const SlotRow& row : kSlotTable) {
     if ((row.kind == SlotKind::Reserved) != (*row.setting == '\0')) return false;
     if ((row.kind == SlotKind::Choice || row.kind == SlotKind::Colour) != row.choices.has_value()) return false;
   }
   return true;
 }
-static_assert(rowsStandInSlotOrder());
+static_assert(standInOrder(kSlotTable, &SlotRow::slot) && rowsAreWhole());
 static_assert(indexOf(Slot::RotationOrder) + 1 == kSlotCount);
 
 }  // namespace skg

@@ -3,6 +3,8 @@
 #include <array>
 #include <initializer_list>
 
+#include "skelegon/table_order.h"
+
 namespace mst {
 namespace {
 
@@ -56,13 +58,7 @@ constexpr std::array<SectionRow, kSectionCount> kSections = {{
 }};
 // clang-format on
 
-constexpr bool rowsStandInOrder() {
-  for (std::size_t i = 0; i < kSections.size(); ++i) {
-    if (static_cast<std::size_t>(kSections[i].section) != i) return false;
-  }
-  return true;
-}
-static_assert(rowsStandInOrder());
+static_assert(skg::standInOrder(kSections, &SectionRow::section));
 
 const SectionRow& sectionOf(const ControlRow& row) { return kSections[static_cast<std::size_t>(row.section)]; }
 

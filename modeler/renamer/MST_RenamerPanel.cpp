@@ -127,7 +127,7 @@ void RenamerPanel::showRegistered() {
 }
 
 // The others are told of an advanced run whatever came of it, of a simple one only when it renamed. The difference is kept
-// on purpose: a refresh after an advanced run that failed shows the user that nothing was renamed.
+// on purpose.
 void RenamerPanel::run() {
   const RenameMode mode = chosenMode();
   const bool withProperties = form_->number(RenamerItem::BoneProperty) != 0;

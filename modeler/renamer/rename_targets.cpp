@@ -57,7 +57,7 @@ RenameTargets chooseTargets(RenameTarget choice, const skg::SkelegonList& skeleg
       return {targets, skg::heads(targets)};
     }
     case RenameTarget::Registration: {
-      // Each is a column of its own, also where one continues another, on purpose: that is the difference to "and children".
+      // Each is a column of its own, also where one continues another, on purpose.
       SkelegonNodes targets = skelegons.resolve(registered);
       return {targets, targets};
     }

@@ -1,5 +1,7 @@
 #include "modeler/renamer/renamer_controls.h"
 
+#include "skelegon/table_order.h"
+
 namespace mst {
 namespace {
 
@@ -61,14 +63,15 @@ constexpr std::array<RenamerRow, kRenamerItemCount> kTable = {{
 }};
 // clang-format on
 
-constexpr bool rowsStandInOrder() {
-  for (std::size_t i = 0; i < kTable.size(); ++i) {
-    if (indexOf(kTable[i].item) != i) return false;
-    if ((kTable[i].kind == HostControl::Popup) != kTable[i].choices.has_value()) return false;
+static_assert(skg::standInOrder(kTable, &RenamerRow::item));
+
+constexpr bool havePopupsTheirLists() {
+  for (const RenamerRow& row : kTable) {
+    if ((row.kind == HostControl::Popup) != row.choices.has_value()) return false;
   }
   return true;
 }
-static_assert(rowsStandInOrder());
+static_assert(havePopupsTheirLists());
 
 }  // namespace
 
