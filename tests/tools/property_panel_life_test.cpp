@@ -1,4 +1,7 @@
 // The property panel as it opens, switches its pages, closes and opens again, and what it bears meanwhile.
+#include <utility>
+
+#include "standin/panels/services.h"
 #include "tests/tools/property_panel_fixture.h"
 
 namespace varnel::test {
@@ -365,6 +368,22 @@ TEST_F(PropertyPanel, OffersTheWeightMapsThatAreLeftAfterSync) {
   sync();
   show(Slot::WeightMap);
   EXPECT_EQ(person::menu(behind(Slot::WeightMap)), (Names{"(none)", "Spine"}));
+}
+
+// A host may take what is being typed when the panel closes.
+TEST_F(PropertyPanel, ShowsAnewWhatClosingTheFormerOneHasWritten) {
+  openWith({"Hips"});
+  static standin::ModelerObject* edited;
+  static void (*closeOfHost)(lw::PanelId);
+  edited = object;
+  closeOfHost = std::exchange(standin::panelServices()->close, [](lw::PanelId id) {
+    edited->setTag(*edited->skelegon("Hips"), skg::SlotTagId(Slot::Strength), "40.000000");
+    closeOfHost(id);
+  });
+  openTool();
+  standin::panelServices()->close = closeOfHost;
+  show(Slot::Strength);
+  EXPECT_EQ(control(Slot::Strength)->real, 40);
 }
 
 TEST_F(PropertyPanel, OneUndoTakesBackOneChange) {
