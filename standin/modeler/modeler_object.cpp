@@ -67,8 +67,9 @@ MeshPolygon& ModelerObject::makePolygon(int layerNumber, std::size_t group, std:
 }
 
 const MeshLayer* ModelerObject::layer(int number) const {
-  const auto found = std::find_if(layers_.begin(), layers_.end(), [&](const MeshLayer& l) { return l.number == number; });
-  return found == layers_.end() ? nullptr : &*found;
+  const auto found = std::lower_bound(layers_.begin(), layers_.end(), number,
+                                      [](const MeshLayer& layer, int wanted) { return layer.number < wanted; });
+  return found == layers_.end() || found->number != number ? nullptr : &*found;
 }
 
 bool ModelerObject::holdsData(const MeshLayer& layer) const { return !layerPoints_[layer.place].empty(); }

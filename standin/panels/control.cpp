@@ -78,11 +78,9 @@ KeptText KeptText::kept(const char* text) {
   return kept;
 }
 
-std::string KeptText::read() const { return pointer_ == nullptr ? copy_ : pointer_; }
-
 int Control::labelWidth() const {
   if (kind->labelInside) return 0;
-  const int width = textWidth(label.read());
+  const int width = textWidth(label.view());
   return width == 0 ? 0 : width + kLabelGap;
 }
 

@@ -20,9 +20,8 @@ constexpr char kEscape = '\x03';
 
 unsigned byteAt(std::string_view text, std::size_t index) { return static_cast<unsigned char>(text[index]); }
 
-// Bytes that the lead byte announces; 0 for a byte that starts no character.
+// Bytes that a lead byte above ASCII announces; 0 for a byte that starts no character.
 std::size_t announcedLength(unsigned lead) {
-  if (lead < 0x80) return 1;
   if (lead >= 0xC2 && lead <= 0xDF) return 2;
   if (lead >= 0xE0 && lead <= 0xEF) return 3;
   if (lead >= 0xF0 && lead <= 0xF4) return 4;
@@ -54,9 +53,9 @@ TextPiece takePiece(std::string_view& text) {
     if (end != std::string_view::npos) return take(text, TextPiece::Kind::Icon, end + 1);
   }
   const unsigned lead = byteAt(text, 0);
+  if (lead < 0x80) return take(text, TextPiece::Kind::Character, 1, lead);
   const std::size_t length = announcedLength(lead);
   if (length == 0 || length > text.size()) return take(text, TextPiece::Kind::Broken, 1);
-  if (length == 1) return take(text, TextPiece::Kind::Character, 1, lead);
   char32_t character = lead & (0x7FU >> length);
   for (std::size_t i = 1; i < length; ++i) {
     if ((byteAt(text, i) & 0xC0U) != 0x80U) return take(text, TextPiece::Kind::Broken, 1);
@@ -67,6 +66,7 @@ TextPiece takePiece(std::string_view& text) {
 }
 
 bool isWide(char32_t character) {
+  if (character < kWide.front().first) return false;
   for (const Span& span : kWide) {
     if (character >= span.first && character <= span.last) return true;
   }

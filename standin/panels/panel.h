@@ -45,7 +45,8 @@ class KeptText {
   KeptText() = default;
   // Keeps the pointer (null is an empty text), or copies the text where the options say so.
   static KeptText kept(const char* text);
-  std::string read() const;
+  std::string read() const { return std::string(view()); }
+  std::string_view view() const { return pointer_ == nullptr ? std::string_view(copy_) : std::string_view(pointer_); }
 
  private:
   const char* pointer_ = nullptr;
