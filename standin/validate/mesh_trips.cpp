@@ -326,10 +326,10 @@ TripReport repeatedTagsTrip(const TripOrder& order) {
 }
 
 constexpr std::array kTrips{
-    Trip{"deletion", deletionTrip},
-    Trip{"layers", layersTrip},
-    Trip{"refusals", refusalsTrip},
-    Trip{"repeated-tags", repeatedTagsTrip},
+    Trip{"deletion", Visits::Modeler, deletionTrip},
+    Trip{"layers", Visits::Modeler, layersTrip},
+    Trip{"refusals", Visits::Modeler, refusalsTrip},
+    Trip{"repeated-tags", Visits::Both, repeatedTagsTrip},
 };
 
 }  // namespace

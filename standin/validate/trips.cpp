@@ -256,8 +256,9 @@ TripReport typicalTrip(const TripOrder& order) {
 }
 
 constexpr std::array kTrips{
-    Trip{"typical", typicalTrip},   Trip{"property", propertyTrip},     Trip{"renamer", renamerTrip},
-    Trip{"selector", selectorTrip}, Trip{"conversion", conversionTrip},
+    Trip{"typical", Visits::Both, typicalTrip},         Trip{"property", Visits::Modeler, propertyTrip},
+    Trip{"renamer", Visits::Modeler, renamerTrip},      Trip{"selector", Visits::Modeler, selectorTrip},
+    Trip{"conversion", Visits::Layout, conversionTrip},
 };
 
 }  // namespace

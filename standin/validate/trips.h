@@ -29,8 +29,13 @@ struct TripReport {
   std::vector<std::string> broken;
 };
 
+// Where a trip leads. What differs in a program where it does not lead cannot change it.
+enum class Visits { Modeler, Layout, Both };
+constexpr bool meet(Visits one, Visits other) { return one == other || one == Visits::Both || other == Visits::Both; }
+
 struct Trip {
   const char* name;
+  Visits visits;
   TripReport (*go)(const TripOrder&);
 };
 
