@@ -2,6 +2,9 @@
 
 repository=$PWD
 
+# Undefined behaviour ends a sanitized program by an illegal instruction: shown with its stack.
+export ASAN_OPTIONS=handle_sigill=1${ASAN_OPTIONS:+:$ASAN_OPTIONS}
+
 say() { printf "== %s\n" "$*"; }
 
 # The packages of each part of the work, by name in Debian 12.
@@ -10,7 +13,7 @@ packages_of() {
   case $1 in
     native) echo "$base googletest nlohmann-json3-dev libcli11-dev binutils locales" ;;
     windows) echo "$base googletest nlohmann-json3-dev libcli11-dev g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64
-      wine wine64 xvfb xauth locales fonts-ipafont-gothic fonts-vlgothic libgl1-mesa-dri libstb-dev" ;;
+      wine wine64 xvfb xauth locales fonts-ipafont-gothic fonts-vlgothic libgl1-mesa-dri libstb-dev lld-15" ;;
     fuzz) echo "$base clang-14 libclang-rt-14-dev" ;;
     lint) echo "$base googletest nlohmann-json3-dev libcli11-dev clang-format-14 clang-tidy-14 git" ;;
     bench) echo "$base libbenchmark-dev libassimp-dev libcli11-dev nlohmann-json3-dev valgrind" ;;
