@@ -304,7 +304,7 @@ constexpr CTableBuilder build() {
 }
 
 constexpr CTableBuilder kBuilt = build();
-static_assert(kBuilt.count() == kControlCount);
+static_assert(kBuilt.count() == kControlCount && texts::kPropertyLabelCount == kControlCount + 1);
 
 constexpr const std::array<ControlRow, kControlCount>& kControls = kBuilt.rows();
 

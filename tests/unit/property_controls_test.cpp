@@ -222,5 +222,16 @@ TEST(PropertyControls, EachPageAndGroupShowsItsRunOfControls) {
   }
 }
 
+// The label of the control before serves these too: the amount of a flag, the method and amount of an item, the offset behind a factor.
+TEST(PropertyControls, HaveALabelButThoseThatStandBehindTheirs) {
+  const std::set<std::size_t> expected = {26,  28,  30,  32,  34,  36,  38,  73,  99,  100, 107, 115,
+                                          123, 133, 134, 141, 149, 157, 166, 167, 174, 182, 190};
+  std::set<std::size_t> unlabelled;
+  for (const ControlRow& row : controlTable()) {
+    if (row.slot && label(row.number).empty()) unlabelled.insert(row.number);
+  }
+  EXPECT_EQ(unlabelled, expected);
+}
+
 }  // namespace
 }  // namespace mst
