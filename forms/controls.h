@@ -2,6 +2,9 @@
 // them.
 #pragma once
 
+#include <cstddef>
+#include <optional>
+
 namespace forms {
 
 // The kinds of the host's controls that the panels use.
@@ -29,6 +32,17 @@ enum class HostControl {
 struct Range {
   int least = 0;
   int greatest = 0;
+};
+
+// A control to be made. Its label and its list are known by their numbers in the panel's texts, which depend on the language.
+struct ControlRow {
+  HostControl kind = HostControl::Border;
+  std::optional<std::size_t> label{};  // none: no label
+  // In pixels and without the label; of edit fields in characters, of sliders that of the field. 0 leaves it to the host.
+  int width = 0;
+  std::optional<std::size_t> choices{};  // of popups and tabs with a fixed list
+  int height = 0;                        // of borders and OpenGL areas
+  Range range{};                         // of sliders for whole numbers
 };
 
 // The upper left corner of a whole control, in pixels from that of the panel.

@@ -88,7 +88,7 @@ struct HostState {
   std::array<void*, kServiceCount> services{};
   ModelerCommand modeler;
   ModelerFunctions modelerFunctions;
-  PropertyTexts propertyTexts;
+  PanelTexts propertyTexts;
   RenamerTexts renamerTexts;
   const texts::LayoutTexts* layoutTexts = &texts::layoutTexts(texts::Language::English);
 };
@@ -139,9 +139,9 @@ void refresh(Service service, const char* failure) {
   if (!acquire(service)) throwReported(failure);
 }
 
-template <class Texts, class Labels, class Rows>
-void selectTexts(Texts& to, const Labels& labels, const Rows& rows, texts::Language language) {
-  to.labels = &labels;
+template <class Rows>
+void selectTexts(PanelTexts& to, std::span<const char* const> labels, const Rows& rows, texts::Language language) {
+  to.labels = labels;
   to.choices.clear();
   to.choices.reserve(rows.size());
   to.counts.clear();
@@ -227,9 +227,8 @@ void LoadRenamerStrings(GlobalFunc global) {
 
 void loadLayoutStrings(GlobalFunc global) { state().layoutTexts = &texts::layoutTexts(hostLanguage(global)); }
 
-const PropertyTexts& propertyTexts() { return state().propertyTexts; }
+const PanelTexts& propertyTexts() { return state().propertyTexts; }
 const RenamerTexts& renamerTexts() { return state().renamerTexts; }
 const texts::LayoutTexts& layoutTexts() { return *state().layoutTexts; }
-const char* layoutText(texts::LayoutText text) { return layoutTexts()[static_cast<std::size_t>(text)]; }
 
 }  // namespace lw

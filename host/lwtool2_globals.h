@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <span>
 #include <vector>
 
 #include "interface/lightwave.h"
@@ -114,24 +115,21 @@ const ModelerCommand& modelerCommand();
 // The language of the host's locale, read from the host now: Japanese for 0x411 in the low 16 bits, else English.
 texts::Language hostLanguage(GlobalFunc global);
 
-template <class Labels>
 struct PanelTexts {
-  const Labels* labels = nullptr;
-  std::vector<texts::Choices> choices;
-  std::vector<unsigned> counts;  // entries of each list with its null; nobody needs them, a popup ends at the null
+  std::span<const char* const> labels{};
+  std::vector<texts::Choices> choices{};
+  std::vector<unsigned> counts{};  // entries of each list with its null; nobody needs them, a popup ends at the null
 };
 
-struct RenamerTexts : PanelTexts<std::array<const char*, texts::kRenamerLabelCount>> {
+struct RenamerTexts : PanelTexts {
   const texts::RenamerMessages* messages = nullptr;
 };
-using PropertyTexts = PanelTexts<std::array<const char*, texts::kPropertyLabelCount>>;
 
 void LoadModelerStrings(GlobalFunc global);
 void LoadRenamerStrings(GlobalFunc global);
 void loadLayoutStrings(GlobalFunc global);
-const PropertyTexts& propertyTexts();
+const PanelTexts& propertyTexts();
 const RenamerTexts& renamerTexts();
 const texts::LayoutTexts& layoutTexts();
-const char* layoutText(texts::LayoutText text);
 
 }  // namespace lw

@@ -1,11 +1,9 @@
 #include "host/lwtool2_panels.h"
 
-#include <array>
 #include <string_view>
 #include <utility>
 
 #include "host/lwtool2_errors.h"
-#include "host/lwtool2_globals.h"
 #include "skelegon/table_order.h"
 #include "texts/whole_text.h"
 
@@ -46,33 +44,32 @@ constexpr std::array kKinds = {
 
 static_assert(skg::standInOrder(kKinds, &KindRow::kind));
 
-// Cleared as a whole, then with what the type holds. Lists and lines the host only reads, though its interface does not say
-// so.
-LWPanControlDesc describe(const KindRow& kind, const NewControl& control) {
+// Cleared as a whole, then with what the type holds. Lists the host only reads, though its interface does not say so.
+LWPanControlDesc describe(const KindRow& kind, const forms::ControlRow& row, const PanelTexts& texts,
+                          const PopupFunctions& lists) {
   LWPanControlDesc made;
   for (GapSlot& slot : made.whole) slot = nullptr;
   made.type = kind.type;
   switch (kind.type) {
     case kValueArea:
-      made.area.width = control.width;
-      made.area.height = control.height;
+      made.area.width = row.width;
+      made.area.height = row.height;
       break;
     case kValueChoice:
-      made.choice.items = const_cast<const char**>(control.choices);
-      made.choice.vertical = control.width;  // of a popup the width
+      made.choice.items = const_cast<const char**>(texts.choices.at(row.choices.value()));
+      made.choice.vertical = row.width;  // of a popup the width
       break;
     case kValuePopup:
-      made.popup.width = control.width;
-      made.popup.countFn = control.functions.count;
-      made.popup.nameFn = control.functions.name;
+      made.popup.width = row.width;
+      made.popup.countFn = lists.count;
+      made.popup.nameFn = lists.name;
       break;
     case kValueRange:
-      made.range.width = kind.widest != 0 ? 0 : control.width;
-      made.range.min = kind.widest != 0 ? -kind.widest : control.range.least;
-      made.range.max = kind.widest != 0 ? kind.widest : control.range.greatest;
+      made.range.width = kind.widest != 0 ? 0 : row.width;
+      made.range.min = kind.widest != 0 ? -kind.widest : row.range.least;
+      made.range.max = kind.widest != 0 ? kind.widest : row.range.greatest;
       break;
-    case kValueString: made.str.width = control.width; break;
-    case kValueText: made.text.text = const_cast<const char**>(control.lines); break;
+    case kValueString: made.str.width = row.width; break;
     default: break;
   }
   return made;
@@ -182,10 +179,15 @@ CPanel::~CPanel() {
 
 PanelId CPanel::release() { return std::exchange(panel_, nullptr); }
 
-CControl CPanel::add(const NewControl& control) const {
-  const KindRow& kind = kKinds[static_cast<std::size_t>(control.kind)];
-  LWPanControlDesc description = describe(kind, control);
-  LWControl* const made = panels().addControl(panel_, kind.name, &description, control.label);
+CControl CPanel::add(const forms::ControlRow& row, const PanelTexts& texts, const PopupFunctions& lists) {
+  const KindRow& kind = kKinds[static_cast<std::size_t>(row.kind)];
+  const char* label = row.label ? texts.labels[*row.label] : "";
+  LWPanControlDesc description = describe(kind, row, texts, lists);
+  if (row.kind == forms::HostControl::Text) {  // the label is the text
+    lines_.push_front({std::exchange(label, ""), nullptr});
+    description.text.text = lines_.front().data();
+  }
+  LWControl* const made = panels().addControl(panel_, kind.name, &description, label);
   if (made == nullptr) throw ex::CBaseEx(std::string("panel::addControl() !(") + kind.name + ")");
   return CControl(made);
 }

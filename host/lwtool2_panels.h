@@ -1,11 +1,13 @@
 // The host's classic panels, wrapped so that tools deal in texts and numbers: the casts and unions stay here.
 #pragma once
 
+#include <array>
+#include <forward_list>
 #include <string>
 
 #include "forms/controls.h"
+#include "host/lwtool2_globals.h"
 #include "interface/lightwave.h"
-#include "texts/texts.h"
 
 namespace lw {
 
@@ -62,19 +64,6 @@ struct PopupFunctions {
   const char* (*name)(void* user, int index);
 };
 
-// A control to be made. The texts must live as long as the panel: the host may keep the pointers.
-struct NewControl {
-  forms::HostControl kind{};
-  const char* label = "";
-  // In pixels and without the label; of edit fields in characters, of sliders that of the field. 0 leaves it to the host.
-  int width = 0;
-  int height = 0;                      // of borders and OpenGL areas
-  texts::Choices choices = nullptr;    // of popups and tabs
-  forms::Range range{};                // of sliders
-  PopupFunctions functions{};          // of custom popups
-  const char* const* lines = nullptr;  // of texts; ended by a null
-};
-
 // A host panel and its controls. Owns the panel until release().
 // Functions that make something throw CBaseEx when the host does not.
 class CPanel {
@@ -82,11 +71,11 @@ class CPanel {
   // The title must live as long as the panel.
   explicit CPanel(const char* title);
   ~CPanel();
-  CPanel(CPanel&& other) noexcept : panel_(other.release()) {}
-  CPanel& operator=(CPanel&&) = delete;
+  CPanel(const CPanel&) = delete;
+  CPanel& operator=(const CPanel&) = delete;
 
-  // Before the panel opens.
-  CControl add(const NewControl& control) const;
+  // Before the panel opens. The texts must live as long as it does: the host may keep the pointers. `lists`: of custom popups.
+  CControl add(const forms::ControlRow& row, const PanelTexts& texts = {}, const PopupFunctions& lists = {});
 
   void setSize(int width, int height) const;
   void setLeastSize(int width, int height) const;
@@ -116,6 +105,7 @@ class CPanel {
 
  private:
   PanelId panel_ = nullptr;
+  std::forward_list<std::array<const char*, 2>> lines_;  // of text controls, ended by a null: the host may keep pointers
 };
 
 }  // namespace lw

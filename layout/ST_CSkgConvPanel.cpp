@@ -16,6 +16,8 @@ constexpr int kPanelHeight = 100;
 constexpr int kRunButtonWidth = 80;
 constexpr int kRunHotX = 165;
 
+constexpr std::size_t at(texts::LayoutText text) { return static_cast<std::size_t>(text); }
+
 }  // namespace
 
 int CSkgConvPanel::OpenConversionPanel() {
@@ -34,13 +36,14 @@ void CSkgConvPanel::build() {
     s.title = lw::FormatString("%s(%d.%d)%s", kOptimizeName, VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR, " ");
   }
   lw::CPanel panel(s.title.c_str());
+  const lw::PanelTexts texts{.labels = lw::layoutTexts()};
   const lw::CControl convert =
-      panel.add({.kind = HostControl::Bool, .label = lw::layoutText(texts::LayoutText::ExecuteSkelegonToBone)});
+      panel.add({.kind = HostControl::Bool, .label = at(texts::LayoutText::ExecuteSkelegonToBone)}, texts);
   const lw::CControl pivot =
-      panel.add({.kind = HostControl::Bool, .label = lw::layoutText(texts::LayoutText::ExecuteRecordPivotRotation)});
+      panel.add({.kind = HostControl::Bool, .label = at(texts::LayoutText::ExecuteRecordPivotRotation)}, texts);
   const lw::CControl border = panel.add({.kind = HostControl::Border, .width = 250, .height = 35});
   const lw::CControl run =
-      panel.add({.kind = HostControl::Button, .label = lw::layoutText(texts::LayoutText::Run), .width = kRunButtonWidth});
+      panel.add({.kind = HostControl::Button, .label = at(texts::LayoutText::Run), .width = kRunButtonWidth}, texts);
 
   convert.moveTo(10, 10);
   pivot.moveTo(10, 30);

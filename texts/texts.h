@@ -13,6 +13,16 @@ inline constexpr std::size_t kLanguageCount = 2;
 // A null-ended array of texts: the choices of one popup or tab control.
 using Choices = const char* const*;
 
+template <class List>
+struct ListRow {
+  List list;
+  unsigned count;  // entries with the closing null
+  Choices english;
+  Choices japanese;
+  Choices in(Language language) const { return language == Language::Japanese ? japanese : english; }
+  bool has(int index) const { return index >= 0 && static_cast<unsigned>(index) + 1 < count; }
+};
+
 // ---------------------------------------------------------------------------------------------------------------------
 // Property panel
 
@@ -39,13 +49,7 @@ inline constexpr std::size_t kChoiceListCount = 15;
 inline constexpr std::size_t kPropertyLabelCount = 193;
 const std::array<const char*, kPropertyLabelCount>& propertyLabels(Language language);
 
-struct ChoiceListRow {
-  ChoiceList list;
-  unsigned count;  // entries with the closing null
-  Choices english;
-  Choices japanese;
-  Choices in(Language language) const { return language == Language::Japanese ? japanese : english; }
-};
+using ChoiceListRow = ListRow<ChoiceList>;
 const std::array<ChoiceListRow, kChoiceListCount>& propertyChoices();
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -55,14 +59,7 @@ enum class RenamerList : std::size_t { RenameMode, RenameTarget, RenameOrder, Co
 inline constexpr std::size_t kRenamerListCount = 4;
 inline constexpr std::size_t kRenamerLabelCount = 35;
 const std::array<const char*, kRenamerLabelCount>& renamerLabels(Language language);
-
-struct RenamerListRow {
-  RenamerList list;
-  unsigned count;
-  Choices english;
-  Choices japanese;
-  Choices in(Language language) const { return language == Language::Japanese ? japanese : english; }
-};
+using RenamerListRow = ListRow<RenamerList>;
 const std::array<RenamerListRow, kRenamerListCount>& renamerChoices();
 
 // Messages as pairs of title and text, each pair closed by an empty entry.

@@ -157,7 +157,7 @@ void CSkgPropPanel::refreshLists() {
 void CSkgPropPanel::load(const skg::SkelegonProperties& properties) {
   form().showValues(properties);
   form().setChoice(control::kNamePopup, 0);
-  for (const ControlRow& row : controlTable()) {
+  for (const PropertyRow& row : controlTable()) {
     if (row.role == Role::WeightMaps || row.role == Role::ItemNames) rest(row.number);
   }
   showPage();
@@ -181,7 +181,7 @@ void CSkgPropPanel::tell() const { NotifyPanels(this, PanelNews::SelectionChange
 // What the user does
 
 void CSkgPropPanel::use(std::size_t number) {
-  const ControlRow& row = controlTable()[number];
+  const PropertyRow& row = controlTable()[number];
   switch (row.role) {
     case Role::Decoration: break;
     case Role::PageTabs: choosePage(form().choice(number)); break;

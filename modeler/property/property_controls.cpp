@@ -35,6 +35,7 @@ constexpr int kChooserWidth = 24;
 constexpr int kShapeWidth = 26;
 constexpr int kPresetWidth = 70;
 constexpr int kFootButtonWidth = 65;
+constexpr int kFootHeight = 35;
 constexpr int kGap = 2;  // between controls that belong together
 
 // Wide enough for whatever a scene may need: the host holds typed numbers to them.
@@ -57,21 +58,21 @@ constexpr int edgeBefore(std::initializer_list<int> widths) {
 
 class CTableBuilder {
  public:
-  constexpr const std::array<ControlRow, kControlCount>& rows() const { return rows_; }
+  constexpr const std::array<PropertyRow, kControlCount>& rows() const { return rows_; }
   constexpr std::size_t count() const { return count_; }
 
   // What is added from here on belongs to this section.
   constexpr void begin(Section section) { section_ = section; }
 
-  constexpr void plain(HostControl kind, Role role, Place place) { add({0, section_, kind, role, {}, {}, place, {}}); }
-  constexpr void tabs(Role role, ChoiceList list, Place place) {
-    add({0, section_, HostControl::Tabs, role, {}, list, place, {}});
+  constexpr void plain(HostControl kind, Role role, Place place, int height = 0) {
+    add({.kind = kind, .height = height}, role, {}, {}, place);
   }
+  constexpr void tabs(Role role, ChoiceList list, Place place) { add({.kind = HostControl::Tabs}, role, {}, list, place); }
   // A setting in the control that its kind asks for.
-  constexpr void value(Slot slot, Place place) { add(slot, controlFor(skg::rowOf(slot).kind), place, {}); }
-  constexpr void shape(Slot slot, Place place) { add(slot, HostControl::BoolButton, place, {}); }
+  constexpr void value(Slot slot, Place place) { add(slot, {.kind = controlFor(skg::rowOf(slot).kind)}, place); }
+  constexpr void shape(Slot slot, Place place) { add(slot, {.kind = HostControl::BoolButton}, place); }
   constexpr void slider(Slot slot, forms::Range range, int row, int column) {
-    add(slot, HostControl::MiniSlider, at(row, column, kFieldWidth), range);
+    add(slot, {.kind = HostControl::MiniSlider, .range = range}, at(row, column, kFieldWidth));
   }
   constexpr void flag(Slot slot, int row, int column) { value(slot, at(row, column, kCheckWidth)); }
   constexpr void field(Slot slot, int row, int column) { value(slot, at(row, column, kFieldWidth)); }
@@ -97,17 +98,29 @@ class CTableBuilder {
     throw "a reserved slot has no control";  // where the table is built, this does not compile
   }
 
-  constexpr void add(Slot slot, HostControl kind, Place place, forms::Range range) {
-    add({0, section_, kind, Role::Value, slot, skg::rowOf(slot).choices, place, range});
+  // Edit fields want fewer characters than fit, for they are brought to their width anyway; the host puts a handle beside
+  // the field of a slider.
+  static constexpr int toldWidth(HostControl kind, int width) {
+    constexpr int kWidestCharacter = 8;
+    constexpr int kHandleWidth = 20;
+    if (kind == HostControl::Edit) return std::max(1, width / kWidestCharacter);
+    return kind == HostControl::MiniSlider ? width - kHandleWidth : width;
   }
-  constexpr void add(ControlRow row) {
+
+  constexpr void add(Slot slot, const forms::ControlRow& control, Place place) {
+    add(control, Role::Value, slot, skg::rowOf(slot).choices, place);
+  }
+  constexpr void add(forms::ControlRow control, Role role, std::optional<Slot> slot, std::optional<ChoiceList> list,
+                     Place place) {
     if (count_ == kControlCount) throw "more controls than there are numbers";
-    row.number = count_;
-    rows_[count_] = row;
+    control.label = count_;
+    control.width = toldWidth(control.kind, place.width);
+    if (list) control.choices = static_cast<std::size_t>(*list);
+    rows_[count_] = {control, count_, section_, role, slot, place};
     ++count_;
   }
 
-  std::array<ControlRow, kControlCount> rows_{};
+  std::array<PropertyRow, kControlCount> rows_{};
   std::size_t count_ = 0;
   Section section_ = Section::Head;
 };
@@ -198,7 +211,7 @@ constexpr void addFrame(CTableBuilder& table) {
   table.begin(Section::Head);
   table.plain(HostControl::Border, Role::Decoration, from(2, kMargin, kEdge));  // a line below the head
   table.begin(Section::Frame);
-  table.plain(HostControl::Border, Role::Decoration, from(0, kMargin, kEdge));  // the frame of the bottom row
+  table.plain(HostControl::Border, Role::Decoration, from(0, kMargin, kEdge), kFootHeight);  // of the bottom row
   table.begin(Section::Buttons);
   table.plain(HostControl::Button, Role::Reset, endingAt(0, 95, kFootButtonWidth));
   table.plain(HostControl::Button, Role::ResetAll, endingAt(0, 165, kFootButtonWidth));
@@ -306,7 +319,7 @@ constexpr CTableBuilder build() {
 constexpr CTableBuilder kBuilt = build();
 static_assert(kBuilt.count() == kControlCount && texts::kPropertyLabelCount == kControlCount + 1);
 
-constexpr const std::array<ControlRow, kControlCount>& kControls = kBuilt.rows();
+constexpr const std::array<PropertyRow, kControlCount>& kControls = kBuilt.rows();
 
 // ---------------------------------------------------------------------------------------------------------------------
 // What must hold of the table
@@ -314,7 +327,7 @@ constexpr const std::array<ControlRow, kControlCount>& kControls = kBuilt.rows()
 // The name has a field of its own rule.
 constexpr bool everySettingIsShownOnce() {
   std::array<int, skg::kSlotCount> shown{};
-  for (const ControlRow& row : kControls) {
+  for (const PropertyRow& row : kControls) {
     if (row.slot) ++shown[skg::indexOf(*row.slot)];
   }
   for (const skg::SlotRow& row : skg::kSlotTable) {
@@ -327,9 +340,9 @@ static_assert(everySettingIsShownOnce());
 
 // A chooser or a fill button works on the field before it.
 constexpr bool fillersFollowTheirField() {
-  for (const ControlRow& row : kControls) {
+  for (const PropertyRow& row : kControls) {
     if (row.role != Role::WeightMaps && row.role != Role::LinkedFill && row.role != Role::ItemNames) continue;
-    const ControlRow& field = kControls[row.number - 1];
+    const PropertyRow& field = kControls[row.number - 1];
     if (field.kind != HostControl::Edit || !field.slot) return false;
   }
   return true;
@@ -348,7 +361,7 @@ static_assert(kControls[control::kNamePopup].role == Role::NamePopup);
 
 }  // namespace
 
-const std::array<ControlRow, kControlCount>& controlTable() { return kControls; }
+const std::array<PropertyRow, kControlCount>& controlTable() { return kControls; }
 
 ControlSlot ControlSlotMap(std::size_t control) {
   if (control >= kControlCount) return {};
@@ -359,7 +372,7 @@ ControlSlot ControlSlotMap(std::size_t control) {
 std::optional<std::size_t> controlOf(skg::Slot slot) {
   if (slot == Slot::Name) return control::kNameEdit;
   const auto found =
-      std::find_if(kControls.begin(), kControls.end(), [slot](const ControlRow& row) { return row.slot == slot; });
+      std::find_if(kControls.begin(), kControls.end(), [slot](const PropertyRow& row) { return row.slot == slot; });
   if (found == kControls.end()) return std::nullopt;
   return found->number;
 }

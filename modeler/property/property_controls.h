@@ -60,22 +60,19 @@ struct Place {
 
   int row = 0;    // within the section, from 0
   int x = 0;      // of the left edge, or of the right one
-  int width = 0;  // of the hot area
+  int width = 0;  // to which the hot area is brought, whatever width the host was told
   By by = By::HotArea;
 };
 
-struct ControlRow {
+struct PropertyRow : forms::ControlRow {
   std::size_t number = 0;
   Section section = Section::Head;
-  HostControl kind = HostControl::Border;
   Role role = Role::Decoration;
-  std::optional<skg::Slot> slot;             // the setting that it shows; none for all but values
-  std::optional<texts::ChoiceList> choices;  // of popups and tabs with a fixed list
+  std::optional<skg::Slot> slot;  // the setting that it shows; none for all but values
   Place place;
-  forms::Range range;  // of sliders for whole numbers
 };
 
-const std::array<ControlRow, kControlCount>& controlTable();
+const std::array<PropertyRow, kControlCount>& controlTable();
 
 // The kind of value and the setting of a control; nothing of both for a number beyond the table.
 struct ControlSlot {

@@ -1,7 +1,5 @@
 #include "modeler/property/property_form.h"
 
-#include <algorithm>
-
 #include "host/raised_flag.h"
 #include "modeler/property/property_layout.h"
 #include "modeler/property/property_store.h"
@@ -11,32 +9,19 @@
 namespace mst {
 namespace {
 
-// The host wants the width of an edit field in characters: fewer than fit, for the field is brought to its width anyway.
-int charactersIn(int width) {
-  constexpr int kWidestCharacter = 8;
-  return std::max(1, width / kWidestCharacter);
-}
-
-int entriesOf(texts::ChoiceList list) {
-  return static_cast<int>(texts::propertyChoices()[static_cast<std::size_t>(list)].count) - 1;  // without the null
-}
-
 // What a control shows of a stored number. An index outside its list, which a host may not bear, shows as the default; what
 // is stored stays, until the user chooses.
-int shownNumber(const ControlRow& row, int stored) {
+int shownNumber(const PropertyRow& row, int stored) {
   if (row.kind == HostControl::Bool || row.kind == HostControl::BoolButton) return stored != 0 ? 1 : 0;
-  if (!row.choices || (stored >= 0 && stored < entriesOf(*row.choices))) return stored;
+  if (!row.choices || texts::propertyChoices()[*row.choices].has(stored)) return stored;
   return skg::leadingInteger(skg::SlotDefaults(row.slot.value()));
 }
 
-// The field of a slider, which the host puts a handle beside.
-constexpr int kHandleWidth = 20;
-
 }  // namespace
 
-CPropertyForm::CPropertyForm(const char* title, const lw::PropertyTexts& texts, const FormHooks& hooks) : CPanel(title) {
-  for (const ControlRow& row : controlTable()) controls_[row.number] = make(row, texts, hooks.lists);
-  for (const ControlRow& row : controlTable()) {
+CPropertyForm::CPropertyForm(const char* title, const lw::PanelTexts& texts, const FormHooks& hooks) : CPanel(title) {
+  for (const PropertyRow& row : controlTable()) controls_[row.number] = add(row, texts, hooks.lists);
+  for (const PropertyRow& row : controlTable()) {
     place(row);
     controls_[row.number].setUser(hooks.controlUsers[row.number]);
     if (row.role != Role::Decoration) controls_[row.number].onEvent(hooks.used);
@@ -47,19 +32,7 @@ CPropertyForm::CPropertyForm(const char* title, const lw::PropertyTexts& texts, 
   setSize(kPropertyWidth, kPropertyHeight);
 }
 
-lw::CControl CPropertyForm::make(const ControlRow& row, const lw::PropertyTexts& texts, lw::PopupFunctions lists) const {
-  lw::NewControl control{.kind = row.kind, .label = (*texts.labels)[row.number], .width = row.place.width};
-  control.height = heightOf(row);
-  control.range = row.range;
-  control.functions = lists;
-  if (row.choices) control.choices = texts.choices.at(static_cast<std::size_t>(*row.choices));
-  if (row.kind == HostControl::Border) control.label = "";
-  if (row.kind == HostControl::Edit) control.width = charactersIn(row.place.width);
-  if (row.kind == HostControl::MiniSlider) control.width -= kHandleWidth;
-  return add(control);
-}
-
-void CPropertyForm::place(const ControlRow& row) const {
+void CPropertyForm::place(const PropertyRow& row) const {
   const lw::CControl& control = controls_[row.number];
   // Check marks and tabs are as wide as the host makes them.
   if (row.place.width > 0 && row.kind != HostControl::Bool) control.setHotWidth(row.place.width);
@@ -70,13 +43,13 @@ void CPropertyForm::place(const ControlRow& row) const {
 
 // Erasing a control paints over whatever is where it was: all that go, go before the first one is shown.
 void CPropertyForm::show(int page, int group, bool nameCanBeEdited) const {
-  const auto isVisible = [&](const ControlRow& row) {
+  const auto isVisible = [&](const PropertyRow& row) {
     if (row.role == Role::NameEdit) return nameCanBeEdited;
     if (row.role == Role::NamePopup) return !nameCanBeEdited;
     return isShown(row, page, group);
   };
   for (const bool visible : {false, true}) {
-    for (const ControlRow& row : controlTable()) {
+    for (const PropertyRow& row : controlTable()) {
       if (isVisible(row) == visible) controls_[row.number].show(visible);
     }
   }
@@ -102,7 +75,7 @@ void CPropertyForm::setValue(std::size_t number, const std::string& text) {
 void CPropertyForm::showValues(const skg::SkelegonProperties& properties) {
   const lw::CRaisedFlag setting(isSetting_);
   setText(control::kNameEdit, properties[skg::Slot::Name]);
-  for (const ControlRow& row : controlTable()) {
+  for (const PropertyRow& row : controlTable()) {
     if (row.slot) setValue(row.number, properties[*row.slot]);
   }
 }

@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <string>
 
-#include "host/lwtool2_globals.h"
 #include "host/lwtool2_panels.h"
 #include "modeler/property/property_controls.h"
 #include "skelegon/slots.h"
@@ -26,7 +25,7 @@ struct FormHooks {
 class CPropertyForm : public lw::CPanel {
  public:
   // Makes the panel, not yet open. The title must outlive it. Throws CBaseEx when the host refuses something.
-  CPropertyForm(const char* title, const lw::PropertyTexts& texts, const FormHooks& hooks);
+  CPropertyForm(const char* title, const lw::PanelTexts& texts, const FormHooks& hooks);
 
   // What is seen: the controls of a page and, on the last, of a group; and of the name's two controls one.
   void show(int page, int group, bool nameCanBeEdited) const;
@@ -50,8 +49,7 @@ class CPropertyForm : public lw::CPanel {
   bool isSetting() const { return isSetting_; }
 
  private:
-  lw::CControl make(const ControlRow& row, const lw::PropertyTexts& texts, lw::PopupFunctions lists) const;
-  void place(const ControlRow& row) const;
+  void place(const PropertyRow& row) const;
   void setText(std::size_t number, const std::string& text);
   void setValue(std::size_t number, const std::string& text);
 

@@ -60,24 +60,22 @@ constexpr std::array<SectionRow, kSectionCount> kSections = {{
 
 static_assert(skg::standInOrder(kSections, &SectionRow::section));
 
-const SectionRow& sectionOf(const ControlRow& row) { return kSections[static_cast<std::size_t>(row.section)]; }
+const SectionRow& sectionOf(const PropertyRow& row) { return kSections[static_cast<std::size_t>(row.section)]; }
 
 constexpr bool isOneOf(int wanted, int chosen) { return wanted == kAlways || wanted == chosen; }
 
 }  // namespace
 
-bool isShown(const ControlRow& row, int page, int group) {
+bool isShown(const PropertyRow& row, int page, int group) {
   const SectionRow& section = sectionOf(row);
   return isOneOf(section.page, page) && isOneOf(section.group, group);
 }
 
-forms::Position positionOf(const ControlRow& row, const forms::Measured& measured) {
+forms::Position positionOf(const PropertyRow& row, const forms::Measured& measured) {
   const SectionRow& section = sectionOf(row);
   const int y = yOfRow(section.top, section.blocks, row.place.row);
   if (row.place.by == Place::By::RightEdge) return {row.place.x - measured.width, y};
   return {row.place.x - measured.labelWidth, y};
 }
-
-int heightOf(const ControlRow& row) { return row.number == control::kFrame ? kFootHeight : 0; }
 
 }  // namespace mst

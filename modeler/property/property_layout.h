@@ -9,19 +9,15 @@ namespace mst {
 
 inline constexpr int kPropertyWidth = 385;
 inline constexpr int kPropertyHeight = 700;
-inline constexpr int kFootHeight = 35;  // of the frame around the bottom row
 
 inline constexpr int kPageCount = 4;
 inline constexpr int kControllersPage = 3;  // the page that has groups
 inline constexpr int kMotionGroupCount = static_cast<int>(skg::kMotionGroupCount);
 
 // Whether a control is to be seen while a page and, on the last page, a group is chosen.
-bool isShown(const ControlRow& row, int page, int group);
+bool isShown(const PropertyRow& row, int page, int group);
 
 // Where the upper left corner of a whole control goes.
-forms::Position positionOf(const ControlRow& row, const forms::Measured& measured);
-
-// The height of a control, where the host has to be told one; 0 where it has its own.
-int heightOf(const ControlRow& row);
+forms::Position positionOf(const PropertyRow& row, const forms::Measured& measured);
 
 }  // namespace mst

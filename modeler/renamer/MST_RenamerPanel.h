@@ -37,7 +37,7 @@ class RenamerPanel {
   static void OnNews(void* panel, PanelNews news);
 
   void build();
-  bool isInPresentLanguage() const { return made_.labels == lw::renamerTexts().labels; }
+  bool isInPresentLanguage() const { return made_.labels.data() == lw::renamerTexts().labels.data(); }
   bool isPanel(lw::PanelId panel) const { return form_ && form_->is(panel); }
   void complain(const RenameResult& result) const;
   void use(const lw::LWControl* control);

@@ -12,6 +12,7 @@ using List = texts::RenamerList;
 using Block = RenamerBlock;
 
 constexpr std::nullopt_t kNoLabel = std::nullopt;
+constexpr std::size_t of(List list) { return static_cast<std::size_t>(list); }
 
 constexpr RenamerPlace at(int x, int y, Block block = Block::None) { return {By::LeftEdge, x, y, block}; }
 constexpr RenamerPlace labelled(int y) { return {By::HotArea, 100, y, Block::None}; }
@@ -21,45 +22,45 @@ constexpr RenamerPlace beside(Block block, int y) { return {By::Beside, 0, y, bl
 // keeps clear of it.
 constexpr int kBorderTop = 568;
 constexpr int kRunTop = 600;
+constexpr int kBorderHeight = 30;
 
 // clang-format off
 constexpr std::array<RenamerRow, kRenamerItemCount> kTable = {{
-    // item                   kind              label      width  place                        number text
-    // choices
-    {Item::Mode,              Kind::Popup,      0,          140,  labelled(0),                 0,     "",                   List::RenameMode},
-    {Item::FirstText,         Kind::Edit,       kNoLabel,    33,  labelled(24),                0,     "",                   {}},
-    {Item::SecondText,        Kind::Edit,       kNoLabel,    33,  labelled(48),                0,     "",                   {}},
-    {Item::Target,            Kind::Popup,      16,         140,  labelled(72),                0,     "",                   List::RenameTarget},
-    {Item::RegisteredCount,   Kind::NumberInfo, 17,           0,  labelled(96),                0,     "",                   {}},
-    {Item::Add,               Kind::Button,     18,          60,  at(188, 96),                 0,     "",                   {}},
-    {Item::Clear,             Kind::Button,     19,          40,  at(248, 96),                 0,     "",                   {}},
-    {Item::ConversionHeading, Kind::Text,       3,            0,  at(4, 120),                  0,     "",                   {}},
-    {Item::BaseNameOn,        Kind::Bool,       4,            0,  at(4, 142, Block::Names),    0,     "",                   {}},
-    {Item::BaseName,          Kind::Edit,       kNoLabel,    34,  beside(Block::Names, 142),   0,     "Bone01_[col]_[row]", {}},
-    {Item::PrefixOn,          Kind::Bool,       6,            0,  at(4, 166, Block::Names),    0,     "",                   {}},
-    {Item::Prefix,            Kind::Edit,       kNoLabel,    34,  beside(Block::Names, 166),   0,     "",                   {}},
-    {Item::SuffixOn,          Kind::Bool,       8,            0,  at(4, 190, Block::Names),    0,     "",                   {}},
-    {Item::Suffix,            Kind::Edit,       kNoLabel,    34,  beside(Block::Names, 190),   0,     "",                   {}},
-    {Item::ReplaceOn,         Kind::Bool,       10,           0,  at(4, 214, Block::Names),    0,     "",                   {}},
-    {Item::ReplaceFrom,       Kind::Edit,       kNoLabel,    34,  beside(Block::Names, 214),   0,     "",                   {}},
-    {Item::ReplaceTo,         Kind::Edit,       kNoLabel,    34,  beside(Block::Names, 236),   0,     "",                   {}},
-    {Item::RegexOn,           Kind::Bool,       13,           0,  at(4, 260, Block::Names),    0,     "",                   {}},
-    {Item::RegexPattern,      Kind::Edit,       kNoLabel,    34,  beside(Block::Names, 260),   0,     "(.*)_L(.*)",         {}},
-    {Item::RegexFormat,       Kind::Edit,       kNoLabel,    34,  beside(Block::Names, 282),   0,     "$1_R$2",             {}},
-    {Item::ColumnOn,          Kind::Bool,       21,           0,  at(4, 318, Block::Columns),  0,     "",                   {}},
-    {Item::Order,             Kind::Popup,      22,         140,  beside(Block::Columns, 318), 0,     "",                   List::RenameOrder},
-    {Item::ColumnStart,       Kind::Popup,      23,         140,  beside(Block::Columns, 342), 0,     "",                   List::ColumnLetter},
-    {Item::Invert,            Kind::Bool,       24,           0,  at(140, 366),                0,     "",                   {}},
-    {Item::RowOn,             Kind::Bool,       25,           0,  at(4, 402, Block::Rows),     0,     "",                   {}},
-    {Item::RowDigits,         Kind::Number,     26,           0,  beside(Block::Rows, 402),    2,     "",                   {}},
-    {Item::RowStart,          Kind::Number,     27,           0,  beside(Block::Rows, 424),    1,     "",                   {}},
-    {Item::TagHeading,        Kind::Text,       28,           0,  at(4, 460),                  0,     "",                   {}},
-    {Item::SkelegonName,      Kind::Bool,       29,           0,  at(100, 460),                1,     "",                   {}},
-    {Item::WeightMap,         Kind::Bool,       30,           0,  at(100, 482),                1,     "",                   {}},
-    {Item::BoneProperty,      Kind::Bool,       31,           0,  at(100, 504),                0,     "",                   {}},
-    {Item::OverlapCheck,      Kind::Bool,       20,           0,  labelled(540),               1,     "",                   {}},
-    {Item::Border,            Kind::Border,     kNoLabel,   320,  at(0, kBorderTop),           0,     "",                   {}},
-    {Item::Run,               Kind::Button,     33,          80,  at(120, kRunTop),            0,     "",                   {}},
+    // kind             label    width list                     item                     place                        number, text
+    {{Kind::Popup,      0,        140, of(List::RenameMode)},   Item::Mode,              labelled(0)},
+    {{Kind::Edit,       kNoLabel,  33},                         Item::FirstText,         labelled(24)},
+    {{Kind::Edit,       kNoLabel,  33},                         Item::SecondText,        labelled(48)},
+    {{Kind::Popup,      16,       140, of(List::RenameTarget)}, Item::Target,            labelled(72)},
+    {{Kind::NumberInfo, 17,         0},                         Item::RegisteredCount,   labelled(96)},
+    {{Kind::Button,     18,        60},                         Item::Add,               at(188, 96)},
+    {{Kind::Button,     19,        40},                         Item::Clear,             at(248, 96)},
+    {{Kind::Text,       3,          0},                         Item::ConversionHeading, at(4, 120)},
+    {{Kind::Bool,       4,          0},                         Item::BaseNameOn,        at(4, 142, Block::Names)},
+    {{Kind::Edit,       kNoLabel,  34},                         Item::BaseName,          beside(Block::Names, 142),   0, "Bone01_[col]_[row]"},
+    {{Kind::Bool,       6,          0},                         Item::PrefixOn,          at(4, 166, Block::Names)},
+    {{Kind::Edit,       kNoLabel,  34},                         Item::Prefix,            beside(Block::Names, 166)},
+    {{Kind::Bool,       8,          0},                         Item::SuffixOn,          at(4, 190, Block::Names)},
+    {{Kind::Edit,       kNoLabel,  34},                         Item::Suffix,            beside(Block::Names, 190)},
+    {{Kind::Bool,       10,         0},                         Item::ReplaceOn,         at(4, 214, Block::Names)},
+    {{Kind::Edit,       kNoLabel,  34},                         Item::ReplaceFrom,       beside(Block::Names, 214)},
+    {{Kind::Edit,       kNoLabel,  34},                         Item::ReplaceTo,         beside(Block::Names, 236)},
+    {{Kind::Bool,       13,         0},                         Item::RegexOn,           at(4, 260, Block::Names)},
+    {{Kind::Edit,       kNoLabel,  34},                         Item::RegexPattern,      beside(Block::Names, 260),   0, "(.*)_L(.*)"},
+    {{Kind::Edit,       kNoLabel,  34},                         Item::RegexFormat,       beside(Block::Names, 282),   0, "$1_R$2"},
+    {{Kind::Bool,       21,         0},                         Item::ColumnOn,          at(4, 318, Block::Columns)},
+    {{Kind::Popup,      22,       140, of(List::RenameOrder)},  Item::Order,             beside(Block::Columns, 318)},
+    {{Kind::Popup,      23,       140, of(List::ColumnLetter)}, Item::ColumnStart,       beside(Block::Columns, 342)},
+    {{Kind::Bool,       24,         0},                         Item::Invert,            at(140, 366)},
+    {{Kind::Bool,       25,         0},                         Item::RowOn,             at(4, 402, Block::Rows)},
+    {{Kind::Number,     26,         0},                         Item::RowDigits,         beside(Block::Rows, 402),    2},
+    {{Kind::Number,     27,         0},                         Item::RowStart,          beside(Block::Rows, 424),    1},
+    {{Kind::Text,       28,         0},                         Item::TagHeading,        at(4, 460)},
+    {{Kind::Bool,       29,         0},                         Item::SkelegonName,      at(100, 460),                1},
+    {{Kind::Bool,       30,         0},                         Item::WeightMap,         at(100, 482),                1},
+    {{Kind::Bool,       31,         0},                         Item::BoneProperty,      at(100, 504)},
+    {{Kind::Bool,       20,         0},                         Item::OverlapCheck,      labelled(540),               1},
+    {{Kind::Border,     kNoLabel, 320, {}, kBorderHeight},      Item::Border,            at(0, kBorderTop)},
+    {{Kind::Button,     33,        80},                         Item::Run,               at(120, kRunTop)},
 }};
 // clang-format on
 

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cstddef>
-#include <optional>
 
 #include "forms/controls.h"
 #include "texts/texts.h"
@@ -67,15 +66,11 @@ struct RenamerPlace {
   RenamerBlock block = RenamerBlock::None;
 };
 
-struct RenamerRow {
+struct RenamerRow : forms::ControlRow {
   RenamerItem item = RenamerItem::Mode;
-  HostControl kind = HostControl::Border;
-  std::optional<std::size_t> label;  // place in the label table; none: no label
-  int width = 0;                     // of the hot area in pixels, of fields in characters; 0: the host's
   RenamerPlace place;
   int number = 0;         // what it shows at first: index, count, on or off
   const char* text = "";  // likewise of fields
-  std::optional<texts::RenamerList> choices;
 };
 
 const std::array<RenamerRow, kRenamerItemCount>& renamerTable();

@@ -1,7 +1,6 @@
 #include "modeler/renamer/renamer_form.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "host/raised_flag.h"
 
@@ -20,15 +19,13 @@ bool holdsNumber(HostControl kind) {
 
 // Of a list, an index of one of its entries; of all others, any number.
 bool isChoice(const RenamerRow& row, int number) {
-  if (!row.choices) return true;
-  const unsigned entries = texts::renamerChoices()[static_cast<std::size_t>(*row.choices)].count - 1;  // without the null
-  return number >= 0 && static_cast<unsigned>(number) < entries;
+  return !row.choices || texts::renamerChoices()[*row.choices].has(number);
 }
 
 }  // namespace
 
-CRenamerForm::CRenamerForm(const char* title, const lw::RenamerTexts& texts, const RenamerHooks& hooks) : CPanel(title) {
-  for (const RenamerRow& row : renamerTable()) controls_[indexOf(row.item)] = make(row, texts);
+CRenamerForm::CRenamerForm(const char* title, const lw::PanelTexts& texts, const RenamerHooks& hooks) : CPanel(title) {
+  for (const RenamerRow& row : renamerTable()) controls_[indexOf(row.item)] = add(row, texts);
   for (const RenamerRow& row : renamerTable()) {
     at(row.item).setUser(hooks.user);
     if (row.kind == HostControl::Edit) setText(row.item, row.text, false);
@@ -45,18 +42,6 @@ CRenamerForm::CRenamerForm(const char* title, const lw::RenamerTexts& texts, con
   onClose(hooks.closed);
   setGreatestSize(kOutOfSight.x, kOutOfSight.y);
   lookLike(RenameMode::Change, false);
-}
-
-lw::CControl CRenamerForm::make(const RenamerRow& row, const lw::RenamerTexts& texts) {
-  lw::NewControl control{.kind = row.kind, .label = row.label ? (*texts.labels)[*row.label] : "", .width = row.width};
-  if (row.kind == HostControl::Border) control.height = kRenamerBorderHeight;
-  if (row.kind == HostControl::Text) {  // the label is the text
-    Lines& lines = headings_[indexOf(row.item)];
-    lines = {std::exchange(control.label, ""), nullptr};
-    control.lines = lines.data();
-  }
-  if (row.choices) control.choices = texts.choices.at(static_cast<std::size_t>(*row.choices));
-  return add(control);
 }
 
 void CRenamerForm::placeAtHome() const {

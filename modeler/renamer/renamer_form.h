@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <string>
 
-#include "host/lwtool2_globals.h"
 #include "host/lwtool2_panels.h"
 #include "modeler/renamer/rename_rules.h"
 #include "modeler/renamer/renamer_layout.h"
@@ -31,11 +30,7 @@ class CRenamerForm : public lw::CPanel {
  public:
   // Makes the panel with the defaults, not yet open, in the layout of the first mode. The title must outlive it. Throws
   // CBaseEx when the host refuses something.
-  CRenamerForm(const char* title, const lw::RenamerTexts& texts, const RenamerHooks& hooks);
-
-  // The host may keep pointers into it: it stays where it is.
-  CRenamerForm(const CRenamerForm&) = delete;
-  CRenamerForm& operator=(const CRenamerForm&) = delete;
+  CRenamerForm(const char* title, const lw::PanelTexts& texts, const RenamerHooks& hooks);
 
   // Resizable, for only then the size can change while it is open.
   int open() const { return CPanel::open(lw::kOpenNoButtons | lw::kOpenResizable); }
@@ -62,15 +57,11 @@ class CRenamerForm : public lw::CPanel {
   bool isSetting() const { return isSetting_; }
 
  private:
-  using Lines = std::array<const char*, 2>;
-
-  lw::CControl make(const RenamerRow& row, const lw::RenamerTexts& texts);
   void placeAtHome() const;
   void showAll(bool visible) const;
   const lw::CControl& at(RenamerItem item) const { return controls_[indexOf(item)]; }
   bool isOn(RenamerItem item) const { return number(item) != 0; }
 
-  std::array<Lines, kRenamerItemCount> headings_{};  // the host may keep pointers to them
   std::array<lw::CControl, kRenamerItemCount> controls_;
   RenamerPositions homes_{};
   bool isSetting_ = false;

@@ -11,7 +11,6 @@ namespace mst {
 inline constexpr int kRenamerWidth = 320;
 inline constexpr int kRenamerSimpleHeight = 130;
 inline constexpr int kRenamerAdvancedHeight = 630;
-inline constexpr int kRenamerBorderHeight = 30;
 
 constexpr bool isSimple(RenameMode mode) { return mode != RenameMode::Advanced; }
 constexpr int renamerHeight(RenameMode mode) { return isSimple(mode) ? kRenamerSimpleHeight : kRenamerAdvancedHeight; }

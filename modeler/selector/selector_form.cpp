@@ -10,6 +10,7 @@ using forms::HostControl;
 constexpr int kMargin = 5;  // left of tree and frame, and above the tree
 constexpr int kFrameHeight = 30;
 constexpr int kFrameFromBottom = 40;
+constexpr const char* kLabels[] = {"Sync"};
 constexpr int kSyncWidth = 80;
 constexpr int kSyncRightEdge = 90;
 constexpr int kSyncFromBottom = 35;
@@ -35,7 +36,7 @@ int bitsOfButton(int button) {
 CSelectorForm::CSelectorForm(const char* title, const SelectorHooks& hooks) : CPanel(title) {
   tree_ = add({.kind = HostControl::OpenGL, .width = 340, .height = 240});
   frame_ = add({.kind = HostControl::Border, .width = 360, .height = kFrameHeight});
-  sync_ = add({.kind = HostControl::Button, .label = "Sync", .width = kSyncWidth});
+  sync_ = add({.kind = HostControl::Button, .label = 0, .width = kSyncWidth}, {.labels = kLabels});
   for (const lw::CControl& control : {tree_, frame_, sync_}) control.setUser(hooks.user);
   tree_.onEvent(hooks.treeUsed);
   tree_.onDraw(hooks.drawTree);

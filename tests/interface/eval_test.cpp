@@ -244,10 +244,10 @@ TEST_F(InModeler, LoadersLeaveTheirListsAsLongAsTheyAre) {
 TEST_F(InModeler, TheLowSixteenBitsOfTheLocaleDecide) {
   standin::globals().offerNumber("Locale Info", 0x10411);
   LoadModelerStrings(standin::Globals::lookup());
-  EXPECT_STREQ((*propertyTexts().labels)[7], "スケルゴン");
+  EXPECT_STREQ(propertyTexts().labels[7], "スケルゴン");
   standin::globals().offerNumber("Locale Info", 0x04110409);
   LoadModelerStrings(standin::Globals::lookup());
-  EXPECT_STREQ((*propertyTexts().labels)[7], "Skelegon");
+  EXPECT_STREQ(propertyTexts().labels[7], "Skelegon");
 }
 
 }  // namespace

@@ -156,7 +156,7 @@ class ThreePanelsUsed : public ThreePanels {
     if (mesh.selected().empty()) shownOfNone[static_cast<Slot>(slot)] = text;
   }
 
-  void useValueControl(const mst::ControlRow& row, Control* control) {
+  void useValueControl(const mst::PropertyRow& row, Control* control) {
     switch (row.kind) {
       case mst::HostControl::Bool:
       case mst::HostControl::BoolButton: EXPECT_TRUE(person::toggle(control)); break;
@@ -170,7 +170,7 @@ class ThreePanelsUsed : public ThreePanels {
 
   // The panel itself looks again only after what changes more than one control; the others are told of every change.
   void changeValue() {
-    const mst::ControlRow& row = mst::controlTable()[9 + placeBelow(183)];
+    const mst::PropertyRow& row = mst::controlTable()[9 + placeBelow(183)];
     if (!row.slot) return;
     show(row.number);
     Control* const control = field(row.number);

@@ -134,7 +134,7 @@ class ThreePanels : public testing::Test, protected ModelerSession {
   }
 
   // The value of a control as it would be stored.
-  static std::string valueOf(const mst::ControlRow& row, const Control& control) {
+  static std::string valueOf(const mst::PropertyRow& row, const Control& control) {
     switch (mst::ControlSlotMap(row.number).value) {
       case mst::ValueKind::Integer: return std::to_string(control.integer);
       case mst::ValueKind::Real: return realText(control.real);
@@ -154,7 +154,7 @@ class ThreePanels : public testing::Test, protected ModelerSession {
 
     const walk::Skelegon* const shown = selected.empty() ? nullptr : &mesh[selected[shownOfSelected]];
     EXPECT_EQ(field(mst::control::kNameEdit)->text, shown == nullptr ? "" : shown->name());
-    for (const mst::ControlRow& row : mst::controlTable()) {
+    for (const mst::PropertyRow& row : mst::controlTable()) {
       if (!row.slot) continue;
       const bool isReal = mst::ControlSlotMap(row.number).value == mst::ValueKind::Real;
       const std::string expected = storedValue(shown, *row.slot);

@@ -56,14 +56,18 @@ constexpr int kSlotOfControl[kControlCount] = {
 };
 // clang-format on
 
-const skg::SlotRow& settingOf(const ControlRow& row) { return skg::kSlotTable[skg::indexOf(row.slot.value())]; }
+const skg::SlotRow& settingOf(const PropertyRow& row) { return skg::kSlotTable[skg::indexOf(row.slot.value())]; }
 
-std::vector<ControlRow> valueControls() {
-  std::vector<ControlRow> rows;
-  for (const ControlRow& row : controlTable()) {
+std::vector<PropertyRow> valueControls() {
+  std::vector<PropertyRow> rows;
+  for (const PropertyRow& row : controlTable()) {
     if (row.slot) rows.push_back(row);
   }
   return rows;
+}
+
+std::optional<ChoiceList> listOf(const PropertyRow& row) {
+  return row.choices ? std::optional(static_cast<ChoiceList>(*row.choices)) : std::nullopt;
 }
 
 std::string label(std::size_t control) { return texts::propertyLabels(texts::Language::English)[control]; }
@@ -81,7 +85,7 @@ TEST(PropertyControls, ShowTheirSettings) {
 
 TEST(PropertyControls, ShowEverySettingButTheReservedOnesExactlyOnce) {
   std::multiset<Slot> shown = {Slot::Name};  // by the name field
-  for (const ControlRow& row : valueControls()) shown.insert(*row.slot);
+  for (const PropertyRow& row : valueControls()) shown.insert(*row.slot);
   for (const skg::SlotRow& row : skg::kSlotTable) {
     EXPECT_EQ(shown.count(row.slot), row.kind == SlotKind::Reserved ? 0U : 1U) << skg::indexOf(row.slot);
   }
@@ -89,7 +93,7 @@ TEST(PropertyControls, ShowEverySettingButTheReservedOnesExactlyOnce) {
 }
 
 TEST(PropertyControls, AreFoundByTheirSetting) {
-  for (const ControlRow& row : valueControls()) EXPECT_EQ(controlOf(*row.slot), row.number);
+  for (const PropertyRow& row : valueControls()) EXPECT_EQ(controlOf(*row.slot), row.number);
   EXPECT_EQ(controlOf(Slot::Name), control::kNameEdit);
   EXPECT_EQ(controlOf(Slot::Reserved144), std::nullopt);
 }
@@ -108,7 +112,7 @@ TEST(PropertyControls, AreOfTheKindThatTheirSettingNeeds) {
       {SlotKind::WeightMapName, {HostControl::Edit}},
       {SlotKind::Colour, {HostControl::Popup}},
   };
-  for (const ControlRow& row : valueControls()) {
+  for (const PropertyRow& row : valueControls()) {
     EXPECT_TRUE(fitting.at(settingOf(row).kind).count(row.kind) != 0) << row.number;
   }
 }
@@ -122,7 +126,7 @@ TEST(PropertyControls, TakeTheKindOfValueThatTheirSettingStores) {
       {SlotKind::ObjectName, ValueKind::Text}, {SlotKind::WeightMapName, ValueKind::Text},
       {SlotKind::Colour, ValueKind::Colour},
   };
-  for (const ControlRow& row : valueControls()) {
+  for (const PropertyRow& row : valueControls()) {
     EXPECT_EQ(ControlSlotMap(row.number).value, stored.at(settingOf(row).kind)) << row.number;
   }
 }
@@ -134,7 +138,7 @@ TEST(PropertyControls, WithoutASettingTakeNoValue) {
 }
 
 TEST(PropertyControls, BearTheLabelOfTheirSetting) {
-  for (const ControlRow& row : valueControls()) {
+  for (const PropertyRow& row : valueControls()) {
     const std::string text = label(row.number);
     if (text == "x/+") continue;  // spelled with a capital in the table of settings
     EXPECT_EQ(std::string(settingOf(row).setting).substr(0, text.size()), text) << row.number;
@@ -142,7 +146,7 @@ TEST(PropertyControls, BearTheLabelOfTheirSetting) {
 }
 
 TEST(PropertyControls, ShowTheFlagsOfShapesAsButtons) {
-  for (const ControlRow& row : valueControls()) {
+  for (const PropertyRow& row : valueControls()) {
     EXPECT_EQ(row.kind == HostControl::BoolButton, label(row.number) == "Shp") << row.number;
   }
 }
@@ -155,18 +159,18 @@ TEST(PropertyControls, OfferTheListOfTheirSetting) {
       {"Soft IK", ChoiceList::SoftIK},           {"Distance Type", ChoiceList::DistanceType},
       {"Follow", ChoiceList::FollowChannel},     {"Rotation Order", ChoiceList::RotationOrder},
   };
-  for (const ControlRow& row : valueControls()) {
+  for (const PropertyRow& row : valueControls()) {
     const std::string setting = settingOf(row).setting;
     if (row.kind != HostControl::Popup) {
-      EXPECT_EQ(row.choices, std::nullopt) << row.number;
+      EXPECT_EQ(listOf(row), std::nullopt) << row.number;
     } else if (row.slot == Slot::IKInitialState) {
-      EXPECT_EQ(row.choices, ChoiceList::IKInitialState);
+      EXPECT_EQ(listOf(row), ChoiceList::IKInitialState);
     } else if (setting.find("blend method") != std::string::npos) {
-      EXPECT_EQ(row.choices, ChoiceList::BlendMethod) << row.number;
+      EXPECT_EQ(listOf(row), ChoiceList::BlendMethod) << row.number;
     } else if (setting.find("Controller") != std::string::npos) {
-      EXPECT_EQ(row.choices, ChoiceList::Controller) << row.number;
+      EXPECT_EQ(listOf(row), ChoiceList::Controller) << row.number;
     } else {
-      EXPECT_EQ(row.choices, lists.at(label(row.number))) << row.number;
+      EXPECT_EQ(listOf(row), lists.at(label(row.number))) << row.number;
     }
   }
 }
@@ -180,7 +184,7 @@ TEST(PropertyControls, FillButtonsAndChoosersFollowTheirField) {
       {132, Slot::RotationParent}, {160, Slot::ScaleItem},          {165, Slot::ScaleParent},
   };
   std::size_t found = 0;
-  for (const ControlRow& row : controlTable()) {
+  for (const PropertyRow& row : controlTable()) {
     if (row.role != Role::WeightMaps && row.role != Role::LinkedFill && row.role != Role::ItemNames) continue;
     EXPECT_EQ(ControlSlotMap(row.number - 1).slot, fields.at(row.number)) << row.number;
     ++found;
@@ -189,7 +193,7 @@ TEST(PropertyControls, FillButtonsAndChoosersFollowTheirField) {
 }
 
 TEST(PropertyControls, FillButtonsAreThoseWithTheArrow) {
-  for (const ControlRow& row : controlTable()) {
+  for (const PropertyRow& row : controlTable()) {
     const bool fills = row.role == Role::LinkedFill || row.role == Role::WeightFill;
     EXPECT_EQ(fills, label(row.number) == "\x03(i:MIMG_LEFTARROW)") << row.number;
   }

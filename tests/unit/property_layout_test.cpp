@@ -61,19 +61,19 @@ struct Seen {
   int choicesWidth = 0;  // what the choices or the label of a button need
 };
 
-std::vector<std::string> choicesOf(const ControlRow& row, Language language) {
+std::vector<std::string> choicesOf(const PropertyRow& row, Language language) {
   std::vector<std::string> list;
   if (!row.choices) return list;
-  const texts::Choices choices = texts::propertyChoices()[static_cast<std::size_t>(*row.choices)].in(language);
+  const texts::Choices choices = texts::propertyChoices()[*row.choices].in(language);
   for (texts::Choices choice = choices; *choice != nullptr; ++choice) list.emplace_back(*choice);
   return list;
 }
 
-bool drawsLabelInside(const ControlRow& row) {
+bool drawsLabelInside(const PropertyRow& row) {
   return row.kind == HostControl::Button || row.kind == HostControl::BoolButton || row.kind == HostControl::Border;
 }
 
-int neededWidth(const ControlRow& row, Language language, const std::string& label) {
+int neededWidth(const PropertyRow& row, Language language, const std::string& label) {
   int widest = 0;
   int sum = 0;
   for (const std::string& choice : choicesOf(row, language)) {
@@ -86,18 +86,18 @@ int neededWidth(const ControlRow& row, Language language, const std::string& lab
   return 0;
 }
 
-int hotWidth(const ControlRow& row, Language language) {
+int hotWidth(const PropertyRow& row, Language language) {
   if (row.kind == HostControl::Bool) return kCheckWidth;
   if (row.kind == HostControl::Tabs) return neededWidth(row, language, "");
   return row.place.width;
 }
 
-Seen seen(const ControlRow& row, Language language) {
+Seen seen(const PropertyRow& row, Language language) {
   const std::string label = texts::propertyLabels(language)[row.number];
   const int labelWidth = drawsLabelInside(row) || label.empty() ? 0 : textWidth(label) + kLabelGap;
   const int hot = hotWidth(row, language);
   const forms::Position at = positionOf(row, {labelWidth + hot, labelWidth});
-  const int bottom = at.y + (row.kind == HostControl::Border ? std::max(2, heightOf(row)) : kFieldHeight);
+  const int bottom = at.y + (row.kind == HostControl::Border ? std::max(2, row.height) : kFieldHeight);
   Seen result;
   result.label = {row.number, at.x, at.y, at.x + std::max(0, labelWidth - kLabelGap), bottom};
   result.hot = {row.number, at.x + labelWidth, at.y, at.x + labelWidth + hot, bottom};
@@ -137,7 +137,7 @@ std::string describe(const Form& form) {
 
 std::vector<Seen> seenIn(const Form& form) {
   std::vector<Seen> all;
-  for (const ControlRow& row : controlTable()) {
+  for (const PropertyRow& row : controlTable()) {
     if (!isShown(row, form.page, form.group)) continue;
     if (row.role == (form.nameCanBeEdited ? Role::NamePopup : Role::NameEdit)) continue;
     all.push_back(seen(row, form.language));
@@ -201,7 +201,7 @@ TEST_P(EveryForm, HasRowsThatAreAligned) {
 TEST_P(EveryForm, HasFieldsThatLineUp) {
   const std::set<int> lines = {136, 155, 208, 310};
   for (const Seen& control : seenIn(GetParam())) {
-    const ControlRow& row = controlTable()[control.hot.number];
+    const PropertyRow& row = controlTable()[control.hot.number];
     const bool isField = row.kind == HostControl::Percent || row.kind == HostControl::Float ||
                          row.kind == HostControl::Angle || row.kind == HostControl::Distance ||
                          row.kind == HostControl::MiniSlider || row.kind == HostControl::Bool ||
@@ -246,7 +246,7 @@ TEST(PropertyLayout, ALinkedItemTakesTwoRows) {
 }
 
 TEST(PropertyLayout, ChoosersAndFillButtonsStandBehindTheirField) {
-  for (const ControlRow& row : controlTable()) {
+  for (const PropertyRow& row : controlTable()) {
     if (row.role != Role::WeightMaps && row.role != Role::LinkedFill && row.role != Role::ItemNames) continue;
     EXPECT_EQ(seen(row.number).hot.top, seen(row.number - 1).hot.top) << row.number;
     EXPECT_GT(seen(row.number).hot.left, seen(row.number - 1).hot.right) << row.number;
@@ -286,7 +286,7 @@ TEST(PropertyLayout, AButtonOfAnotherWidthStillEndsAtItsPlace) {
 
 // Whatever the host makes of the label, the field stands where the others stand.
 TEST(PropertyLayout, AFieldStaysWithALabelOfAnotherWidth) {
-  const ControlRow& strength = controlTable()[controlOf(Slot::Strength).value()];
+  const PropertyRow& strength = controlTable()[controlOf(Slot::Strength).value()];
   EXPECT_EQ(positionOf(strength, {150, 80}).x + 80, positionOf(strength, {110, 40}).x + 40);
 }
 

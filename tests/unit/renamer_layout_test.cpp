@@ -99,7 +99,7 @@ TEST(RenamerHomes, AlignHotAreasBesideCheckMarksWhateverTheirLabels) {
 
 TEST(RenamerHomes, KeepBorderAndButtonBelowTheLastControl) {
   EXPECT_GE(home(Item::Border).y, home(Item::OverlapCheck).y + 20);
-  EXPECT_GE(home(Item::Run).y, home(Item::Border).y + mst::kRenamerBorderHeight);
+  EXPECT_GE(home(Item::Run).y, home(Item::Border).y + mst::renamerTable()[mst::indexOf(Item::Border)].height);
   EXPECT_LE(home(Item::Run).y + 20, mst::kRenamerAdvancedHeight);
 }
 

@@ -65,7 +65,7 @@ TEST(StoredSettings, AreDocumentedAsTheTableHasThem) {
 }
 
 TEST(StoredSettings, LinkEachChoiceToItsList) {
-  for (const mst::ControlRow& control : mst::controlTable()) {
+  for (const mst::PropertyRow& control : mst::controlTable()) {
     if (!control.slot || !control.choices) continue;
     const std::string row = rowOf(skg::kSlotTable[skg::indexOf(*control.slot)]);
     const std::size_t link = document().find("](#", document().find(row) + row.size());
