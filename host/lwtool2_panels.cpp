@@ -132,9 +132,11 @@ int CControl::measure(ControlAttribute attribute) const {
   return value.intv.value;
 }
 
-void CControl::moveTo(int x, int y) const {
-  setNumber(kControlX, x);
-  setNumber(kControlY, y);
+forms::Measured CControl::measured() const { return {measure(kControlWidth), measure(kControlLabelWidth)}; }
+
+void CControl::moveTo(forms::Position position) const {
+  setNumber(kControlX, position.x);
+  setNumber(kControlY, position.y);
 }
 
 void CControl::setHotWidth(int width) const {
@@ -220,11 +222,11 @@ void CPanel::bringToFront() const {
   panels().set(panel_, kPanelToFront, &yes);
 }
 
-void CPanel::setUser(void* user) const { panels().set(panel_, kPanelUserData, user); }
-
-void CPanel::onOpen(PanelHook hook) const { panels().set(panel_, kPanelOpenHook, reinterpret_cast<void*>(hook)); }
-
-void CPanel::onClose(PanelHook hook) const { panels().set(panel_, kPanelCloseHook, reinterpret_cast<void*>(hook)); }
+void CPanel::setHooks(void* user, PanelHook opened, PanelHook closed) const {
+  panels().set(panel_, kPanelUserData, user);
+  panels().set(panel_, kPanelOpenHook, reinterpret_cast<void*>(opened));
+  panels().set(panel_, kPanelCloseHook, reinterpret_cast<void*>(closed));
+}
 
 void CPanel::onMouse(PanelMouseHook button, PanelMouseHook motion, PanelMouseHook wheel) const {
   panels().set(panel_, kPanelMouseButtonHook, reinterpret_cast<void*>(button));

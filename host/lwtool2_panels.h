@@ -38,7 +38,8 @@ class CControl {
 
   // A number that the host knows of the control, in pixels: place, size, label width.
   int measure(ControlAttribute attribute) const;
-  void moveTo(int x, int y) const;
+  forms::Measured measured() const;
+  void moveTo(forms::Position position) const;
   // Makes the part without the label this wide or high.
   void setHotWidth(int width) const;
   void setHotHeight(int height) const;
@@ -74,7 +75,8 @@ class CPanel {
   CPanel(const CPanel&) = delete;
   CPanel& operator=(const CPanel&) = delete;
 
-  // Before the panel opens. The texts must live as long as it does: the host may keep the pointers. `lists`: of custom popups.
+  // Before the panel opens. Labels and lists must live as long as it does: the host may keep the pointers. `lists` is of
+  // custom popups.
   CControl add(const forms::ControlRow& row, const PanelTexts& texts = {}, const PopupFunctions& lists = {});
 
   void setSize(int width, int height) const;
@@ -86,11 +88,8 @@ class CPanel {
   // Paints everything again, as it is now.
   void redraw() const;
   void bringToFront() const;
-  // The user pointer reaches the panel's hooks. They tell when the panel is shown and when it closes, whoever
-  // closes it.
-  void setUser(void* user) const;
-  void onOpen(PanelHook hook) const;
-  void onClose(PanelHook hook) const;
+  // They tell when the panel is shown and when it closes, whoever closes it. The user pointer reaches all the panel's hooks.
+  void setHooks(void* user, PanelHook opened, PanelHook closed) const;
   // Positions are relative to the panel. The wheel's bits are a signed count of clicks.
   void onMouse(PanelMouseHook button, PanelMouseHook motion, PanelMouseHook wheel) const;
   void onResize(PanelResizeHook hook) const;

@@ -45,10 +45,10 @@ void CSkgConvPanel::build() {
   const lw::CControl run =
       panel.add({.kind = HostControl::Button, .label = at(texts::LayoutText::Run), .width = kRunButtonWidth}, texts);
 
-  convert.moveTo(10, 10);
-  pivot.moveTo(10, 30);
-  border.moveTo(5, 65);
-  run.moveTo(kRunHotX - run.measure(lw::kControlLabelWidth), 70);
+  convert.moveTo({10, 10});
+  pivot.moveTo({10, 30});
+  border.moveTo({5, 65});
+  run.moveTo({kRunHotX - run.measure(lw::kControlLabelWidth), 70});
 
   convert.setInteger(s.executeSkelegonToBone);
   pivot.setInteger(s.recordPivotRotation);
@@ -56,9 +56,7 @@ void CSkgConvPanel::build() {
   convert.onEvent(&OnOptionChanged);
   pivot.onEvent(&OnOptionChanged);
   run.onEvent(&RunConversion);
-  panel.setUser(this);
-  panel.onOpen(&OnOpened);
-  panel.onClose(&OnClosed);
+  panel.setHooks(this, &OnOpened, &OnClosed);
   panel.setSize(kPanelWidth, kPanelHeight);
 
   // Only now: a panel that the host refused leaves the former one.

@@ -5,6 +5,7 @@
 
 #include "skelegon/setting_groups.h"
 #include "skelegon/slot_table.h"
+#include "texts/texts.h"
 
 namespace mst {
 namespace {

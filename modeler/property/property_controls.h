@@ -8,7 +8,6 @@
 
 #include "forms/controls.h"
 #include "skelegon/slots.h"
-#include "texts/texts.h"
 
 namespace mst {
 

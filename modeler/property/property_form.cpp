@@ -4,6 +4,7 @@
 #include "modeler/property/property_layout.h"
 #include "modeler/property/property_store.h"
 #include "skelegon/numbers.h"
+#include "texts/texts.h"
 #include "texts/whole_text.h"
 
 namespace mst {
@@ -26,9 +27,7 @@ CPropertyForm::CPropertyForm(const char* title, const lw::PanelTexts& texts, con
     controls_[row.number].setUser(hooks.controlUsers[row.number]);
     if (row.role != Role::Decoration) controls_[row.number].onEvent(hooks.used);
   }
-  setUser(hooks.panelUser);
-  onOpen(hooks.opened);
-  onClose(hooks.closed);
+  setHooks(hooks.panelUser, hooks.opened, hooks.closed);
   setSize(kPropertyWidth, kPropertyHeight);
 }
 
@@ -36,9 +35,7 @@ void CPropertyForm::place(const PropertyRow& row) const {
   const lw::CControl& control = controls_[row.number];
   // Check marks and tabs are as wide as the host makes them.
   if (row.place.width > 0 && row.kind != HostControl::Bool) control.setHotWidth(row.place.width);
-  const forms::Position position =
-      positionOf(row, {control.measure(lw::kControlWidth), control.measure(lw::kControlLabelWidth)});
-  control.moveTo(position.x, position.y);
+  control.moveTo(positionOf(row, control.measured()));
 }
 
 // Erasing a control paints over whatever is where it was: all that go, go before the first one is shown.

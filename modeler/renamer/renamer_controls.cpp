@@ -1,6 +1,7 @@
 #include "modeler/renamer/renamer_controls.h"
 
 #include "skelegon/table_order.h"
+#include "texts/texts.h"
 
 namespace mst {
 namespace {

@@ -6,7 +6,6 @@
 #include <cstddef>
 
 #include "forms/controls.h"
-#include "texts/texts.h"
 
 namespace mst {
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/raised_flag.h"
+#include "texts/texts.h"
 
 namespace mst {
 namespace {
@@ -37,20 +38,16 @@ CRenamerForm::CRenamerForm(const char* title, const lw::PanelTexts& texts, const
   for (std::size_t i = 0; i < kRenamerItemCount; ++i) {
     homes_[i] = {controls_[i].measure(lw::kControlX), controls_[i].measure(lw::kControlY)};
   }
-  setUser(hooks.user);
-  onOpen(hooks.opened);
-  onClose(hooks.closed);
+  setHooks(hooks.user, hooks.opened, hooks.closed);
   setGreatestSize(kOutOfSight.x, kOutOfSight.y);
   lookLike(RenameMode::Change, false);
 }
 
 void CRenamerForm::placeAtHome() const {
   std::array<forms::Measured, kRenamerItemCount> measures;
-  for (std::size_t i = 0; i < kRenamerItemCount; ++i) {
-    measures[i] = {controls_[i].measure(lw::kControlWidth), controls_[i].measure(lw::kControlLabelWidth)};
-  }
+  for (std::size_t i = 0; i < kRenamerItemCount; ++i) measures[i] = controls_[i].measured();
   const RenamerPositions homes = renamerHomes(measures);
-  for (std::size_t i = 0; i < kRenamerItemCount; ++i) controls_[i].moveTo(homes[i].x, homes[i].y);
+  for (std::size_t i = 0; i < kRenamerItemCount; ++i) controls_[i].moveTo(homes[i]);
 }
 
 // Where the panel is open, controls are erased before they move, or their pictures stay; and as erasing paints over whatever
@@ -58,8 +55,7 @@ void CRenamerForm::placeAtHome() const {
 void CRenamerForm::lookLike(RenameMode mode, bool isOpen) const {
   if (isOpen) showAll(false);
   for (const RenamerRow& row : renamerTable()) {
-    const forms::Position position = renamerPosition(row.item, mode, homes_[indexOf(row.item)]);
-    at(row.item).moveTo(position.x, position.y);
+    at(row.item).moveTo(renamerPosition(row.item, mode, homes_[indexOf(row.item)]));
   }
   takeSize(mode);
   if (!isOpen) return;

@@ -42,9 +42,7 @@ CSelectorForm::CSelectorForm(const char* title, const SelectorHooks& hooks) : CP
   tree_.onDraw(hooks.drawTree);
   sync_.onEvent(hooks.syncPressed);
 
-  setUser(hooks.user);
-  onOpen(hooks.opened);
-  onClose(hooks.closed);
+  setHooks(hooks.user, hooks.opened, hooks.closed);
   onMouse(hooks.mouseButton, hooks.mouseMotion, hooks.mouseWheel);
   onResize(hooks.resized);
   setLeastSize(kSelectorLeastWidth, kSelectorLeastHeight);
@@ -57,12 +55,12 @@ int CSelectorForm::open() const { return CPanel::open(kOpenFlags); }
 // A host may ignore the least size, but no control has less than a pixel.
 void CSelectorForm::layOut(int width, int height) const {
   const int inner = std::max(1, width - 2 * kMargin);
-  tree_.moveTo(kMargin, kMargin);
+  tree_.moveTo({kMargin, kMargin});
   tree_.setHotWidth(inner);
   tree_.setHotHeight(std::max(1, height - kBelowTree));
-  frame_.moveTo(kMargin, height - kFrameFromBottom);
+  frame_.moveTo({kMargin, height - kFrameFromBottom});
   frame_.setHotWidth(inner);
-  sync_.moveTo(kSyncRightEdge - sync_.measure(lw::kControlWidth), height - kSyncFromBottom);
+  sync_.moveTo({kSyncRightEdge - sync_.measure(lw::kControlWidth), height - kSyncFromBottom});
 }
 
 void CSelectorForm::layOut() const {

@@ -3,6 +3,7 @@
 
 #include "standin/panels/services.h"
 #include "tests/tools/property_panel_fixture.h"
+#include "texts/texts.h"
 
 namespace varnel::test {
 namespace {

@@ -3,6 +3,7 @@
 
 #include "modeler/renamer/renamer_layout.h"
 #include "tests/tools/renamer_fixture.h"
+#include "texts/texts.h"
 
 namespace varnel::test {
 namespace {

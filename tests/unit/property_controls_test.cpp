@@ -231,7 +231,7 @@ TEST(PropertyControls, HaveALabelButThoseThatStandBehindTheirs) {
   const std::set<std::size_t> expected = {26,  28,  30,  32,  34,  36,  38,  73,  99,  100, 107, 115,
                                           123, 133, 134, 141, 149, 157, 166, 167, 174, 182, 190};
   std::set<std::size_t> unlabelled;
-  for (const ControlRow& row : controlTable()) {
+  for (const PropertyRow& row : controlTable()) {
     if (row.slot && label(row.number).empty()) unlabelled.insert(row.number);
   }
   EXPECT_EQ(unlabelled, expected);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "modeler/property/property_layout.h"
+#include "texts/texts.h"
 
 namespace mst {
 namespace {

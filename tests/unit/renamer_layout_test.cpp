@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "modeler/renamer/renamer_controls.h"
+#include "texts/texts.h"
 
 namespace varnel::test {
 namespace {
