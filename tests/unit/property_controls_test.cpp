@@ -175,6 +175,15 @@ TEST(PropertyControls, OfferTheListOfTheirSetting) {
   }
 }
 
+// Fields get fewer characters than fit, for the form brings them to their width in pixels; a slider's handle comes on top.
+TEST(PropertyControls, GiveTheHostTheWidthOfFieldsInCharactersAndThatOfSlidersWithoutTheHandle) {
+  const auto width = [](Slot slot) { return controlTable()[controlOf(slot).value()].width; };
+  EXPECT_EQ(width(Slot::Name), 225 / 8);
+  EXPECT_EQ(width(Slot::WeightMap), 173 / 8);
+  EXPECT_EQ(width(Slot::LimitBoneNum), 70 - 20);
+  EXPECT_EQ(width(Slot::BoneType), 200);
+}
+
 TEST(PropertyControls, FillButtonsAndChoosersFollowTheirField) {
   const std::map<std::size_t, Slot> fields = {
       {16, Slot::WeightMap},       {43, Slot::InitialPositionItem}, {48, Slot::ParentItem},
