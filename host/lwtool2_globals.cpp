@@ -223,6 +223,7 @@ void LoadRenamerStrings(GlobalFunc global) {
   const texts::Language language = hostLanguage(global);
   selectTexts(state().renamerTexts, texts::renamerLabels(language), texts::renamerChoices(), language);
   state().renamerTexts.messages = &texts::renamerMessages(language);
+  state().renamerTexts.refusals = &texts::renamerRefusals(language);
 }
 
 void loadLayoutStrings(GlobalFunc global) { state().layoutTexts = &texts::layoutTexts(hostLanguage(global)); }

@@ -123,6 +123,7 @@ struct PanelTexts {
 
 struct RenamerTexts : PanelTexts {
   const texts::RenamerMessages* messages = nullptr;
+  const texts::RenamerRefusals* refusals = nullptr;
 };
 
 void LoadModelerStrings(GlobalFunc global);

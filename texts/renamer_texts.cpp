@@ -77,6 +77,17 @@ constexpr RenamerMessages kJapaneseMessages = {
     "Error", "スケルゴンを選択してください！", "", "Error", "スケルゴン名が重複します！", "",
 };
 
+constexpr RenamerRefusals kEnglishRefusals = {
+    "The name gets too long!",
+    "The regular expression takes too long for this name!",
+    "The regular expression cuts a letter in two!",
+};
+constexpr RenamerRefusals kJapaneseRefusals = {
+    "名前が長すぎます！",
+    "この名前では正規表現の処理が終わりません！",
+    "正規表現が文字の途中で切っています！",
+};
+
 }  // namespace
 
 const std::array<const char*, kRenamerLabelCount>& renamerLabels(Language language) {
@@ -87,6 +98,10 @@ const std::array<RenamerListRow, kRenamerListCount>& renamerChoices() { return k
 
 const RenamerMessages& renamerMessages(Language language) {
   return language == Language::Japanese ? kJapaneseMessages : kEnglishMessages;
+}
+
+const RenamerRefusals& renamerRefusals(Language language) {
+  return language == Language::Japanese ? kJapaneseRefusals : kEnglishRefusals;
 }
 
 }  // namespace texts

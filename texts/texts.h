@@ -68,6 +68,11 @@ inline constexpr std::size_t kRenamerMessageCount = 6;
 using RenamerMessages = std::array<const char*, kRenamerMessageCount>;
 const RenamerMessages& renamerMessages(Language language);
 
+// Why a name cannot be made: too long, too hard to match, half a character. The skelegon's name follows each.
+inline constexpr std::size_t kRenamerRefusalCount = 3;
+using RenamerRefusals = std::array<const char*, kRenamerRefusalCount>;
+const RenamerRefusals& renamerRefusals(Language language);
+
 // ---------------------------------------------------------------------------------------------------------------------
 // The Layout tool's panel
 

@@ -20,4 +20,11 @@ char32_t takeCharacter(std::string_view& text) {
   return valid ? value : kNoCharacter;
 }
 
+bool isUtf8(std::string_view text) {
+  while (!text.empty()) {
+    if (takeCharacter(text) == kNoCharacter) return false;
+  }
+  return true;
+}
+
 }  // namespace texts

@@ -12,4 +12,7 @@ inline constexpr char32_t kNoCharacter = 0xFFFFFFFF;
 // kNoCharacter: longer forms than needed, surrogates and what was cut are none.
 char32_t takeCharacter(std::string_view& text);
 
+// Whether the text is characters and nothing else.
+bool isUtf8(std::string_view text);
+
 }  // namespace texts

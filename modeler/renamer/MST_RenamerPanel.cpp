@@ -10,6 +10,7 @@
 #include "host/lwtool2_messages.h"
 #include "host/raised_flag.h"
 #include "modeler/shared/tool_names.h"
+#include "texts/whole_text.h"
 
 namespace mst {
 namespace {
@@ -72,6 +73,12 @@ void RenamerPanel::complain(const RenameResult& result) const {
     case RenameOutcome::NoSkelegons: return lw::ShowError(text(texts::RenamerMessage::NoSelection));
     case RenameOutcome::DuplicatedNames: return lw::ShowError(text(texts::RenamerMessage::DuplicatedNames));
     case RenameOutcome::InvalidPattern: return lw::ShowError(result.complaint.c_str());
+    case RenameOutcome::RefusedName: {
+      constexpr std::size_t kLongestShown = 120;
+      const std::string skelegon(texts::cutAtCharacter(result.skelegon, kLongestShown));
+      const char* const why = (*made_.refusals)[static_cast<std::size_t>(result.refusal)];
+      return lw::ShowError(lw::FormatString("%s (%s)", why, skelegon.c_str()).c_str());
+    }
   }
 }
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <iterator>
 #include <locale>
-#include <regex>
 #include <utility>
 #include <vector>
 
 #include "skelegon/numbers.h"
+#include "texts/utf8.h"
 
 namespace mst {
 namespace {
@@ -184,13 +184,14 @@ struct Watch {
   std::int64_t steps = 0;  // that are left
   std::int64_t cost = 1;   // of one
   std::uintptr_t bottom = 0;
+  std::size_t deepest = 0;
 
   void step() {
     steps -= cost;
     if (steps < 0) throw std::regex_error(error::error_complexity);
     const std::uintptr_t now = stackPointer();
     // Wherever the stack grows to.
-    if (std::max(now, bottom) - std::min(now, bottom) > kDeepestMatch) throw std::regex_error(error::error_stack);
+    if (std::max(now, bottom) - std::min(now, bottom) > deepest) throw std::regex_error(error::error_stack);
   }
 };
 
@@ -276,6 +277,7 @@ struct CRegexReplacement::Matcher {
 
   std::regex regex;
   Watch watch;
+  std::int64_t reserve = 0;  // of steps, that is left
 };
 
 CRegexReplacement::CRegexReplacement(std::string pattern, std::string format, StepBudget budget)
@@ -288,18 +290,29 @@ std::string CRegexReplacement::replaced(std::string_view text) {
     const std::int64_t cost = checkedCost(pattern_);
     matcher_ = std::make_unique<Matcher>(pattern_);
     matcher_->watch.cost = cost;
-    matcher_->watch.steps = budget_.first;
+    matcher_->reserve = budget_.reserve;
   }
   if (text.size() > kLongestName) refuseLongName();
+  const auto size = static_cast<std::int64_t>(text.size());
+  const std::int64_t own = budget_.perText + std::min(budget_.perPairOfBytes * size * size, budget_.mostForPairs);
   Watch& watch = matcher_->watch;
-  watch.steps += budget_.perText;
+  watch.steps = matcher_->reserve + own;
+  watch.deepest = deepest_;
   watch.bottom = stackPointer();
   std::string result;
-  std::regex_replace(CBoundedText(result), CWatchedPlace(text.data(), watch),
-                     CWatchedPlace(text.data() + text.size(), watch), matcher_->regex, format_);
+  try {
+    std::regex_replace(CBoundedText(result), CWatchedPlace(text.data(), watch),
+                       CWatchedPlace(text.data() + text.size(), watch), matcher_->regex, format_);
+  } catch (const CTextRefused&) {
+    throw;
+  } catch (const std::regex_error& limit) {
+    throw CTextRefused(TextRefusal::TooHard, limit.code());
+  }
+  matcher_->reserve = std::min(matcher_->reserve, watch.steps);
+  if (!texts::isUtf8(result) && texts::isUtf8(text)) throw CTextRefused(TextRefusal::Broken, error::error_ctype);
   return result;
 }
 
-void refuseLongName() { throw std::regex_error(error::error_space); }
+void refuseLongName() { throw CTextRefused(TextRefusal::TooLong, error::error_space); }
 
 }  // namespace mst

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <regex>
 #include <string>
 #include <string_view>
 
@@ -27,14 +28,29 @@ inline constexpr std::uint64_t kMostStates = 1'000;
 // Choices that take no character, in a pattern that refers back to a group: a reference to a group that took no part fails
 // without being seen, so the ways to it are bounded. In other patterns every way ends at a step that is counted.
 inline constexpr std::uint64_t kMostChoicesBeforeReference = 10;
-// Stack that one match may take. A program's main thread has 1 MB on Windows, of which the host needs its share.
+// Stack that one match may take where nobody gave more. A program's main thread has 1 MB on Windows, of which the host needs its
+// share.
 inline constexpr std::size_t kDeepestMatch = 262'144;
 
-// Steps that the matcher may take: an amount to begin with and some more for each text, so that a large rig does not run out
-// and yet a bad pattern ends within a second. Plain names need some hundred steps.
+// Steps that the matcher may take for a text, and a reserve for all texts together. Everyday patterns that do not fit, as "(.*)_L$"
+// without an "_L", are tried at each place to each end: up to three steps for each pair of bytes. A bad pattern wants more by far and
+// ends at its first text, within a second however long that is.
 struct StepBudget {
-  std::int64_t first = 5'000'000;
+  std::int64_t reserve = 5'000'000;
   std::int64_t perText = 20'000;
+  std::int64_t perPairOfBytes = 8;
+  std::int64_t mostForPairs = 10'000'000;
+};
+
+// Why a pattern that is sound was not applied to a text.
+enum class TextRefusal {
+  TooLong,  // the text, or what would come of it
+  TooHard,  // too many steps, or too deep
+  Broken,   // the text is UTF-8, and what would come of it is not: a pattern sees bytes and can cut a character
+};
+struct CTextRefused : std::regex_error {
+  CTextRefused(TextRefusal reason, std::regex_constants::error_type code) : std::regex_error(code), why(reason) {}
+  TextRefusal why;
 };
 
 // One pattern (ECMAScript grammar) and format ("$1", "$&"), applied to many texts. All matches are replaced.
@@ -45,9 +61,11 @@ class CRegexReplacement {
   CRegexReplacement(const CRegexReplacement&) = delete;
   CRegexReplacement& operator=(const CRegexReplacement&) = delete;
 
-  // Throws std::regex_error for an invalid pattern, and likewise where a limit is passed: error_space (pattern, text or
-  // result too large), error_complexity (too many steps), error_stack (too deep). The pattern is looked at when the first
-  // text comes.
+  // Bytes of stack that one match may take from now on.
+  void useStack(std::size_t bytes) { deepest_ = bytes; }
+
+  // Throws std::regex_error for an invalid pattern, or one that passes a limit: error_space (too large), error_complexity, error_stack
+  // (too deep); CTextRefused for a text. The pattern is looked at when the first text comes.
   std::string replaced(std::string_view text);
 
  private:
@@ -56,10 +74,11 @@ class CRegexReplacement {
   std::string pattern_;
   std::string format_;
   StepBudget budget_;
+  std::size_t deepest_ = kDeepestMatch;
   std::unique_ptr<Matcher> matcher_;
 };
 
-// Throws std::regex_error, error_space: for any text that would be too long.
+// Throws CTextRefused: for any text that would be too long.
 [[noreturn]] void refuseLongName();
 
 }  // namespace mst

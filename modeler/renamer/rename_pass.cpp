@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "host/lwtool2_errors.h"
+#include "modeler/renamer/deep_stack.h"
 #include "modeler/renamer/rename_targets.h"
 #include "modeler/shared/skelegon_scan.h"
 #include "skelegon/orders.h"
@@ -11,27 +12,62 @@
 namespace mst {
 namespace {
 
-// An invalid pattern is an answer for the user and no failure.
-template <class Pass>
-RenameResult answeringBadPatterns(Pass&& pass) {
+// The matcher's stack: enough for the longest name, whatever the compiler takes for a character. What the limit leaves is for the
+// matcher's last call and for a system that shows the end of its stack in advance.
+constexpr std::size_t kStackForNames = 268'435'456;
+constexpr std::size_t kStackForAMatch = kStackForNames - 16'777'216;
+
+// A text of a skelegon that the rule refused.
+struct NameRefused {
+  TextRefusal why;
+  std::string skelegon;
+};
+
+// Works out texts; by a pattern, on a stack on which names of any length can be matched. The host must not be called meanwhile.
+template <class Rule, class Work>
+void onStackForNames(Rule& rule, Work&& work) {
+  rule.useStack(kStackForAMatch);
+  if (rule.usesPattern() && runOnStack(kStackForNames, work)) return;
+  rule.useStack(kDeepestMatch);
+  work();
+}
+
+// What `work` gives for a text of a skelegon of that name.
+template <class Work>
+std::string textFor(std::string_view skelegon, Work&& work) {
   try {
-    return {pass(), {}};
+    return work();
+  } catch (const CTextRefused& refused) {
+    throw NameRefused{refused.why, std::string(skelegon)};
+  }
+}
+
+// A pattern or a name that cannot be used is an answer for the user and no failure.
+template <class Pass>
+RenameResult answering(Pass&& pass) {
+  try {
+    return {.outcome = pass()};
+  } catch (const NameRefused& refused) {
+    return {.outcome = RenameOutcome::RefusedName, .refusal = refused.why, .skelegon = refused.skelegon};
   } catch (const std::regex_error& invalid) {
-    return {RenameOutcome::InvalidPattern, invalid.what()};
+    return {.outcome = RenameOutcome::InvalidPattern, .complaint = invalid.what()};
   }
 }
 
 RenameOutcome simplePass(CSimpleRule& rule, bool withProperties) {
   const lw::PolygonIds selected = selectedForRenaming();
   if (selected.empty()) return RenameOutcome::NoSkelegons;
+  const std::size_t textsOfEach = withProperties ? kSimpleModeSlots.size() : 1;  // the name first
   lw::TagWrites tags;
   for (const lw::PolygonId polygon : selected) {
-    for (std::size_t i = 0; i < (withProperties ? kSimpleModeSlots.size() : 1); ++i) {
-      tags.add(polygon, skg::SlotTagId(kSimpleModeSlots[i]), {});
-    }
+    for (std::size_t i = 0; i < textsOfEach; ++i) tags.add(polygon, skg::SlotTagId(kSimpleModeSlots[i]), {});
   }
-  tags.texts = lw::ReadPolygonTags(tags.polygons, tags.types);
-  for (std::string& text : tags.texts) text = rule.newText(text);
+  const lw::TagTexts old = lw::ReadPolygonTags(tags.polygons, tags.types);
+  onStackForNames(rule, [&] {
+    for (std::size_t i = 0; i < old.size(); ++i) {
+      tags.texts[i] = textFor(old[i - i % textsOfEach], [&] { return rule.newText(old[i]); });
+    }
+  });
   lw::CMeshEdit edit(lw::kEditForTags);
   lw::WritePolygonTags(edit, tags.polygons, tags.types, tags.texts);
   edit.done();
@@ -48,17 +84,38 @@ lw::TagTypes typesToRename(const RenamerSettings& settings) {
   return types;
 }
 
-// [edit open] The tags that change, in the order in which they are written.
+lw::TagTexts newNames(const skg::SkelegonNodes& targets, CNameRule& rule) {
+  lw::TagTexts names;
+  onStackForNames(rule, [&] {
+    for (const skg::SkelegonNode* const target : targets) {
+      names.push_back(textFor(target->name, [&] { return rule.newText(target->name, target->column, target->row); }));
+    }
+  });
+  return names;
+}
+
+// [edit open] The tags that change, in the order in which they are written. `names` are the targets' new ones; none were worked out
+// when it is empty.
 lw::TagWrites changedTags(const lw::MeshEditOp& edit, const skg::SkelegonNodes& targets, const lw::TagTypes& types,
-                          CNameRule& rule) {
-  lw::TagWrites changed;
+                          const lw::TagTexts& names, CNameRule& rule) {
+  lw::TagTexts old;
   for (const skg::SkelegonNode* const target : targets) {
     for (const std::uint32_t type : types) {
-      const std::string old = lw::polygonTag(edit, target->polygon, type).value_or(std::string());
-      const std::string text = rule.newText(old, target->column, target->row);
-      if (text != old) changed.add(target->polygon, type, text);
+      old.push_back(lw::polygonTag(edit, target->polygon, type).value_or(std::string()));
     }
   }
+  lw::TagWrites changed;
+  onStackForNames(rule, [&] {
+    for (std::size_t i = 0; i < old.size(); ++i) {
+      const std::size_t place = i / types.size();
+      const skg::SkelegonNode& target = *targets[place];
+      const std::uint32_t type = types[i % types.size()];
+      const std::string text = type == lw::kTagBone && !names.empty()
+                                   ? names[place]
+                                   : textFor(target.name, [&] { return rule.newText(old[i], target.column, target.row); });
+      if (text != old[i]) changed.add(target.polygon, type, text);
+    }
+  });
   return changed;
 }
 
@@ -91,8 +148,9 @@ RenameOutcome planned(lw::CEditRecord& record, const RenamerSettings& settings, 
 
   CNameRule rule(settings);
   const bool namesMustDiffer = settings.renameSkelegonName && settings.overlapCheck;
-  if (namesMustDiffer && firstDuplicate(targets, rule)) return RenameOutcome::DuplicatedNames;
-  changed = changedTags(*record.edit, targets, typesToRename(settings), rule);
+  const lw::TagTexts names = namesMustDiffer ? newNames(targets, rule) : lw::TagTexts();
+  if (firstDuplicate(names)) return RenameOutcome::DuplicatedNames;
+  changed = changedTags(*record.edit, targets, typesToRename(settings), names, rule);
   return RenameOutcome::Renamed;
 }
 
@@ -116,14 +174,14 @@ lw::PolygonIds selectedForRenaming() {
 }
 
 RenameResult runSimplePass(RenameMode mode, const std::string& first, const std::string& second, bool withProperties) {
-  return answeringBadPatterns([&] {
+  return answering([&] {
     CSimpleRule rule(mode, first, second);
     return simplePass(rule, withProperties);
   });
 }
 
 RenameResult runAdvancedPass(const RenamerSettings& settings, const lw::PolygonIds& registered) {
-  return answeringBadPatterns([&] { return advancedPass(settings, registered); });
+  return answering([&] { return advancedPass(settings, registered); });
 }
 
 }  // namespace mst

@@ -13,12 +13,15 @@ enum class RenameOutcome {
   Renamed,
   NoSkelegons,      // nothing was chosen that could be renamed
   DuplicatedNames,  // two skelegons would have got one name
-  InvalidPattern,   // or one that cannot be matched within the limits
+  InvalidPattern,   // or one that is too large
+  RefusedName,      // a text that the rule cannot be applied to
 };
 
 struct RenameResult {
   RenameOutcome outcome = RenameOutcome::Renamed;
-  std::string complaint;  // the library's, about the pattern
+  std::string complaint = {};                  // the library's, about the pattern
+  TextRefusal refusal = TextRefusal::TooLong;  // of RefusedName: why, and the skelegon's name
+  std::string skelegon = {};
 };
 
 // Renames the selected skelegons and, with the bone properties, the names of other items that they hold. Writes all tags,

@@ -57,6 +57,10 @@ std::string replacedAll(std::string_view text, std::string_view from, std::strin
 CNameRule::CNameRule(const RenamerSettings& settings)
     : settings_(settings), regex_(settings.regexPattern, settings.regexFormat) {}
 
+bool CNameRule::usesPattern() const {
+  return settings_.regexOn && !settings_.regexPattern.empty() && !settings_.regexFormat.empty();
+}
+
 std::string CNameRule::newText(std::string_view old, std::uint32_t column, std::uint32_t row) {
   const RenamerSettings& s = settings_;
   std::string name(old);
@@ -64,7 +68,7 @@ std::string CNameRule::newText(std::string_view old, std::uint32_t column, std::
   if (s.baseNameOn) name = s.baseName;
   if (s.prefixOn && !name.empty()) name = joined(s.prefix, name);
   if (s.suffixOn && !name.empty()) name = joined(name, s.suffix);
-  if (s.regexOn && !name.empty() && !s.regexPattern.empty() && !s.regexFormat.empty()) name = regex_.replaced(name);
+  if (usesPattern() && !name.empty()) name = regex_.replaced(name);
   if (s.columnOn) name = withCounter(name, kColumnMark, columnText(s.columnStart, column));
   if (s.rowOn) name = withCounter(name, kRowMark, rowText(s.rowStart, row, s.rowDigits));
   return name;

@@ -67,6 +67,8 @@ class CNameRule {
   explicit CNameRule(const RenamerSettings& settings);
 
   std::string newText(std::string_view old, std::uint32_t column, std::uint32_t row);
+  bool usesPattern() const;
+  void useStack(std::size_t bytes) { regex_.useStack(bytes); }  // as of CRegexReplacement
 
  private:
   const RenamerSettings& settings_;
@@ -85,6 +87,8 @@ class CSimpleRule {
   CSimpleRule(RenameMode mode, std::string first, std::string second);
 
   std::string newText(std::string_view old);
+  bool usesPattern() const { return mode_ == RenameMode::RegularExpression && !first_.empty(); }
+  void useStack(std::size_t bytes) { regex_.useStack(bytes); }  // as of CRegexReplacement
 
  private:
   RenameMode mode_;

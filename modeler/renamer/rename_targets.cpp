@@ -80,11 +80,10 @@ void setCounters(const SkelegonNodes& targets, const SkelegonNodes& orderedHeads
   }
 }
 
-std::optional<std::string> firstDuplicate(const SkelegonNodes& targets, CNameRule& rule) {
-  std::unordered_set<std::string> names;
-  for (const SkelegonNode* const target : targets) {
-    const auto [name, isNew] = names.insert(rule.newText(target->name, target->column, target->row));
-    if (!isNew) return *name;
+std::optional<std::string> firstDuplicate(const std::vector<std::string>& names) {
+  std::unordered_set<std::string_view> seen;
+  for (const std::string& name : names) {
+    if (!seen.insert(name).second) return name;
   }
   return std::nullopt;
 }

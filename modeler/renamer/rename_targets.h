@@ -23,7 +23,7 @@ RenameTargets chooseTargets(RenameTarget choice, const skg::SkelegonList& skeleg
 // A target that leads up to no head keeps what it has.
 void setCounters(const skg::SkelegonNodes& targets, const skg::SkelegonNodes& orderedHeads);
 
-// The first new name that an earlier target has got already. Names of other skelegons do not count.
-std::optional<std::string> firstDuplicate(const skg::SkelegonNodes& targets, CNameRule& rule);
+// The first name of the list that stands in it before.
+std::optional<std::string> firstDuplicate(const std::vector<std::string>& names);
 
 }  // namespace mst

@@ -361,14 +361,27 @@ class ThreePanelsUsed : public ThreePanels {
   }
 
   struct Plan {
-    const char* error = nullptr;
     struct Text {
       std::size_t place;
       std::uint32_t type;
       std::string text;
     };
-    std::vector<Text> texts;
+    std::string error = {};
+    std::vector<Text> texts = {};
   };
+
+  // What a rule makes of a skelegon's text. The patterns of the walk can do no more wrong than cut a letter.
+  struct Cut {
+    std::string skelegon;
+  };
+  template <class Work>
+  static std::string textFor(const std::string& skelegon, Work work) {
+    try {
+      return work();
+    } catch (const mst::CTextRefused&) {
+      throw Cut{skelegon};
+    }
+  }
 
   Plan planSimple() const {
     mst::CSimpleRule rule(mode(), at(Item::FirstText)->text, at(Item::SecondText)->text);
@@ -377,7 +390,8 @@ class ThreePanelsUsed : public ThreePanels {
       for (const Slot slot : mst::kSimpleModeSlots) {
         if (slot != Slot::Name && at(Item::BoneProperty)->integer == 0) break;
         const std::uint32_t type = skg::SlotTagId(slot);
-        plan.texts.push_back({place, type, rule.newText(mesh[place].text(type))});
+        const auto text = [&] { return rule.newText(mesh[place].text(type)); };
+        plan.texts.push_back({place, type, textFor(mesh[place].text(lw::kTagBone), text)});
       }
     }
     if (plan.texts.empty()) plan.error = kNeedSelection;
@@ -388,10 +402,17 @@ class ThreePanelsUsed : public ThreePanels {
     const Settings s = settings();
     const skg::SkelegonList skelegons = mesh.list();
     const auto [targets, heads] = mst::chooseTargets(s.target, skelegons, mesh.ids(mesh.selected()), registered);
-    if (heads.empty()) return {kNeedSelection, {}};
+    if (heads.empty()) return {kNeedSelection};
     mst::setCounters(targets, skg::order(heads, s.order, s.invert));
     mst::CNameRule rule(s);
-    if (s.renameSkelegonName && s.overlapCheck && mst::firstDuplicate(targets, rule)) return {kDuplicated, {}};
+    const auto newText = [&](const skg::SkelegonNode& target, const std::string& old) {
+      return textFor(target.name, [&] { return rule.newText(old, target.column, target.row); });
+    };
+    if (s.renameSkelegonName && s.overlapCheck) {
+      Names names;
+      for (const skg::SkelegonNode* const target : targets) names.push_back(newText(*target, target->name));
+      if (mst::firstDuplicate(names)) return {kDuplicated};
+    }
 
     std::vector<std::uint32_t> types;
     if (s.renameSkelegonName) types.push_back(lw::kTagBone);
@@ -404,25 +425,34 @@ class ThreePanelsUsed : public ThreePanels {
       const std::size_t place = mesh.placeOf(target->polygon);
       for (const std::uint32_t type : types) {
         const std::string old = mesh[place].text(type);
-        const std::string text = rule.newText(old, target->column, target->row);
+        const std::string text = newText(*target, old);
         if (text != old) plan.texts.push_back({place, type, text});
       }
     }
     return plan;
   }
 
+  Plan plan() const {
+    try {
+      return mode() == mst::RenameMode::Advanced ? planAdvanced() : planSimple();
+    } catch (const Cut& cut) {
+      return {std::string(kCutsLetter) + " (" + cut.skelegon + ")"};
+    }
+  }
+
   void runRenamer() {
     const bool isAdvanced = mode() == mst::RenameMode::Advanced;
-    const Plan plan = isAdvanced ? planAdvanced() : planSimple();
+    const Plan plan = this->plan();
     if (std::any_of(plan.texts.begin(), plan.texts.end(), [](const auto& t) { return t.text.size() > kLongestText; }))
       return;
     EXPECT_TRUE(person::press(at(Item::Run)));
-    if (plan.error != nullptr) errorsExpected = {plan.error};
+    if (!plan.error.empty()) errorsExpected = {plan.error};
     for (const auto& [place, type, text] : plan.texts) mesh.put(place, type, text);
     // A simple run that failed is told to nobody.
-    if (isAdvanced || plan.error == nullptr) bothHear();
+    if (isAdvanced || plan.error.empty()) bothHear();
   }
 
+  static constexpr const char* kCutsLetter = "The regular expression cuts a letter in two!";
   static constexpr const char* kNeedSelection = "Need select the skelegon!";
   static constexpr const char* kDuplicated = "Skelegon names are duplicated!";
 

@@ -240,5 +240,41 @@ TEST_F(Renamer, ALongNameUnderAPatternEndsNoSession) {
   EXPECT_EQ(changingEdits(), 0U);
 }
 
+TEST_F(Renamer, AnEverydayPatternDoesOnALongName) {
+  const std::string name = std::string(1'000, 'a') + "_R";
+  store("Arm_L_01", lw::kTagBone, name);
+  host.selectPolygons({object->skelegons()[0]});
+  runSimple(RenameMode::RegularExpression, "(.*)_L$", "$1_R");
+  EXPECT_EQ(names(1), Names{name});
+  runSimple(RenameMode::RegularExpression, "(.*)_R$", "$1_L");
+  EXPECT_EQ(names(1), Names{std::string(1'000, 'a') + "_L"});
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Names that cannot be made
+
+TEST_F(Renamer, AHalfLetterIsNoNameAndTheSkelegonIsTold) {
+  store("Arm_L_02", lw::kTagBone, "腕_L");
+  host.selectPolygons({object->skelegons()[0], object->skelegons()[1]});
+  const std::string before = everythingStored();
+  runSimple(RenameMode::RegularExpression, "^.", "x");
+  EXPECT_EQ(everythingStored(), before);
+  EXPECT_EQ(onlyMessage(), "The regular expression cuts a letter in two! (腕_L)");
+}
+
+TEST_F(Renamer, AHardNameIsTold) {
+  store("Arm_L_02", lw::kTagBone, std::string(60, 'a'));
+  host.selectPolygons({object->skelegons()[0], object->skelegons()[1]});
+  runSimple(RenameMode::RegularExpression, "(a*)*b", "x");
+  EXPECT_EQ(onlyMessage(), "The regular expression takes too long for this name! (" + std::string(60, 'a') + ")");
+}
+
+TEST_F(Renamer, ANameThatGetsTooLongIsToldWithoutAWordOfPatterns) {
+  host.select({"Root"});
+  store("Root", lw::kTagBone, std::string(65'530, 'r'));
+  runSimple(RenameMode::Prefix, "My_Prefix_", "");
+  EXPECT_EQ(onlyMessage().substr(0, 34), "The name gets too long! (rrrrrrrrr");
+}
+
 }  // namespace
 }  // namespace varnel::test
