@@ -64,7 +64,9 @@ class CBuilder {
   }
 
   void addWeightMaps(std::vector<std::string> maps) {
-    std::sort(maps.begin(), maps.end());
+    std::sort(maps.begin(), maps.end(), [](const std::string& a, const std::string& b) {
+      return comesBefore(a, b) || (!comesBefore(b, a) && a < b);  // of m2 and m02 always the same first
+    });
     const std::size_t parent = addBelow(kRootNode, group("[WMaps]", kMapColour));
     nodes_[parent].state = kStateSet;  // begins collapsed
     for (std::string& map : maps) addBelow(parent, group(std::move(map), kMapColour));

@@ -36,8 +36,9 @@ TEST(SelectorNodes, ALayerWithoutANumberOfItsOwnHasNoName) {
   EXPECT_EQ(outlineOf({skelegon("A", 1, 2, -1)}, {"Body"}), "[Top]\n [Layer0]:Layer0\n  A\n [WMaps]\n");
 }
 
-TEST(SelectorNodes, WeightMapsStandInByteOrder) {
-  EXPECT_EQ(outlineOf({}, {}, {"b10", "B2", "b2", "腰"}), "[Top]\n [WMaps]\n  B2\n  b10\n  b2\n  腰\n");
+TEST(SelectorNodes, WeightMapsStandInTheOrderOfSkelegons) {
+  EXPECT_EQ(outlineOf({}, {}, {"m2", "m02"}), outlineOf({}, {}, {"m02", "m2"}));
+  EXPECT_EQ(outlineOf({}, {}, {"b10", "B2", "b2", "腰"}), "[Top]\n [WMaps]\n  B2\n  b2\n  b10\n  腰\n");
 }
 
 TEST(SelectorNodes, ChildrenStandInNameOrderThenInScanOrder) {
