@@ -20,6 +20,8 @@ std::string refusal(const std::string& command, int code) {
   return FormatString("eval( \"%s\" ) !(%d)", command.c_str(), code);
 }
 
+void reportRefusalByLayout(const std::string& command) { ReportError("lwtool2", 3193, "%s", refusal(command, 0).c_str()); }
+
 }  // namespace
 
 std::string FormatString(const char* format, ...) {
@@ -44,7 +46,7 @@ bool Eval(const std::string& command) {
     throw ex::CEvalEx(message);
   }
   if (sendToLayout(layoutCommand(), command) != 0) return false;
-  ReportError("lwtool2", 3193, "%s", refusal(command, 0).c_str());
+  reportRefusalByLayout(command);
   return true;
 }
 
@@ -60,7 +62,7 @@ bool EvalF(const char* format, ...) {
 void EvalPlain(const char* command) {
   const CommandFunc send = layoutCommand();
   if (send == nullptr || send(command) != 0) return;
-  ReportError("lwtool2", 3193, "%s", refusal(command, 0).c_str());
+  reportRefusalByLayout(command);
 }
 
 void ReportStatusError(const std::string& message) {

@@ -78,6 +78,29 @@ TEST_F(InLayout, ARefusedCommandIsReportedAndTheCallerGoesOn) {
   EXPECT_EQ(received, (Commands{"Foo 1", "StatusMsg *** ERROR: eval( \"Foo 1\" ) !(0) ***"}));
 }
 
+TEST_F(InLayout, ARefusedCommandIsReportedAsItStands) {
+  answer = 0;
+  EXPECT_TRUE(Eval("RenameItem 100%d %s%%"));
+  EXPECT_EQ(received.back(), "StatusMsg *** ERROR: eval( \"RenameItem 100%d %s%%\" ) !(0) ***");
+}
+
+// The command fits into 511 bytes, the report with it does not: it is lost whole.
+TEST_F(InLayout, ARefusedCommandThatDoesNotFitItsReportIsReportedWithoutAMessage) {
+  answer = 0;
+  EXPECT_TRUE(Eval(std::string(496, 'x')));
+  EXPECT_EQ(received.back(), "StatusMsg *** ERROR: eval( \"" + std::string(496, 'x') + "\" ) !(0) ***");
+  for (const std::size_t size : {497, 505, 511}) {
+    EXPECT_TRUE(Eval(std::string(size, 'x')));
+    EXPECT_EQ(received.back(), "StatusMsg *** ERROR:  ***") << size;
+  }
+}
+
+TEST_F(InLayout, ARefusedPlainCommandIsReported) {
+  answer = 0;
+  EvalPlain("EnableIK 1");
+  EXPECT_EQ(received, (Commands{"EnableIK 1", "StatusMsg *** ERROR: eval( \"EnableIK 1\" ) !(0) ***"}));
+}
+
 TEST_F(InLayout, AnEmptyCommandThrows) {
   try {
     Eval("");
@@ -107,6 +130,12 @@ TEST_F(InLayout, StatusTextIsACommand) {
 TEST_F(InLayout, StatusProgressCarriesItsFractionInTwoDigits) {
   StatusProgress(0.5F, "%s", "x");
   EXPECT_EQ(received, Commands{"StatusMsg {0.50}x"});
+}
+
+TEST_F(InLayout, StatusProgressThatDoesNotFitWithItsFractionThrowsAsAnEmptyCommand) {
+  StatusProgress(0.5F, "%s", std::string(495, 'x').c_str());
+  EXPECT_EQ(received, Commands{"StatusMsg {0.50}" + std::string(495, 'x')});
+  EXPECT_THROW(StatusProgress(0.5F, "%s", std::string(496, 'x').c_str()), ex::CEvalEx);
 }
 
 TEST_F(InLayout, AnOverlongStatusTextIsLostWhole) {
@@ -154,6 +183,16 @@ TEST_F(InModeler, ARefusedCommandThrowsWithItsCode) {
     FAIL();
   } catch (const ex::CBaseEx& thrown) {  // the base catches it too
     EXPECT_EQ(thrown.message(), "eval( \"Foo 1\" ) !(3)");
+  }
+}
+
+TEST_F(InModeler, ARefusedCommandThatDoesNotFitItsReportThrowsAnEmptyMessage) {
+  answer = 3;
+  try {
+    Eval(std::string(505, 'x'));
+    FAIL();
+  } catch (const ex::CEvalEx& thrown) {
+    EXPECT_EQ(thrown.message(), "");
   }
 }
 
@@ -217,6 +256,17 @@ TEST_F(InModeler, WithoutALookupFunctionNothingIsAcquired) {
   EXPECT_EQ(functions.editBegin, nullptr);
 }
 
+TEST_F(InModeler, EachMemberOfTheCommandsDataIsRequired) {
+  LWModCommand noBegin = command, noEvaluate = command, noData = command;
+  noBegin.editBegin2 = nullptr;
+  noEvaluate.evaluate = nullptr;
+  noData.data = nullptr;
+  for (const LWModCommand* const lacking : {&noBegin, &noEvaluate, &noData}) {
+    EXPECT_FALSE(AcquireHostGlobals(Program::Modeler, standin::Globals::lookup(), lacking));
+  }
+  EXPECT_FALSE(AcquireHostGlobals(Program::Modeler, standin::Globals::lookup(), nullptr));
+}
+
 TEST_F(InModeler, TheLargerTableIsFilledAfterAnActivationWithoutALookupFunction) {
   ModelerFunctions functions;
   AcquireModelerFunctions(functions, nullptr, &command);
@@ -248,6 +298,19 @@ TEST_F(InModeler, TheLowSixteenBitsOfTheLocaleDecide) {
   standin::globals().offerNumber("Locale Info", 0x04110409);
   LoadModelerStrings(standin::Globals::lookup());
   EXPECT_STREQ(propertyTexts().labels[7], "Skelegon");
+}
+
+TEST_F(InModeler, TheLowSixteenBitsOfTheLocaleDecideForTheRenamerToo) {
+  standin::globals().offerNumber("Locale Info", 0x10411);
+  LoadRenamerStrings(standin::Globals::lookup());
+  EXPECT_STREQ((*renamerTexts().labels)[0], "モード");
+  EXPECT_STREQ(renamerTexts().choices[0][0], "変更");
+  EXPECT_STREQ((*renamerTexts().messages)[1], "スケルゴンを選択してください！");
+  standin::globals().offerNumber("Locale Info", 0x04110409);
+  LoadRenamerStrings(standin::Globals::lookup());
+  EXPECT_STREQ((*renamerTexts().labels)[0], "Mode");
+  EXPECT_STREQ(renamerTexts().choices[0][0], "Change");
+  EXPECT_STREQ((*renamerTexts().messages)[1], "Need select the skelegon!");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "skelegon/slot_table.h"
 
 #include "modeler/shared/skelegon_scan.h"
+#include "standin/core/comma_locale.h"
 #include "tests/tools/mesh_fixture.h"
 
 namespace varnel::test {
@@ -95,6 +96,12 @@ TEST_F(PropertyStore, SettingStrengthBackTo100RemovesItsTag) {
   mst::WriteSlotValue(skelegons, Slot::Strength, mst::formatReal(50));
   mst::WriteSlotValue(skelegons, Slot::Strength, mst::formatReal(100));
   EXPECT_EQ(mesh.storedTag("Hips", copyTag(Slot::Strength)), std::nullopt);
+}
+
+TEST_F(PropertyStore, ARealIsStoredWithAPointInACommaLocale) {
+  const standin::CommaLocale locale;
+  mst::WriteSlotValue(scanned({"Hips"}), Slot::Strength, mst::formatReal(62.5));
+  EXPECT_EQ(mesh.storedTag("Hips", copyTag(Slot::Strength)), "62.500000");
 }
 
 TEST_F(PropertyStore, SettingJointCompensationTo100StoresIt) {
