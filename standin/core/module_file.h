@@ -25,6 +25,8 @@ class ModuleFile {
   void unload();
 
   bool loaded() const { return descriptor_ != nullptr; }
+  // What the module's start gave; null when nothing is loaded.
+  void* startupResult() const { return serverData_; }
   // In the module's order, without the closing record.
   const std::vector<lw::ServerRecord>& servers() const { return servers_; }
   // Null when the module has no such server.

@@ -267,6 +267,15 @@ TEST_F(InModeler, EachMemberOfTheCommandsDataIsRequired) {
   EXPECT_FALSE(AcquireHostGlobals(Program::Modeler, standin::Globals::lookup(), nullptr));
 }
 
+// Panels of earlier activations may be open, and work with what those brought.
+TEST_F(InModeler, AMissingMemberLeavesThatOfTheFormerActivation) {
+  const LWModCommand empty{};
+  EXPECT_FALSE(AcquireHostGlobals(Program::Modeler, standin::Globals::lookup(), &empty));
+  EXPECT_EQ(modelerCommand().editBegin, command.editBegin2);
+  EXPECT_EQ(modelerCommand().evaluate, command.evaluate);
+  EXPECT_EQ(modelerCommand().data, command.data);
+}
+
 TEST_F(InModeler, TheLargerTableIsFilledAfterAnActivationWithoutALookupFunction) {
   ModelerFunctions functions;
   AcquireModelerFunctions(functions, nullptr, &command);

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <new>
 #include <tuple>
 
 #include "standin/core/globals.h"
@@ -37,6 +39,12 @@ TEST_F(LayoutActivation, AsksForItsServicesInTheirOrderAndForTheLocaleAgain) {
   std::vector<std::string> wanted = inOrder(layoutServices());
   wanted.emplace_back("Locale Info");
   EXPECT_EQ(globals().asked(), wanted);
+}
+
+// What is thrown outside the tool's run is no reason for the host to ask again either.
+TEST_F(LayoutActivation, IsDoneThoughSomethingWasThrownBeforeItsTool) {
+  globals().offer("Product Info", []() -> void* { throw std::bad_alloc(); });
+  EXPECT_EQ(host.activate(module, kConversionTool), 0);
 }
 
 TEST_F(LayoutActivation, TellsThePanelServicesHowToLookUp) {
@@ -129,6 +137,22 @@ TEST_F(ModelerActivation, RefusesAnotherHostReleaseBeforeAskingForAnythingElse) 
   }
 }
 
+TEST_F(ModelerActivation, AsksForItsServicesInTheirOrder) {
+  globals().withhold("LW Light Info 6");  // the last one: everything before it is asked for
+  for (const char* const server : {"Orlo:SkelegonRenamer", "Orlo:SkelegonProperty"}) {
+    globals().clearAsked();
+    EXPECT_EQ(module.activate(server, 4, &command), 2) << server;
+    EXPECT_EQ(globals().asked(), inOrder(modelerServices())) << server;
+  }
+}
+
+TEST_F(ModelerActivation, IsDoneThoughSomethingWasThrownBeforeItsTool) {
+  for (const char* const server : kModelerServers) {
+    globals().offer("Locale Info", []() -> void* { throw std::bad_alloc(); });
+    EXPECT_EQ(module.activate(server, 4, &command), 0) << server;
+  }
+}
+
 TEST_F(ModelerActivation, GivesTwoWithoutALookupFunction) {
   for (const char* const server : kModelerServers) {
     EXPECT_EQ(activateWithoutLookup(module, server, 4, &command), 2) << server;
@@ -188,6 +212,12 @@ TEST_F(ModelerActivation, AsksForTheLargerTableInItsOrder) {
   };
   // clang-format on
   EXPECT_EQ(globals().asked(), wanted);
+}
+
+TEST(Startup, GivesFour) {
+  ModuleFile module;
+  ASSERT_EQ(module.load(modulePath()), "");
+  EXPECT_EQ(reinterpret_cast<std::uintptr_t>(module.startupResult()), 4U);
 }
 
 TEST(ServerTable, ListsFourServersWithoutFurtherTexts) {

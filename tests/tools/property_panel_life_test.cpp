@@ -239,6 +239,22 @@ TEST_F(PropertyPanel, KeepsPageAndGroupWhenItIsRunWhileOpen) {
   EXPECT_TRUE(isVisible(159));
 }
 
+TEST_F(PropertyPanel, AsksForItsOwnServicesOnly) {
+  openWith({"Hips"});
+  for (const std::string& name : standin::globals().asked()) EXPECT_NE(name, "Texture Editor 3");
+}
+
+TEST_F(PropertyPanel, KeepsItsServicesWhenAnotherToolWasRefusedOne) {
+  openWith({"Hips"});
+  standin::globals().withhold("Scene Objects 9");
+  EXPECT_EQ(host.activate(module, kRenamerTool), 2);
+  host.select({"Chest"});
+  sync();
+  EXPECT_EQ(control(kNameEdit)->text, "Chest");
+  show(Slot::ParentItem);
+  EXPECT_EQ(person::menu(behind(Slot::ParentItem))[1], "[file]:Body");
+}
+
 TEST_F(PropertyPanel, WorksAgainAfterTheModuleWasUnloadedWithThePanelOpen) {
   openWith({"Hips"});
   standin::panels().moduleUnloaded();
