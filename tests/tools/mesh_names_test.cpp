@@ -37,6 +37,24 @@ TEST_F(LayerNames, AreThoseOfTheCurrentObject) {
   EXPECT_EQ(lw::LayerName(0), "Body");
 }
 
+TEST_F(LayerNames, AreThoseOfTheFirstObjectOfTheName) {
+  standin::RigBuilder rig;
+  rig.layer(0, "Second");
+  rig.layer(1, "Its tail");
+  rig.root("A", {0, 0, 0}, {0, 1, 0});
+  mesh.host.add(rig.take(), "rig.lwo");
+  EXPECT_EQ(lw::LayerNames(), (Names{"Body", "Layer2"}));
+  EXPECT_EQ(lw::LayerName(0), "Body");
+}
+
+// One that was never saved, beside one that was.
+TEST_F(LayerNames, OfAnObjectThatTheSceneDoesNotKnowAreMadeOfTheNumber) {
+  mesh.host.options().unsavedFileName = standin::UnsavedFileName::Null;
+  mesh.host.add(smallRig());
+  EXPECT_EQ(lw::LayerName(0), "Layer1");
+  EXPECT_EQ(lw::LayerNames(), Names{});
+}
+
 TEST_F(LayerNames, OfNoObjectAreMadeOfTheNumber) {
   mesh.host.closeAll();
   EXPECT_EQ(lw::LayerName(4), "Layer5");
@@ -56,6 +74,17 @@ TEST(WeightMapNames, AreTheHostsOrMadeOfTheNumber) {
     EXPECT_EQ(lw::WeightMapNames(), (Names{"WMap1", "Arm"}));
     expectCleanEnd(mesh);
   }
+}
+
+TEST(WeightMapNames, AreOfNoMapsOfOtherTypes) {
+  standin::ObjectFile file = smallRig();
+  standin::VertexMap texture = file.layers[0].maps.front();
+  texture.type = lw::fourCharacters('T', 'X', 'U', 'V');
+  texture.name = "UV";
+  file.layers[0].maps.insert(file.layers[0].maps.begin(), texture);
+  const Mesh mesh(std::move(file));
+  EXPECT_EQ(lw::WeightMapNames(), Names{"Head"});
+  expectCleanEnd(mesh);
 }
 
 TEST(WeightMapNames, AreNoneWithoutMaps) {

@@ -34,6 +34,15 @@ TEST_F(EditRecord, SelectedOnesComeFromTheForegroundAndTheEditIsEnded) {
   EXPECT_EQ(onlyEdit().error, 0);
 }
 
+TEST_F(EditRecord, SelectedOnesOutsideTheForegroundAreNone) {
+  mesh.host.options().layerSwitchDeselects = false;
+  mesh.host.select({"Tail", "Hips"});
+  mesh.host.showLayers({0});
+  lw::CEditRecord record;
+  lw::BeginEditInRecord(record, lw::kEditSeesSelection);
+  EXPECT_EQ(mesh.namesOf(lw::CollectSelectedInEdit(record)), Names{"Hips"});
+}
+
 TEST_F(EditRecord, AllOfThemLeaveTheEditOpenForWriting) {
   mesh.host.showLayers({1});
   mesh.markDeleted("Chest");
@@ -52,7 +61,7 @@ TEST_F(EditRecord, LeftOpenIsEndedWithACodeAndDropsItsChanges) {
     lw::BeginEditInRecord(record, lw::kEditForTags);
     lw::setPolygonTag(*record.edit, mesh.id("Tail"), lw::kTagBone, "Fin");
   }
-  EXPECT_NE(onlyEdit().error, 0);
+  EXPECT_EQ(onlyEdit().error, lw::kEditUserAbort);
   EXPECT_EQ(mesh.object->skelegon("Fin"), nullptr);
 }
 
@@ -95,6 +104,18 @@ TEST(EditRecordFailures, AFailedScanEndsTheEditWithItsCodeAndNobodyIsTold) {
   });
   EXPECT_EQ(refused.thrown, "");
   EXPECT_EQ(refused.mesh->host.edits().back().error, lw::kEditNoMemory);
+}
+
+TEST(EditRecordFailures, AFailedScanEndsTheEditWithWhateverCodeTheHostHas) {
+  const Refused refused = refuseFirst(
+      "MeshEditOp::fastPolyScan",
+      [](Mesh&) {
+        lw::CEditRecord record;
+        if (lw::BeginEditInRecord(record, lw::kEditSeesSelection) == nullptr) return;
+        lw::CollectSelectedInEdit(record);
+      },
+      [](Mesh& mesh) { mesh.host.options().refusalCode = lw::kEditBadSurface; });
+  EXPECT_EQ(refused.mesh->host.edits().back().error, lw::kEditBadSurface);
 }
 
 TEST(EditRecordFailures, AMissingRecordIsPassedOver) {

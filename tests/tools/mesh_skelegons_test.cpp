@@ -58,6 +58,13 @@ TEST_F(CollectSelectedSkelegons, LeavesOutDeletedOnesAndOtherPolygons) {
   EXPECT_EQ(mesh.namesOf(lw::CollectSelectedSkelegons()), Names{"Chest"});
 }
 
+TEST_F(CollectSelectedSkelegons, LeavesOutWhatIsNotInTheForeground) {
+  mesh.host.options().layerSwitchDeselects = false;
+  mesh.host.select({"Tail", "Chest"});
+  mesh.host.showLayers({0});
+  EXPECT_EQ(mesh.namesOf(lw::CollectSelectedSkelegons()), Names{"Chest"});
+}
+
 TEST_F(CollectSelectedSkelegons, WithNothingSelectedIsEmpty) { EXPECT_TRUE(lw::CollectSelectedSkelegons().empty()); }
 
 // --- what a failing host call does ---------------------------------------------------------------------------------------
@@ -68,10 +75,29 @@ TEST(MeshFailures, AFailedScanEndsTheEditWithItsCode) {
   EXPECT_EQ(refused.mesh->host.edits().back().error, lw::kEditNoMemory);
 }
 
-TEST(MeshFailures, AMissingRecordEndsTheEditWithACode) {
+TEST(MeshFailures, AMissingRecordEndsTheEditAsABadArgument) {
   const Refused refused = refuseFirst("MeshEditOp::polyInfo", [](Mesh&) { lw::CollectSkelegons(); });
   EXPECT_EQ(refused.thrown, "polyInfo() !");
-  EXPECT_NE(refused.mesh->host.edits().back().error, 0);
+  EXPECT_EQ(refused.mesh->host.edits().back().error, lw::kEditBadArguments);
+}
+
+// Whatever the code is that the host refuses with.
+TEST(MeshFailures, ARefusedCallEndsTheEditWithTheHostsCode) {
+  const MeshAction tag = [](Mesh& mesh) {
+    lw::CMeshEdit edit(lw::kEditForTags);
+    edit.setTag(mesh.id("Hips"), kStrengthTag, "1");
+  };
+  const std::pair<const char*, MeshAction> calls[] = {
+      {"MeshEditOp::fastPolyScan", [](Mesh&) { lw::CollectSkelegons(); }},
+      {"MeshEditOp::polTag", tag},
+      {"MeshEditOp::polSelect", [](Mesh& mesh) { lw::SelectSkelegons(mesh.ids({"Hips"})); }},
+  };
+  for (const int code : {static_cast<int>(lw::kEditBadLayer), static_cast<int>(lw::kEditBadSurface)}) {
+    for (const auto& [function, action] : calls) {
+      const Refused refused = refuseFirst(function, action, [code](Mesh& mesh) { mesh.host.options().refusalCode = code; });
+      EXPECT_EQ(refused.mesh->host.edits().back().error, code) << function;
+    }
+  }
 }
 
 TEST(MeshFailures, AFailedTagIsThrownAndTheWholeEditDropped) {
@@ -140,6 +166,7 @@ TEST(MeshFailures, AnExceptionOfAnyKindEndsTheEditAndDropsItsChanges) {
   });
   EXPECT_EQ(thrown, "bad_alloc");
   EXPECT_EQ(mesh.storedTag("Hips", kStrengthTag), std::nullopt);
+  EXPECT_EQ(mesh.host.edits().back().error, lw::kEditUserAbort);
   expectCleanEnd(mesh);
 }
 

@@ -108,6 +108,28 @@ TEST_F(PropertyPanel, TheButtonGivesEachSkelegonTheWeightMapOfItsName) {
   EXPECT_EQ(changingEdits(), 1U);
 }
 
+TEST_F(PropertyPanel, TheButtonTakesTheMapOfTheNameThatTheSkelegonHasNow) {
+  openWith({"Hips"});
+  store("Hips", lw::kTagBone, "Spine");
+  pressBehind(Slot::WeightMap, 2);
+  EXPECT_EQ(stored("Spine", lw::kTagBoneWeight), "Spine");
+  EXPECT_EQ(stored("Spine", Slot::BoneActive), "1");
+}
+
+// Bones without a name are called "Bone" elsewhere. A map of that name is not theirs.
+TEST_F(PropertyPanel, TheButtonFindsNoMapForASkelegonWithoutANameTag) {
+  standin::RigBuilder rig;
+  rig.weightMap("Bone", {{rig.point({0, 0, 0}), 1.0F}});
+  rig.between(rig.point({0, 0, 0}), rig.point({0, 1, 0}), std::nullopt);
+  object = &host.add(rig.take(), "unnamed.lwo");
+  host.selectPolygons(object->skelegons());
+  openTool();
+  pressBehind(Slot::WeightMap, 2);
+  const standin::MeshPolygon* const unnamed = object->skelegons().front();
+  EXPECT_EQ(unnamed->tag(lw::kTagBoneWeight), "");
+  EXPECT_EQ(unnamed->tag(skg::SlotTagId(Slot::BoneActive)), "0");
+}
+
 TEST_F(PropertyPanel, AMapThatWasRemovedMeanwhileIsNoMapForTheButton) {
   openWith({"Head"});
   host.removeWeightMap("Head");
@@ -290,9 +312,44 @@ TEST_F(Reset, AsksBothQuestionsInTheirWords) {
   press(mst::control::kReset);
   press(mst::control::kResetAll);
   ASSERT_EQ(host.messages().size(), 2U);
+  for (const standin::Message& question : host.messages()) EXPECT_EQ(question.title, "Orlo:SkelegonProperty");
   EXPECT_EQ(host.messages()[0].kind, standin::MessageKind::YesNo);
   EXPECT_EQ(host.messages()[0].first, "Reset selected skelegon's tag ?");
   EXPECT_EQ(host.messages()[1].first, "Reset all skelegon's tag ?");
+}
+
+TEST_F(Reset, TakesEveryAnswerButZeroForYes) {
+  fill("Hips");
+  static int given;
+  lw::LWMessageFuncs answering{};
+  answering.yesNo = [](const char*, const char*, const char*) { return given; };
+  standin::globals().offer("Info Messages 4", &answering);
+  openWith({"Hips"});
+  given = 0;
+  press(mst::control::kReset);
+  EXPECT_EQ(settingsOf("Hips"), skg::kSlotCount);
+  for (const int yes : {2, -1, 1}) {
+    fill("Hips");
+    given = yes;
+    press(mst::control::kReset);
+    EXPECT_EQ(settingsOf("Hips"), 0U) << yes;
+  }
+}
+
+// What was asked for is done: to the skelegons that were selected then, and the closed panel looks at nothing any more.
+TEST_F(Reset, ReachesTheSkelegonsInQuestionThoughThePanelWasClosedMeanwhile) {
+  fill("Hips");
+  fill("Chest");
+  openWith({"Hips"});
+  const std::size_t edits = host.edits().size();
+  host.showMessagesTo([this](const standin::Message&) {
+    EXPECT_TRUE(person::close(panel));
+    return standin::Answer::Yes;
+  });
+  press(mst::control::kReset);
+  EXPECT_EQ(settingsOf("Hips"), 0U);
+  EXPECT_EQ(settingsOf("Chest"), skg::kSlotCount);
+  EXPECT_EQ(host.edits().size(), edits + 1);
 }
 
 TEST_F(Reset, OfAllReachesUnselectedSkelegonsAndHiddenLayers) {

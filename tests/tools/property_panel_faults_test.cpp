@@ -97,6 +97,22 @@ TEST_F(PropertyPanel, ARefusedEditLeavesTheControlsAsTheyAre) {
   EXPECT_EQ(control(Slot::Strength)->real, 40);
 }
 
+// Shown first, then written, like what is typed.
+TEST_F(PropertyPanel, ARefusedEditLeavesTheChoiceOfAChooserInItsField) {
+  openWith({"Hips"});
+  const std::string before = everythingStored();
+  show(Slot::WeightMap);
+  standin::witness().refuseNext("LWModCommand::editBegin2");
+  chooseBehind(Slot::WeightMap, "Spine");
+  EXPECT_TRUE(standin::witness().refusalHappened());
+  EXPECT_EQ(shown(Slot::WeightMap), "Spine");
+  show(Slot::ParentItem);
+  standin::witness().refuseNext("LWModCommand::editBegin2");
+  chooseBehind(Slot::ParentItem, "Chest");
+  EXPECT_EQ(shown(Slot::ParentItem), "Chest");
+  EXPECT_EQ(everythingStored(), before);
+}
+
 TEST(PropertyPanelRefusals, AResetRemovesEverythingOrNothing) {
   refuseEach(
       &openOnTwo,

@@ -129,6 +129,34 @@ TEST_F(PropertyPanel, SwitchingPagesTwiceReturnsThePanelToItsFirstWidth) {
   EXPECT_EQ(panel->height, 700);
 }
 
+TEST_F(PropertyPanel, SwitchesItsWidthWithTheGroupToo) {
+  standin::panels().options.sizeNeedsResizable = false;
+  openWith({"Hips"});
+  showPage(kControllersPage);
+  EXPECT_EQ(panel->width, 386);
+  EXPECT_TRUE(person::choose(control(kGroups), kScaleGroup));
+  EXPECT_EQ(panel->width, 385);
+  EXPECT_TRUE(person::choose(control(kGroups), kRotationGroup));
+  EXPECT_EQ(panel->width, 386);
+}
+
+// A host that opens panels in sizes of its own.
+TEST_F(PropertyPanel, TakesItsSizeAgainOnceItIsOpen) {
+  standin::panels().options.sizeNeedsResizable = false;
+  static int (*openOfHost)(lw::PanelId, int);
+  openOfHost = std::exchange(standin::panelServices()->open, [](lw::PanelId id, int flags) {
+    const int answer = openOfHost(id, flags);
+    Panel* const opened = standin::panels().find(kPropertyTool);
+    opened->width = 500;
+    opened->height = 400;
+    return answer;
+  });
+  openWith({"Hips"});
+  standin::panelServices()->open = openOfHost;
+  EXPECT_EQ(panel->width, 385);
+  EXPECT_EQ(panel->height, 700);
+}
+
 TEST_F(PropertyPanel, APageBeyondTheTabsChangesNothing) {
   openWith({"Hips"});
   showPage(kBonePage);
@@ -175,6 +203,15 @@ TEST_F(PropertyPanel, WritesToAllSelectedSkelegonsWhicheverIsShown) {
   enter(Slot::Strength, 40);
   EXPECT_EQ(stored("Hips", Slot::Strength), "40.000000");
   EXPECT_EQ(stored("Chest", Slot::Strength), "40.000000");
+}
+
+TEST_F(PropertyPanel, TheNameListIsBackAtItsFirstEntryAfterSync) {
+  store("Chest", Slot::Strength, "40.000000");
+  openWith({"Hips", "Chest"});
+  EXPECT_TRUE(person::choose(control(kNamePopup), "Chest"));
+  sync();
+  EXPECT_EQ(control(kNamePopup)->shown(), "Hips");
+  EXPECT_EQ(control(Slot::Strength)->real, 100);
 }
 
 TEST_F(PropertyPanel, ANameBeyondTheListChangesNothing) {

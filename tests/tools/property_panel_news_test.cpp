@@ -35,6 +35,47 @@ TEST_F(PropertyPanelNews, AValueANameAReloadAndAFillButtonAreToldOnce) {
   }
 }
 
+TEST_F(PropertyPanelNews, AChooserAPresetAndTheMapButtonAreToldOnce) {
+  ASSERT_TRUE(person::choose(control(mst::control::kPages), 3));  // where the presets act
+  using Act = std::function<standin::Done()>;
+  for (const Act& act :
+       {Act([&] { return standin::oddhost::choose(control(16), 1); }),
+        Act([&] { return standin::oddhost::fire(control(17)); }),
+        Act([&] { return standin::oddhost::choose(control(48), 1); }), Act([&] { return person::press(control(88)); })}) {
+    const PanelListener listener;
+    EXPECT_TRUE(act());
+    EXPECT_EQ(listener.heard, News{PanelNews::SelectionChanged});
+  }
+}
+
+TEST_F(PropertyPanelNews, AResetIsToldOnceThoughThePanelWasClosedMeanwhile) {
+  for (const bool closes : {false, true}) {
+    const PanelListener listener;
+    host.showMessagesTo([&](const standin::Message&) {
+      if (closes) {
+        EXPECT_TRUE(person::close(panel));
+      }
+      return standin::Answer::Yes;
+    });
+    EXPECT_TRUE(person::press(control(mst::control::kReset)));
+    EXPECT_EQ(listener.heard, News{PanelNews::SelectionChanged}) << closes;
+  }
+}
+
+TEST_F(PropertyPanelNews, AResetThatTheUserDoesNotWantIsToldToNobody) {
+  const PanelListener listener;
+  host.answer(standin::Answer::No);
+  EXPECT_TRUE(person::press(control(mst::control::kReset)));
+  EXPECT_TRUE(listener.heard.empty());
+}
+
+// It changes nothing.
+TEST_F(PropertyPanelNews, ARunWhileThePanelIsOpenIsToldToNobody) {
+  const PanelListener listener;
+  EXPECT_TRUE(tool->OpenPropertyPanel());
+  EXPECT_TRUE(listener.heard.empty());
+}
+
 TEST_F(PropertyPanelNews, APageSwitchIsToldToNobody) {
   const PanelListener listener;
   EXPECT_TRUE(person::choose(control(mst::control::kPages), 1));

@@ -267,6 +267,22 @@ TEST_F(PropertyPanel, ADistanceIsStoredInMetresWhateverUnitIsTyped) {
   EXPECT_EQ(stored("Hips", Slot::RangeMax), "0.150000");
 }
 
+TEST_F(PropertyPanel, FramesBelowZeroAndFarAboveItAreStored) {
+  openWith({"Hips"});
+  for (const int frame : {-1, -5000, 11, 250, 99999}) {
+    enter(Slot::IKInitialStateFrame, frame);
+    EXPECT_EQ(stored("Hips", Slot::IKInitialStateFrame), std::to_string(frame));
+  }
+}
+
+TEST_F(PropertyPanel, AValueEnteredWithNothingSelectedStaysInSightUntilTheNextLook) {
+  openWith({});
+  enter(Slot::Strength, 40);
+  EXPECT_EQ(shown(Slot::Strength), "40 %");
+  sync();
+  EXPECT_EQ(shown(Slot::Strength), "100 %");
+}
+
 TEST_F(PropertyPanel, EachStepOfADraggedSliderIsStored) {
   openWith({"Hips"});
   show(Slot::Strength);
