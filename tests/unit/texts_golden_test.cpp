@@ -1,5 +1,4 @@
-// Every text of both languages in its place, against a list that was checked by hand. The list changes only when a text is
-// meant to.
+// Every text of both languages in its place, against a list that was not made of the tables. It changes only when a text is meant to.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -53,6 +52,7 @@ std::string everyText() {
          table("labels of the renamer", renamerLabels(kEnglish), renamerLabels(kJapanese), false) +
          lists("list of the renamer", renamerChoices()) +
          table("messages of the renamer", renamerMessages(kEnglish), renamerMessages(kJapanese), true) +
+         table("refusals of the renamer", renamerRefusals(kEnglish), renamerRefusals(kJapanese), true) +
          table("texts of Layout's panel", layoutTexts(kEnglish), layoutTexts(kJapanese), true);
 }
 
