@@ -9,7 +9,6 @@
 #include "host/lwtool2_eval.h"
 #include "host/lwtool2_globals.h"
 #include "layout/ST_bone_set_params.h"
-#include "reader/object_reader.h"
 #include "reader/stored_properties.h"
 #include "skelegon/item_names.h"
 
@@ -137,11 +136,11 @@ void applyToLayer(lw::CSceneItems& scene, const st::ObjectFileData& data, const 
 }
 
 // One selected object. The report line of what failed, or 0.
-int convertObject(lw::CSceneItems& scene, CNarrowPath& path, lw::ItemId object, bool executeSkelegonToBone,
+int convertObject(lw::CSceneItems& scene, CLastObjectFile& file, lw::ItemId object, bool executeSkelegonToBone,
                   bool recordPivot) {
   scene.forget();
   if (executeSkelegonToBone && !ConvertSkelegons(object)) return 454;
-  return ConvertObjectSkelegons(scene, path, object, recordPivot) ? 0 : 457;
+  return ConvertObjectSkelegons(scene, file, object, recordPivot) ? 0 : 457;
 }
 
 }  // namespace
@@ -155,16 +154,16 @@ bool ConvertSkelegons(lw::ItemId object) {
          EvalF("RefreshNow");
 }
 
-bool ConvertObjectSkelegons(lw::CSceneItems& scene, CNarrowPath& path, lw::ItemId object, bool recordPivot) {
+bool ConvertObjectSkelegons(lw::CSceneItems& scene, CLastObjectFile& file, lw::ItemId object, bool recordPivot) {
   const char* const hostPath = lw::objectInfo().filename(object);
   const std::string ownPath = hostPath == nullptr ? "" : hostPath;
-  st::ObjectFileData data;
-  if (!st::ReadObjectFile(data, path.ToNarrowPath(hostPath == nullptr ? nullptr : ownPath.c_str()))) return false;
+  const st::ObjectFileData* const data = file.read(hostPath == nullptr ? nullptr : ownPath.c_str());
+  if (data == nullptr) return false;
 
-  const ObjectNames names = namesOf(object, data);
-  const std::optional<st::ObjectLayer> layer = layerNamed(data, names.layer, path.utf8());
+  const ObjectNames names = namesOf(object, *data);
+  const std::optional<st::ObjectLayer> layer = layerNamed(*data, names.layer, file.utf8());
   if (!layer) return true;
-  applyToLayer(scene, data, *layer, names.object, recordPivot);
+  applyToLayer(scene, *data, *layer, names.object, recordPivot);
   lw::StatusProgress(1.0F, "%s", "Now setting bone properties...done.");
   return true;
 }
@@ -176,9 +175,10 @@ void convertSelection(bool executeSkelegonToBone, bool recordPivotRotation) {
     const lw::CSavedSelection selection;
     lw::CSceneItems scene;
     static CNarrowPath path;
+    CLastObjectFile file(path);
     for (const lw::ItemId item : selection.items()) {
       if (lw::ClassifyItem(item) != lw::ItemKind::FileObject) continue;
-      if (const int line = convertObject(scene, path, item, executeSkelegonToBone, recordPivotRotation)) {
+      if (const int line = convertObject(scene, file, item, executeSkelegonToBone, recordPivotRotation)) {
         lw::ReportError(kSource, line, "");
         break;
       }

@@ -4,7 +4,7 @@
 
 #include "host/lwtool2_scene.h"
 #include "interface/lightwave.h"
-#include "layout/narrow_path.h"
+#include "layout/last_object_file.h"
 
 namespace lwp {
 
@@ -18,7 +18,8 @@ void convertSelection(bool executeSkelegonToBone, bool recordPivotRotation);
 // Lets Layout turn the object's own skelegons into bones.
 bool ConvertSkelegons(lw::ItemId object);
 
-// Reads the object's file and gives the bones of its layer their stored settings. False only when the file cannot be read.
-bool ConvertObjectSkelegons(lw::CSceneItems& scene, CNarrowPath& path, lw::ItemId object, bool recordPivot);
+// Reads the object's file, unless the run has read it last, and gives the bones of its layer their stored settings. False
+// only when the file cannot be read.
+bool ConvertObjectSkelegons(lw::CSceneItems& scene, CLastObjectFile& file, lw::ItemId object, bool recordPivot);
 
 }  // namespace lwp
