@@ -13,7 +13,7 @@
 namespace lw {
 namespace {
 
-constexpr std::size_t kExpectedPolygons = 1024;
+constexpr std::size_t kFurtherPolygons = 1024;
 constexpr int kKeepSelection = 0;  // the last argument of done
 
 MeshEditOp* begunEdit(int mode) {
@@ -63,17 +63,21 @@ PolygonIds collect(int mode, int layers, FlagRule rule) {
 PolygonScan::PolygonScan(const MeshEditOp& edit, int layers) {
   const FastPolygonScan keep = [](void* user, PolygonId polygon) {
     auto& scan = *static_cast<PolygonScan*>(user);
-    const auto append = [&] {
-      scan.found.push_back(polygon);
-      return static_cast<int>(kEditNoError);
-    };
-    return guarded(append, static_cast<int>(kEditNoMemory), scan.failure);
+    // Nothing of this can throw.
+    if (scan.found.size() == scan.found.capacity()) [[unlikely]]
+      return scan.appendBeyondRoom(polygon);
+    scan.found.push_back(polygon);
+    return static_cast<int>(kEditNoError);
   };
+  // A list that grows is copied each time. A scan finds about as many polygons as the one before, which the user may have added
+  // some to.
+  static std::size_t expected = kFurtherPolygons;
   const auto run = [&] {
-    found.reserve(kExpectedPolygons);
+    found.reserve(expected);
     return edit.fastPolyScan(edit.state, keep, this, layers, 0);
   };
   error = guarded(run, static_cast<int>(kEditNoMemory), failure);
+  expected = found.size() + kFurtherPolygons;
 }
 
 // ---------------------------------------------------------------------------------------------------------------------

@@ -134,8 +134,12 @@ TEST(EditRecordFailures, AMissingRecordIsPassedOver) {
 }
 
 TEST(EditRecordFailures, MemoryThatRunsOutWithinTheScanIsACode) {
+  {
+    const Mesh few;  // a scan makes room for what the one before it has found and some more
+    lw::CollectSkelegons();
+  }
   standin::RigBuilder rig;
-  for (int i = 0; i < 1025; ++i) rig.root("Bone", {0, 0, 0}, {0, 1, 0});
+  for (int i = 0; i < 3000; ++i) rig.root("Bone", {0, 0, 0}, {0, 1, 0});
   const Mesh mesh(rig.take());
   lw::CEditRecord record;
   lw::BeginEditInRecord(record, lw::kEditForTags);
