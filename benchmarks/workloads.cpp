@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "benchmarks/faces.h"
 #include "benchmarks/loaded_module.h"
 #include "benchmarks/object_files.h"
 #include "objectfile/sample_rigs.h"
@@ -19,16 +20,17 @@ using varnel::bench::BenchFolder;
 using varnel::bench::LoadedModule;
 using varnel::bench::makeMesh;
 using varnel::bench::must;
+using varnel::bench::openBesideFaces;
 using varnel::bench::opened;
 
 constexpr std::size_t kSkelegons = 200;
 constexpr std::size_t kSettingsEach = 20;
 constexpr std::size_t kMeshBytes = 4'000'000;
+constexpr std::size_t kFaces = 200'000;
 
 void openPropertyPanel(ModelerHost& host, ModuleFile& module) {
   host.selectPolygons({host.current()->skelegons().front()});
-  host.activate(module, kPropertyTool);
-  opened(kPropertyTool);
+  openBesideFaces(host, module, kPropertyTool);
 }
 
 void changeTwentySettings(ModelerHost& host, ModuleFile& module) {
@@ -45,8 +47,7 @@ void reloadTwentyTimes(ModelerHost& host, ModuleFile& module) {
 
 void renameAll(ModelerHost& host, ModuleFile& module) {
   host.selectPolygons(host.current()->skelegons());
-  host.activate(module, kRenamerTool);
-  const Panel& panel = opened(kRenamerTool);
+  const Panel& panel = openBesideFaces(host, module, kRenamerTool);
   must(person::choose(panel.find(ControlKind::Popup, 0), "Advanced Setting"));
   for (const char* box : {"Based Name", "Column Character", "Row Digit", "Bone Property"}) {
     must(person::switchTo(panel.find(ControlKind::Bool, box), true));
@@ -56,24 +57,32 @@ void renameAll(ModelerHost& host, ModuleFile& module) {
 
 void selectTwentyRows(ModelerHost& host, ModuleFile& module) {
   constexpr int kRow = 14;
-  host.activate(module, kSelectorTool);
-  for (int i = 0; i < 20; ++i) must(person::click(opened(kSelectorTool).find(ControlKind::OpenGL), 200, kRow * (2 + i)));
+  const Panel& panel = openBesideFaces(host, module, kSelectorTool);
+  for (int i = 0; i < 20; ++i) must(person::click(panel.find(ControlKind::OpenGL), 200, kRow * (2 + i)));
 }
 
 struct ModelerWorkload {
   std::string_view name;
   void (*run)(ModelerHost& host, ModuleFile& module);
+  std::size_t faces = 0;  // beside the skelegons
 };
+// The last ones are others again: what they take beyond those, the faces have taken.
 constexpr std::array kModelerWorkloads{
-    ModelerWorkload{"property-open", openPropertyPanel},      ModelerWorkload{"property-change-20", changeTwentySettings},
-    ModelerWorkload{"property-reload-20", reloadTwentyTimes}, ModelerWorkload{"rename-all", renameAll},
+    ModelerWorkload{"property-open", openPropertyPanel},
+    ModelerWorkload{"property-change-20", changeTwentySettings},
+    ModelerWorkload{"property-reload-20", reloadTwentyTimes},
+    ModelerWorkload{"rename-all", renameAll},
     ModelerWorkload{"selector-click-20", selectTwentyRows},
+    ModelerWorkload{"mesh-property-open", openPropertyPanel, kFaces},
+    ModelerWorkload{"mesh-property-change-20", changeTwentySettings, kFaces},
+    ModelerWorkload{"mesh-property-reload-20", reloadTwentyTimes, kFaces},
 };
 
 void runInModeler(const ModelerWorkload& workload) {
   ModelerHost host;
   host.add(makeChainRig(kSkelegons, kSettingsEach), "rig.lwo");
   LoadedModule module;
+  varnel::bench::setFaces(workload.faces);
   workload.run(host, module);
 }
 
@@ -102,9 +111,10 @@ constexpr std::array kLayoutWorkloads{LayoutWorkload{"convert", convert}, Layout
 
 }  // namespace
 
-// Without an argument: the names, one in each line.
+// Runs the workload of that name. "faces" tells how many the mesh has; without an argument the names stand one in each line.
 int main(int argc, char** argv) {
   const std::string_view wanted = argc > 1 ? argv[1] : "";
+  if (wanted == "faces") return std::printf("%zu\n", kFaces) > 0 ? 0 : 1;
   bool isKnown = wanted.empty();
   const auto runIfWanted = [&](const auto& workload, auto run) {
     if (wanted.empty()) std::printf("%.*s\n", static_cast<int>(workload.name.size()), workload.name.data());
