@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "benchmarks/loaded_module.h"
+#include "benchmarks/measuring.h"
 #include "benchmarks/object_files.h"
-#include "benchmarks/processor_time.h"
 #include "objectfile/sample_rigs.h"
 #include "standin/core/tool_names.h"
 #include "standin/layout/layout_host.h"
@@ -57,6 +57,7 @@ class Character {
   // One run over so many layers.
   double milliseconds(std::size_t layers) {
     host_.select({items_.begin(), items_.begin() + static_cast<std::ptrdiff_t>(layers)});
+    forgetUsedMemory();
     const double before = processorMilliseconds();
     press();
     return processorMilliseconds() - before;

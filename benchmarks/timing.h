@@ -13,19 +13,9 @@
 #include <utility>
 #include <vector>
 
-#if defined(__GLIBC__)
-#include <malloc.h>
-#endif
+#include "benchmarks/measuring.h"
 
 namespace varnel::bench {
-
-// The C library keeps memory that was given back and hands it out again: a second read of the same object would be quicker
-// than the first, which is the only one there is in the host. This lets the system have all that is not in use.
-inline void forgetUsedMemory() {
-#if defined(__GLIBC__)
-  malloc_trim(0);
-#endif
-}
 
 // Measures 'action' in each iteration: the processor's time, of the program and of the system for it, so that other work on
 // the machine counts less. What it returns is kept until the time was taken, then thrown away.
