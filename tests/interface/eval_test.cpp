@@ -312,12 +312,12 @@ TEST_F(InModeler, TheLowSixteenBitsOfTheLocaleDecide) {
 TEST_F(InModeler, TheLowSixteenBitsOfTheLocaleDecideForTheRenamerToo) {
   standin::globals().offerNumber("Locale Info", 0x10411);
   LoadRenamerStrings(standin::Globals::lookup());
-  EXPECT_STREQ((*renamerTexts().labels)[0], "モード");
+  EXPECT_STREQ(renamerTexts().labels[0], "モード");
   EXPECT_STREQ(renamerTexts().choices[0][0], "変更");
   EXPECT_STREQ((*renamerTexts().messages)[1], "スケルゴンを選択してください！");
   standin::globals().offerNumber("Locale Info", 0x04110409);
   LoadRenamerStrings(standin::Globals::lookup());
-  EXPECT_STREQ((*renamerTexts().labels)[0], "Mode");
+  EXPECT_STREQ(renamerTexts().labels[0], "Mode");
   EXPECT_STREQ(renamerTexts().choices[0][0], "Change");
   EXPECT_STREQ((*renamerTexts().messages)[1], "Need select the skelegon!");
 }
