@@ -1,5 +1,5 @@
 // What only the operating system knows. Source files per system: platform_win32.cpp and platform_gl_win32.cpp,
-// platform_posix.cpp.
+// platform_posix.cpp and platform_gl_posix.cpp; OpenGL apart, so that tests can put a recorder in its place.
 #pragma once
 
 #include <optional>

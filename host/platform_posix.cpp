@@ -55,6 +55,4 @@ std::string narrowFromUtf16(std::u16string_view text) {
   return narrow;
 }
 
-const GlCalls* glCalls() { return nullptr; }
-
 }  // namespace platform

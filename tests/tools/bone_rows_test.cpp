@@ -29,6 +29,7 @@ Rows leadingRows() {
       {"03", {{16, "3"}}, {"BoneMode 3"}, {}, {"BoneMode 3"}},
       {"04", {{17, "9"}}, {"NumLimitedBones 9"}, {}, {"NumLimitedBones 9"}},
       {"05", {{26, "1"}}, {"BoneType 1"}, {{26, "0"}}, {"BoneType 1"}},
+      {"05two", {{26, "2"}}, {"BoneType 1"}, {{26, "2"}}, {"BoneType 2"}},
       {"06", {{27, "0"}}, {"BoneActive"}, {{27, "1"}}, {"BoneActive"}},
       {"07", {{28, "Map"}}, {"BoneWeightMapName Map"}, {}, {"BoneWeightMapName Map"}},
       {"07none", {}, {"BoneWeightMapName (none)"}, {{28, "Map"}}, {"BoneWeightMapName (none)"}},
@@ -302,6 +303,13 @@ TEST_F(BoneRows, JudgeSoftIKByTheObjectiveThatWasSent) {
   EXPECT_EQ(item("Bone").settings.ik.objective, 0);
   EXPECT_FALSE(isSentInAnyForm(commandsOfSkelegon(1), "SoftIK"));
   EXPECT_FALSE(isSentInAnyForm(commandsOfSkelegon(1), "SoftIKDistanceType"));
+}
+
+// The host refuses the controller, which has the bit, and keeps the one before.
+TEST_F(BoneRows, AlignToThePathByTheControllersThatTheHostKept) {
+  convert(load(twoBones({{95, "12"}})));
+  EXPECT_TRUE(isSent(commandsOfSkelegon(1), "HController 12"));
+  EXPECT_FALSE(isSentInAnyForm(commandsOfSkelegon(1), "PathAlign"));
 }
 
 TEST_F(BoneRows, SendTheGreatestNumberForOneBeyond32Bits) {

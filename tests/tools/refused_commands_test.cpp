@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 #include <new>
 #include <optional>
@@ -14,6 +15,7 @@
 #include "host/lwtool2_globals.h"
 #include "layout/ST_bone_set_params.h"
 #include "layout/conversion.h"
+#include "objectfile/file_bytes.h"
 #include "skelegon/setting_groups.h"
 #include "standin/core/globals.h"
 #include "tests/tools/conversion_fixture.h"
@@ -445,6 +447,17 @@ TEST_F(RefusedRun, OfTheCommandsThatMakeBonesEndsWithTheObject) {
   ASSERT_EQ(evaluator().reports().size(), 1U);
   EXPECT_EQ(evaluator().reports()[0].source, "ST_CSkgConvPanel");
   EXPECT_EQ(evaluator().reports()[0].line, 454);
+  EXPECT_FALSE(has("secondUpper"));
+  expectTheEnd();
+}
+
+TEST_F(RefusedRun, OfAFileThatCannotBeReadHasALineOfItsOwn) {
+  load({});
+  std::filesystem::resize_file(standin::pathFromUtf8(folder.file("first.lwo")), 40);
+  run();
+  ASSERT_EQ(evaluator().reports().size(), 1U);
+  EXPECT_EQ(evaluator().reports()[0].source, "ST_CSkgConvPanel");
+  EXPECT_EQ(evaluator().reports()[0].line, 457);
   EXPECT_FALSE(has("secondUpper"));
   expectTheEnd();
 }

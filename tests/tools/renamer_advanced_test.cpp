@@ -200,6 +200,14 @@ TEST_F(Renamer, CountsAChainThatWasCutOutOfATree) {
   EXPECT_EQ(names(3), (Names{"Arm_L_01", "A0", "A1"}));
 }
 
+TEST_F(Renamer, CountsRowsAlsoWhenColumnsAreOff) {
+  host.select(kLeftArm);
+  openIn(RenameMode::Advanced);
+  switchOn(Item::RowOn);
+  run();
+  EXPECT_EQ(names(3), (Names{"Arm_L_01_01", "Arm_L_02_02", "Arm_L_03_03"}));
+}
+
 TEST_F(Renamer, CountsNothingWhenBothCountersAreOff) {
   host.select(kLeftArm);
   openIn(RenameMode::Advanced);
@@ -477,6 +485,26 @@ TEST_F(Renamer, RenamesNothingWithAllThreeOff) {
   run();
   EXPECT_EQ(changingEdits(), 0U);
   EXPECT_TRUE(host.messages().empty());
+}
+
+TEST_F(Renamer, ARunThatChangesNothingOpensNoEditToWrite) {
+  host.forgetRecords();
+  openIn(RenameMode::Advanced);
+  chooseTarget(RenameTarget::All);
+  run();
+  EXPECT_TRUE(host.messages().empty());
+  EXPECT_EQ(host.edits().size(), 1U);  // the one that read
+}
+
+TEST_F(Renamer, AnAdvancedRunWritesTheTagsInTheirOrder) {
+  store("Root", lw::kTagBone, std::nullopt);
+  host.selectPolygons({object->skelegons()[6]});
+  openIn(RenameMode::Advanced);
+  switchOn(Item::BoneProperty);
+  switchOn(Item::BaseNameOn);
+  type(Item::BaseName, "My");
+  run();
+  EXPECT_EQ(slotsInFileOrder("My"), (Slots{6, 28, 12, 51, 52, 130, 53, 131, 55, 132, 73, 133, 92, 134, 110, 135, 142, 144}));
 }
 
 TEST_F(Renamer, ABaseNameFillsTagsThatWereEmpty) {

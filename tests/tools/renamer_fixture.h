@@ -21,6 +21,7 @@ namespace varnel::test {
 using mst::RenameMode;
 using mst::RenameTarget;
 using Item = mst::RenamerItem;
+using Slots = std::vector<std::size_t>;
 
 inline constexpr const char* kNeedSelection = "Need select the skelegon!";
 inline constexpr const char* kDuplicated = "Skelegon names are duplicated!";
@@ -121,6 +122,17 @@ class RenamerSession : public ModelerSession {
     Names some = names();
     some.resize(std::min(count, some.size()));
     return some;
+  }
+
+  // Which settings a skelegon's tags hold, in the order in which the tags came to it.
+  Slots slotsInFileOrder(std::string_view name) const {
+    Slots slots;
+    for (const standin::PolygonTag& tag : object->skelegon(name)->content.tags) {
+      for (std::size_t slot = 0; slot < skg::kSlotCount; ++slot) {
+        if (skg::SlotTagId(slot) == tag.type) slots.push_back(slot);
+      }
+    }
+    return slots;
   }
 
   // The one message that was shown: its first line.

@@ -120,6 +120,22 @@ TEST_F(Renamer, WithoutBonePropertyOnlyTheNameIsWritten) {
   EXPECT_EQ(host.edits().back().changes, 1U);
 }
 
+TEST_F(Renamer, IsDrawnAnewAfterARun) {
+  host.select({"Root"});
+  openIn(RenameMode::Replace);
+  at(Item::Mode)->wantsPaint = false;
+  run();
+  EXPECT_TRUE(at(Item::Mode)->wantsPaint);
+}
+
+TEST_F(Renamer, IsNotDrawnAnewAfterARunThatRenamedNothing) {
+  openIn(RenameMode::Replace);
+  at(Item::Mode)->wantsPaint = false;
+  run();
+  EXPECT_EQ(onlyMessage(), kNeedSelection);
+  EXPECT_FALSE(at(Item::Mode)->wantsPaint);
+}
+
 TEST_F(Renamer, TheRunIsOneStepToUndo) {
   host.select(kLeftArm);
   const std::string before = everythingStored();
@@ -203,6 +219,14 @@ TEST_F(Renamer, WithBonePropertyEmptyTextsGetPrefixesToo) {
   runSimple(RenameMode::Prefix, "My", "", true);
   for (const Slot slot : mst::kSimpleModeSlots) EXPECT_NE(stored("MyRoot", slot), std::nullopt) << skg::indexOf(slot);
   EXPECT_EQ(stored("MyRoot", Slot::TargetItem), "My");
+}
+
+// What a saved object has behind each other, and what another plug-in sees come in.
+TEST_F(Renamer, WithBonePropertyTheTagsAreWrittenInTheirOrder) {
+  store("Root", lw::kTagBone, std::nullopt);
+  host.selectPolygons({object->skelegons()[6]});
+  runSimple(RenameMode::Prefix, "My", "", true);
+  EXPECT_EQ(slotsInFileOrder("My"), (Slots{6, 12, 28, 51, 52, 130, 53, 131, 55, 132, 73, 133, 92, 134, 110, 135, 142, 144}));
 }
 
 TEST_F(Renamer, WithBonePropertyChangeToNothingRemovesTheLinks) {

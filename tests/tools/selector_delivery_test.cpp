@@ -286,15 +286,20 @@ TEST_F(SelectorDelivery, ADoubleClickIsOneWithoutARelease) {
 
 // The host calls the callback while it is asked to paint.
 TEST_F(SelectorDelivery, AHostThatPaintsAtOncePressesNothingByIt) {
-  for (const Painter painter : kPainters) {
-    options.painter = painter;
-    options.paintsAtOnce = true;
-    openTool();
-    click(row::kChest, kCtrl);
-    EXPECT_EQ(selected(), Names{"Chest"});
-    click(row::kChest, kCtrl);
-    EXPECT_EQ(selected(), Names{});
-    ASSERT_TRUE(person::close(panel));
+  options.paintsAtOnce = true;
+  for (const Delivery delivery : {Delivery::ControlOnly, Delivery::HooksOnly, Delivery::Both}) {
+    deliver(delivery);
+    for (const Painter painter : kPainters) {
+      options.painter = painter;
+      openTool();
+      startCounting();
+      click(row::kChest, kCtrl);
+      EXPECT_EQ(selected(), Names{"Chest"});
+      click(row::kChest, kCtrl);
+      EXPECT_EQ(selected(), Names{});
+      EXPECT_EQ(pushes(), 2U);
+      ASSERT_TRUE(person::close(panel));
+    }
   }
 }
 

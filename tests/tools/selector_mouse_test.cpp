@@ -174,6 +174,14 @@ TEST_P(SelectorScroll, AResizeBeginsAtTheTopAgain) {
   EXPECT_EQ(shownIn(2), "B0");
 }
 
+TEST_P(SelectorScroll, AResizeEndsADrag) {
+  pressAt(235, 5);
+  EXPECT_TRUE(person::resize(panel, 251, 167));
+  moveTo(235, 300);
+  releaseAt(235, 300);
+  EXPECT_EQ(shownIn(2), "B0");
+}
+
 // The wheel comes through its hook only.
 INSTANTIATE_TEST_SUITE_P(Deliveries, SelectorWheel, testing::Values(Delivery::HooksOnly, Delivery::Both), &nameOfParam);
 

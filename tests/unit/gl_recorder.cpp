@@ -94,7 +94,7 @@ struct RecordedCalls {
     GlRecorder& r = outside("begin");
     r.isDrawing_ = true;
     const bool isDotted = primitive == gl::kLines && r.state.enabled.contains(gl::kLineStipple);
-    r.shapes.push_back({primitive, r.state.colour, isDotted, r.state.pattern, {}});
+    r.shapes.push_back({primitive, r.state.colour, isDotted, r.state.pattern, r.state.width, {}});
   }
   static void end() {
     GlRecorder& r = counted();

@@ -24,6 +24,7 @@ struct DrawnShape {
   Rgb colour{};
   bool isDotted = false;
   unsigned pattern = 0;
+  double width = 0;           // of a line
   std::vector<Spot> corners;  // in pixels of the view
 };
 

@@ -13,6 +13,7 @@ namespace varnel::test {
 namespace {
 
 using Item = mst::RenamerItem;
+using Kind = mst::HostControl;
 using Measures = std::array<forms::Measured, mst::kRenamerItemCount>;
 using forms::Position;
 using mst::RenameMode;
@@ -59,6 +60,39 @@ TEST(RenamerHomes, HaveTheHeightsOfTheTable) {
   tops.resize(32);
   EXPECT_EQ(tops, (std::vector<int>{0,   24,  48,  72,  96,  96,  96,  120, 142, 142, 166, 166, 190, 190, 214, 214,
                                     236, 260, 260, 282, 318, 318, 342, 366, 402, 402, 424, 460, 460, 482, 504, 540}));
+}
+
+// The whole table, written out apart from the module's: the kinds, the widths that are asked for, and the places where each
+// control is 50 wide and each label 30.
+TEST(RenamerHomes, AndWidthsAreThoseOfTheDesign) {
+  struct Designed {
+    Kind kind;
+    int width, x, y;
+    bool operator==(const Designed&) const = default;
+  };
+  const std::vector<Designed> designed = {
+      // clang-format off
+      {Kind::Popup, 140, 70, 0}, {Kind::Edit, 33, 100, 24}, {Kind::Edit, 33, 100, 48}, {Kind::Popup, 140, 70, 72},
+      {Kind::NumberInfo, 0, 70, 96}, {Kind::Button, 60, 188, 96}, {Kind::Button, 40, 248, 96}, {Kind::Text, 0, 4, 120},
+      {Kind::Bool, 0, 4, 142}, {Kind::Edit, 34, 58, 142},
+      {Kind::Bool, 0, 4, 166}, {Kind::Edit, 34, 58, 166},
+      {Kind::Bool, 0, 4, 190}, {Kind::Edit, 34, 58, 190},
+      {Kind::Bool, 0, 4, 214}, {Kind::Edit, 34, 58, 214}, {Kind::Edit, 34, 58, 236},
+      {Kind::Bool, 0, 4, 260}, {Kind::Edit, 34, 58, 260}, {Kind::Edit, 34, 58, 282},
+      {Kind::Bool, 0, 4, 318}, {Kind::Popup, 140, 58, 318}, {Kind::Popup, 140, 58, 342}, {Kind::Bool, 0, 140, 366},
+      {Kind::Bool, 0, 4, 402}, {Kind::Number, 0, 58, 402}, {Kind::Number, 0, 58, 424},
+      {Kind::Text, 0, 4, 460}, {Kind::Bool, 0, 100, 460}, {Kind::Bool, 0, 100, 482}, {Kind::Bool, 0, 100, 504},
+      {Kind::Bool, 0, 70, 540}, {Kind::Border, 320, 0, 568}, {Kind::Button, 80, 120, 600},
+      // clang-format on
+  };
+  Measures measures;
+  for (const mst::RenamerRow& row : mst::renamerTable()) measures[mst::indexOf(row.item)] = {50, row.label ? 30 : 0};
+  const mst::RenamerPositions places = mst::renamerHomes(measures);
+  ASSERT_EQ(designed.size(), places.size());
+  for (const mst::RenamerRow& row : mst::renamerTable()) {
+    const std::size_t i = mst::indexOf(row.item);
+    EXPECT_EQ((Designed{row.kind, row.width, places[i].x, places[i].y}), designed[i]) << "control " << i + 1;
+  }
 }
 
 TEST(RenamerHomes, LineUpHotAreasAt100) {

@@ -145,8 +145,11 @@ TEST_F(TreeDrawing, ACollapsedRowHidesTheLinesBelowIt) {
 
 TEST_F(TreeDrawing, GuideLinesAreDarkThinAndDotted) {
   tree.add(0, "a");
+  gl.state.width = 3;  // of whoever drew before
   draw();
+  ASSERT_FALSE(gl.shapesOf(gl::kLines).empty());
   for (const DrawnShape& line : gl.shapesOf(gl::kLines)) {
+    EXPECT_EQ(line.width, 1);
     EXPECT_EQ(line.colour, (Rgb{0.2, 0.2, 0.2}));
     EXPECT_TRUE(line.isDotted);
     EXPECT_EQ(line.pattern, 0xAAAAu);

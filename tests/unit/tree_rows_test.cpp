@@ -51,6 +51,17 @@ TEST(SelectorNodes, ChildrenStandInNameOrderThenInScanOrder) {
   EXPECT_EQ(nodes[nodes[root].children[1]].polygon, firstBone2);
 }
 
+// So many that sorting by halves would exchange them.
+TEST(SelectorNodes, ManyOfOneNameStandInScanOrder) {
+  SkelegonInfos skelegons;
+  std::vector<skg::PolygonId> scanned;
+  for (int i = 0; i < 200; ++i) scanned.push_back(skelegons.emplace_back(skelegon("Bone", 0, 0)).polygon);
+  const SelectorNodes nodes = buildSelectorNodes(std::move(skelegons), {"L"}, {});
+  std::vector<skg::PolygonId> shown;
+  for (const std::size_t child : nodes[nodes[kRootNode].children[0]].children) shown.push_back(nodes[child].polygon);
+  EXPECT_EQ(shown, scanned);
+}
+
 TEST(SelectorNodes, AParentOnAnotherLayerIsNone) {
   EXPECT_EQ(outlineOf({skelegon("A", 1, 2, 0), skelegon("B", 2, 3, 1)}, {"P", "Q"}),
             "[Top]\n [Layer1]:P\n  A\n [Layer2]:Q\n  B\n [WMaps]\n");

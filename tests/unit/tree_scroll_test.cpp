@@ -128,6 +128,19 @@ TEST_F(TreeScrolling, BackAtThePressTheViewIsAsBefore) {
   EXPECT_EQ(tree.scrollY(), before);
 }
 
+TEST_F(TreeScrolling, ASecondDragSidewaysBeginsWhereTheFirstEnded) {
+  dragFrom(10, 155);
+  tree.drag(60, 155);
+  tree.release();
+  const int before = tree.scrollX();
+  ASSERT_GT(before, 0);
+  dragFrom(60, 155);
+  tree.drag(70, 155);
+  EXPECT_GT(tree.scrollX(), before);
+  tree.drag(60, 155);
+  EXPECT_EQ(tree.scrollX(), before);
+}
+
 TEST_F(TreeScrolling, AMoveThatChangesNothingAsksForNoDrawing) {
   dragFrom(205, 10);
   EXPECT_FALSE(tree.drag(205, 5).looks);
@@ -186,6 +199,14 @@ TEST_F(TreeScrolling, AnotherSizeBeginsAtTheTop) {
   tree.setView(212, 163);
   EXPECT_EQ(tree.scrollY(), 0);
   EXPECT_EQ(tree.anchor(), kNoRow);
+}
+
+TEST_F(TreeScrolling, AnotherSizeEndsADrag) {
+  for (const auto& [x, y] : {std::pair{205, 10}, std::pair{10, 155}}) {
+    dragFrom(x, y);
+    tree.setView(212, 162);
+    EXPECT_FALSE(tree.drag(x + 50, y + 50).looks);
+  }
 }
 
 TEST_F(TreeScrolling, ThePictureTellsPixels) {
