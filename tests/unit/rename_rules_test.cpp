@@ -157,6 +157,15 @@ const std::vector<NameRow> kNameRows = {
     {Rule().regex("x(?=y)", "z"),                          "xyxx",             0,  0, "zyxx"},
     {Rule().regex("x(?!y)", "z"),                          "xyxx",             0,  0, "xyzz"},
     {Rule().regex("左", "右"),                             "腕_左",            0,  0, "腕_右"},
+    {Rule().regex("_L(?=_|$)", "_R"),                      kArm,               0,  0, "Arm_R_01"},
+    {Rule().regex("_L(?=_|$)", "_R"),                      "Arm_L",            0,  0, "Arm_R"},
+    {Rule().regex("_L(?=_|$)", "_R"),                      "Arm_Lower",        0,  0, "Arm_Lower"},
+    {Rule().regex(kLeftToRight, kToRight),                 "Arm_Lower",        0,  0, "Arm_Rower"},
+    {Rule().regex("(.+)", "x_$1"),                         "Arm",              0,  0, "x_Arm"},
+    {Rule().regex("(.*)", "x_$1"),                         "Arm",              0,  0, "x_Armx_"},
+    {Rule().regex("(.+)", "$010"),                         "Arm",              0,  0, "Arm0"},
+    {Rule().regex("(腕|脚)", "x"),                         "左脚",             0,  0, "左x"},
+    {Rule().regex("[腕脚]", "x"),                          "左脚",             0,  0, "左xxx"},
     {Rule().regex("_L", "_R").base("B_L"),                 kArm,               0,  0, "B_R"},
     {Rule().regex("_L", "_R").prefix("P_L_"),              "x",                0,  0, "P_R_x"},
     {Rule().regex("_L", "_R").suffix("_L"),                "x",                0,  0, "x_R"},
@@ -251,6 +260,13 @@ TEST(NameRuleErrors, AnInvalidPatternIsThrownOnlyWhereItIsUsed) {
   CNameRule names(rule.s);
   EXPECT_EQ(names.newText("", 0, 0), "");
   EXPECT_THROW(names.newText(kArm, 0, 0), std::regex_error);
+}
+
+TEST(NameRuleErrors, WhatOtherPatternLanguagesHaveIsThrown) {
+  for (const char* pattern : {"(?i)arm", "(?<=_)L", "(?<!_)L"}) {
+    const Rule rule = Rule().regex(pattern, "x");
+    EXPECT_THROW(CNameRule(rule.s).newText(kArm, 0, 0), std::regex_error) << pattern;
+  }
 }
 
 TEST(NameRuleErrors, APatternThatIsOffIsNotLookedAt) {
