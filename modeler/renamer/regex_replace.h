@@ -36,10 +36,10 @@ inline constexpr std::size_t kDeepestMatch = 262'144;
 // without an "_L", are tried at each place to each end: up to three steps for each pair of bytes. A bad pattern wants more by far and
 // ends at its first text, within a second however long that is.
 struct StepBudget {
-  std::int64_t reserve = 5'000'000;
+  std::int64_t reserve = 2'000'000;
   std::int64_t perText = 20'000;
   std::int64_t perPairOfBytes = 8;
-  std::int64_t mostForPairs = 10'000'000;
+  std::int64_t mostForPairs = 6'000'000;
 };
 
 // Why a pattern that is sound was not applied to a text.
