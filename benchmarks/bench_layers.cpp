@@ -1,7 +1,6 @@
 // What it costs to convert several layers of one file, each of which is an item in Layout, beside one of them. Reading the file
 // of a real character takes longer than all else that is done for a few bones.
 #include <algorithm>
-#include <array>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -19,7 +18,6 @@ using namespace standin;
 using namespace varnel::bench;
 
 constexpr std::size_t kLayers = 10, kSettings = 20;
-constexpr std::array<std::size_t, 2> kFaces = {200'000, 1'000'000};
 constexpr int kRepetitions = 15;
 
 // The layers share the faces: each has as many quads on points of its own, and a chain of skelegons with 20 settings each.
@@ -83,7 +81,7 @@ int main() {
   std::puts("pressed over bones that are there. Processor time, the host's included, the least of several runs.\n");
   std::puts("| faces in all | skelegons of a layer | one layer, ms | ten layers, ms | ratio | wanted |");
   std::puts("|---:|---:|---:|---:|---:|---:|");
-  for (const std::size_t faces : kFaces) {
+  for (const std::size_t faces : kFaceCounts) {
     for (const std::size_t skelegons : {1U, 20U}) {
       if (writeObject(characterOf(faces, skelegons), path)) must({false, "the file cannot be written"});
       Character character(path);

@@ -22,7 +22,6 @@ using namespace standin;
 using namespace varnel::bench;
 
 constexpr std::size_t kSkelegons = 200, kSettings = 20;
-constexpr std::array<std::size_t, 2> kFaces = {200'000, 1'000'000};
 constexpr int kRepetitions = 15;
 constexpr int kDragSteps = 20;
 constexpr const char* kFillButton = "\x03(i:MIMG_LEFTARROW)";
@@ -208,7 +207,7 @@ void printBeside(std::size_t faceCount, const Costs& costs, const Costs& without
 int main() {
   const Costs without = costsBeside(0);
   std::map<std::size_t, Costs> beside;
-  for (const std::size_t faceCount : kFaces) beside.emplace(faceCount, costsBeside(faceCount));
+  for (const std::size_t faceCount : kFaceCounts) beside.emplace(faceCount, costsBeside(faceCount));
 
   std::puts("### Beside a large mesh\n");
   std::printf(

@@ -7,7 +7,13 @@
 #include <malloc.h>
 #endif
 
+#include <array>
+#include <cstddef>
+
 namespace varnel::bench {
+
+// Of a character's mesh.
+inline constexpr std::array<std::size_t, 2> kFaceCounts = {200'000, 1'000'000};
 
 // Of the one thread that hosts and module run on. Other work on the machine counts less there than by the clock on the wall.
 inline double processorMilliseconds() {
