@@ -68,7 +68,12 @@ inline constexpr std::size_t kRenamerMessageCount = 6;
 using RenamerMessages = std::array<const char*, kRenamerMessageCount>;
 const RenamerMessages& renamerMessages(Language language);
 
-// Why a name cannot be made: too long, too hard to match, half a character. The skelegon's name follows each.
+// Why a name cannot be made. The skelegon's name follows each text.
+enum class NameRefusal : std::size_t {
+  TooLong,  // the old one or the new one
+  TooHard,  // a match takes too many steps, or goes too deep
+  Broken,   // the old one is UTF-8, and the new one would not be: a pattern sees bytes and can cut a character
+};
 inline constexpr std::size_t kRenamerRefusalCount = 3;
 using RenamerRefusals = std::array<const char*, kRenamerRefusalCount>;
 const RenamerRefusals& renamerRefusals(Language language);

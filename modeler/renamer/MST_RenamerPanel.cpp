@@ -75,8 +75,8 @@ void RenamerPanel::complain(const RenameResult& result) const {
     case RenameOutcome::InvalidPattern: return lw::ShowError(result.complaint.c_str());
     case RenameOutcome::RefusedName: {
       constexpr std::size_t kLongestShown = 120;
-      const std::string skelegon(texts::cutAtCharacter(result.skelegon, kLongestShown));
-      const char* const why = (*made_.refusals)[static_cast<std::size_t>(result.refusal)];
+      const std::string skelegon(texts::cutAtCharacter(result.refused.skelegon, kLongestShown));
+      const char* const why = (*made_.refusals)[static_cast<std::size_t>(result.refused.why)];
       return lw::ShowError(lw::FormatString("%s (%s)", why, skelegon.c_str()).c_str());
     }
   }

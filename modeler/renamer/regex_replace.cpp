@@ -306,13 +306,13 @@ std::string CRegexReplacement::replaced(std::string_view text) {
   } catch (const CTextRefused&) {
     throw;
   } catch (const std::regex_error& limit) {
-    throw CTextRefused(TextRefusal::TooHard, limit.code());
+    throw CTextRefused(texts::NameRefusal::TooHard, limit.code());
   }
   matcher_->reserve = std::min(matcher_->reserve, watch.steps);
-  if (!texts::isUtf8(result) && texts::isUtf8(text)) throw CTextRefused(TextRefusal::Broken, error::error_ctype);
+  if (!texts::isUtf8(result) && texts::isUtf8(text)) throw CTextRefused(texts::NameRefusal::Broken, error::error_ctype);
   return result;
 }
 
-void refuseLongName() { throw CTextRefused(TextRefusal::TooLong, error::error_space); }
+void refuseLongName() { throw CTextRefused(texts::NameRefusal::TooLong, error::error_space); }
 
 }  // namespace mst

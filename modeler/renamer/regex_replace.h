@@ -12,6 +12,8 @@
 #include <string>
 #include <string_view>
 
+#include "texts/texts.h"
+
 namespace mst {
 
 // Bytes of a name, before and after a replacement. Names are some dozen bytes long; a replacement that is run again and
@@ -42,15 +44,10 @@ struct StepBudget {
   std::int64_t mostForPairs = 6'000'000;
 };
 
-// Why a pattern that is sound was not applied to a text.
-enum class TextRefusal {
-  TooLong,  // the text, or what would come of it
-  TooHard,  // too many steps, or too deep
-  Broken,   // the text is UTF-8, and what would come of it is not: a pattern sees bytes and can cut a character
-};
+// A pattern that is sound was not applied to a text.
 struct CTextRefused : std::regex_error {
-  CTextRefused(TextRefusal reason, std::regex_constants::error_type code) : std::regex_error(code), why(reason) {}
-  TextRefusal why;
+  CTextRefused(texts::NameRefusal reason, std::regex_constants::error_type code) : std::regex_error(code), why(reason) {}
+  texts::NameRefusal why;
 };
 
 // One pattern (ECMAScript grammar) and format ("$1", "$&"), applied to many texts. All matches are replaced.

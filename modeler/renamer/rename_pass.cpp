@@ -17,12 +17,6 @@ namespace {
 constexpr std::size_t kStackForNames = 268'435'456;
 constexpr std::size_t kStackForAMatch = kStackForNames - 16'777'216;
 
-// A text of a skelegon that the rule refused.
-struct NameRefused {
-  TextRefusal why;
-  std::string skelegon;
-};
-
 // Works out texts; by a pattern, on a stack on which names of any length can be matched. The host must not be called meanwhile.
 template <class Rule, class Work>
 void onStackForNames(Rule& rule, Work&& work) {
@@ -48,7 +42,7 @@ RenameResult answering(Pass&& pass) {
   try {
     return {.outcome = pass()};
   } catch (const NameRefused& refused) {
-    return {.outcome = RenameOutcome::RefusedName, .refusal = refused.why, .skelegon = refused.skelegon};
+    return {.outcome = RenameOutcome::RefusedName, .refused = refused};
   } catch (const std::regex_error& invalid) {
     return {.outcome = RenameOutcome::InvalidPattern, .complaint = invalid.what()};
   }

@@ -17,11 +17,16 @@ enum class RenameOutcome {
   RefusedName,      // a text that the rule cannot be applied to
 };
 
+// A text of a skelegon that the rule refused.
+struct NameRefused {
+  texts::NameRefusal why = texts::NameRefusal::TooLong;
+  std::string skelegon = {};  // its name
+};
+
 struct RenameResult {
   RenameOutcome outcome = RenameOutcome::Renamed;
-  std::string complaint = {};                  // the library's, about the pattern
-  TextRefusal refusal = TextRefusal::TooLong;  // of RefusedName: why, and the skelegon's name
-  std::string skelegon = {};
+  std::string complaint = {};  // the library's, about the pattern
+  NameRefused refused = {};    // of RefusedName
 };
 
 // Renames the selected skelegons and, with the bone properties, the names of other items that they hold. Writes all tags,

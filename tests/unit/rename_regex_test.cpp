@@ -228,7 +228,7 @@ TEST_P(EverydayPattern, DoesOnAStackOfItsOwn) {
 }
 
 TEST(StackOfItsOwn, HandsOnWhatIsThrown) {
-  EXPECT_THROW(mst::runOnStack(kLargeStack, [] { throw mst::CTextRefused(mst::TextRefusal::Broken, code::error_ctype); }),
+  EXPECT_THROW(mst::runOnStack(kLargeStack, [] { throw mst::CTextRefused(texts::NameRefusal::Broken, code::error_ctype); }),
                mst::CTextRefused);
 }
 
