@@ -47,12 +47,21 @@ if(VARNEL_COVERAGE)
   add_link_options(--coverage)
 endif()
 
-# What is no product is built quickly rather than made quick: its files in batches, with little optimisation, and with no more to
-# debug with than the lines. The product's files are each compiled alone. To be called by the folders' CMakeLists.txt.
-macro(varnel_build_quickly)
+macro(varnel_compile_in_batches)
   if(VARNEL_QUICK)
     set(CMAKE_UNITY_BUILD ON)
     set(CMAKE_UNITY_BUILD_BATCH_SIZE 8)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+      add_compile_options(-Wno-subobject-linkage)  # to the compiler the files of a batch are headers
+    endif()
+  endif()
+endmacro()
+
+# What is no product is built quickly rather than made quick: its files in batches, with little optimisation, and with no more to
+# debug with than the lines. The product's files are each compiled alone. To be called by the folders' CMakeLists.txt.
+macro(varnel_build_quickly)
+  varnel_compile_in_batches()
+  if(VARNEL_QUICK)
     if(NOT MSVC)
       add_compile_options($<$<CONFIG:Release>:-O1> $<$<CONFIG:Debug>:-g1>)
     endif()

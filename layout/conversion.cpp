@@ -19,7 +19,7 @@ using lw::EvalF;
 using skg::SkelegonProperties;
 using skg::Slot;
 
-constexpr const char* kSource = "ST_CSkgConvPanel";
+constexpr const char* kPanelSource = "ST_CSkgConvPanel";
 
 // IK, motion controllers and deformations slow every command down: off for the life of this object, then on.
 class CSwitchedOff {
@@ -179,7 +179,7 @@ void convertSelection(bool executeSkelegonToBone, bool recordPivotRotation) {
     for (const lw::ItemId item : selection.items()) {
       if (lw::ClassifyItem(item) != lw::ItemKind::FileObject) continue;
       if (const int line = convertObject(scene, file, item, executeSkelegonToBone, recordPivotRotation)) {
-        lw::ReportError(kSource, line, "");
+        lw::ReportError(kPanelSource, line, "");
         break;
       }
     }

@@ -11,7 +11,7 @@ constexpr const char* kLeftArrow =
 
 // clang-format off
 // "IK/FKブレンディグ" is spelled so on purpose.
-constexpr LabelRow kLabels[] = {
+constexpr LabelRow kPropertyLabels[] = {
     {  2, "Reset",                             "Reset"},
     {  3, "ResetAll",                          "ResetAll"},
     {  4, "Sync",                              "Sync"},
@@ -170,8 +170,8 @@ constexpr LabelRow kLabels[] = {
     {189, "x/+",                               "x/+"},
     {191, "Z Scale Stiffness",                 "Zスケール粘性"},
 };
-static_assert(rowsAreSound(kLabels));
-constexpr auto kLabelTables = labelTables<kPropertyLabelCount>(kLabels);
+static_assert(rowsAreSound(kPropertyLabels));
+constexpr auto kPropertyLabelTables = labelTables<kPropertyLabelCount>(kPropertyLabels);
 
 constexpr const char* kPagesEn[] = {"Group", "Bone Property", "IK Option", "Controllers and Limits", nullptr};
 constexpr const char* kPagesJa[] = {"グループ", "ボーンプロパティ", "IKオプション", "制御と制限", nullptr};
@@ -239,7 +239,7 @@ constexpr const char* kRotationOrder[] = {
     "XYZ / PHB", "YZX / HBP", "ZXY / BPH", "YXZ / HPB", "XZY / PBH", "ZYX / BHP", nullptr,
 };
 
-constexpr std::array<ChoiceListRow, kChoiceListCount> kChoices = {{
+constexpr std::array<ChoiceListRow, kChoiceListCount> kPropertyChoices = {{
     // list                  entries with the null, English, Japanese
     {ChoiceList::Pages,            5, kPagesEn,            kPagesJa},
     {ChoiceList::FalloffType,      9, kFalloffTypeEn,      kFalloffTypeJa},
@@ -257,15 +257,15 @@ constexpr std::array<ChoiceListRow, kChoiceListCount> kChoices = {{
     {ChoiceList::Colour,          17, kColourEn,           kColourJa},
     {ChoiceList::RotationOrder,    7, kRotationOrder,      kRotationOrder},
 }};
-static_assert(listsAreSound(kChoices));
+static_assert(listsAreSound(kPropertyChoices));
 // clang-format on
 
 }  // namespace
 
 const std::array<const char*, kPropertyLabelCount>& propertyLabels(Language language) {
-  return kLabelTables[static_cast<std::size_t>(language)];
+  return kPropertyLabelTables[static_cast<std::size_t>(language)];
 }
 
-const std::array<ChoiceListRow, kChoiceListCount>& propertyChoices() { return kChoices; }
+const std::array<ChoiceListRow, kChoiceListCount>& propertyChoices() { return kPropertyChoices; }
 
 }  // namespace texts

@@ -5,7 +5,7 @@ namespace texts {
 namespace {
 
 // clang-format off
-constexpr LabelRow kLabels[] = {
+constexpr LabelRow kRenamerLabels[] = {
     {  0, "Mode",                              "モード"},
     {  3, "Conversion Method",                 "変換"},
     {  4, "Based Name",                        "基本の名前"},
@@ -31,8 +31,8 @@ constexpr LabelRow kLabels[] = {
     { 31, "Bone Property",                     "ボーンプロパティ"},
     { 33, "Run",                               "実行"},
 };
-static_assert(rowsAreSound(kLabels));
-constexpr auto kLabelTables = labelTables<kRenamerLabelCount>(kLabels);
+static_assert(rowsAreSound(kRenamerLabels));
+constexpr auto kRenamerLabelTables = labelTables<kRenamerLabelCount>(kRenamerLabels);
 
 constexpr const char* kRenameModeEn[] = {
     "Change", "Prefix", "Suffix", "Replace", "Regular Expression", "Advanced Setting", nullptr,
@@ -59,14 +59,14 @@ constexpr const char* kColumnLetter[] = {
     "X", "Y", "Z", nullptr,
 };
 
-constexpr std::array<RenamerListRow, kRenamerListCount> kChoices = {{
+constexpr std::array<RenamerListRow, kRenamerListCount> kRenamerChoices = {{
     // list                  entries with the null, English, Japanese
     {RenamerList::RenameMode,       7, kRenameModeEn,       kRenameModeJa},
     {RenamerList::RenameTarget,     5, kRenameTargetEn,     kRenameTargetJa},
     {RenamerList::RenameOrder,     18, kRenameOrderEn,      kRenameOrderJa},
     {RenamerList::ColumnLetter,    27, kColumnLetter,       kColumnLetter},
 }};
-static_assert(listsAreSound(kChoices));
+static_assert(listsAreSound(kRenamerChoices));
 // clang-format on
 
 // The titles are English in both languages; the host shows none of them.
@@ -91,10 +91,10 @@ constexpr RenamerRefusals kJapaneseRefusals = {
 }  // namespace
 
 const std::array<const char*, kRenamerLabelCount>& renamerLabels(Language language) {
-  return kLabelTables[static_cast<std::size_t>(language)];
+  return kRenamerLabelTables[static_cast<std::size_t>(language)];
 }
 
-const std::array<RenamerListRow, kRenamerListCount>& renamerChoices() { return kChoices; }
+const std::array<RenamerListRow, kRenamerListCount>& renamerChoices() { return kRenamerChoices; }
 
 const RenamerMessages& renamerMessages(Language language) {
   return language == Language::Japanese ? kJapaneseMessages : kEnglishMessages;
