@@ -262,12 +262,22 @@ void set(lw::LWControl* face, int attribute, lw::LWValue* value) {
 // Erasing fills where the control is with the panel's colour. A border around it keeps its lines.
 void coverOthers(const Control& erased) {
   const Rectangle area = erased.whole();
-  for (const auto& other : erased.panel->controls) {
-    const bool isSeen = other->isAlive && !other->isErased && !other->isCovered;
+  for (Control* const other : erased.panel->unerased) {
     // Rows first: widths are those of texts, and take their time.
-    if (!isSeen || other->y >= area.bottom() || other->y + other->height() <= area.y) continue;
+    if (!other->isAlive || other->isCovered || other->y >= area.bottom() || other->y + other->height() <= area.y) continue;
     const bool isAround = other->is(ControlKind::Border) && other->whole().holds(area);
     if (!isAround && other->whole().meets(area)) other->isCovered = true;
+  }
+}
+
+void setErased(Control& control, bool isErased) {
+  if (control.isErased == isErased) return;
+  control.isErased = isErased;
+  std::vector<Control*>& unerased = control.panel->unerased;
+  if (isErased) {
+    std::erase(unerased, &control);
+  } else {
+    unerased.push_back(&control);
   }
 }
 
@@ -284,7 +294,7 @@ void draw(lw::LWControl* face, int mode) {
     return;
   }
   if (call.refused() || (!control->panel->isOpen() && !panels().options.drawBeforeOpenHolds)) return;
-  if (mode != lw::kDrawRefresh) control->isErased = mode == lw::kDrawErase;
+  if (mode != lw::kDrawRefresh) setErased(*control, mode == lw::kDrawErase);
   control->wantsPaint = !control->isErased;
   if (mode != lw::kDrawErase) control->isDrawn();
   if (mode == lw::kDrawErase && control->panel->isOpen() && panels().options.eraseCovers) coverOthers(*control);

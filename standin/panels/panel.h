@@ -174,6 +174,7 @@ struct Panel {
   lw::PanelResizeHook resizeHook = nullptr;
 
   std::vector<std::unique_ptr<Control>> controls;  // in order of creation, destroyed ones too
+  std::vector<Control*> unerased;                  // of these, in any order: each erasing asks them all
 
   bool isOpen() const { return state == State::Open; }
   bool isResizable() const { return (openFlags & lw::kOpenResizable) != 0; }

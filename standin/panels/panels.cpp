@@ -205,6 +205,7 @@ Control* Panels::createControl(Panel& panel, const KindRow& kind, const lw::LWPa
   control.hotWidth = firstWidth(control);
   control.hotHeight = firstHeight(control);
   giveHandle(control);
+  panel.unerased.push_back(&control);
   stack(panel, control);
   if (options.asksPopupsAnytime) askAnything(control);
   return &control;
