@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
+#include "benchmarks/chain_with_maps.h"
 #include "benchmarks/faces.h"
 #include "benchmarks/measuring.h"
 #include "objectfile/rig_builder.h"
-#include "objectfile/sample_rigs.h"
 #include "standin/core/tool_names.h"
 #include "standin/validate/memory_watch.h"
 #include "standin/validate/panel_places.h"
@@ -49,20 +49,11 @@ void measureOnce(Cost& cost, int times, const std::function<void()>& action) {
   cost.allocations = validate::memory::allocations() - allocations;
 }
 
-// A weight map for every skelegon, under its name; and a second layer, in which the mesh may be.
-ObjectFile rig() {
-  ObjectFile rig = makeChainRig(kSkelegons, kSettings);
-  for (const auto& skelegon : rig.layers.front().group(lw::kTypeBone).polygons) {
-    rig.layers.front().maps.push_back({.name = *skelegon.tag(lw::kTagBone), .points = {0}, .values = {1}});
-  }
-  return rig;
-}
-
 // A Modeler with the module in it and the faces beside the rig; one skelegon is selected.
 class Session {
  public:
   Session(std::size_t faceCount, bool inForeground, Costs& costs) : costs_(costs) {
-    ObjectFile object = rig();
+    ObjectFile object = makeChainWithMaps(kSkelegons, kSettings);
     if (!inForeground) {
       RigBuilder more;
       more.layer(1, "Mesh").box({0, 0, 0}, {1, 1, 1});

@@ -1,11 +1,10 @@
 // What the property panel costs in Modeler: opening it, one change of a setting, a reload; with all skelegons selected one
 // change again, and the button that fills the weight maps in by name.
 #include <cstdio>
-#include <string>
 
+#include "benchmarks/chain_with_maps.h"
 #include "benchmarks/loaded_module.h"
 #include "benchmarks/module_cost.h"
-#include "objectfile/sample_rigs.h"
 #include "standin/core/tool_names.h"
 #include "standin/modeler/modeler_host.h"
 
@@ -15,15 +14,6 @@ using namespace standin;
 
 constexpr const char* kFillButton = "\x03(i:MIMG_LEFTARROW)";
 
-// A weight map for every skelegon, under its name.
-ObjectFile rigOf(std::size_t skelegons) {
-  ObjectFile rig = makeChainRig(skelegons, 20);
-  for (std::size_t i = 0; i < skelegons; ++i) {
-    rig.layers.front().maps.push_back({.name = "Bone" + std::to_string(i), .points = {0}, .values = {1}});
-  }
-  return rig;
-}
-
 }  // namespace
 
 int main() {
@@ -32,7 +22,7 @@ int main() {
   for (const std::size_t size : kSizes) {
     for (int repetition = 0; repetition < kRepetitions; ++repetition) {
       ModelerHost host;
-      host.add(rigOf(size), "rig.lwo");
+      host.add(makeChainWithMaps(size, 20), "rig.lwo");
       host.selectPolygons({host.current()->skelegons().front()});
       LoadedModule module;
       costs.measure("open", size, [&] { host.activate(module, kPropertyTool); });
