@@ -18,11 +18,12 @@ using texts::ChoiceList;
 // The form's measures, in pixels. Hot areas begin at one of these lines, so that fields line up on and across pages.
 
 constexpr int kMargin = 5;
-constexpr int kEdge = 380;         // right end of the form
-constexpr int kWideColumn = 155;   // leaves room for the long labels
-constexpr int kCloseColumn = 136;  // where a linked item needs the width for its own controls
-constexpr int kMiddleColumn = 208;
+constexpr int kEdge = 380;          // right end of the form
+constexpr int kFieldColumn = 155;   // the first field of a row; leaves room for its label
+constexpr int kMiddleColumn = 208;  // behind a flag
 constexpr int kFarColumn = 310;
+// Factor and offset stand together, and not where the limits above them stand: the offset has no label.
+constexpr int kFactorColumn = 226;
 
 constexpr int kFieldWidth = 70;
 constexpr int kCheckWidth = 18;
@@ -129,47 +130,38 @@ class CTableBuilder {
 // ---------------------------------------------------------------------------------------------------------------------
 // The patterns
 
-// The first three of a linked item, to the form's edge.
-constexpr void linkedName(CTableBuilder& table, const LinkedItem& item, int row, int left, int edge) {
-  const int shape = edge - kShapeWidth;
-  const int fill = shape - kGap - kFillWidth;
-  table.value(item.name, from(row, left, fill - kGap));
-  table.plain(HostControl::Button, Role::LinkedFill, at(row, fill, kFillWidth));
-  table.shape(item.shape, at(row, shape, kShapeWidth));
+// The name of an item, with the chooser that fills it.
+constexpr void itemNameWithChooser(CTableBuilder& table, Slot name, int row) {
+  table.value(name, from(row, kFieldColumn, edgeBefore({kChooserWidth})));
+  table.plain(HostControl::CustomPopup, Role::ItemNames, from(row, kEdge - kChooserWidth, kEdge));
 }
 
-// A linked item without a parent: name, fill button and shape; visibility and colour below.
-constexpr void linkedItem(CTableBuilder& table, Slot name, int row, int left) {
-  const LinkedItem& item = *skg::linkedItemOf(name);
-  linkedName(table, item, row, left, kEdge);
-  table.value(item.visibility, at(row + 1, left, kOffOnWidth));
-  table.value(item.colour, from(row + 1, kEdge - kColourWidth, kEdge));
+// A linked item without a parent of its own: name, fill button and shape; visibility and colour in a row below.
+constexpr void linkedItem(CTableBuilder& table, const LinkedItem& item, int row, int lookRow) {
+  constexpr int kFillEnd = edgeBefore({kShapeWidth});
+  table.value(item.name, from(row, kFieldColumn, edgeBefore({kShapeWidth, kFillWidth})));
+  table.plain(HostControl::Button, Role::LinkedFill, from(row, kFillEnd - kFillWidth, kFillEnd));
+  table.shape(item.shape, from(row, kEdge - kShapeWidth, kEdge));
+  table.value(item.visibility, at(lookRow, kFieldColumn, kOffOnWidth));
+  table.value(item.colour, from(lookRow, kEdge - kColourWidth, kEdge));
 }
 
-// A linked item with a parent: name, fill button, shape and visibility; the parent, its chooser and the colour below.
+// A linked item with its parent in a row between.
 constexpr void linkedItemWithParent(CTableBuilder& table, Slot name, int row) {
-  constexpr int kVisibilityLabel = 68;
-  constexpr int kColourLabel = 40;
-  constexpr int kVisibility = kEdge - kOffOnWidth;
-  constexpr int kColour = kEdge - kColourWidth;
-  constexpr int kChooser = kColour - kColourLabel - kChooserWidth;
   const LinkedItem& item = *skg::linkedItemOf(name);
-  linkedName(table, item, row, kCloseColumn, kVisibility - kVisibilityLabel);
-  table.value(item.visibility, at(row, kVisibility, kOffOnWidth));
-  table.value(item.colour, at(row + 1, kColour, kColourWidth));
-  table.value(item.parent, from(row + 1, kCloseColumn, kChooser - kGap));
-  table.plain(HostControl::CustomPopup, Role::ItemNames, at(row + 1, kChooser, kChooserWidth));
+  linkedItem(table, item, row, row + 2);
+  itemNameWithChooser(table, item.parent, row + 1);
 }
 
 // A flag with its amount on one row.
 constexpr void flagAndAmount(CTableBuilder& table, Slot flag, Slot amount, int row) {
-  table.flag(flag, row, kWideColumn);
+  table.flag(flag, row, kFieldColumn);
   table.field(amount, row, kMiddleColumn);
 }
 
 // A flag of a range, with the least and the greatest value side by side behind it.
-constexpr void limits(CTableBuilder& table, Slot flag, Slot least, Slot greatest, int row, int column) {
-  table.flag(flag, row, column);
+constexpr void limits(CTableBuilder& table, Slot flag, Slot least, Slot greatest, int row) {
+  table.flag(flag, row, kFieldColumn);
   table.field(least, row, kMiddleColumn);
   table.field(greatest, row, kFarColumn);
 }
@@ -177,12 +169,12 @@ constexpr void limits(CTableBuilder& table, Slot flag, Slot least, Slot greatest
 inline constexpr int kAxisRows = 4;
 
 constexpr void axis(CTableBuilder& table, const skg::AxisSettings& axis, int row) {
-  table.value(axis.controller, at(row, kCloseColumn, kChoiceWidth));
-  limits(table, axis.limits, axis.least, axis.greatest, row + 1, kCloseColumn);
-  table.value(axis.follow, at(row + 2, kCloseColumn, kChannelWidth));
-  table.field(axis.factor, row + 2, kMiddleColumn);
-  table.field(axis.offset, row + 2, kFarColumn);
-  table.field(axis.stiffness, row + 3, kCloseColumn);
+  table.value(axis.controller, at(row, kFieldColumn, kChoiceWidth));
+  limits(table, axis.limits, axis.least, axis.greatest, row + 1);
+  table.value(axis.follow, at(row + 2, kFieldColumn, kChannelWidth));
+  table.field(axis.factor, row + 2, kFactorColumn);
+  table.field(axis.offset, row + 2, kFactorColumn + kFieldWidth + kGap);
+  table.field(axis.stiffness, row + 3, kFieldColumn);
 }
 
 struct BlendSettings {
@@ -191,9 +183,9 @@ struct BlendSettings {
 };
 
 constexpr void motionGroup(CTableBuilder& table, skg::MotionGroup group, const BlendSettings& blend) {
-  constexpr int kBlendRow = 2;
-  constexpr int kFirstAxisRow = 3;
-  if (blend.world) table.flag(*blend.world, kBlendRow, kCloseColumn);
+  constexpr int kBlendRow = 3;
+  constexpr int kFirstAxisRow = 4;
+  if (blend.world) table.flag(*blend.world, kBlendRow, kFieldColumn);
   linkedItemWithParent(table, blend.item, 0);
   table.value(blend.method, at(kBlendRow, kMiddleColumn, kMethodWidth));
   table.field(blend.amount, kBlendRow, kFarColumn);
@@ -220,35 +212,35 @@ constexpr void addFrame(CTableBuilder& table) {
   table.begin(Section::Head);
   table.tabs(Role::PageTabs, ChoiceList::Pages, at(0, kMargin, 0));
   table.begin(Section::GroupChoice);
-  table.tabs(Role::GroupTabs, ChoiceList::MotionGroups, at(0, kWideColumn, 0));
+  table.tabs(Role::GroupTabs, ChoiceList::MotionGroups, at(0, kFieldColumn, 0));
   table.begin(Section::Head);
   // Both in the same place: one of the two is hidden.
-  table.plain(HostControl::Edit, Role::NameEdit, from(1, kWideColumn, kEdge));
-  table.plain(HostControl::CustomPopup, Role::NamePopup, from(1, kWideColumn, kEdge));
+  table.plain(HostControl::Edit, Role::NameEdit, from(1, kFieldColumn, kEdge));
+  table.plain(HostControl::CustomPopup, Role::NamePopup, from(1, kFieldColumn, kEdge));
 }
 
 constexpr void addGroupPage(CTableBuilder& table) {
   table.begin(Section::GroupPage);
-  table.value(Slot::UseBonesFromObject, from(0, kWideColumn, kEdge));
-  table.value(Slot::FalloffType, at(1, kWideColumn, kChoiceWidth));
-  table.value(Slot::BoneCalc, at(2, kWideColumn, kChoiceWidth));
-  table.slider(Slot::LimitBoneNum, kBoneCounts, 3, kWideColumn);
+  table.value(Slot::UseBonesFromObject, from(0, kFieldColumn, kEdge));
+  table.value(Slot::FalloffType, at(1, kFieldColumn, kChoiceWidth));
+  table.value(Slot::BoneCalc, at(2, kFieldColumn, kChoiceWidth));
+  table.slider(Slot::LimitBoneNum, kBoneCounts, 3, kFieldColumn);
 }
 
 constexpr void addBonePage(CTableBuilder& table) {
   table.begin(Section::BonePage);
   constexpr int kMapEnd = edgeBefore({kFillWidth, kChooserWidth});
   constexpr int kMapFill = edgeBefore({kChooserWidth}) - kFillWidth;
-  table.value(Slot::BoneType, at(0, kWideColumn, kChoiceWidth));
-  table.flag(Slot::BoneActive, 1, kWideColumn);
-  table.value(Slot::WeightMap, from(2, kWideColumn, kMapEnd));
+  table.value(Slot::BoneType, at(0, kFieldColumn, kChoiceWidth));
+  table.flag(Slot::BoneActive, 1, kFieldColumn);
+  table.value(Slot::WeightMap, from(2, kFieldColumn, kMapEnd));
   table.plain(HostControl::CustomPopup, Role::WeightMaps, from(2, kEdge - kChooserWidth, kEdge));
   table.plain(HostControl::Button, Role::WeightFill, at(2, kMapFill, kFillWidth));
-  table.flag(Slot::WeightMapOnly, 3, kWideColumn);
+  table.flag(Slot::WeightMapOnly, 3, kFieldColumn);
   table.flag(Slot::WeightNormalization, 3, kFarColumn);
-  table.field(Slot::Strength, 4, kWideColumn);
+  table.field(Slot::Strength, 4, kFieldColumn);
   table.flag(Slot::StrengthMultiply, 5, kFarColumn);
-  limits(table, Slot::LimitedRange, Slot::RangeMin, Slot::RangeMax, 6, kWideColumn);
+  limits(table, Slot::LimitedRange, Slot::RangeMin, Slot::RangeMax, 6);
   flagAndAmount(table, Slot::JointComp, Slot::JointCompAmount, 7);
   flagAndAmount(table, Slot::JointCompParent, Slot::JointCompParentAmount, 8);
   flagAndAmount(table, Slot::MuscleFlex, Slot::MuscleFlexAmount, 9);
@@ -256,46 +248,44 @@ constexpr void addBonePage(CTableBuilder& table) {
   flagAndAmount(table, Slot::Bulge, Slot::BulgeAmount, 11);
   flagAndAmount(table, Slot::BulgeParent, Slot::BulgeParentAmount, 12);
   flagAndAmount(table, Slot::Twist, Slot::TwistAmount, 13);
-  table.field(Slot::IconSize, 14, kWideColumn);
-  table.value(Slot::Visibility, at(15, kWideColumn, kOffOnWidth));
+  table.field(Slot::IconSize, 14, kFieldColumn);
+  table.value(Slot::Visibility, at(15, kFieldColumn, kOffOnWidth));
   table.value(Slot::Colour, from(15, kEdge - kColourWidth, kEdge));
-  linkedItem(table, Slot::InitialPositionItem, 16, kWideColumn);
+  linkedItem(table, *skg::linkedItemOf(Slot::InitialPositionItem), 16, 17);  // its parent is the IK page's
 }
 
 constexpr void addIKPage(CTableBuilder& table) {
   table.begin(Section::IKPage);
-  constexpr int kParentEnd = edgeBefore({kChooserWidth});
-  table.value(Slot::ParentItem, from(0, kCloseColumn, kParentEnd));
-  table.plain(HostControl::CustomPopup, Role::ItemNames, from(0, kEdge - kChooserWidth, kEdge));
+  itemNameWithChooser(table, Slot::ParentItem, 0);
   linkedItemWithParent(table, Slot::TargetItem, 1);
-  linkedItemWithParent(table, Slot::PoleItem, 3);
-  table.value(Slot::RotationOrder, at(5, kCloseColumn, kChoiceWidth));
-  table.flag(Slot::UnaffectedByIK, 6, kFarColumn);
-  linkedItemWithParent(table, Slot::GoalObject, 7);
-  table.value(Slot::Objective, at(9, kCloseColumn, kChoiceWidth));
-  table.value(Slot::IKInitialState, at(10, kCloseColumn, kChoiceWidth));
-  table.slider(Slot::IKInitialStateFrame, kFrames, 11, kCloseColumn);
-  table.flag(Slot::Chain, 12, kCloseColumn);
-  table.field(Slot::IKFKBlending, 12, kFarColumn);
-  table.field(Slot::GoalStrength, 13, kCloseColumn);
-  table.value(Slot::SoftIK, at(14, kCloseColumn, kChoiceWidth));
-  table.value(Slot::SoftIKDistanceType, at(15, kCloseColumn, kChoiceWidth));
-  table.field(Slot::SoftIKMin, 16, kMiddleColumn);
-  table.field(Slot::SoftIKMax, 16, kFarColumn);
-  table.flag(Slot::MatchGoalOrientation, 17, kFarColumn);
-  table.flag(Slot::KeepGoalInReach, 17, kCloseColumn);
-  table.flag(Slot::FullTimeIK, 18, kCloseColumn);
+  linkedItemWithParent(table, Slot::PoleItem, 4);
+  table.value(Slot::RotationOrder, at(7, kFieldColumn, kChoiceWidth));
+  table.flag(Slot::UnaffectedByIK, 8, kFarColumn);
+  linkedItemWithParent(table, Slot::GoalObject, 9);
+  table.value(Slot::Objective, at(12, kFieldColumn, kChoiceWidth));
+  table.value(Slot::IKInitialState, at(13, kFieldColumn, kChoiceWidth));
+  table.slider(Slot::IKInitialStateFrame, kFrames, 14, kFieldColumn);
+  table.flag(Slot::Chain, 15, kFieldColumn);
+  table.field(Slot::IKFKBlending, 15, kFarColumn);
+  table.field(Slot::GoalStrength, 16, kFieldColumn);
+  table.value(Slot::SoftIK, at(17, kFieldColumn, kChoiceWidth));
+  table.value(Slot::SoftIKDistanceType, at(18, kFieldColumn, kChoiceWidth));
+  table.field(Slot::SoftIKMin, 19, kFieldColumn);
+  table.field(Slot::SoftIKMax, 19, kFarColumn);
+  table.flag(Slot::MatchGoalOrientation, 20, kFieldColumn);
+  table.flag(Slot::KeepGoalInReach, 21, kFieldColumn);
+  table.flag(Slot::FullTimeIK, 21, kFarColumn);
 }
 
 constexpr void addControllersPage(CTableBuilder& table) {
   table.begin(Section::ControllersPage);
-  table.field(Slot::PathLookAhead, 0, kWideColumn);
+  table.field(Slot::PathLookAhead, 0, kFieldColumn);
   table.field(Slot::PathMaxSteps, 0, kFarColumn);
-  table.field(Slot::PathReliableDistance, 1, kWideColumn);
+  table.field(Slot::PathReliableDistance, 1, kFieldColumn);
   // Below the choice of the group whose controllers they set.
-  table.plain(HostControl::Button, Role::KeyFrames, at(3, kWideColumn, kPresetWidth));
-  table.plain(HostControl::Button, Role::InverseKinematics, at(3, kWideColumn + kPresetWidth + kGap, kPresetWidth));
-  table.plain(HostControl::Button, Role::SameAsItem, at(3, kWideColumn + 2 * (kPresetWidth + kGap), kPresetWidth));
+  table.plain(HostControl::Button, Role::KeyFrames, at(3, kFieldColumn, kPresetWidth));
+  table.plain(HostControl::Button, Role::InverseKinematics, at(3, kFieldColumn + kPresetWidth + kGap, kPresetWidth));
+  table.plain(HostControl::Button, Role::SameAsItem, at(3, kFieldColumn + 2 * (kPresetWidth + kGap), kPresetWidth));
 }
 
 constexpr CTableBuilder build() {

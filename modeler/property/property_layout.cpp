@@ -30,7 +30,7 @@ constexpr int kPageTop = 62;
 constexpr BlockRows kControllersBlocks = gapAbove({2});
 constexpr int kGroupChoiceTop = yOfRow(kPageTop, kControllersBlocks, 2);
 constexpr int kMotionTop = yOfRow(kPageTop, kControllersBlocks, 4) + kBlockGap;
-constexpr BlockRows kMotionBlocks = gapAbove({3, 7, 11});  // one for each axis
+constexpr BlockRows kMotionBlocks = gapAbove({4, 8, 12});  // one for each axis
 
 constexpr int kAlways = -1;
 
@@ -49,7 +49,7 @@ constexpr std::array<SectionRow, kSectionCount> kSections = {{
     {Section::Buttons,         kAlways, kAlways, 665,             gapAbove({})},
     {Section::GroupPage,       0,       kAlways, kPageTop,        gapAbove({})},
     {Section::BonePage,        1,       kAlways, kPageTop,        gapAbove({2, 4, 6, 7, 14, 16})},
-    {Section::IKPage,          2,       kAlways, kPageTop,        gapAbove({1, 3, 5, 7, 12, 14, 17})},
+    {Section::IKPage,          2,       kAlways, kPageTop,        gapAbove({1, 4, 7, 9, 15, 17, 20})},
     {Section::ControllersPage, 3,       kAlways, kPageTop,        kControllersBlocks},
     {Section::GroupChoice,     3,       kAlways, kGroupChoiceTop, gapAbove({})},
     {Section::PositionGroup,   3,       0,       kMotionTop,      kMotionBlocks},

@@ -4,11 +4,12 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
 
-#include "modeler/property/property_layout.h"
+#include "skelegon/setting_groups.h"
 #include "texts/texts.h"
 
 namespace mst {
@@ -28,6 +29,7 @@ constexpr int kCheckWidth = 18;
 constexpr int kPopupFrame = 28;
 constexpr int kTabFrame = 16;
 constexpr int kButtonFrame = 8;
+constexpr int kEditFrame = 3;
 
 int textWidth(const std::string& text) {
   int width = 0;
@@ -200,7 +202,7 @@ TEST_P(EveryForm, HasRowsThatAreAligned) {
 
 // Labelled fields begin at one of the form's few lines.
 TEST_P(EveryForm, HasFieldsThatLineUp) {
-  const std::set<int> lines = {136, 155, 208, 310};
+  const std::set<int> lines = {155, 208, 226, 298, 310};
   for (const Seen& control : seenIn(GetParam())) {
     const PropertyRow& row = controlTable()[control.hot.number];
     const bool isField = row.kind == HostControl::Percent || row.kind == HostControl::Float ||
@@ -235,14 +237,48 @@ TEST(PropertyLayout, LeastAndGreatestStandSideBySide) {
   }
 }
 
-TEST(PropertyLayout, ALinkedItemTakesTwoRows) {
-  const std::pair<std::size_t, std::size_t> items[] = {{42, 46}, {49, 55},   {56, 62},  {65, 71},
-                                                       {92, 98}, {126, 132}, {159, 165}};
-  for (const auto& [first, last] : items) {
-    std::set<int> tops;
-    for (std::size_t number = first; number <= last; ++number) tops.insert(seen(number).hot.top);
-    EXPECT_EQ(tops.size(), 2U) << first;
-    EXPECT_EQ(*tops.rbegin() - *tops.begin(), 24) << first;
+// But for rows of nothing else than a flag with a long label, and of the blending where scales have no world coordinates.
+TEST_P(EveryForm, HasRowsThatBeginAtOneLine) {
+  std::map<int, int> firsts;
+  for (const Seen& control : seenIn(GetParam())) {
+    const std::size_t number = control.hot.number;
+    if (number <= control::kGroups || number == controlOf(Slot::ScaleBlendMethod) || number == controlOf(Slot::ScaleBlend))
+      continue;
+    if (number == controlOf(Slot::UnaffectedByIK) || number == controlOf(Slot::StrengthMultiply)) continue;
+    const int left = control.hot.left;
+    const auto [first, isNew] = firsts.emplace(control.hot.top, left);
+    first->second = std::min(first->second, left);
+  }
+  for (const auto& [top, left] : firsts) EXPECT_EQ(left, 155) << top << ": " << describe(GetParam());
+}
+
+TEST(PropertyLayout, ALinkedItemHasARowForItsNameOneForItsParentAndOneForItsLook) {
+  for (const skg::LinkedItem& item : skg::kLinkedItems) {
+    const bool hasParent = item.name != Slot::InitialPositionItem;  // whose parent stands on the IK page
+    const int top = seen(item.name).hot.top;
+    EXPECT_EQ(seen(item.shape).hot.top, top);
+    if (hasParent) {
+      EXPECT_EQ(seen(item.parent).hot.top, top + 24);
+    }
+    EXPECT_EQ(seen(item.visibility).hot.top, top + (hasParent ? 48 : 24));
+    EXPECT_EQ(seen(item.colour).hot.top, top + (hasParent ? 48 : 24));
+  }
+}
+
+TEST(PropertyLayout, NamesOfItemsHave26LettersInSight) {
+  for (const PropertyRow& row : controlTable()) {
+    if (row.kind != HostControl::Edit) continue;
+    const Seen field = seen(row.number);
+    EXPECT_GE(field.hot.right - field.hot.left, 26 * kCell + 2 * kEditFrame) << row.number;
+  }
+}
+
+TEST(PropertyLayout, FactorAndOffsetStandTogetherAndNotBelowTheLimits) {
+  for (const skg::AxisSettings& axis : skg::kAxes) {
+    EXPECT_EQ(seen(axis.factor).hot.top, seen(axis.offset).hot.top);
+    EXPECT_EQ(seen(axis.offset).hot.left - seen(axis.factor).hot.right, 2);
+    EXPECT_NE(seen(axis.factor).hot.left, seen(axis.least).hot.left);
+    EXPECT_NE(seen(axis.offset).hot.left, seen(axis.greatest).hot.left);
   }
 }
 
