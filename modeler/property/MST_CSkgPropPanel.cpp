@@ -1,5 +1,6 @@
 #include "modeler/property/MST_CSkgPropPanel.h"
 
+#include <algorithm>
 #include <unordered_map>
 #include <utility>
 
@@ -25,6 +26,12 @@ std::vector<skg::SkelegonInfo> scan() {
 }
 
 bool isInObject(lw::PolygonId polygon) { return lw::objectIsLoaded() && lw::IsLivingSkelegon(polygon); }
+
+// Which of the selected skelegons is shown: the one that was chosen, else the first.
+std::size_t shownOf(const lw::PolygonIds& polygons, lw::PolygonId chosen) {
+  const auto found = std::find(polygons.begin(), polygons.end(), chosen);
+  return found == polygons.end() ? 0 : static_cast<std::size_t>(found - polygons.begin());
+}
 
 // The list of a custom popup; the name popup's for all others.
 ChooserList listOf(std::size_t number) {
@@ -52,7 +59,7 @@ CSkgPropPanel::~CSkgPropPanel() {
 
 bool CSkgPropPanel::OpenPropertyPanel() {
   if (isBusy_) {  // while the host waits for an event of the panel's, it has to stay
-    take(look());
+    take(look(chosen_));
   } else {
     replace();
   }
@@ -84,10 +91,11 @@ void CSkgPropPanel::takeDown() {
 // A new panel in place of the last run's. All that the host may refuse comes first: a run that fails costs no open panel.
 void CSkgPropPanel::replace() {
   std::unique_ptr<Shown> made = build();
-  Seen seen = look();
+  Seen seen = look(nullptr);
   const bool wasOpen = life_.mayBeOpen();
   takeDown();
-  if (wasOpen) seen = lw::guarded([] { return look(); }, seen);  // closing a panel may have written what was being typed
+  if (wasOpen)
+    seen = lw::guarded([] { return look(nullptr); }, seen);  // closing a panel may have written what was being typed
   shown_ = std::move(made);
   widthToggle_ = 0;
   take(std::move(seen));
@@ -109,6 +117,7 @@ std::unique_ptr<CSkgPropPanel::Shown> CSkgPropPanel::build() {
 void CSkgPropPanel::closed() {
   life_.closed();
   skelegons_.clear();
+  chosen_ = nullptr;
   layerNames_.clear();
   choosers().clearLists();
 }
@@ -116,13 +125,13 @@ void CSkgPropPanel::closed() {
 // ---------------------------------------------------------------------------------------------------------------------
 // What the panel knows of the mesh, and what it shows of it
 
-CSkgPropPanel::Seen CSkgPropPanel::look() {
+CSkgPropPanel::Seen CSkgPropPanel::look(lw::PolygonId preferred) {
   Seen seen;
   seen.skelegons = scan();
   seen.layerNames = lw::LayerNames();
   seen.weightMaps = lw::WeightMapNames();
   const lw::PolygonIds polygons = selectedPolygons(seen.skelegons);
-  seen.properties = ReadSkelegonProperties(polygons.empty() ? nullptr : polygons.front());
+  seen.properties = ReadSkelegonProperties(polygons.empty() ? nullptr : polygons[shownOf(polygons, preferred)]);
   return seen;
 }
 
@@ -155,8 +164,11 @@ void CSkgPropPanel::refreshLists() {
 }
 
 void CSkgPropPanel::load(const skg::SkelegonProperties& properties) {
+  const lw::PolygonIds polygons = selected();
+  const std::size_t shown = shownOf(polygons, chosen_);
+  if (polygons.empty() || polygons[shown] != chosen_) chosen_ = nullptr;
   form().showValues(properties);
-  form().setChoice(control::kNamePopup, 0);
+  form().setChoice(control::kNamePopup, static_cast<int>(shown));
   for (const PropertyRow& row : controlTable()) {
     if (row.role == Role::WeightMaps || row.role == Role::ItemNames) rest(row.number);
   }
@@ -171,7 +183,7 @@ void CSkgPropPanel::showPage() {
 }
 
 void CSkgPropPanel::reload() {
-  take(look());
+  take(look(chosen_));
   tell();
 }
 
@@ -179,6 +191,15 @@ void CSkgPropPanel::tell() const { NotifyPanels(this, PanelNews::SelectionChange
 
 // ---------------------------------------------------------------------------------------------------------------------
 // What the user does
+
+// What was typed or chosen must not stay in sight when nothing was stored. The host may refuse more than the write: this asks
+// nothing of the mesh.
+void CSkgPropPanel::showStored() {
+  if (!life_.mayBeOpen()) return;
+  form().showKept();
+  form().setChoice(control::kNamePopup, static_cast<int>(shownOf(selected(), chosen_)));
+  form().show(page_, group_, selected().size() == 1);
+}
 
 void CSkgPropPanel::use(std::size_t number) {
   const PropertyRow& row = controlTable()[number];
@@ -216,7 +237,8 @@ void CSkgPropPanel::chooseGroup(int group) {
 
 void CSkgPropPanel::writeName() {
   const std::string name = form().storedText(control::kNameEdit);
-  applyWrites(writesForName(skelegons_, name));
+  if (!applyWrites(writesForName(skelegons_, name))) return reload();
+  form().keep(control::kNameEdit);
   for (skg::SkelegonInfo& skelegon : skelegons_) {
     if (skelegon.isSelected) skelegon.name = name;
   }
@@ -231,16 +253,16 @@ void CSkgPropPanel::showSelected(int index) {
   const lw::PolygonId polygon = polygons[static_cast<std::size_t>(index)];
   if (!isInObject(polygon)) return reload();
   form().showValues(ReadSkelegonProperties(polygon));
+  chosen_ = polygon;
   form().show(page_, group_, selected().size() == 1);
 }
 
 void CSkgPropPanel::writeValue(std::size_t number) {
   const Slot slot = ControlSlotMap(number).slot.value();
-  if (slot == Slot::Colour) {
-    applyWrites(writesForColour(skelegons_, form().choice(number)));
-  } else {
-    WriteSlotValue(skelegons_, slot, form().storedText(number));
-  }
+  const bool isStored = slot == Slot::Colour ? applyWrites(writesForColour(skelegons_, form().choice(number)))
+                                             : WriteSlotValue(skelegons_, slot, form().storedText(number));
+  if (!isStored) return reload();
+  form().keep(number);
   tell();
 }
 
@@ -270,19 +292,19 @@ void CSkgPropPanel::rest(std::size_t number) {
 void CSkgPropPanel::chooseWeightMap(std::size_t number) {
   const std::string map = takeChoice(number);
   const char* const active = map.empty() ? "0" : "1";
-  form().showText(Slot::BoneActive, active);
-  form().showText(Slot::WeightMap, map);
   TagWrites writes = writesForValue(skelegons_, Slot::BoneActive, active);
   writes.append(writesForValue(skelegons_, Slot::WeightMap, map));
-  applyWrites(writes);
+  if (!applyWrites(writes)) return reload();
+  form().showText(Slot::BoneActive, active);
+  form().showText(Slot::WeightMap, map);
   tell();
 }
 
 void CSkgPropPanel::chooseItem(std::size_t number) {
   const Slot slot = ControlSlotMap(number - 1).slot.value();
   const std::string item = takeChoice(number);
+  if (!WriteSlotValue(skelegons_, slot, item)) return reload();
   form().showText(slot, item);
-  WriteSlotValue(skelegons_, slot, item);
   tell();
 }
 
@@ -325,7 +347,12 @@ void CSkgPropPanel::OnUsed(lw::LWControl* control, void* user) {
     const CPropertyForm& form = link.panel->form();
     if (!form.owns(link.number, control) || form.isSetting()) return;
     const lw::CRaisedFlag busy(link.panel->isBusy_);
-    link.panel->use(link.number);
+    try {
+      link.panel->use(link.number);
+    } catch (...) {
+      link.panel->showStored();
+      throw;
+    }
   });
 }
 

@@ -68,9 +68,10 @@ class CSkgPropPanel {
     std::vector<skg::SkelegonInfo> skelegons;
     std::vector<std::string> layerNames;
     std::vector<std::string> weightMaps;
-    skg::SkelegonProperties properties;  // of the first that is selected
+    skg::SkelegonProperties properties;  // of the one that is shown
   };
-  static Seen look();
+  // The settings are those of the preferred skelegon if it is selected, else of the first that is.
+  static Seen look(lw::PolygonId preferred);
   void take(Seen seen);
   void refreshNames();
   void refreshLists();
@@ -84,6 +85,7 @@ class CSkgPropPanel {
 
   // What a control's use does.
   void use(std::size_t number);
+  void showStored();
   void choosePage(int page);
   void chooseGroup(int group);
   void writeName();
@@ -108,6 +110,7 @@ class CSkgPropPanel {
   int widthToggle_ = 0;
 
   std::vector<skg::SkelegonInfo> skelegons_;
+  lw::PolygonId chosen_ = nullptr;  // from the list of names, while it is selected
   std::vector<std::string> layerNames_;
 };
 

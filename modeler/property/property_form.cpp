@@ -71,6 +71,7 @@ void CPropertyForm::setValue(std::size_t number, const std::string& text) {
 
 void CPropertyForm::showValues(const skg::SkelegonProperties& properties) {
   const lw::CRaisedFlag setting(isSetting_);
+  kept_ = properties;
   setText(control::kNameEdit, properties[skg::Slot::Name]);
   for (const PropertyRow& row : controlTable()) {
     if (row.slot) setValue(row.number, properties[*row.slot]);
@@ -80,9 +81,16 @@ void CPropertyForm::showValues(const skg::SkelegonProperties& properties) {
 void CPropertyForm::showText(skg::Slot slot, const std::string& text) {
   const std::size_t number = controlOf(slot).value();
   const lw::CRaisedFlag setting(isSetting_);
+  kept_[slot] = text;
   setValue(number, text);
   controls_[number].show(true);  // the host does not redraw a field by itself
 }
+
+void CPropertyForm::keep(std::size_t number) {
+  kept_[ControlSlotMap(number).slot.value_or(skg::Slot::Name)] = storedText(number);
+}
+
+void CPropertyForm::showKept() { showValues(skg::SkelegonProperties(kept_)); }
 
 std::string CPropertyForm::storedText(std::size_t number) const {
   const lw::CControl& control = controls_[number];

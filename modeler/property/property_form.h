@@ -38,6 +38,10 @@ class CPropertyForm : public lw::CPanel {
   void showValues(const skg::SkelegonProperties& properties);
   // A setting that has a control, in that control, which must be in sight.
   void showText(skg::Slot slot, const std::string& text);
+  // What the user gave a control was stored.
+  void keep(std::size_t number);
+  // The values last shown or kept, in place of what the user gave the controls since. Controls in sight are to be shown again.
+  void showKept();
   // The value of a control as the text that is stored for it.
   std::string storedText(std::size_t number) const;
   int choice(std::size_t number) const { return controls_[number].integer(); }
@@ -55,6 +59,7 @@ class CPropertyForm : public lw::CPanel {
 
   std::array<lw::CControl, kControlCount> controls_;
   std::array<lw::TextEnd, kControlCount> textEnds_{};  // of the texts last set
+  skg::SkelegonProperties kept_;
   bool isSetting_ = false;
 };
 

@@ -70,16 +70,17 @@ std::string_view colourName(int colourIndex) {
   return index < skg::BoneColourNames.size() ? skg::BoneColourNames[index] : std::string_view();
 }
 
-void applyWrites(const TagWrites& writes) {
-  if (writes.empty()) return;
+bool applyWrites(const TagWrites& writes) {
+  if (writes.empty()) return false;
   lw::CMeshEdit edit(lw::kEditForTags);
   const TagWrites living = writesToLiving(edit, writes);
   lw::WritePolygonTags(edit, living.polygons, living.types, living.texts);
   edit.done();
+  return !living.empty();
 }
 
-void WriteSlotValue(PanelSkelegons skelegons, skg::Slot slot, std::string_view text) {
-  applyWrites(writesForValue(skelegons, slot, text));
+bool WriteSlotValue(PanelSkelegons skelegons, skg::Slot slot, std::string_view text) {
+  return applyWrites(writesForValue(skelegons, slot, text));
 }
 
 }  // namespace mst

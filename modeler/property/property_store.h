@@ -68,10 +68,10 @@ TagWrites writesForControllerPreset(PanelSkelegons skelegons, skg::MotionGroup g
 TagWrites writesForReset(const lw::PolygonIds& polygons);
 
 // Makes the writes in one mesh edit; no edit at all when there is nothing to write. What is no longer a skelegon of the
-// current object is left out. Throws CBaseEx; nothing is written then.
-void applyWrites(const TagWrites& writes);
+// current object is left out; false when that is all. Throws CBaseEx; nothing is written then.
+bool applyWrites(const TagWrites& writes);
 
-// Stores a control's value.
-void WriteSlotValue(PanelSkelegons skelegons, skg::Slot slot, std::string_view text);
+// Stores a control's value, as applyWrites() does.
+bool WriteSlotValue(PanelSkelegons skelegons, skg::Slot slot, std::string_view text);
 
 }  // namespace mst

@@ -147,15 +147,6 @@ class ThreePanelsUsed : public ThreePanels {
   static std::size_t fieldOf(int slot) { return mst::controlOf(static_cast<Slot>(slot)).value(); }
   static std::uint32_t typeOf(int slot) { return walk::kFamily | static_cast<std::uint32_t>(slot); }
 
-  void putValue(int slot, const std::string& text) {
-    mesh.putValue(slot, text);
-    showOnNothing(slot, text);
-  }
-  // What is put into a control while nothing is selected is stored nowhere, and stays in sight until the panel looks again.
-  void showOnNothing(int slot, const std::string& text) {
-    if (mesh.selected().empty()) shownOfNone[static_cast<Slot>(slot)] = text;
-  }
-
   void useValueControl(const mst::PropertyRow& row, Control* control) {
     switch (row.kind) {
       case mst::HostControl::Bool:
@@ -182,9 +173,8 @@ class ThreePanelsUsed : public ThreePanels {
     if (*row.slot == Slot::Colour) {
       mesh.putOnSelected(walk::kColourCopy, text);
       mesh.putOnSelected(lw::kTagColour, text == "DkCyn" || text == "Cyan" ? "" : text);
-      showOnNothing(slot, text);
     } else {
-      putValue(slot, text);
+      mesh.putValue(slot, text);
     }
     treeHears();
   }
@@ -203,7 +193,7 @@ class ThreePanelsUsed : public ThreePanels {
   void showAnother() {
     const int index = below(static_cast<int>(mesh.selected().size()));
     EXPECT_TRUE(person::choose(field(mst::control::kNamePopup), index));
-    shownOfSelected = static_cast<std::size_t>(index);
+    chosen = mesh.selected()[static_cast<std::size_t>(index)];
   }
 
   void fillLinked() {
@@ -230,8 +220,8 @@ class ThreePanelsUsed : public ThreePanels {
     show(kMapChooser);
     const auto index = placeBelow(kWalkMaps.size() + 1);
     EXPECT_TRUE(person::choose(field(kMapChooser), static_cast<int>(index)));
-    putValue(27, index == 0 ? "0" : "1");
-    putValue(28, index == 0 ? "" : kWalkMaps[index - 1]);
+    mesh.putValue(27, index == 0 ? "0" : "1");
+    mesh.putValue(28, index == 0 ? "" : kWalkMaps[index - 1]);
     treeHears();
   }
 
@@ -243,7 +233,7 @@ class ThreePanelsUsed : public ThreePanels {
     const Names items = field(chooser)->items();
     const int index = below(static_cast<int>(items.size()));
     EXPECT_TRUE(person::choose(field(chooser), index));
-    putValue(slot, index == 0 ? "" : items[static_cast<std::size_t>(index)]);
+    mesh.putValue(slot, index == 0 ? "" : items[static_cast<std::size_t>(index)]);
     treeHears();
   }
 

@@ -3,9 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -82,6 +83,7 @@ class ThreePanels : public testing::Test, protected ModelerSession {
   // A new panel, whether one was open or not: the others hear nothing of it.
   void openProperties() {
     properties.panel = runTool(kPropertyTool);
+    chosen.reset();
     propertiesHear();
   }
   void openRenamer() { renamer.panel = runTool(kRenamerTool); }
@@ -104,8 +106,8 @@ class ThreePanels : public testing::Test, protected ModelerSession {
   }
   void propertiesHear() {
     if (!properties.isOpen()) return;
-    shownOfSelected = 0;
-    shownOfNone.clear();
+    const walk::Places selected = mesh.selected();
+    if (chosen && std::find(selected.begin(), selected.end(), *chosen) == selected.end()) chosen.reset();
     properties.isFresh = true;
   }
   void bothHear() {
@@ -117,11 +119,10 @@ class ThreePanels : public testing::Test, protected ModelerSession {
 
   // --- comparing -----------------------------------------------------------------------------------------------------------
 
-  // What is stored for a setting, as the panel reads it. With nothing selected the defaults, and what the user put over
-  // them.
-  std::string storedValue(const walk::Skelegon* skelegon, Slot slot) const {
+  // What is stored for a setting, as the panel reads it.
+  static std::string storedValue(const walk::Skelegon* skelegon, Slot slot) {
     const std::string byDefault(skg::SlotDefaults(slot));
-    if (skelegon == nullptr) return shownOfNone.contains(slot) ? shownOfNone.at(slot) : byDefault;
+    if (skelegon == nullptr) return byDefault;
     std::string text = skelegon->text(skg::SlotTagId(slot));
     if (text.empty() && slot == Slot::Colour) text = skelegon->text(walk::kColourCopy);
     return text.empty() ? byDefault : text;
@@ -152,7 +153,7 @@ class ThreePanels : public testing::Test, protected ModelerSession {
     EXPECT_EQ(standin::isVisible(*field(mst::control::kNamePopup)), !isEdited) << selected.size() << " are selected";
     EXPECT_EQ(field(mst::control::kNamePopup)->items(), namesBehind({}, selected));
 
-    const walk::Skelegon* const shown = selected.empty() ? nullptr : &mesh[selected[shownOfSelected]];
+    const walk::Skelegon* const shown = selected.empty() ? nullptr : &mesh[chosen.value_or(selected.front())];
     EXPECT_EQ(field(mst::control::kNameEdit)->text, shown == nullptr ? "" : shown->name());
     for (const mst::PropertyRow& row : mst::controlTable()) {
       if (!row.slot) continue;
@@ -197,8 +198,8 @@ class ThreePanels : public testing::Test, protected ModelerSession {
 
   walk::Mesh mesh;
   walk::Tree tree;
-  std::size_t shownOfSelected = 0;  // which of the selected skelegons the property panel shows
-  std::map<Slot, std::string> shownOfNone;
+  std::optional<std::size_t>
+      chosen;  // the skelegon chosen in the property panel; it shows the first that is selected without
   std::vector<skg::PolygonId> registered;
   Names errorsExpected;
 };

@@ -87,29 +87,57 @@ TEST(PropertyPanelRefusals, AFilledNameIsStoredOnAllSkelegonsOrOnNone) {
       &untilShown<3>);
 }
 
-TEST_F(PropertyPanel, ARefusedEditLeavesTheControlsAsTheyAre) {
+TEST_F(PropertyPanel, AfterARefusedEditShowsTheLastValueThatWasStored) {
   openWith({"Hips"});
-  showPage(kBonePage);
-  control(Slot::Strength)->real = 40;
+  enter(Slot::Strength, 60);
   standin::witness().refuseNext("LWModCommand::editBegin2");
-  EXPECT_TRUE(standin::oddhost::fire(control(Slot::Strength)));
+  enter(Slot::Strength, 40);
   EXPECT_TRUE(standin::witness().refusalHappened());
-  EXPECT_EQ(control(Slot::Strength)->real, 40);
+  EXPECT_EQ(shown(Slot::Strength), "60 %");
+  EXPECT_EQ(stored("Hips", Slot::Strength), "60.000000");
 }
 
-// Shown first, then written, like what is typed.
-TEST_F(PropertyPanel, ARefusedEditLeavesTheChoiceOfAChooserInItsField) {
+TEST_F(PropertyPanel, AfterARefusedRenameShowsTheLastNameThatWasStored) {
+  openWith({"Hips"});
+  EXPECT_TRUE(person::type(control(mst::control::kNameEdit), "Pelvis"));
+  standin::witness().refuseNext("LWModCommand::editBegin2");
+  EXPECT_TRUE(person::type(control(mst::control::kNameEdit), "Basin"));
+  EXPECT_TRUE(standin::witness().refusalHappened());
+  EXPECT_EQ(control(mst::control::kNameEdit)->shown(), "Pelvis");
+}
+
+TEST_F(PropertyPanel, AfterARefusedColourShowsTheLastOneThatWasStored) {
+  openWith({"Hips"});
+  choose(Slot::Colour, 3);
+  standin::witness().refuseNext("LWModCommand::editBegin2");
+  choose(Slot::Colour, 5);
+  EXPECT_TRUE(standin::witness().refusalHappened());
+  EXPECT_EQ(control(Slot::Colour)->integer, 3);
+}
+
+TEST_F(PropertyPanel, ANameWhoseSettingsCannotBeReadIsNotShown) {
+  store("Chest", Slot::Strength, "40.000000");
+  openWith({"Hips", "Chest"});
+  standin::witness().refuseNext("LWModCommand::editBegin2");
+  EXPECT_TRUE(person::choose(control(mst::control::kNamePopup), "Chest"));
+  EXPECT_TRUE(standin::witness().refusalHappened());
+  EXPECT_EQ(control(mst::control::kNamePopup)->shown(), "Hips");
+  EXPECT_EQ(shown(Slot::Strength), "100 %");
+}
+
+// Written first, then shown.
+TEST_F(PropertyPanel, ARefusedEditLeavesTheFieldOfAChooserAsItWas) {
   openWith({"Hips"});
   const std::string before = everythingStored();
   show(Slot::WeightMap);
   standin::witness().refuseNext("LWModCommand::editBegin2");
   chooseBehind(Slot::WeightMap, "Spine");
   EXPECT_TRUE(standin::witness().refusalHappened());
-  EXPECT_EQ(shown(Slot::WeightMap), "Spine");
+  EXPECT_EQ(shown(Slot::WeightMap), "");
   show(Slot::ParentItem);
   standin::witness().refuseNext("LWModCommand::editBegin2");
   chooseBehind(Slot::ParentItem, "Chest");
-  EXPECT_EQ(shown(Slot::ParentItem), "Chest");
+  EXPECT_EQ(shown(Slot::ParentItem), "");
   EXPECT_EQ(everythingStored(), before);
 }
 

@@ -205,13 +205,34 @@ TEST_F(PropertyPanel, WritesToAllSelectedSkelegonsWhicheverIsShown) {
   EXPECT_EQ(stored("Chest", Slot::Strength), "40.000000");
 }
 
-TEST_F(PropertyPanel, TheNameListIsBackAtItsFirstEntryAfterSync) {
+TEST_F(PropertyPanel, AChosenNameIsKeptOverSyncWhileItIsSelected) {
   store("Chest", Slot::Strength, "40.000000");
-  openWith({"Hips", "Chest"});
+  openWith({"Hips", "Chest", "Head"});
   EXPECT_TRUE(person::choose(control(kNamePopup), "Chest"));
+  host.select({"Chest", "Head"});
+  sync();
+  EXPECT_EQ(control(kNamePopup)->shown(), "Chest");
+  EXPECT_EQ(control(Slot::Strength)->real, 40);
+}
+
+TEST_F(PropertyPanel, TheNameListIsBackAtItsFirstEntryWhenTheChosenOneIsNoLongerSelected) {
+  store("Hips", Slot::Strength, "40.000000");
+  openWith({"Hips", "Chest", "Head"});
+  EXPECT_TRUE(person::choose(control(kNamePopup), "Chest"));
+  host.select({"Hips", "Head"});
   sync();
   EXPECT_EQ(control(kNamePopup)->shown(), "Hips");
-  EXPECT_EQ(control(Slot::Strength)->real, 100);
+  EXPECT_EQ(control(Slot::Strength)->real, 40);
+  host.select({"Hips", "Chest", "Head"});  // selected again, it is not chosen any more
+  sync();
+  EXPECT_EQ(control(kNamePopup)->shown(), "Hips");
+}
+
+TEST_F(PropertyPanel, EachRunBeginsWithTheFirstName) {
+  openWith({"Hips", "Chest"});
+  EXPECT_TRUE(person::choose(control(kNamePopup), "Chest"));
+  openWith({"Hips", "Chest"});
+  EXPECT_EQ(control(kNamePopup)->shown(), "Hips");
 }
 
 TEST_F(PropertyPanel, ANameBeyondTheListChangesNothing) {

@@ -275,11 +275,25 @@ TEST_F(PropertyPanel, FramesBelowZeroAndFarAboveItAreStored) {
   }
 }
 
-TEST_F(PropertyPanel, AValueEnteredWithNothingSelectedStaysInSightUntilTheNextLook) {
+TEST_F(PropertyPanel, AValueEnteredWithNothingSelectedIsNotShown) {
   openWith({});
   enter(Slot::Strength, 40);
-  EXPECT_EQ(shown(Slot::Strength), "40 %");
-  sync();
+  EXPECT_EQ(shown(Slot::Strength), "100 %");
+  type(Slot::ParentItem, "Root");
+  EXPECT_EQ(shown(Slot::ParentItem), "");
+}
+
+TEST_F(PropertyPanel, AChoiceMadeWithNothingSelectedIsNotShown) {
+  openWith({});
+  show(Slot::ParentItem);
+  chooseBehind(Slot::ParentItem, "Chest");
+  EXPECT_EQ(shown(Slot::ParentItem), "");
+}
+
+TEST_F(PropertyPanel, AValueForASkelegonThatWasDeletedIsNotShown) {
+  openWith({"Hips"});
+  host.deleteSkelegons({"Hips"});
+  enter(Slot::Strength, 40);
   EXPECT_EQ(shown(Slot::Strength), "100 %");
 }
 
