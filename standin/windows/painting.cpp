@@ -1,5 +1,6 @@
 #include "standin/windows/painting.h"
 
+#include <algorithm>
 #include <array>
 
 #include "standin/core/wide_text.h"
@@ -17,7 +18,7 @@ RECT inset(RECT area, int dx, int dy) {
   return area;
 }
 
-// Runs of characters and icons, in order: `run` gets each text without icons, `icon` is called for each icon.
+// Runs of characters and icons, in order: `run` gets each text without icons, `icon` the escape of each icon.
 template <class Run, class Icon>
 void walk(std::string_view text, Run run, Icon icon) {
   std::string characters;
@@ -29,7 +30,7 @@ void walk(std::string_view text, Run run, Icon icon) {
     const TextPiece piece = takePiece(text);
     if (piece.kind == TextPiece::Kind::Icon) {
       flush();
-      icon();
+      icon(piece.bytes);
     } else {
       characters += piece.kind == TextPiece::Kind::Broken ? "?" : piece.bytes;
     }
@@ -43,10 +44,51 @@ int extent(HDC dc, const std::wstring& text) {
   return size.cx;
 }
 
-void drawIcon(HDC dc, int x, int middle) {
+// Selected into a device context for as long as this lives.
+class Selected {
+ public:
+  Selected(HDC dc, HGDIOBJ object) : dc_(dc), before_(SelectObject(dc, object)) {}
+  ~Selected() { SelectObject(dc_, before_); }
+  Selected(const Selected&) = delete;
+  Selected& operator=(const Selected&) = delete;
+
+ private:
+  HDC dc_;
+  HGDIOBJ before_;
+};
+
+void drawBox(HDC dc, int x, int middle, COLORREF) {
   const RECT box{x + 2, middle - 5, x + 13, middle + 6};
   frame(dc, box, Tone::Mark);
   fill(dc, inset(box, 3, 3), Tone::Mark);
+}
+
+void drawLeftArrow(HDC dc, int x, int middle, COLORREF ink) {
+  const std::array<POINT, 7> outline{{{x + 2, middle},
+                                      {x + 7, middle - 5},
+                                      {x + 7, middle - 2},
+                                      {x + 13, middle - 2},
+                                      {x + 13, middle + 2},
+                                      {x + 7, middle + 2},
+                                      {x + 7, middle + 5}}};
+  const Selected pen(dc, GetStockObject(DC_PEN));
+  const Selected brush(dc, GetStockObject(DC_BRUSH));
+  SetDCPenColor(dc, ink);
+  SetDCBrushColor(dc, ink);
+  Polygon(dc, outline.data(), static_cast<int>(outline.size()));
+}
+
+// The images of the host that the stand-in has a drawing for. Of the others it only shows where they stand.
+struct IconRow {
+  std::string_view escape;
+  void (*draw)(HDC dc, int x, int middle, COLORREF ink);
+};
+constexpr std::array kIcons{IconRow{"\x03(i:MIMG_LEFTARROW)", &drawLeftArrow}};
+
+void drawIcon(HDC dc, int x, int middle, COLORREF ink, std::string_view escape) {
+  const auto* const row =
+      std::find_if(kIcons.begin(), kIcons.end(), [&](const IconRow& icon) { return icon.escape == escape; });
+  (row == kIcons.end() ? &drawBox : row->draw)(dc, x, middle, ink);
 }
 
 // A triangle that points down, left or right, as rows of pixels.
@@ -64,18 +106,6 @@ void drawTriangle(HDC dc, int x, int y, int size, Point point, COLORREF ink) {
   }
 }
 
-class Font {
- public:
-  explicit Font(HDC dc) : dc_(dc), before_(SelectObject(dc, panelFont())) {}
-  ~Font() { SelectObject(dc_, before_); }
-  Font(const Font&) = delete;
-  Font& operator=(const Font&) = delete;
-
- private:
-  HDC dc_;
-  HGDIOBJ before_;
-};
-
 int middleOf(const RECT& area) { return (area.top + area.bottom) / 2; }
 
 void drawField(HDC dc, const RECT& area, bool hasFocus) {
@@ -86,15 +116,15 @@ void drawField(HDC dc, const RECT& area, bool hasFocus) {
 }  // namespace
 
 int drawnWidth(HDC dc, std::string_view text) {
-  const Font font(dc);
+  const Selected font(dc, panelFont());
   int width = 0;
   walk(
-      text, [&](const std::wstring& run) { width += extent(dc, run); }, [&] { width += kIconWidth; });
+      text, [&](const std::wstring& run) { width += extent(dc, run); }, [&](std::string_view) { width += kIconWidth; });
   return width;
 }
 
 void drawText(HDC dc, const RECT& area, std::string_view text, COLORREF ink, Align align) {
-  const Font font(dc);
+  const Selected font(dc, panelFont());
   SetBkMode(dc, TRANSPARENT);
   SetTextColor(dc, ink);
   int x = area.left;
@@ -104,8 +134,8 @@ void drawText(HDC dc, const RECT& area, std::string_view text, COLORREF ink, Ali
     ExtTextOutW(dc, x, y, ETO_CLIPPED, &area, characters.data(), static_cast<UINT>(characters.size()), nullptr);
     x += extent(dc, characters);
   };
-  const auto icon = [&] {
-    drawIcon(dc, x, middleOf(area));
+  const auto icon = [&](std::string_view escape) {
+    drawIcon(dc, x, middleOf(area), ink, escape);
     x += kIconWidth;
   };
   walk(text, run, icon);

@@ -10,7 +10,7 @@ namespace standin {
 
 enum class Align { Left, Centre };
 
-// One line, its icons as small boxes, cut at the area's edges. `area` is where the text may stand; it is centred from top to
+// One line with its icons, cut at the area's edges. `area` is where the text may stand; it is centred from top to
 // bottom.
 void drawText(HDC dc, const RECT& area, std::string_view text, COLORREF ink, Align align = Align::Left);
 // Width of the text as drawText draws it.

@@ -79,6 +79,32 @@ TEST_F(FrontPicture, LabelLeavesItsAreasEdgesFree) {
   EXPECT_EQ(static_cast<std::size_t>(countOf(above, Tone::Panel)), above.pixels.size());
 }
 
+// How many pixels of a tone each column of the picture has.
+std::vector<int> columnsOf(const Picture& picture, std::uint32_t pixel) {
+  std::vector<int> columns;
+  for (int x = 0; x < picture.width; ++x) {
+    int count = 0;
+    for (int y = 0; y < picture.height; ++y) count += picture.at(x, y) == pixel ? 1 : 0;
+    columns.push_back(count);
+  }
+  return columns;
+}
+
+TEST_F(FrontPicture, ArrowOfAFillButtonPointsToTheLeft) {
+  const Picture picture = driver->picture(open(ControlKind::Button, "\x03(i:MIMG_LEFTARROW)"));
+  EXPECT_EQ(0, countOf(picture, Tone::Mark));
+  std::vector<int> columns = columnsOf(picture, pixelOf(Tone::Text));
+  columns.erase(columns.begin(), std::find_if(columns.begin(), columns.end(), [](int count) { return count > 0; }));
+  while (!columns.empty() && columns.back() == 0) columns.pop_back();
+  // From its point on the head grows to the highest column, behind which the shaft has one height.
+  EXPECT_THAT(columns, testing::ElementsAre(1, 3, 5, 7, 9, 11, 5, 5, 5, 5, 5, 5));
+}
+
+TEST_F(FrontPicture, ImageWithoutADrawingIsABox) {
+  const Picture picture = driver->picture(open(ControlKind::Button, "\x03(i:BLOCK8, 32514080)Red"));
+  EXPECT_LT(0, countOf(picture, Tone::Mark));
+}
+
 TEST_F(FrontPicture, UnderlineOfAFieldsTextIsNotCut) {
   const Control& field = open(ControlKind::Edit);
   const Picture empty = driver->picture(field);
