@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "objectfile/rig_builder.h"
 
@@ -180,6 +182,27 @@ void addTail(RigBuilder& rig) {
   colour(rig, tail[5], "Modeler", "Modeler");
 }
 
+struct NameRow {
+  const char* english;
+  const char* japanese;
+};
+// Where one name begins with another the longer one stands first.
+constexpr std::array kLizardNames{
+    NameRow{"Lizard_Rig", "★トカゲ_骨"},
+    NameRow{"Lizard", "トカゲ"},
+    NameRow{"lizard", "トカゲ"},
+    NameRow{"Root", "腰"},
+    NameRow{"Spine_01", "背骨①"},
+    NameRow{"Spine_02", "背骨②"},
+    NameRow{"Neck", "首"},
+    NameRow{"Head", "頭"},
+    NameRow{"Jaw", "顎"},
+    NameRow{"FrontLeg", "前足"},
+    NameRow{"HindLeg", "後足"},
+    NameRow{"Tail_06", "尾_06★"},
+    NameRow{"Tail", "尾"},
+};
+
 }  // namespace
 
 ObjectFile makeDemoRig() {
@@ -208,6 +231,30 @@ ObjectFile makeDemoRig() {
   rig.layer(1, "Tail", {}, 0);
   addTail(rig);
   return rig.take();
+}
+
+std::string lizardNameInJapanese(std::string text) {
+  for (const NameRow& row : kLizardNames) {
+    const std::string_view english = row.english;
+    const std::string_view japanese = row.japanese;
+    for (std::size_t at = text.find(english); at != std::string::npos; at = text.find(english, at + japanese.size())) {
+      text.replace(at, english.size(), japanese);
+    }
+  }
+  return text;
+}
+
+ObjectFile makeJapaneseLizard() {
+  ObjectFile object = makeDemoRig();
+  const auto translate = [](std::string& text) { text = lizardNameInJapanese(std::move(text)); };
+  for (ObjectLayer& layer : object.layers) {
+    translate(layer.name);
+    for (VertexMap& map : layer.maps) translate(map.name);
+    for (ObjectPolygon& skelegon : layer.group(lw::kTypeBone).polygons) {
+      for (PolygonTag& tag : skelegon.tags) translate(tag.text);
+    }
+  }
+  return object;
 }
 
 ObjectFile makeJapaneseRig() {

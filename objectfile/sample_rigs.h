@@ -13,6 +13,11 @@ namespace standin {
 // helper nulls of all seven kinds among them.
 ObjectFile makeDemoRig();
 
+// The same with Japanese names, for pictures: 腰, 背骨①, 前足_L_01, 尾_01.
+ObjectFile makeJapaneseLizard();
+// A name of the lizard's, or a text with some in it, as the Japanese one has it.
+std::string lizardNameInJapanese(std::string text);
+
 // A small rig with names, weight map and linked items in Japanese.
 ObjectFile makeJapaneseRig();
 

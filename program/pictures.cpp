@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <iostream>
@@ -5,6 +6,7 @@
 
 #include "objectfile/sample_rigs.h"
 #include "program/host_option.h"
+#include "program/pictured_rigs.h"
 #include "program/property_panel.h"
 #include "program/subcommands.h"
 #include "program/support.h"
@@ -29,6 +31,7 @@ class Album {
   Album(const PicturesOptions& options, std::string language) : options_(options), language_(std::move(language)) {}
 
   const std::string& language() const { return language_; }
+  PicturedRig rig() const { return PicturedRig(language_); }
   const std::string& module() const { return options_.module; }
   HostOptions host() const { return options_.host.options(); }
 
@@ -48,7 +51,7 @@ class Album {
   std::string language_;
 };
 
-// Modeler with the demonstration's rig, in real windows.
+// Modeler with an object, in real windows.
 struct Workplace {
   ModelerHost& host;
   ModuleFile& module;
@@ -57,10 +60,11 @@ struct Workplace {
 };
 
 template <class Action>
-void inModeler(const Album& album, const std::vector<std::string>& selected, Action&& action) {
+void inModeler(const Album& album, ObjectFile object, const std::string& file, const std::vector<std::string>& selected,
+               Action&& action) {
   PlayedModeler host(album.host());
   host.options().localeInfo = localeOf(album.language());
-  host.add(makeDemoRig(), "lizard.lwo");
+  host.add(std::move(object), file);
   host.showAllLayers();
   host.select(selected);
   ModuleFile module;
@@ -73,8 +77,18 @@ void inModeler(const Album& album, const std::vector<std::string>& selected, Act
   endSession(module);
 }
 
+// With the pictures' rig as it is.
+template <class Action>
+void withTheRig(const Album& album, const std::vector<const char*>& selected, Action&& action) {
+  const PicturedRig rig = album.rig();
+  std::vector<std::string> names;
+  for (const char* const name : selected) names.push_back(rig.name(name));
+  inModeler(album, rig.plain(), rig.file(), names, std::forward<Action>(action));
+}
+
 void takePropertyPanel(const Album& album) {
-  inModeler(album, {"Tail_01"}, [&](const Workplace& at) {
+  const PicturedRig rig = album.rig();
+  inModeler(album, rig.filled(), rig.file(), {rig.filledSkelegon()}, [&](const Workplace& at) {
     const Panel& panel = openTool(at.host, at.module, kPropertyTool);
     const Control* const pages = panel.find(ControlKind::TabChoice, 0);
     for (int page = 0; page < kPropertyPages; ++page) {
@@ -105,17 +119,23 @@ void takeConversionPanel(const Album& album) {
   endSession(module);
 }
 
+// Places in the tree: rows are of this height, and their names reach to the right of every triangle.
+constexpr int kTreeRow = 14;
+constexpr int kBesideTriangles = 200;
+constexpr int kOutermostTriangle = 10;
+constexpr int kRowOfMaps = 27;  // in the lizard's tree
+
 void takeSelector(const Album& album) {
-  inModeler(album, {}, [&](const Workplace& at) {
+  withTheRig(album, {}, [&](const Workplace& at) {
     const Panel& panel = openTool(at.host, at.module, kSelectorTool);
     const Control& tree = *must(panel.find(ControlKind::OpenGL), "the tree");
     album.take(at.driver, panel, "selector", "plain");
-    must(at.driver.resize(panel, 150, 220));
-    album.take(at.driver, panel, "selector", "resized");
-    constexpr int rowHeight = 14;
-    const auto clickRow = [&](int row, Held held) {
-      must(at.driver.clickAt(tree, 60, row * rowHeight + rowHeight / 2, MouseButton::Left, held));
+    const auto clickRow = [&](int row, Held held, int x = kBesideTriangles) {
+      must(at.driver.clickAt(tree, x, row * kTreeRow + kTreeRow / 2, MouseButton::Left, held));
     };
+    must(at.driver.resize(panel, 150, 220));
+    clickRow(kRowOfMaps, {}, kOutermostTriangle);
+    album.take(at.driver, panel, "selector", "resized");
     clickRow(3, {});
     clickRow(6, {.shift = true});
     clickRow(9, {.control = true});
@@ -127,35 +147,64 @@ void takeSelector(const Album& album) {
   });
 }
 
+// What a rigger has typed into the renamer, in the lizard's names.
+struct Typed {
+  RenamerControl field;
+  const char* text;
+};
+constexpr Typed kNewName{kFirstText, "Tail_07"};
+constexpr std::array kAdvancedTexts{Typed{kBaseText, "Tail_[col]_[row]"}, Typed{kSuffixText, "_Lizard"}};
+constexpr std::array kAdvancedSwitches{kBaseName, kSuffixOn, kColumns, kRows};
+
 void takeRenamer(const Album& album) {
-  inModeler(album, {"Tail_01"}, [&](const Workplace& at) {
+  withTheRig(album, {"Tail_01", "Tail_02"}, [&](const Workplace& at) {
     const Panel& panel = openTool(at.host, at.module, kRenamerTool);
-    const Control& mode = *must(panel.find(ControlKind::Popup, 0), "the list of modes");
-    const int advanced = static_cast<int>(mode.items().size()) - 1;
-    must(at.driver.choose(mode, 0));
+    const auto control = [&](RenamerControl place) -> const Control& { return *must(panel.at(place), "a control"); };
+    const auto type = [&](const Typed& typed) {
+      must(at.driver.type(control(typed.field), album.rig().name(typed.text)));
+      at.driver.key(VK_TAB);
+    };
+    must(at.driver.choose(control(kMode), kChange));
+    type(kNewName);
     album.take(at.driver, panel, "renamer", "simple");
-    must(at.driver.choose(mode, advanced));
+    must(at.driver.choose(control(kMode), kAdvanced));
+    must(at.driver.click(control(kAdd)));
+    for (const RenamerControl place : kAdvancedSwitches) must(at.driver.click(control(place)));
+    for (const Typed& typed : kAdvancedTexts) type(typed);
     album.take(at.driver, panel, "renamer", "advanced");
   });
 }
 
 void takeDesk(const Album& album) {
-  inModeler(album, {"Tail_01", "Tail_02"}, [&](const Workplace& at) {
+  withTheRig(album, {"Tail_01", "Tail_02"}, [&](const Workplace& at) {
     const DeskWindow desk(at.host, at.module, at.front);
     at.front.settle();
     album.keep(pictureOf(desk.handle()), "desk", "");
   });
 }
 
+// The manual's first trip is made with a rig of the zip.
+struct FirstTrip {
+  const char* language;
+  ObjectFile (*rig)();
+  const char* file;
+  int row;  // of the skelegon, in the tree
+  const char* skelegon;
+};
+constexpr std::array kFirstTrips{
+    FirstTrip{"en", &makeDemoRig, "lizard.lwo", 21, "Tail_01"},
+    FirstTrip{"ja", &makeJapaneseRig, "人形.lwo", 3, "背骨"},
+};
+
 // What the manual's first trip does: picks a skelegon in the tree, chooses its falloff in the panel.
 void takeFirstTrip(const Album& album) {
-  inModeler(album, {}, [&](const Workplace& at) {
+  const FirstTrip& trip = *std::find_if(kFirstTrips.begin(), kFirstTrips.end(),
+                                        [&](const FirstTrip& each) { return each.language == album.language(); });
+  inModeler(album, trip.rig(), trip.file, {}, [&](const Workplace& at) {
     const Panel& selector = openTool(at.host, at.module, kSelectorTool);
-    constexpr int rowHeight = 14;
-    constexpr int rowOfTail = 21;
     const Control& tree = *must(selector.find(ControlKind::OpenGL), "the tree");
-    must(at.driver.clickAt(tree, 60, rowOfTail * rowHeight + rowHeight / 2, MouseButton::Left, {}));
-    if (at.host.selectedNames() != std::vector<std::string>{"Tail_01"}) throw Trouble{"another row was picked"};
+    must(at.driver.clickAt(tree, kBesideTriangles, trip.row * kTreeRow + kTreeRow / 2));
+    if (at.host.selectedNames() != std::vector<std::string>{trip.skelegon}) throw Trouble{"another row was picked"};
     album.take(at.driver, selector, "first-trip", "selector");
 
     Panel& properties = openTool(at.host, at.module, kPropertyTool);

@@ -1,8 +1,8 @@
 #include <iostream>
 #include <memory>
 
-#include "objectfile/sample_rigs.h"
 #include "program/host_option.h"
+#include "program/pictured_rigs.h"
 #include "program/property_panel.h"
 #include "program/subcommands.h"
 #include "program/support.h"
@@ -26,14 +26,15 @@ void show(const std::string& heading, const Panel& panel) {
   if (const std::string complaints = layoutComplaints(panel); !complaints.empty()) throw Trouble{complaints};
 }
 
-// Shows one of Modeler's tools with a skelegon of the demonstration's rig selected.
+// Shows one of Modeler's tools with the skelegon selected whose settings the pictures show.
 void showInModeler(const PanelsOptions& options, const std::string& language, const char* tool,
                    void (*showPages)(Panel& panel, const std::string& language)) {
   PlayedModeler host(options.host.options());
   host.options().localeInfo = localeOf(language);
-  host.add(makeDemoRig(), "lizard.lwo");
+  const PicturedRig rig(language);
+  host.add(rig.filled(), rig.file());
   host.showAllLayers();
-  host.select({"Tail_01"});
+  host.select({rig.filledSkelegon()});
   ModuleFile module;
   loadModule(module, options.module);
   showPages(openTool(host, module, tool), language);
