@@ -48,7 +48,7 @@ rigs::Inspected inspect(const std::string& path, const rigs::CodePage& codePage,
   file.rig.pathLength = std::filesystem::absolute(pathFromUtf8(path)).u16string().size();
   file.findings = rigs::findingsOf(file.rig, codePage);
   std::erase_if(file.findings, [&](const rigs::Finding& finding) {
-    const std::string id = rigs::findingTable()[static_cast<std::size_t>(finding.kind)].id;
+    const std::string id = rigs::findingRow(finding.kind).id;
     return std::find(ignored.begin(), ignored.end(), id) != ignored.end();
   });
   return file;

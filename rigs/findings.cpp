@@ -12,7 +12,6 @@
 #include "skelegon/item_names.h"
 #include "skelegon/numbers.h"
 #include "skelegon/setting_groups.h"
-#include "skelegon/table_order.h"
 
 namespace standin::rigs {
 namespace {
@@ -20,82 +19,14 @@ namespace {
 using skg::Slot;
 using skg::SlotKind;
 
-constexpr std::array<FindingRow, kFindingKinds> kRows = {{
-    // clang-format off
-    {FindingKind::FileExtension, "file-extension",
-     "the file name {text} does not end in .lwo in small letters: the conversion will pass the object over",
-     "ファイル名 {text} の末尾が小文字の .lwo ではありません: 変換はこのオブジェクトを飛ばします"},
-    {FindingKind::LayerName, "layer-name",
-     "the conversion does not find this layer by the item's name {text}: its bones will get no settings",
-     "アイテム名 {text} からこのレイヤーを見つけられません: ボーンに設定が付きません"},
-    {FindingKind::LayerTwice, "layer-twice",
-     "another layer before it has the same name {text}: the settings of that layer's skelegons will be used for this one too",
-     "同じ名前 {text} のレイヤーが前にあります: このレイヤーにもそちらのスケルゴンの設定が使われます"},
-    {FindingKind::NoName, "no-name",
-     "has no name: its bone will get no settings",
-     "名前がありません: ボーンに設定が付きません"},
-    {FindingKind::NameTwice, "name-twice",
-     "{number} skelegons of this layer bear this name: Layout will number their bones, and the settings will reach none or the wrong one",
-     "このレイヤーの {number} 個のスケルゴンが同じ名前です: レイアウトはボーンに番号を付けるので、設定は付かないか別のボーンに付きます"},
-    {FindingKind::NameInTwoLayers, "name-in-two-layers",
-     "a skelegon of the layer {text} bears this name too: the settings of both will go to the first bone of that name",
-     "レイヤー {text} のスケルゴンも同じ名前です: 両方の設定が、その名前の最初のボーンに付きます"},
-    {FindingKind::NameOfItem, "name-of-item",
-     "the object item bears this name too: the settings will be sent to the object, not to the bone",
-     "オブジェクトのアイテムも同じ名前です: 設定はボーンではなくオブジェクトに送られます"},
-    {FindingKind::BecomesNull, "becomes-null",
-     "nothing in the file bears the name {text}: it will become a null, unless the scene has such an item",
-     "ファイルに {text} という名前のものがありません: シーンに無ければヌルになります"},
-    {FindingKind::ParentMissing, "parent-missing",
-     "nothing in the file bears the name {text}: it will not be parented, unless the scene has such an item",
-     "ファイルに {text} という名前のものがありません: シーンに無ければ、親は設定されません"},
-    {FindingKind::BonesFromMissing, "bones-from-missing",
-     "nothing in the file bears the name {text}: unless the scene has such an item, this bone and all after it in the layer will get no settings",
-     "ファイルに {text} という名前のものがありません: シーンに無ければ、このボーンとレイヤー内のそれ以降のボーンに設定が付きません"},
-    {FindingKind::ChoiceOutside, "choice-outside",
-     "{text} is none of the {number} choices, which count from 0: Layout will be sent a number that it does not know",
-     "{text} は 0 から数える {number} 個の選択肢にありません: レイアウトの知らない番号が送られます"},
-    {FindingKind::FlagOutside, "flag-outside",
-     "{text} is neither 0 nor 1: it will count as on",
-     "{text} は 0 でも 1 でもありません: オンとして扱われます"},
-    {FindingKind::ColourUnknown, "colour-unknown",
-     "{text} is no colour of the list: the item will become orange",
-     "{text} は色の一覧にありません: アイテムはオレンジになります"},
-    {FindingKind::ColourEmpty, "colour-empty",
-     "the colour is stored as an empty text: the bone will become orange",
-     "色が空のテキストで保存されています: ボーンはオレンジになります"},
-    {FindingKind::NumberUnreadable, "number-unreadable",
-     "{text} does not begin with a number: it will count as 0",
-     "{text} は数で始まっていません: 0 として扱われます"},
-    {FindingKind::NumberPartly, "number-partly",
-     "{text} is not a number of this kind as a whole: it will count as {number}",
-     "{text} の全体はこの種類の数ではありません: {number} として扱われます"},
-    {FindingKind::CommandTooLong, "command-too-long",
-     "the command \"{other}\" with this text would have {number} bytes, more than can be sent: the whole conversion will end here",
-     "このテキストを付けたコマンド「{other}」は {number} バイトになり、送れません: 変換全体がここで終わります"},
-    {FindingKind::PathTooLong, "path-too-long",
-     "the whole path of the file has {number} characters, more than the {other} that can be opened: the conversion will read the file that it read before instead, and this object will get no settings or those of that one",
-     "ファイルのパス全体が {number} 文字あり、開ける {other} 文字を超えています: 変換は代わりに前に読んだファイルを読み、このオブジェクトには設定が付かないか、そのファイルの設定が付きます"},
-    {FindingKind::PathCodePage, "path-code-page",
-     "the file name {text} has characters that code page {number} lacks: the file will not be found, and the conversion will end here",
-     "ファイル名 {text} にコードページ {number} に無い文字があります: ファイルが見つからず、変換はここで終わります"},
-    {FindingKind::CommandCodePage, "command-code-page",
-     "{text} has characters that code page {number} lacks: Layout will read another name in the command \"{other}\"",
-     "{text} にコードページ {number} に無い文字があります: コマンド「{other}」では別の名前になります"},
-    {FindingKind::UnknownSlot, "unknown-slot",
-     "the tag {other} with the text {text} is of no setting: nothing will come of it",
-     "タグ {other}（テキスト {text}）はどの設定のものでもありません: 何にも使われません"},
-    {FindingKind::TagRepeated, "tag-repeated",
-     "is stored {number} times, first with the text {text}, last with {other}: the conversion will take the first, Modeler perhaps the last",
-     "{number} 回保存されていて、最初のテキストは {text}、最後は {other} です: 変換は最初のものを使い、モデラーは最後のものを使うかもしれません"},
-    {FindingKind::TextMissing, "text-missing",
-     "names the text {number}, which the file does not have: it will count as not stored, and other programs may refuse the file",
-     "ファイルにないテキスト {number} を指しています: 保存されていないものとして扱われ、ほかのプログラムはファイルを断るかもしれません"},
-    // clang-format on
-}};
+const Setting& settingOf(Slot slot) { return *settingOfTag(skg::SlotTagId(slot)); }
 
-static_assert(skg::standInOrder(kRows, &FindingRow::kind));
-static_assert(static_cast<std::size_t>(FindingKind::TextMissing) + 1 == kFindingKinds);
+// What the conversion reads: the stored text, or the default.
+std::string_view valueOf(const Skelegon& skelegon, const Setting& setting) {
+  const std::string* const text = skelegon.stored(setting);
+  return text != nullptr ? std::string_view(*text) : setting.defaultText;
+}
+bool isOn(const Skelegon& skelegon, Slot slot) { return skg::leadingInteger(valueOf(skelegon, settingOf(slot))) != 0; }
 
 class FindingSearch {
  public:
@@ -158,6 +89,27 @@ class FindingSearch {
     if (std::any_of(rig_.layers.begin(), before, [&](const Layer& other) { return other.itemName == layer.itemName; })) {
       add(FindingKind::LayerTwice, inQuotes(layer.name)).layer = l;
     }
+    // Of the four settings of a layer each bone keeps its own falloff.
+    for (const Slot slot : {Slot::UseBonesFromObject, Slot::BoneCalc, Slot::LimitBoneNum}) checkObjectWide(l, slot);
+  }
+
+  // The object has one such value, and each bone sends that of its skelegon.
+  void checkObjectWide(std::size_t l, Slot slot) {
+    const Setting& setting = settingOf(slot);
+    const Skelegon* last = nullptr;
+    bool isOne = true;
+    for (const std::size_t i : rig_.layers[l].skelegons) {
+      const Skelegon& skelegon = rig_.skelegons[i];
+      const std::string_view value = valueOf(skelegon, setting);
+      // Without a name nothing is sent, nor is an empty name of an object.
+      if (skelegon.name.empty() || (setting.kind == SlotKind::ObjectName && value.empty())) continue;
+      isOne = isOne && (last == nullptr || meansTheSame(setting, valueOf(*last, setting), value));
+      last = &skelegon;
+    }
+    if (isOne) return;
+    Finding& finding = add(FindingKind::GroupDiffers, inQuotes(last->name));
+    finding.layer = l;
+    finding.setting = &setting;
   }
 
   void checkSkelegon(std::size_t i) {
@@ -167,11 +119,26 @@ class FindingSearch {
       const std::string* const text = skelegon.stored(setting);
       if (text != nullptr) checkValue(i, setting, *text);
     }
+    checkTogether(i);
     for (const PolygonTag& tag : skelegon.tags) {
       if (isUnknownSlot(tag.type))
         addFor(i, nullptr, FindingKind::UnknownSlot, inQuotes(tag.text)).other = tagName(tag.type);
     }
     checkOddTags(i);
+  }
+
+  // Settings that are sound each by itself.
+  void checkTogether(std::size_t i) {
+    const Skelegon& skelegon = rig_.skelegons[i];
+    const bool hasMap = !valueOf(skelegon, settingOf(Slot::WeightMap)).empty();
+    if (hasMap && isOn(skelegon, Slot::WeightMapOnly)) {
+      // Both switches go out under one name, which switches normalization on as well.
+      const bool isBoth = isOn(skelegon, Slot::WeightNormalization);
+      addFor(i, &settingOf(Slot::WeightMapOnly), isBoth ? FindingKind::WeightOnlyLate : FindingKind::WeightOnlyLost);
+    }
+    if (isOn(skelegon, Slot::Twist) && !isOn(skelegon, Slot::BoneType)) {
+      addFor(i, &settingOf(Slot::Twist), FindingKind::TwistWithoutJoint);
+    }
   }
 
   // Only where it makes a difference to the conversion.
@@ -298,8 +265,6 @@ std::string filled(std::string_view pattern, const Finding& finding) {
 
 }  // namespace
 
-const std::array<FindingRow, kFindingKinds>& findingTable() { return kRows; }
-
 std::vector<Finding> findingsOf(const Rig& rig, const CodePage& codePage) { return FindingSearch(rig, codePage).all(); }
 
 std::string placeOf(const Rig& rig, const Finding& finding, Language language) {
@@ -317,7 +282,7 @@ std::string placeOf(const Rig& rig, const Finding& finding, Language language) {
 }
 
 std::string sentenceOf(const Finding& finding, Language language) {
-  return filled(kRows[static_cast<std::size_t>(finding.kind)].in(language), finding);
+  return filled(findingRow(finding.kind).in(language), finding);
 }
 
 }  // namespace standin::rigs

@@ -34,19 +34,28 @@ enum class FindingKind : std::size_t {
   PathCodePage,
   CommandCodePage,
   UnknownSlot,
+  WeightOnlyLate,
+  WeightOnlyLost,
+  TwistWithoutJoint,
+  GroupDiffers,
   TagRepeated,
   TextMissing,
 };
-inline constexpr std::size_t kFindingKinds = 23;
+inline constexpr std::size_t kFindingKinds = 27;
 
 struct FindingRow {
   FindingKind kind;
-  const char* id;       // on the command line and in JSON
+  const char* id;       // on the command line and in JSON; the anchor of its entry in the manual
+  const char* page;     // of the manual that has this entry
   const char* english;  // what will happen; {text}, {other} and {number} stand for what the finding is about
   const char* japanese;
   const char* in(Language language) const { return language == Language::Japanese ? japanese : english; }
 };
 const std::array<FindingRow, kFindingKinds>& findingTable();
+const FindingRow& findingRow(FindingKind kind);
+
+// The entry, as it lies beside the program: "manual/en/surprises.html#no-name".
+std::string manualEntryOf(FindingKind kind, Language language);
 
 struct Finding {
   FindingKind kind;

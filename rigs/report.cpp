@@ -177,11 +177,12 @@ Json skelegonJson(const Rig& rig, std::size_t index, const ReportOptions& option
 }
 
 Json findingJson(const Rig& rig, const Finding& finding, Language language) {
-  Json json{{"id", findingTable()[static_cast<std::size_t>(finding.kind)].id}};
+  Json json{{"id", findingRow(finding.kind).id}};
   json["layer"] = finding.layer ? Json(rig.layers[*finding.layer].name) : Json();
   json["skelegon"] = finding.skelegon ? Json(nameShown(rig.skelegons[*finding.skelegon])) : Json();
   json["setting"] = finding.setting != nullptr ? Json(finding.setting->name(language)) : Json();
   json["text"] = sentenceOf(finding, language);
+  json["manual"] = manualEntryOf(finding.kind, language);
   return json;
 }
 
@@ -224,8 +225,10 @@ std::string findingsText(const Rig& rig, const std::vector<Finding>& findings, i
                               : plural(findings.size(), "finding") + " (code page " + page + ")\n";
   for (const Finding& finding : findings) {
     const std::string place = placeOf(rig, finding, language);
-    text.append("  [").append(findingTable()[static_cast<std::size_t>(finding.kind)].id).append("] ");
-    text += (place.empty() ? "" : place + ": ") + sentenceOf(finding, language) + '\n';
+    const std::string entry = manualEntryOf(finding.kind, language);
+    text.append("  [").append(findingRow(finding.kind).id).append("] ");
+    text += (place.empty() ? "" : place + ": ") + sentenceOf(finding, language);
+    text += (japanese ? "（" + entry + " を参照）" : " (see " + entry + ")") + '\n';
   }
   return text;
 }

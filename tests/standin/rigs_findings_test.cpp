@@ -21,7 +21,7 @@ std::vector<std::string> found(const Rig& rig, int codePage = 932) {
   std::vector<std::string> list;
   for (const Finding& finding : findingsOf(rig, CodePage(codePage))) {
     const std::string place = placeOf(rig, finding, Language::English);
-    list.push_back(findingTable()[static_cast<std::size_t>(finding.kind)].id + (place.empty() ? "" : " " + place));
+    list.push_back(findingRow(finding.kind).id + (place.empty() ? "" : " " + place));
   }
   return list;
 }
@@ -222,6 +222,51 @@ TEST_F(Findings, OtherTagsOfPolygonsAreLeftAlone) {
   sound.builder.tag(sound.root, lw::kTagPart, "Root");
   sound.builder.tag(sound.root, kTagSurface, "Default");
   EXPECT_THAT(found(sound.rig()), IsEmpty());
+}
+
+TEST_F(Findings, BothWeightSwitchesOfABoneWithAMapComeLate) {
+  sound.builder.settings(sound.root, {{29, "1"}, {30, "1"}});
+  EXPECT_THAT(found(sound.rig()), ElementsAre("weight-only-late Rig / Root / Use Weight Map Only"));
+}
+
+TEST_F(Findings, TheWeightMapOnlyWithoutNormalizationIsLost) {
+  sound.set(sound.root, 29, "1");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("weight-only-lost Rig / Root / Use Weight Map Only"));
+  sound.set(sound.root, 30, "0");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("weight-only-lost Rig / Root / Use Weight Map Only"));
+}
+
+TEST_F(Findings, WeightSwitchesThatAreNotSentAreNotTold) {
+  sound.set(sound.root, 30, "1");                              // not without the map only
+  sound.builder.settings(sound.hand, {{29, "1"}, {30, "1"}});  // no map
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+}
+
+TEST_F(Findings, TwistNeedsAJoint) {
+  sound.set(sound.root, 48, "1");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("twist-without-joint Rig / Root / Twist"));
+  sound.set(sound.root, 26, "1");
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+}
+
+TEST_F(Findings, AnObjectsSettingThatDiffersInItsLayerIsTheLastOnes) {
+  sound.set(sound.root, 16, "3");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("group-differs Rig / Bone Calc"));
+  EXPECT_THAT(sentence(sound.rig()), HasSubstr("the last one, \"Hand\""));
+  sound.set(sound.hand, 16, "3");
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+}
+
+TEST_F(Findings, AnObjectsSettingThatOnlyTheUnnamedHaveDoesNotDiffer) {
+  sound.set(sound.builder.between(0, 2, std::nullopt), 16, "3");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("no-name Rig / (no name)"));
+}
+
+TEST_F(Findings, AnEmptyObjectNameIsNotSentAndDoesNotDiffer) {
+  sound.set(sound.root, 12, "rig");
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+  sound.set(sound.hand, 12, "Root");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("group-differs Rig / Use Bones From Object"));
 }
 
 // What only a file can hold: the tags of the sound rig, and one more chunk of tags behind them.

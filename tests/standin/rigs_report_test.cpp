@@ -90,6 +90,19 @@ TEST(RigReport, JsonHoldsTreeAndFindings) {
   EXPECT_EQ(json[0]["findings"][0]["setting"], "Goal Object");
 }
 
+TEST(RigReport, EachFindingNamesItsEntryInTheManual) {
+  SoundRig sound;
+  sound.set(sound.hand, 55, "Hand_goal");
+  Inspected file{"rig.lwo", {}, sound.rig(), {}};
+  file.findings = findingsOf(file.rig, CodePage(932));
+  EXPECT_THAT(findingsText(file.rig, file.findings, 932, Language::English),
+              HasSubstr(" (see manual/en/messages.html#becomes-null)\n"));
+  EXPECT_THAT(findingsText(file.rig, file.findings, 932, Language::Japanese),
+              HasSubstr("（manual/ja/messages.html#becomes-null を参照）\n"));
+  const auto json = nlohmann::json::parse(inspectionJson({file}, {}));
+  EXPECT_EQ(json[0]["findings"][0]["manual"], "manual/en/messages.html#becomes-null");
+}
+
 TEST(RigReport, JsonSurvivesTextsThatAreNoUtf8) {
   SoundRig sound;
   sound.set(sound.hand, 55, "\xff");
