@@ -58,6 +58,18 @@ TEST_F(PropertyPanel, TheWeightMapChooserOffersNoneAndTheMapsOfTheMesh) {
   EXPECT_EQ(person::menu(behind(Slot::WeightMap)), (Names{"(none)", "Head", "Spine"}));
 }
 
+// The list is the host's, which keeps one for all objects.
+TEST_F(PropertyPanel, TheWeightMapsOfAllOpenObjectsAreOffered) {
+  standin::RigBuilder another;
+  another.point({0, 0, 0});
+  another.weightMap("Wing", {{0, 1.0F}});
+  host.add(another.take(), "another.lwo");
+  host.makeCurrent(*object);
+  openWith({"Hips"});
+  show(Slot::WeightMap);
+  EXPECT_EQ(person::menu(behind(Slot::WeightMap)), (Names{"(none)", "Head", "Spine", "Wing"}));
+}
+
 TEST_F(PropertyPanel, AChosenWeightMapMakesTheBoneActive) {
   store("Hips", Slot::BoneActive, "0");
   openWith({"Hips"});

@@ -461,6 +461,23 @@ TEST_F(PropertyPanel, ShowsAnewWhatClosingTheFormerOneHasWritten) {
   EXPECT_EQ(control(Slot::Strength)->real, 40);
 }
 
+TEST_F(PropertyPanel, AfterAnUndoTheOldValueIsShownUntilSync) {
+  openWith({"Hips"});
+  enter(Slot::Strength, 40);
+  EXPECT_TRUE(host.undo());
+  EXPECT_EQ(shown(Slot::Strength), "40 %");
+  sync();
+  EXPECT_EQ(shown(Slot::Strength), "100 %");
+}
+
+TEST_F(PropertyPanel, ADraggedSliderIsTakenBackStepByStep) {
+  openWith({"Hips"});
+  show(Slot::Strength);
+  EXPECT_TRUE(person::drag(control(Slot::Strength), 60, 4));
+  EXPECT_TRUE(host.undo());
+  EXPECT_EQ(stored("Hips", Slot::Strength), "70.000000");
+}
+
 TEST_F(PropertyPanel, OneUndoTakesBackOneChange) {
   openWith({"Hips", "Chest"});
   const std::string before = everythingStored();

@@ -51,6 +51,16 @@ TEST_F(TwoPanels, SyncInTheOtherPanelShowsModelersSelectionHereToo) {
   EXPECT_EQ(selected(), (Names{"Hips", "Tail_01"}));
 }
 
+TEST_F(TwoPanels, AValueChangedInTheOtherPanelOpensWhatWasClosed) {
+  openBoth();
+  click(row::kHips);
+  clickExpander(row::kHips);
+  EXPECT_EQ(shownIn(4), "Tail_01");
+  EXPECT_TRUE(person::choose(propertyControl(mst::control::kPages), 1));
+  EXPECT_TRUE(person::enter(propertyControl(mst::controlOf(Slot::Strength).value()), 40));
+  EXPECT_EQ(shownIn(4), "Head");
+}
+
 TEST_F(TwoPanels, NewsAskForPainting) {
   openBoth();
   standin::panels().paintWanted(*panel);

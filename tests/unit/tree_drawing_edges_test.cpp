@@ -116,6 +116,15 @@ TEST_F(TreeViewDrawn, ShowsTheTextsOfItsRows) {
   EXPECT_EQ(lettersOf(gl), "[Top][Layer1]:LABCD[WMaps]");
 }
 
+TEST_F(TreeViewDrawn, HasTheFirstLetterOfATextBelongToItsTriangle) {
+  draw();
+  const auto pressLetter = [&](std::size_t letter) {
+    return tree.press({static_cast<int>(gl.characters.at(letter).at.x) + 3, middleOf(0), kLeft | kDown, 1});
+  };
+  EXPECT_EQ(pressLetter(0), (TreeChange{true, false}));  // closes [Top]
+  EXPECT_EQ(pressLetter(1), (TreeChange{true, true}));   // selects it
+}
+
 TEST_F(TreeViewDrawn, MarksItsSelectedRows) {
   pressLabel(3);
   draw();
