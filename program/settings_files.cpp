@@ -6,6 +6,8 @@
 #include "program/replace_file.h"
 #include "program/rig_tool_support.h"
 #include "program/subcommands.h"
+#include "rigs/difference.h"
+#include "rigs/report.h"
 #include "rigs/settings_json.h"
 
 namespace standin {
@@ -14,6 +16,7 @@ namespace {
 struct ExportOptions {
   std::string file;
   std::string out;
+  bool schema = false;
 };
 
 struct ImportOptions {
@@ -21,11 +24,17 @@ struct ImportOptions {
   std::string json;
   std::string out;
   bool inPlace = false;
+  bool dryRun = false;
+  bool merge = false;
+  std::string language = "en";
 };
 
 int runExport(const ExportOptions& options) {
   return exitCodeOf([&] {
-    const std::string json = rigs::exportSettings(rigs::rigOf(readRigFile(options.file), fileNameOf(options.file)));
+    if (options.file.empty() && !options.schema) throw Trouble{"name the object file"};
+    const std::string json = options.schema
+                                 ? rigs::settingsSchema()
+                                 : rigs::exportSettings(rigs::rigOf(readRigFile(options.file), fileNameOf(options.file)));
     if (options.out.empty()) {
       std::cout << json;
     } else {
@@ -35,14 +44,26 @@ int runExport(const ExportOptions& options) {
   });
 }
 
+std::string tagsChanged(std::size_t count) { return std::to_string(count) + (count == 1 ? " tag" : " tags"); }
+
 int runImport(const ImportOptions& options) {
   return exitCodeOf([&] {
-    if (options.out.empty() && !options.inPlace) throw Trouble{"name the file to write with -o, or give --in-place"};
+    if (options.out.empty() && !options.inPlace && !options.dryRun) {
+      throw Trouble{"name the file to write with -o, or give --in-place or --dry-run"};
+    }
     ObjectFile object = readRigFile(options.file);
     const Outcome<std::string> json = readFileBytes(options.json);
     if (!json) throw Trouble{json.why()};
-    const Outcome<std::size_t> changes = rigs::importSettings(object, *json);
+    const rigs::Rig before = rigs::rigOf(object, fileNameOf(options.file));
+    const auto unlisted = options.merge ? rigs::Unlisted::Kept : rigs::Unlisted::Removed;
+    const Outcome<std::size_t> changes = rigs::importSettings(object, *json, unlisted);
     if (!changes) throw Trouble{options.json + ": " + changes.why()};
+    if (options.dryRun) {
+      const rigs::Language language = languageOf(options.language);
+      std::cout << rigs::differencesText(differencesOf(before, rigs::rigOf(object, before.fileName), language), language)
+                << tagsChanged(*changes) << " would be changed\n";
+      return 0;
+    }
     const Outcome<std::string> bytes = serializeObject(object);
     if (!bytes) throw Trouble{options.file + ": " + bytes.why()};
     if (!options.inPlace) {
@@ -50,8 +71,7 @@ int runImport(const ImportOptions& options) {
     } else if (*changes > 0) {
       mustBeWritten(replaceFile(options.file, *bytes));
     }
-    std::cout << (options.inPlace ? options.file : options.out) << ": " << *changes << (*changes == 1 ? " tag" : " tags")
-              << " changed\n";
+    std::cout << (options.inPlace ? options.file : options.out) << ": " << tagsChanged(*changes) << " changed\n";
     return 0;
   });
 }
@@ -65,8 +85,9 @@ Command exportCommand() {
       .text = "Write the stored settings of a rig as JSON",
       .options =
           {
-              {"file", &options->file, "Object file", {.isRequired = true}},
+              {"file", &options->file, "Object file"},
               {"-o,--output", &options->out, "File to write, which must not exist (the standard output by default)"},
+              {"--schema", &options->schema, "Write the JSON Schema of the settings in place of a rig's"},
           },
       .footer =
           "Listed is what each skelegon stores, by layer and name. The same rig always gives the same text, whatever its "
@@ -91,12 +112,19 @@ Command importCommand() {
               {"json", &options->json, "Settings, as export writes them", {.isRequired = true}},
               {"-o,--output", &options->out, "Object file to write, which must not exist"},
               {"--in-place", &options->inPlace, "Write over the object file", {.excludes = "--output"}},
+              {"--dry-run", &options->dryRun, "Write nothing, show what would change"},
+              {"--merge", &options->merge, "Leave settings that the JSON does not list as they are"},
+              languageOption(&options->language, "Language of what --dry-run shows"),
           },
       .footer =
-          "Every skelegon that the JSON names gets exactly the settings that stand there; the others stay as they are. Only "
-          "tags are\n"
-          "written. JSON that is not understood whole is refused, and nothing is written. Exit codes: 0; 2 trouble.\n"
+          "Every skelegon that the JSON names gets exactly the settings that stand there, or with --merge these too; the "
+          "others "
+          "stay as\n"
+          "they are. Only tags are written. JSON that is not understood whole is refused, and nothing is written. Exit "
+          "codes: 0; "
+          "2 trouble.\n"
           "Examples:\n"
+          "  varnel import biped.lwo biped.json --dry-run\n"
           "  varnel import biped.lwo biped.json -o biped-2.lwo\n"
           "  varnel import biped.lwo biped.json --in-place",
       .run = [options] { return runImport(*options); },

@@ -13,8 +13,22 @@ namespace {
 
 using Pairs = std::vector<std::optional<std::size_t>>;
 
-std::string layerShown(const Layer& layer) {
-  return layer.name.empty() ? "layer " + std::to_string(layer.number) : printable(layer.name);
+std::string layerShown(const Layer& layer, Language language) {
+  if (!layer.name.empty()) return printable(layer.name);
+  return (language == Language::Japanese ? "レイヤー " : "layer ") + std::to_string(layer.number);
+}
+
+// The texts say the same, or none of them is stored and the other is the default. What does not read as its kind is compared as it
+// stands. A colour that is not stored is no default: its bone becomes orange.
+bool isSame(const Setting& setting, const std::string* a, const std::string* b) {
+  if (setting.slot == skg::Slot::Colour) return a == nullptr || b == nullptr ? a == b : *a == *b;
+  const std::string_view first = a == nullptr ? setting.defaultText : *a;
+  const std::string_view second = b == nullptr ? setting.defaultText : *b;
+  if (first == second) return true;
+  const auto isWhole = [&](std::string_view text) {
+    return isNumeric(setting.kind) && readingOf(setting.kind, text) == Reading::Whole && isInList(setting, text);
+  };
+  return isWhole(first) && isWhole(second) && meansTheSame(setting, first, second);
 }
 
 std::string positionShown(const Skelegon& skelegon) {
@@ -52,7 +66,10 @@ class Comparison {
         add(DifferenceKind::LayerAdded, layer);
       } else if (const Layer& was = before_.layers[earlier->second]; was.name != layer.name) {
         add(DifferenceKind::LayerRenamed, layer, {}, inQuotes(was.name), inQuotes(layer.name));
+      } else if (was.number != layer.number) {
+        add(DifferenceKind::LayerNumber, layer, {}, std::to_string(was.number), std::to_string(layer.number));
       }
+      compareOrder(layer);
       for (const std::size_t i : layer.skelegons) compare(i);
       if (earlier != layerBefore_.end()) addRemoved(before_.layers[earlier->second]);
     }
@@ -68,24 +85,56 @@ class Comparison {
   using Text = std::optional<std::string>;
 
   void add(DifferenceKind kind, const Layer& layer, std::string what = {}, Text from = {}, Text to = {}) {
-    differences_.push_back({kind, layerShown(layer), {}, std::move(what), std::move(from), std::move(to)});
+    differences_.push_back({kind, layerShown(layer, language_), {}, std::move(what), std::move(from), std::move(to)});
   }
   void add(DifferenceKind kind, const Rig& rig, std::size_t skelegon, std::string what = {}, Text from = {}, Text to = {}) {
     const Skelegon& subject = rig.skelegons[skelegon];
     add(kind, rig.layers[subject.layer], std::move(what), std::move(from), std::move(to));
-    differences_.back().skelegon = nameShown(subject);
+    differences_.back().skelegon = nameShown(subject, language_);
   }
 
+  // By number and name, then by name, then by number alone: a layer that has another number is the same, and so is one that was
+  // renamed. Of several that are equal each takes the first that is left.
   void pairLayers() {
-    std::map<std::uint16_t, std::vector<std::size_t>> byNumber;
-    for (std::size_t l = before_.layers.size(); l-- > 0;) byNumber[before_.layers[l].number].push_back(l);
+    pairLayersBy([](const Layer& layer) { return std::optional(std::pair(layer.number, layer.name)); });
+    pairLayersBy([](const Layer& layer) { return layer.name.empty() ? std::nullopt : std::optional(layer.name); });
+    pairLayersBy([](const Layer& layer) { return std::optional(layer.number); });
+  }
+  template <class Key>
+  void pairLayersBy(Key&& key) {
     for (std::size_t l = 0; l < after_.layers.size(); ++l) {
-      std::vector<std::size_t>& candidates = byNumber[after_.layers[l].number];
-      if (candidates.empty()) continue;
-      layerBefore_[l] = candidates.back();
-      layersKept_.insert(candidates.back());
-      candidates.pop_back();
+      const auto wanted = key(after_.layers[l]);
+      if (!wanted || layerBefore_.count(l) != 0) continue;
+      for (std::size_t was = 0; was < before_.layers.size(); ++was) {
+        if (layersKept_.count(was) != 0 || key(before_.layers[was]) != wanted) continue;
+        layerBefore_[l] = was;
+        layersKept_.insert(was);
+        break;
+      }
     }
+  }
+
+  // Only of the skelegons that both have, and of these from the first to the last that stands elsewhere.
+  void compareOrder(const Layer& layer) {
+    std::vector<std::size_t> now;  // places before, in the new order
+    for (const std::size_t i : layer.skelegons) {
+      if (earlier_[i]) now.push_back(*earlier_[i]);
+    }
+    std::vector<std::size_t> was = now;
+    std::sort(was.begin(), was.end());
+    while (!now.empty() && now.back() == was.back()) now.pop_back(), was.pop_back();
+    const auto kept = static_cast<std::size_t>(std::mismatch(now.begin(), now.end(), was.begin()).first - now.begin());
+    if (kept == now.size()) return;
+    add(DifferenceKind::Order, layer, {}, namesFrom(was, kept), namesFrom(now, kept));
+  }
+  std::string namesFrom(const std::vector<std::size_t>& places, std::size_t first) const {
+    constexpr std::size_t kMost = 6;
+    std::string names;
+    for (std::size_t i = first; i < places.size(); ++i) {
+      if (i - first == kMost) return names + ", ...";
+      names += (names.empty() ? "" : ", ") + nameShown(before_.skelegons[places[i]], language_);
+    }
+    return names;
   }
 
   // Pairs the skelegons of paired layers that have the same key and no partner yet, each with the first that is left.
@@ -123,7 +172,8 @@ class Comparison {
       return;
     }
     const Skelegon& was = before_.skelegons[*earlier_[i]];
-    if (was.name != now.name) add(DifferenceKind::Renamed, after_, i, {}, nameShown(was), nameShown(now));
+    if (was.name != now.name)
+      add(DifferenceKind::Renamed, after_, i, {}, nameShown(was, language_), nameShown(now, language_));
     if (was.head != now.head || was.tail != now.tail) {
       add(DifferenceKind::Moved, after_, i, {}, positionShown(was), positionShown(now));
     }
@@ -134,8 +184,8 @@ class Comparison {
   void compareParent(std::size_t i, const Skelegon& was, const Skelegon& now) {
     const std::optional<std::size_t> kept = was.parent ? later_[*was.parent] : std::nullopt;
     if (was.parent.has_value() == now.parent.has_value() && kept == now.parent) return;
-    const auto name = [](const Rig& rig, const std::optional<std::size_t>& parent) {
-      return parent ? Text(nameShown(rig.skelegons[*parent])) : Text();
+    const auto name = [this](const Rig& rig, const std::optional<std::size_t>& parent) {
+      return parent ? Text(nameShown(rig.skelegons[*parent], language_)) : Text();
     };
     add(DifferenceKind::Parent, after_, i, {}, name(before_, was.parent), name(after_, now.parent));
   }
@@ -144,9 +194,9 @@ class Comparison {
     for (const Setting& setting : allSettings()) {
       const std::string* const from = was == nullptr ? nullptr : was->stored(setting);
       const std::string* const to = now.stored(setting);
-      if (from == nullptr ? to == nullptr : to != nullptr && *from == *to) continue;
-      Text before = from == nullptr ? Text() : Text(shown(setting, *from, language_));
-      Text after = to == nullptr ? Text() : Text(shown(setting, *to, language_));
+      if (isSame(setting, from, to)) continue;
+      Text before = was == nullptr ? Text() : valueShown(setting, from);
+      Text after = valueShown(setting, to);
       // Two texts of one meaning: only as they stand are they different.
       if (before && before == after) {
         before = inQuotes(*from);
@@ -155,6 +205,12 @@ class Comparison {
       add(DifferenceKind::Setting, after_, i, setting.name(language_), std::move(before), std::move(after));
     }
     compareOtherTags(i, was, now);
+  }
+
+  Text valueShown(const Setting& setting, const std::string* stored) const {
+    if (stored != nullptr) return shown(setting, *stored, language_);
+    if (setting.slot == skg::Slot::Colour || setting.defaultText.empty()) return {};
+    return shown(setting, setting.defaultText, language_) + (language_ == Language::Japanese ? " (初期値)" : " (default)");
   }
 
   void compareOtherTags(std::size_t i, const Skelegon* was, const Skelegon& now) {

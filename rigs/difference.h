@@ -13,6 +13,8 @@ enum class DifferenceKind {
   LayerAdded,
   LayerRemoved,
   LayerRenamed,
+  LayerNumber,
+  Order,  // of a layer's skelegons, which the conversion goes by
   Added,
   Removed,
   Renamed,  // another name at the same points
@@ -27,7 +29,7 @@ struct Difference {
   std::string layer;     // as shown, of the new state where there is one
   std::string skelegon;  // the same
   std::string what;      // the setting or the tag
-  // As shown; absent where there is nothing: not stored, or the skelegon is new.
+  // As shown, a default with a word that it is one; absent where there is nothing: the skelegon is new, or no colour is stored.
   std::optional<std::string> from;
   std::optional<std::string> to;
 };

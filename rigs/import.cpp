@@ -8,9 +8,13 @@
 #include "rigs/setting_json.h"
 #include "rigs/settings_json.h"
 #include "rigs/text.h"
+#include "rigs/values.h"
 
 namespace standin::rigs {
 namespace {
+
+constexpr const char* kFormat = "varnel settings";
+constexpr const char* kExpected = ": what varnel export writes was expected, not what inspect or diff prints";
 
 struct Refused {
   std::string why;
@@ -56,11 +60,12 @@ std::size_t countMember(const Json& json, const std::string& place, const char* 
 
 class Import {
  public:
-  explicit Import(ObjectFile& object) : object_(object), rig_(rigOf(object, {})) {}
+  Import(ObjectFile& object, Unlisted unlisted) : object_(object), rig_(rigOf(object, {})), unlisted_(unlisted) {}
 
   void read(const Json& json) {
+    if (!json.is_object() || !json.contains("format")) refuse({}, std::string("these are no settings") + kExpected);
     checkKeys(json, {}, {"format", "version", "layers"});
-    if (member(json, {}, "format") != "varnel settings") refuse({}, R"("format" is not "varnel settings")");
+    if (member(json, {}, "format") != kFormat) refuse({}, std::string(R"("format" is not "varnel settings")") + kExpected);
     if (member(json, {}, "version") != 1) refuse({}, R"(only "version" 1 is known)");
     const Json& layers = arrayOf(json, {}, "layers");
     for (std::size_t i = 0; i < layers.size(); ++i) readLayer(layers[i], "layers[" + std::to_string(i) + "]");
@@ -68,43 +73,65 @@ class Import {
 
   std::size_t write() {
     std::size_t changes = 0;
-    for (auto& [skelegon, texts] : wanted_) {
+    for (const auto& [skelegon, values] : wanted_) {
       const Skelegon& place = rig_.skelegons[skelegon];
       ObjectPolygon& polygon = object_.layers[place.layer].groups[place.group].polygons[place.polygon];
       for (const Setting& setting : allSettings()) {
-        const std::string* const now = polygon.tag(setting.tag);
-        const auto text = texts.find(setting.tag);
-        const bool same = text == texts.end() ? now == nullptr : now != nullptr && *now == text->second;
-        if (same) continue;
-        ++changes;
-        if (text == texts.end()) {
-          polygon.removeTag(setting.tag);
-        } else {
-          polygon.setTag(setting.tag, std::move(text->second));
-        }
+        const auto value = values.find(setting.tag);
+        if (value == values.end() && unlisted_ == Unlisted::Kept) continue;
+        if (give(polygon, setting, value == values.end() ? nullptr : &value->second)) ++changes;
       }
     }
     return changes;
   }
 
  private:
+  struct Value {
+    std::string text;
+    bool isDefault = false;  // which is stored by storing nothing
+  };
+  using Values = std::map<std::uint32_t, Value>;
+
+  // A null value stands for one that is not listed. False when nothing had to be changed.
+  static bool give(ObjectPolygon& polygon, const Setting& setting, const Value* value) {
+    const std::string* const now = polygon.tag(setting.tag);
+    const bool isAbsent = value == nullptr || value->isDefault;
+    if (now == nullptr ? isAbsent : value != nullptr && *now == value->text) return false;
+    if (isAbsent) {
+      polygon.removeTag(setting.tag);
+    } else {
+      polygon.setTag(setting.tag, value->text);
+    }
+    return true;
+  }
+
   void readLayer(const Json& json, const std::string& path) {
     checkKeys(json, path, {"number", "name", "skelegons"});
     const std::size_t number = countMember(json, path, "number", 0);
     const std::string name = textMember(json, path, "name");
     const std::string place = path + " " + inQuotes(name);
-    const auto isMeant = [&](const Layer& layer) { return layer.number == number; };
-    const auto layer = std::find_if(rig_.layers.begin(), rig_.layers.end(), isMeant);
-    if (layer == rig_.layers.end()) refuse(place, "the object has no layer of number " + std::to_string(number));
-    if (std::count_if(rig_.layers.begin(), rig_.layers.end(), isMeant) > 1) {
-      refuse(place, "the object has several layers of number " + std::to_string(number));
-    }
-    if (layer->name != name) refuse(place, "in the object this layer's name is " + inQuotes(layer->name));
-    if (!layersRead_.insert(number).second) refuse(place, "this layer stands twice");
+    const Layer& layer = findLayer(number, name, place);
+    if (!layersRead_.insert(&layer).second) refuse(place, "this layer stands twice");
     const Json& skelegons = arrayOf(json, place, "skelegons");
     for (std::size_t i = 0; i < skelegons.size(); ++i) {
-      readSkelegon(*layer, skelegons[i], place + ", skelegons[" + std::to_string(i) + "]");
+      readSkelegon(layer, skelegons[i], place + ", skelegons[" + std::to_string(i) + "]");
     }
+  }
+
+  // By its number where that has the name, else by the name alone.
+  const Layer& findLayer(std::size_t number, const std::string& name, const std::string& place) const {
+    std::vector<const Layer*> numbered, named;
+    for (const Layer& layer : rig_.layers) {
+      if (layer.number == number) numbered.push_back(&layer);
+      if (layer.name == name && !name.empty()) named.push_back(&layer);
+    }
+    if (numbered.size() > 1) refuse(place, "the object has several layers of number " + std::to_string(number));
+    if (numbered.size() == 1 && numbered.front()->name == name) return *numbered.front();
+    if (named.size() == 1) return *named.front();
+    if (named.size() > 1)
+      refuse(place, "the object has several layers of this name, and none of them has number " + std::to_string(number));
+    if (numbered.empty()) refuse(place, "the object has no layer of number " + std::to_string(number) + " or of this name");
+    refuse(place, "in the object this layer's name is " + inQuotes(numbered.front()->name) + ", and no layer has this one");
   }
 
   void readSkelegon(const Layer& layer, const Json& json, const std::string& path) {
@@ -115,13 +142,15 @@ class Import {
     if (wanted_.count(skelegon) != 0) refuse(place, "this skelegon stands twice");
     const Json& settings = member(json, place, "settings");
     if (!settings.is_object()) refuse(place, "settings has to be an object");
-    Texts& texts = wanted_[skelegon];
+    Values& values = wanted_[skelegon];
     for (const auto& [key, value] : settings.items()) {
       const Setting* const setting = settingNamed(key);
       if (setting == nullptr) refuse(place, "unknown setting " + inQuotes(key));
       const Outcome<std::string> text = textOf(*setting, value);
       if (!text) refuse(place + ", " + inQuotes(key), text.why());
-      texts[setting->tag] = *text;
+      // What stands as it is to be stored is no value but a text. A colour that is not stored becomes orange: it has no default.
+      const bool hasDefault = !value.is_object() && setting->kind != skg::SlotKind::Colour;
+      values[setting->tag] = {*text, hasDefault && meansTheSame(*setting, *text, setting->defaultText)};
     }
   }
 
@@ -140,21 +169,20 @@ class Import {
     return equals[nth - 1];
   }
 
-  using Texts = std::map<std::uint32_t, std::string>;
-
   ObjectFile& object_;
   Rig rig_;
-  std::set<std::size_t> layersRead_;
-  std::map<std::size_t, Texts> wanted_;  // by skelegon
+  Unlisted unlisted_;
+  std::set<const Layer*> layersRead_;
+  std::map<std::size_t, Values> wanted_;  // by skelegon
 };
 
 }  // namespace
 
-Outcome<std::size_t> importSettings(ObjectFile& object, std::string_view json) {
+Outcome<std::size_t> importSettings(ObjectFile& object, std::string_view json, Unlisted unlisted) {
   const Outcome<Json> parsed = parseJson(json);
   if (!parsed) return Failure{parsed.why()};
   try {
-    Import import(object);
+    Import import(object, unlisted);
     import.read(*parsed);
     return import.write();
   } catch (const Refused& refused) {

@@ -12,8 +12,8 @@ namespace standin::rigs {
 
 using Json = nlohmann::ordered_json;
 
-// Stricter than JSON: a key that an object has twice is refused, and so are more than a few levels. The sentence says where.
-Outcome<Json> parseJson(std::string_view text);
+// Of UTF-8, or of UTF-16 behind a byte order mark. Stricter than JSON: a key that an object has twice is refused, and so are more than a few levels. The sentence says where.
+Outcome<Json> parseJson(std::string_view bytes);
 
 // Two blanks for each level, and a line end. Bytes that are no UTF-8 come out as U+FFFD.
 std::string dumpJson(const Json& json);

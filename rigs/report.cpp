@@ -132,6 +132,8 @@ constexpr KindRow kKinds[] = {
     {DifferenceKind::LayerAdded, "layer-added", "layer added", "レイヤー追加"},
     {DifferenceKind::LayerRemoved, "layer-removed", "layer removed", "レイヤー削除"},
     {DifferenceKind::LayerRenamed, "layer-renamed", "layer renamed", "レイヤー改名"},
+    {DifferenceKind::LayerNumber, "layer-number", "layer number", "レイヤー番号"},
+    {DifferenceKind::Order, "order", "order of the skelegons", "スケルゴンの順序"},
     {DifferenceKind::Added, "added", "added", "追加"},
     {DifferenceKind::Removed, "removed", "removed", "削除"},
     {DifferenceKind::Renamed, "renamed", "renamed", "改名"},

@@ -1,7 +1,5 @@
 #include "rigs/text.h"
 
-#include "texts/utf8.h"
-
 namespace standin::rigs {
 namespace {
 
@@ -12,12 +10,6 @@ unsigned byteOf(char c) { return static_cast<unsigned char>(c); }
 bool isControl(char32_t character) { return character < 0x20 || (character >= 0x7F && character < 0xA0); }
 
 }  // namespace
-
-bool isUtf8(std::string_view text) {
-  while (!text.empty())
-    if (texts::takeCharacter(text) == texts::kNoCharacter) return false;
-  return true;
-}
 
 std::string printable(std::string_view text) {
   std::string shown;

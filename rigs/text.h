@@ -4,9 +4,11 @@
 #include <string>
 #include <string_view>
 
+#include "texts/utf8.h"
+
 namespace standin::rigs {
 
-bool isUtf8(std::string_view text);
+using texts::isUtf8;
 
 // The text with control characters and bytes that are no UTF-8 as \xNN, so that it fits on a line of a terminal.
 std::string printable(std::string_view text);

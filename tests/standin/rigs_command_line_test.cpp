@@ -230,6 +230,35 @@ TEST_F(RigCommandLine, ImportInPlaceKeepsPermissionsAndLeavesNoOtherFile) {
   EXPECT_EQ(filesInFolder(), 3U);
 }
 
+TEST_F(RigCommandLine, ADryRunShowsWhatWouldChangeAndWritesNothing) {
+  SoundRig rig;
+  const std::string file = write("rig.lwo", rig);
+  const std::string before = bytesOf(file);
+  rig.set(rig.root, 31, "50.000000");
+  const std::string json = folder_.file("rig.json");
+  run({"export", write("other.lwo", rig), "-o", json});
+  EXPECT_EQ(run({"import", file, json, "--dry-run"}), 0) << error_;
+  EXPECT_EQ(out_, "Rig / Root\n  Strength: 80 % -> 50 %\n1 tag would be changed\n");
+  EXPECT_EQ(run({"import", file, json, "--dry-run", "--in-place"}), 0) << error_;
+  EXPECT_TRUE(bytesOf(file) == before);
+  EXPECT_EQ(filesInFolder(), 3U);
+}
+
+TEST_F(RigCommandLine, MergingAPartOfTheSettingsKeepsTheRest) {
+  const std::string file = write("rig.lwo", SoundRig());
+  const std::string json = write("part.json", R"({"format": "varnel settings", "version": 1, "layers": [{"number": 0, "name": "Rig",
+      "skelegons": [{"name": "Root", "settings": {"Strength": 50}}]}]})");
+  EXPECT_EQ(run({"import", file, json, "--merge", "--in-place"}), 0) << error_;
+  EXPECT_THAT(out_, HasSubstr("1 tag changed"));
+}
+
+TEST_F(RigCommandLine, ExportWritesItsSchemaWithoutARig) {
+  EXPECT_EQ(run({"export", "--schema"}), 0) << error_;
+  EXPECT_THAT(out_, HasSubstr("json-schema.org"));
+  EXPECT_EQ(run({"export"}), 2);
+  EXPECT_THAT(error_, HasSubstr("name the object file"));
+}
+
 TEST_F(RigCommandLine, ARefusedImportTouchesNothing) {
   const std::string file = write("rig.lwo", SoundRig());
   const std::string before = bytesOf(file);

@@ -37,16 +37,82 @@ TEST_F(Differences, AChangedSettingIsShownFromAndTo) {
   EXPECT_EQ(differences(before, after), "Rig / Root\n  Strength: 80 % -> 50 %\n");
 }
 
-TEST_F(Differences, AnAddedAndARemovedSettingSayNone) {
+TEST_F(Differences, WhatIsNotStoredIsShownAsTheDefault) {
   polygonOf(object, 0).removeTag(settingTag(31));
   polygonOf(object, 1).setTag(settingTag(32), "0");
   EXPECT_EQ(changed(object),
-            "Rig / Root\n  Strength: 80 % -> (none)\nRig / Hand\n  Multiply Strength by Rest Length: (none) -> off\n");
+            "Rig / Root\n  Strength: 80 % -> 100 % (default)\n"
+            "Rig / Hand\n  Multiply Strength by Rest Length: on (default) -> off\n");
 }
 
-TEST_F(Differences, TextsOfOneMeaningAreShownAsTheyStand) {
+TEST_F(Differences, ANameThatIsNotStoredIsNone) {
+  polygonOf(object, 0).setTag(settingTag(52), "Hand");
+  EXPECT_EQ(changed(object), "Rig / Root\n  Target Item: (none) -> Hand\n");
+}
+
+// It becomes orange, whatever the panel's list says.
+TEST_F(Differences, AColourThatIsNotStoredIsNone) {
+  polygonOf(object, 1).setTag(lw::kTagColour, "Modeler");
+  EXPECT_EQ(changed(object), "Rig / Hand\n  Color (bone): (none) -> Modeler Setting\n");
+}
+
+TEST_F(Differences, EqualNumbersAreNone) {
   after.set(after.root, 31, "80");
-  EXPECT_EQ(differences(before, after), "Rig / Root\n  Strength: \"80.000000\" -> \"80\"\n");
+  EXPECT_THAT(differences(before, after), IsEmpty());
+}
+
+TEST_F(Differences, AStoredDefaultIsNone) {
+  after.set(after.root, 27, "1");
+  after.set(after.root, 37, "100.000000");
+  EXPECT_THAT(differences(before, after), IsEmpty());
+}
+
+TEST_F(Differences, NumbersThatReadOnlyInPartAreShownAsTheyStand) {
+  after.set(after.root, 31, "80 %");
+  EXPECT_EQ(differences(before, after), "Rig / Root\n  Strength: 80 % -> \"80 %\"\n");
+}
+
+TEST_F(Differences, AnotherOrderIsShownFromTheFirstToTheLastThatStandsElsewhere) {
+  for (const char* name : {"A", "B", "C", "D"}) {
+    for (SoundRig* rig : {&before, &after}) rig->builder.root(name, {0, 0, static_cast<float>(*name)}, {1, 0, 0});
+  }
+  object = after.object();
+  auto& polygons = object.layers[0].groups[0].polygons;
+  std::swap(polygons[2], polygons[4]);
+  EXPECT_EQ(changed(object), "Rig\n  order of the skelegons: A, B, C -> C, B, A\n");
+}
+
+TEST_F(Differences, AnAddedSkelegonIsNoOtherOrder) {
+  auto& polygons = object.layers[0].groups[0].polygons;
+  polygons.insert(polygons.begin(), polygons[0]);
+  polygons[0].setTag(lw::kTagBone, "New");
+  EXPECT_THAT(changed(object), testing::Not(testing::HasSubstr("order")));
+}
+
+TEST_F(Differences, ALongOrderIsCutShort) {
+  for (int i = 0; i < 9; ++i) before.builder.root("B" + std::to_string(i), {0, 0, static_cast<float>(i)}, {1, 0, 0});
+  object = before.object();
+  auto& polygons = object.layers[0].groups[0].polygons;
+  std::swap(polygons[2], polygons[10]);
+  EXPECT_EQ(changed(object), "Rig\n  order of the skelegons: B0, B1, B2, B3, B4, B5, ... -> B8, B1, B2, B3, B4, B5, ...\n");
+}
+
+TEST_F(Differences, ALayerOfAnotherNumberIsTheLayerOfItsName) {
+  object.layers[0].number = 3;
+  EXPECT_EQ(changed(object), "Rig\n  layer number: 0 -> 3\n");
+}
+
+TEST_F(Differences, AreInJapaneseToTheLastWord) {
+  object.layers[0].name.clear();
+  polygonOf(object, 0).removeTag(settingTag(31));
+  polygonOf(object, 1).removeTag(lw::kTagBone);
+  std::swap(object.layers[0].groups[0].polygons[0], object.layers[0].groups[0].polygons[1]);
+  const std::string text =
+      differencesText(differencesOf(before.rig(), rigOf(object, kFileName), Language::Japanese), Language::Japanese);
+  EXPECT_EQ(text,
+            "レイヤー 0\n  レイヤー改名: \"Rig\" -> \"\"\n  スケルゴンの順序: Root, Hand -> Hand, Root\n"
+            "レイヤー 0 / (名前なし)\n  改名: Hand -> (名前なし)\n"
+            "レイヤー 0 / Root\n  強さ: 80 % -> 100 % (初期値)\n");
 }
 
 TEST_F(Differences, AnotherNameAtTheSamePointsIsARenaming) {
@@ -91,7 +157,7 @@ TEST_F(Differences, SkelegonsOfOneNameKeepTheirPartnersByPlace) {
   const auto same = two.builder.child(two.hand, "Twin", {1, 2, 0});
   one.set(first, 27, "0");
   two.set(same, 27, "0");
-  EXPECT_THAT(differences(one, two), IsEmpty());
+  EXPECT_EQ(differences(one, two), "Rig\n  order of the skelegons: Twin [1], Twin [2] -> Twin [2], Twin [1]\n");
 }
 
 TEST_F(Differences, AddedLayersBringTheirSkelegonsAndSettings) {
