@@ -347,12 +347,11 @@ void CSkgPropPanel::OnUsed(lw::LWControl* control, void* user) {
     const CPropertyForm& form = link.panel->form();
     if (!form.owns(link.number, control) || form.isSetting()) return;
     const lw::CRaisedFlag busy(link.panel->isBusy_);
-    try {
+    const auto use = [&] {
       link.panel->use(link.number);
-    } catch (...) {
-      link.panel->showStored();
-      throw;
-    }
+      return true;
+    };
+    if (!lw::guarded(use, false)) link.panel->showStored();
   });
 }
 

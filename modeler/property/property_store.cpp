@@ -76,7 +76,7 @@ bool applyWrites(const TagWrites& writes) {
   const TagWrites living = writesToLiving(edit, writes);
   lw::WritePolygonTags(edit, living.polygons, living.types, living.texts);
   edit.done();
-  return !living.empty();
+  return living.polygons.size() == writes.polygons.size();
 }
 
 bool WriteSlotValue(PanelSkelegons skelegons, skg::Slot slot, std::string_view text) {

@@ -68,7 +68,7 @@ TagWrites writesForControllerPreset(PanelSkelegons skelegons, skg::MotionGroup g
 TagWrites writesForReset(const lw::PolygonIds& polygons);
 
 // Makes the writes in one mesh edit; no edit at all when there is nothing to write. What is no longer a skelegon of the
-// current object is left out; false when that is all. Throws CBaseEx; nothing is written then.
+// current object is left out. True when all were made, and there was one. Throws CBaseEx; nothing is written then.
 bool applyWrites(const TagWrites& writes);
 
 // Stores a control's value, as applyWrites() does.

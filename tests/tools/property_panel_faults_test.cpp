@@ -115,6 +115,58 @@ TEST_F(PropertyPanel, AfterARefusedColourShowsTheLastOneThatWasStored) {
   EXPECT_EQ(control(Slot::Colour)->integer, 3);
 }
 
+TEST_F(PropertyPanel, AfterARefusedValueShowsTheChoiceOfAChooserThatWasStored) {
+  openWith({"Hips"});
+  show(Slot::ParentItem);
+  chooseBehind(Slot::ParentItem, "Chest");
+  standin::witness().refuseNext("LWModCommand::editBegin2");
+  type(Slot::ParentItem, "Head");
+  EXPECT_TRUE(standin::witness().refusalHappened());
+  EXPECT_EQ(shown(Slot::ParentItem), "Chest");
+}
+
+TEST_F(PropertyPanel, AfterARefusedTagShowsTheLastValueThatWasStored) {
+  openWith({"Hips", "Chest"});
+  enter(Slot::Strength, 60);
+  standin::witness().refuseNext("MeshEditOp::polTag");
+  enter(Slot::Strength, 40);
+  EXPECT_TRUE(standin::witness().refusalHappened());
+  EXPECT_EQ(shown(Slot::Strength), "60 %");
+  EXPECT_EQ(stored("Chest", Slot::Strength), "60.000000");
+}
+
+TEST_F(PropertyPanel, AfterARefusedValueTheChosenSkelegonIsShownStill) {
+  store("Chest", Slot::Strength, "40.000000");
+  openWith({"Hips", "Chest"});
+  EXPECT_TRUE(person::choose(control(mst::control::kNamePopup), "Chest"));
+  standin::witness().refuseNext("LWModCommand::editBegin2");
+  enter(Slot::Strength, 60);
+  EXPECT_TRUE(standin::witness().refusalHappened());
+  EXPECT_EQ(control(mst::control::kNamePopup)->shown(), "Chest");
+  EXPECT_EQ(shown(Slot::Strength), "40 %");
+}
+
+TEST_F(PropertyPanel, DrawsWhatItShowsInThePlaceOfARefusedValue) {
+  standin::panels().options.setsRepaint = false;
+  openWith({"Hips"});
+  standin::witness().refuseNext("LWModCommand::editBegin2");
+  enter(Slot::Strength, 40);
+  EXPECT_TRUE(standin::witness().refusalHappened());
+  EXPECT_EQ(shown(Slot::Strength), "100 %");
+  EXPECT_FALSE(control(Slot::Strength)->stale.has_value());
+}
+
+TEST_F(PropertyPanel, ShowsWhatIsStoredAfterARefusalWhereTheHostFiresEvents) {
+  standin::panels().options.setsFireEvents = true;
+  openWith({"Hips"});
+  enter(Slot::Strength, 60);
+  standin::witness().refuseNext("LWModCommand::editBegin2");
+  enter(Slot::Strength, 40);
+  EXPECT_TRUE(standin::witness().refusalHappened());
+  EXPECT_EQ(shown(Slot::Strength), "60 %");
+  EXPECT_EQ(changingEdits(), 1U);
+}
+
 TEST_F(PropertyPanel, ANameWhoseSettingsCannotBeReadIsNotShown) {
   store("Chest", Slot::Strength, "40.000000");
   openWith({"Hips", "Chest"});

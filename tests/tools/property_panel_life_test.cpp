@@ -215,6 +215,14 @@ TEST_F(PropertyPanel, AChosenNameIsKeptOverSyncWhileItIsSelected) {
   EXPECT_EQ(control(Slot::Strength)->real, 40);
 }
 
+TEST_F(PropertyPanel, AChosenNameIsKeptOverTheReloadOfAFillButton) {
+  openWith({"Hips", "Chest"});
+  EXPECT_TRUE(person::choose(control(kNamePopup), "Chest"));
+  pressBehind(Slot::TargetItem);
+  EXPECT_EQ(control(kNamePopup)->shown(), "Chest");
+  EXPECT_EQ(shown(Slot::TargetItem), "Chest_tar");
+}
+
 TEST_F(PropertyPanel, TheNameListIsBackAtItsFirstEntryWhenTheChosenOneIsNoLongerSelected) {
   store("Hips", Slot::Strength, "40.000000");
   openWith({"Hips", "Chest", "Head"});

@@ -221,6 +221,21 @@ TEST_P(EverySetting, ReachesNoSkelegonWhenNothingIsSelected) {
   EXPECT_EQ(everythingStored(), before);
 }
 
+TEST_P(EverySetting, ShowsItsDefaultAgainWhenNothingIsSelected) {
+  openWith({});
+  change();
+  expectShown(*control(slot), kind, defaultText);
+}
+
+TEST_P(EverySetting, ShowsWhatWasStoredLastAfterARefusedChange) {
+  openWith({"Hips"});
+  const std::string text = change();
+  standin::witness().refuseNext("LWModCommand::editBegin2");
+  changeBack();
+  EXPECT_TRUE(standin::witness().refusalHappened());
+  expectShown(*control(slot), kind, text);
+}
+
 // ---------------------------------------------------------------------------------------------------------------------
 // Settings with a rule of their own
 
@@ -288,6 +303,9 @@ TEST_F(PropertyPanel, AChoiceMadeWithNothingSelectedIsNotShown) {
   show(Slot::ParentItem);
   chooseBehind(Slot::ParentItem, "Chest");
   EXPECT_EQ(shown(Slot::ParentItem), "");
+  show(Slot::WeightMap);
+  chooseBehind(Slot::WeightMap, "(none)");
+  EXPECT_EQ(control(Slot::BoneActive)->integer, 1);
 }
 
 TEST_F(PropertyPanel, AValueForASkelegonThatWasDeletedIsNotShown) {
@@ -295,6 +313,25 @@ TEST_F(PropertyPanel, AValueForASkelegonThatWasDeletedIsNotShown) {
   host.deleteSkelegons({"Hips"});
   enter(Slot::Strength, 40);
   EXPECT_EQ(shown(Slot::Strength), "100 %");
+}
+
+TEST_F(PropertyPanel, ANameForASkelegonThatWasDeletedIsNotShown) {
+  openWith({"Hips"});
+  host.deleteSkelegons({"Hips"});
+  EXPECT_TRUE(person::type(control(mst::control::kNameEdit), "Pelvis"));
+  EXPECT_FALSE(isVisible(mst::control::kNameEdit));
+  EXPECT_TRUE(person::menu(control(mst::control::kNamePopup)).empty());
+}
+
+// The panel finds out when it writes.
+TEST_F(PropertyPanel, AValueThatNotAllHaveTakenIsShownWithTheSettingsOfThoseThatAreLeft) {
+  store("Hips", Slot::IconSize, "60.000000");
+  openWith({"Hips", "Chest"});
+  host.deleteSkelegons({"Hips"});
+  enter(Slot::Strength, 40);
+  EXPECT_EQ(shown(Slot::Strength), "40 %");
+  EXPECT_EQ(shown(Slot::IconSize), "100 %");
+  EXPECT_EQ(control(mst::control::kNameEdit)->text, "Chest");
 }
 
 TEST_F(PropertyPanel, EachStepOfADraggedSliderIsStored) {
