@@ -193,6 +193,39 @@ TEST_F(Renamer, CountsFromARegisteredChildAnew) {
   EXPECT_EQ(Names(all.begin() + 6, all.end()), (Names{"A0", "A1", "B0", "A2", "B1", "B1"}));
 }
 
+// A body whose root bears its spine and both arms.
+standin::ObjectFile bodyWithArms() {
+  standin::RigBuilder rig;
+  const auto spine = rig.root("Bone", {0, 0, 0}, {0, 1, 0});
+  const auto left = rig.child(spine, "Bone", {1, 1, 0});
+  rig.child(left, "Bone", {2, 1, 0});
+  const auto right = rig.child(spine, "Bone", {-1, 1, 0});
+  rig.child(right, "Bone", {-2, 1, 0});
+  rig.child(spine, "Bone", {0, 2, 0});
+  return rig.take();
+}
+
+TEST_F(Renamer, RefusesTheEqualNamesOfBranches) {
+  load(bodyWithArms());
+  openCounting("Bone01_[col]_[row]", 1, 2);
+  chooseTarget(RenameTarget::All);
+  run();
+  EXPECT_EQ(onlyMessage(), kDuplicated);
+  EXPECT_EQ(names(), Names(6, "Bone"));
+}
+
+TEST_F(Renamer, GivesRegisteredBranchesNamesOfTheirOwn) {
+  load(bodyWithArms());
+  openCounting("Bone01_[col]_[row]", 1, 2);
+  for (const std::size_t first : {1U, 3U, 0U}) {
+    host.selectPolygons({object->skelegons()[first]});
+    press(Item::Add);
+  }
+  chooseTarget(RenameTarget::RegistrationAndChildren);
+  run();
+  EXPECT_EQ(names(), (Names{"Bone01_C_01", "Bone01_A_01", "Bone01_A_02", "Bone01_B_01", "Bone01_B_02", "Bone01_C_02"}));
+}
+
 TEST_F(Renamer, CountsAChainThatWasCutOutOfATree) {
   host.select({"Arm_L_02", "Arm_L_03"});
   openCounting("[col][row]", 0, 1);
