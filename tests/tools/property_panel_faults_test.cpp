@@ -193,6 +193,18 @@ TEST_F(PropertyPanel, ARefusedEditLeavesTheFieldOfAChooserAsItWas) {
   EXPECT_EQ(everythingStored(), before);
 }
 
+TEST_F(PropertyPanel, ARefusedResetDrawsNothingInAPanelThatWasClosedMeanwhile) {
+  openWith({"Hips"});
+  host.showMessagesTo([&](const standin::Message&) {
+    EXPECT_TRUE(person::close(panel));
+    standin::witness().refuseNext("LWModCommand::editBegin2");
+    return standin::Answer::Yes;
+  });
+  press(mst::control::kReset);
+  EXPECT_TRUE(standin::witness().refusalHappened());
+  EXPECT_FALSE(control(mst::control::kNameEdit)->isErased);
+}
+
 TEST(PropertyPanelRefusals, AResetRemovesEverythingOrNothing) {
   refuseEach(
       &openOnTwo,

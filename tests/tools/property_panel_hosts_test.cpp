@@ -82,6 +82,16 @@ TEST_F(RunWithinItsEvent, StaysAndLooksAgain) {
   EXPECT_EQ(control(kNameEdit)->text, "Chest");
 }
 
+TEST_F(RunWithinItsEvent, KeepsTheNameThatWasChosen) {
+  store("Chest", Slot::Strength, "40.000000");
+  openWith({"Hips", "Chest"});
+  EXPECT_TRUE(person::choose(control(kNamePopup), "Chest"));
+  whenAsked([&] { EXPECT_EQ(host.activate(module, kPropertyTool), 0); });
+  press(kReset);
+  EXPECT_EQ(control(kNamePopup)->shown(), "Chest");
+  EXPECT_EQ(control(Slot::Strength)->real, 40);
+}
+
 TEST_F(RunWithinItsEvent, OpensAgainWhatWasClosedMeanwhile) {
   openWith({"Hips"});
   whenAsked([&] {
