@@ -41,6 +41,12 @@ class CEvalEx : public CBaseEx {
   using CBaseEx::CBaseEx;
 };
 
+// Tags that Modeler did not take.
+class CTagWriteEx : public CBaseEx {
+ public:
+  using CBaseEx::CBaseEx;
+};
+
 }  // namespace lw::ex
 
 namespace lw {

@@ -250,9 +250,13 @@ TagTexts ReadPolygonTags(const PolygonIds& polygons, const TagTypes& types) {
 
 void WritePolygonTags(CMeshEdit& edit, const PolygonIds& polygons, const TagTypes& types, const TagTexts& texts) {
   assert(types.size() == polygons.size() && texts.size() == polygons.size());
-  CPresence presence(edit);
-  for (std::size_t i = 0; i < polygons.size(); ++i) {
-    if (presence.isThere(polygons[i])) edit.setTag(polygons[i], types[i], texts[i]);
+  try {
+    CPresence presence(edit);
+    for (std::size_t i = 0; i < polygons.size(); ++i) {
+      if (presence.isThere(polygons[i])) edit.setTag(polygons[i], types[i], texts[i]);
+    }
+  } catch (const ex::CBaseEx& failure) {
+    throw ex::CTagWriteEx(failure.message());
   }
 }
 

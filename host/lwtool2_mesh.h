@@ -126,7 +126,7 @@ struct TagWrites {
 TagTexts ReadPolygonTags(const PolygonIds& polygons, const TagTypes& types);
 
 // [edit for tags open] Writes tags, polygon, type and text at the same index; deleted polygons are passed over. The caller
-// ends the edit; when a call fails it has been ended already. The three lists must be equally long.
+// ends the edit; when a call fails it has been ended already. Throws CTagWriteEx. The three lists must be equally long.
 void WritePolygonTags(CMeshEdit& edit, const PolygonIds& polygons, const TagTypes& types, const TagTexts& texts);
 
 // Whose report it is when the host has no record of a polygon.

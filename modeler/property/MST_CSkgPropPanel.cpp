@@ -192,8 +192,8 @@ void CSkgPropPanel::tell() const { NotifyPanels(this, PanelNews::SelectionChange
 // ---------------------------------------------------------------------------------------------------------------------
 // What the user does
 
-// What was typed or chosen must not stay in sight when nothing was stored. The host may refuse more than the write: this asks
-// nothing of the mesh.
+// Where the host did not even begin to write, what was typed or chosen must not stay in sight. It may refuse more than that: this
+// asks nothing of the mesh.
 void CSkgPropPanel::showStored() {
   if (!life_.mayBeOpen()) return;
   form().showKept();
@@ -348,7 +348,11 @@ void CSkgPropPanel::OnUsed(lw::LWControl* control, void* user) {
     if (!form.owns(link.number, control) || form.isSetting()) return;
     const lw::CRaisedFlag busy(link.panel->isBusy_);
     const auto use = [&] {
-      link.panel->use(link.number);
+      try {
+        link.panel->use(link.number);
+      } catch (const lw::ex::CTagWriteEx&) {
+        // A tag that the host refused leaves the controls as they are, deliberately: what was entered is not lost over one polygon.
+      }
       return true;
     };
     if (!lw::guarded(use, false)) link.panel->showStored();

@@ -125,13 +125,14 @@ TEST_F(PropertyPanel, AfterARefusedValueShowsTheChoiceOfAChooserThatWasStored) {
   EXPECT_EQ(shown(Slot::ParentItem), "Chest");
 }
 
-TEST_F(PropertyPanel, AfterARefusedTagShowsTheLastValueThatWasStored) {
+// Deliberate: only an edit that the host does not begin puts the stored value back.
+TEST_F(PropertyPanel, ARefusedTagLeavesTheControlsAsTheyAre) {
   openWith({"Hips", "Chest"});
   enter(Slot::Strength, 60);
   standin::witness().refuseNext("MeshEditOp::polTag");
   enter(Slot::Strength, 40);
   EXPECT_TRUE(standin::witness().refusalHappened());
-  EXPECT_EQ(shown(Slot::Strength), "60 %");
+  EXPECT_EQ(shown(Slot::Strength), "40 %");
   EXPECT_EQ(stored("Chest", Slot::Strength), "60.000000");
 }
 
