@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <exception>
 #include <filesystem>
 #include <fstream>
 #include <mutex>
@@ -243,6 +244,7 @@ std::vector<CheckResult> runChecks(const RunOrder& order) {
   std::vector<CheckResult> results(chosen.size());
   std::atomic<std::size_t> next = 0;
   std::mutex telling;
+  std::exception_ptr trouble;
   const auto work = [&] {
     for (std::size_t i = next++; i < chosen.size(); i = next++) {
       results[i] = CheckKeeper(order, *chosen[i], i).run();
@@ -250,10 +252,22 @@ std::vector<CheckResult> runChecks(const RunOrder& order) {
       if (order.told) order.told(results[i]);
     }
   };
-  std::vector<std::thread> workers;
-  for (unsigned i = 1; i < order.jobs; ++i) workers.emplace_back(work);
-  work();
-  for (std::thread& worker : workers) worker.join();
+  // What a thread lets out would end the whole program. The others do not begin anything then.
+  const auto workOrStop = [&] {
+    try {
+      work();
+    } catch (...) {
+      const std::lock_guard lock(telling);
+      if (!trouble) trouble = std::current_exception();
+      next = chosen.size();
+    }
+  };
+  {
+    std::vector<std::jthread> workers;
+    for (unsigned i = 1; i < order.jobs; ++i) workers.emplace_back(workOrStop);
+    workOrStop();
+  }
+  if (trouble) std::rethrow_exception(trouble);
   return results;
 }
 
