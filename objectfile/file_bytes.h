@@ -14,7 +14,7 @@ std::string utf8Of(const std::filesystem::path& path);
 
 Outcome<std::string> readFileBytes(const std::string& path);
 
-// Empty when the file was written, else the failure.
-std::optional<Failure> writeFileBytes(const std::string& path, const std::string& bytes);
+// Empty when the file was written, else the failure, which calls the file by the other name where one is given.
+std::optional<Failure> writeFileBytes(const std::string& path, const std::string& bytes, const std::string& shownAs = {});
 
 }  // namespace standin

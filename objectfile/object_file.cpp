@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "objectfile/file_bytes.h"
+#include "objectfile/whole_file.h"
 
 namespace standin {
 
@@ -50,7 +51,7 @@ Outcome<ObjectFile> readObject(const std::string& path, TextlessTags textless) {
 std::optional<Failure> writeObject(const ObjectFile& object, const std::string& path) {
   const Outcome<std::string> bytes = serializeObject(object);
   if (!bytes) return Failure{path + ": " + bytes.why()};
-  return writeFileBytes(path, *bytes);
+  return writeWholeFile(path, *bytes, Existing::Replace);
 }
 
 }  // namespace standin

@@ -87,7 +87,7 @@ Outcome<ObjectFile> parseObject(std::string_view bytes, TextlessTags textless = 
 Outcome<ObjectFile> readObject(const std::string& path, TextlessTags textless = TextlessTags::Refuse);
 
 Outcome<std::string> serializeObject(const ObjectFile& object);
-// Empty when the file was written, else the failure.
+// Empty when the file was written, else the failure, after which the file is what it was.
 std::optional<Failure> writeObject(const ObjectFile& object, const std::string& path);
 
 }  // namespace standin

@@ -1,5 +1,7 @@
 // Bytes to object. A damaged file is refused whole, with a sentence.
 #include <algorithm>
+#include <new>
+#include <system_error>
 
 #include "objectfile/chunk_records.h"
 #include "objectfile/object_file.h"
@@ -124,7 +126,9 @@ class ObjectReader {
 
 }  // namespace
 
-Outcome<ObjectFile> parseObject(std::string_view bytes, TextlessTags textless) {
+namespace {
+
+Outcome<ObjectFile> parse(std::string_view bytes, TextlessTags textless) {
   Outcome<Form> form = splitForm(bytes);
   if (!form) return Failure{form.why()};
   if (form->type != kFormObject2 && form->type != kFormObject3) {
@@ -133,6 +137,16 @@ Outcome<ObjectFile> parseObject(std::string_view bytes, TextlessTags textless) {
   ObjectReader reader(textless);
   if (std::string why = reader.read(form->chunks); !why.empty()) return Failure{std::move(why)};
   return ObjectFile{form->type, reader.takeLayers(), std::move(form->chunks)};
+}
+
+}  // namespace
+
+Outcome<ObjectFile> parseObject(std::string_view bytes, TextlessTags textless) {
+  try {
+    return parse(bytes, textless);
+  } catch (const std::bad_alloc&) {
+    return Failure{std::make_error_code(std::errc::not_enough_memory).message()};
+  }
 }
 
 }  // namespace standin

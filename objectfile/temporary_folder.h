@@ -8,6 +8,7 @@ namespace standin {
 
 class TemporaryFolder {
  public:
+  // Throws std::runtime_error, with the place and the system's words, where none can be made.
   TemporaryFolder();
   ~TemporaryFolder();
   TemporaryFolder(const TemporaryFolder&) = delete;

@@ -3,8 +3,6 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <iostream>
-#include <stdexcept>
 #include <type_traits>
 
 namespace standin {
@@ -28,6 +26,10 @@ CLI::Range rangeFor(const OptionTarget& target, std::pair<double, double> limits
   return {static_cast<int>(limits.first), static_cast<int>(limits.second)};
 }
 
+bool isListBehindOption(const CommandOption& row) {
+  return row.name.starts_with('-') && std::holds_alternative<std::vector<std::string>*>(row.target);
+}
+
 void addRow(CLI::App& app, const CommandOption& row) {
   const OptionRules& rules = row.rules;
   CLI::Option* const option = addOption(app, row);
@@ -36,7 +38,7 @@ void addRow(CLI::App& app, const CommandOption& row) {
   if (!rules.choices.empty()) option->check(CLI::IsMember(rules.choices));
   if (rules.range) option->check(rangeFor(row.target, *rules.range));
   if (rules.separator != 0) option->delimiter(rules.separator);
-  if (rules.isRepeated) option->allow_extra_args(false);
+  if (isListBehindOption(row)) option->allow_extra_args(false);
   if (rules.refusal) option->check(rules.refusal);
   if (!rules.excludes.empty()) option->excludes(app.get_option(rules.excludes));
 }
@@ -65,10 +67,6 @@ int runCommandLine(const Program& program, std::vector<std::string> words) {
     app.parse(words);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? 0 : kWrongUsage;
-  } catch (const std::runtime_error& error) {
-    // A host that this system cannot play.
-    std::cerr << "varnel: " << error.what() << "\n";
-    return kCannotBePlayed;
   }
   return result;
 }
@@ -78,7 +76,10 @@ CommandOption moduleOption(std::string& target) {
 }
 
 CommandOption languageOption(OptionTarget target, const std::string& text) {
-  return {"--lang", target, text, {.choices = {"en", "ja"}}};
+  const bool isList = std::holds_alternative<std::vector<std::string>*>(target);
+  return {"--lang", target, text, {.choices = {"en", "ja"}, .separator = isList ? ',' : '\0'}};
 }
+
+CommandOption forceOption(bool& target) { return {"--force", &target, "Write over files that are there"}; }
 
 }  // namespace standin

@@ -13,10 +13,9 @@ namespace standin {
 
 // The answer to a command line that cannot be taken.
 inline constexpr int kWrongUsage = 2;
-// And to one that cannot be run on this system.
-inline constexpr int kCannotBePlayed = 2;
 
-// Where the words of an option go. A truth is a switch, which takes no word; a list takes as many words as there are.
+// Where the words of an option go. A truth is a switch, which takes no word. A list of words that have their
+// places takes all there are; one behind an option takes a word each time, so that the next may be a file.
 using OptionTarget = std::variant<bool*, int*, unsigned*, std::uint64_t*, double*, std::string*, std::vector<std::string>*>;
 
 struct OptionRules {
@@ -26,7 +25,6 @@ struct OptionRules {
   std::optional<std::pair<double, double>> range = {};
   char separator = 0;         // between the parts of one word; none by default
   std::string excludes = {};  // an option of an earlier row that must not stand beside this one
-  bool isRepeated = false;    // a list that takes one word at a time, and may stand several times
   // Why a word cannot be taken; empty when it can.
   std::function<std::string(const std::string& word)> refusal = {};
 };
@@ -61,5 +59,7 @@ int runCommandLine(const Program& program, std::vector<std::string> words);
 // Options that many commands have.
 CommandOption moduleOption(std::string& target);
 CommandOption languageOption(OptionTarget target, const std::string& text);
+// Asks to write over files that are there.
+CommandOption forceOption(bool& target);
 
 }  // namespace standin

@@ -52,11 +52,13 @@ Command diffCommand() {
       .footer =
           "Compared are the skelegons and what they store, not the mesh. Exit codes: 0 equal, 1 different, 2 trouble.\n"
           "Examples:\n"
-          "  varnel diff biped-1.lwo biped-2.lwo\n"
+          "  varnel export rigs/lizard.lwo -o lizard.json\n"
+          "  varnel import rigs/lizard.lwo lizard.json -o lizard-2.lwo\n"
+          "  varnel diff rigs/lizard.lwo lizard-2.lwo\n"
           "With git, as a difftool (git difftool -t varnel):\n"
           "  git config difftool.varnel.cmd 'varnel diff \"$LOCAL\" \"$REMOTE\"'\n"
           "and within git diff and git log, with a line \"*.lwo diff=varnel\" in .gitattributes:\n"
-          "  git config diff.varnel.textconv 'varnel export'",
+          "  git config diff.varnel.textconv 'varnel export --textconv'",
       .run = [options] { return run(*options); },
   };
 }

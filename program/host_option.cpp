@@ -16,7 +16,7 @@ CommandOption hostOption(HostWords& host) {
   return {"--host",
           &host.words,
           "NAME=VALUE, a host that differs in this; \"varnel hosts\" lists them all",
-          {.isRepeated = true, .refusal = [](const std::string& word) { return HostChoice().take(word); }}};
+          {.refusal = [](const std::string& word) { return HostChoice().take(word); }}};
 }
 
 }  // namespace standin

@@ -1,4 +1,5 @@
 // The program `varnel`: the stand-in host on the command line.
+#include "program/run_program.h"
 #include "program/subcommands.h"
 #include "program/utf8_arguments.h"
 
@@ -19,5 +20,5 @@ standin::Program varnel() {
 
 int main(int argc, char** argv) {
   standin::useUtf8Streams();
-  return standin::runCommandLine(varnel(), standin::utf8Arguments(argc, argv));
+  return standin::runProgram([&] { return standin::runCommandLine(varnel(), standin::utf8Arguments(argc, argv)); });
 }

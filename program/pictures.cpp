@@ -5,9 +5,11 @@
 #include <memory>
 
 #include "objectfile/sample_rigs.h"
+#include "objectfile/whole_file.h"
 #include "program/host_option.h"
 #include "program/pictured_rigs.h"
 #include "program/property_panel.h"
+#include "program/rig_tool_support.h"
 #include "program/subcommands.h"
 #include "program/support.h"
 #include "standin/variants/played_host.h"
@@ -23,6 +25,7 @@ struct PicturesOptions {
   HostWords host;
   std::vector<std::string> languages = {"en", "ja"};
   std::vector<std::string> only;
+  bool force = false;
 };
 
 // Takes the pictures of one tool in one language.
@@ -222,17 +225,48 @@ constexpr std::array kSubjects{
     Subject{"renamer", &takeRenamer},        Subject{"first-trip", &takeFirstTrip},       Subject{"desk", &takeDesk},
 };
 
-int run(const PicturesOptions& options) {
-  int result = reporting([&] { std::filesystem::create_directories(pathFromUtf8(options.folder)); });
-  for (const std::string& language : options.languages) {
-    const Album album(options, language);
-    for (const Subject& subject : kSubjects) {
-      const bool isWanted =
-          options.only.empty() || std::find(options.only.begin(), options.only.end(), subject.name) != options.only.end();
-      if (isWanted) result |= reporting([&] { subject.take(album); });
-    }
+bool isWanted(const PicturesOptions& options, const Subject& subject) {
+  return options.only.empty() || std::find(options.only.begin(), options.only.end(), subject.name) != options.only.end();
+}
+
+// Whether the name is one of those that the pictures to be taken get.
+bool isToBeTaken(const PicturesOptions& options, const std::string& name) {
+  return name.ends_with(".png") && std::any_of(kSubjects.begin(), kSubjects.end(), [&](const Subject& subject) {
+           return isWanted(options, subject) &&
+                  std::any_of(options.languages.begin(), options.languages.end(), [&](const std::string& language) {
+                    return name.starts_with(std::string(subject.name) + "-" + language);
+                  });
+         });
+}
+
+// Before any picture is taken: makes the folder, or finds nothing there that would be written over.
+void prepareFolder(const PicturesOptions& options) {
+  mustBeFolder(options.folder);
+  std::vector<std::string> paths;
+  for (const auto& entry : std::filesystem::directory_iterator(pathFromUtf8(options.folder))) {
+    if (isToBeTaken(options, utf8Of(entry.path().filename()))) paths.push_back(utf8Of(entry.path()));
   }
-  return result;
+  mustBeWritten(refusedFiles(paths, existingFiles(options.force)));
+}
+
+int run(const PicturesOptions& options) {
+  return exitCodeOf([&] {
+    prepareFolder(options);
+    int result = 0;
+    for (const std::string& language : options.languages) {
+      const Album album(options, language);
+      for (const Subject& subject : kSubjects) {
+        if (isWanted(options, subject)) result |= reporting([&] { subject.take(album); });
+      }
+    }
+    return result;
+  });
+}
+
+std::vector<std::string> subjectNames() {
+  std::vector<std::string> names;
+  for (const Subject& subject : kSubjects) names.emplace_back(subject.name);
+  return names;
 }
 
 }  // namespace
@@ -248,9 +282,14 @@ Command picturesCommand() {
               moduleOption(options->module),
               hostOption(options->host),
               languageOption(&options->languages, "Languages to show"),
-              {"--only", &options->only, "Tools to show"},
+              {"--only", &options->only, "What to show", {.choices = subjectNames(), .separator = ','}},
+              forceOption(options->force),
           },
-      .footer = "Example:\n  varnel pictures --lang ja build/pictures",
+      .footer =
+          "Pictures that are there stay, and then none is taken. Exit codes: 0; 1 when one failed; 2 trouble.\n"
+          "Examples:\n"
+          "  varnel pictures --lang ja shots\n"
+          "  varnel pictures --only renamer,desk --force shots",
       .run = [options] { return run(*options); },
   };
 }

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "objectfile/file_bytes.h"
-#include "program/replace_file.h"
+#include "objectfile/whole_file.h"
 #include "program/rig_tool_support.h"
 #include "program/subcommands.h"
 #include "rigs/difference.h"
@@ -17,6 +17,8 @@ struct ExportOptions {
   std::string file;
   std::string out;
   bool schema = false;
+  bool force = false;
+  bool textconv = false;
 };
 
 struct ImportOptions {
@@ -27,18 +29,33 @@ struct ImportOptions {
   bool dryRun = false;
   bool merge = false;
   std::string language = "en";
+  bool force = false;
 };
+
+// For version control, which calls for every state of a file in turn and ends its own listing when one of them fails. The
+// line is the same wherever the file lies: version control hands over copies with names of their own.
+int runTextconv(const std::string& path) {
+  const Outcome<std::string> bytes = readFileBytes(path);
+  const Outcome<ObjectFile> object = bytes ? parseObject(*bytes) : Outcome<ObjectFile>(Failure{bytes.why()});
+  if (object) {
+    std::cout << rigs::exportSettings(rigs::rigOf(*object, fileNameOf(path)));
+  } else {
+    std::cout << "(not readable: " << object.why() << ")\n";
+  }
+  return 0;
+}
 
 int runExport(const ExportOptions& options) {
   return exitCodeOf([&] {
     if (options.file.empty() && !options.schema) throw Trouble{"name the object file"};
+    if (options.textconv) return runTextconv(options.file);
     const std::string json = options.schema
                                  ? rigs::settingsSchema()
                                  : rigs::exportSettings(rigs::rigOf(readRigFile(options.file), fileNameOf(options.file)));
     if (options.out.empty()) {
       std::cout << json;
     } else {
-      mustBeWritten(writeNewFile(options.out, json));
+      mustBeWritten(writeWholeFile(options.out, json, existingFiles(options.force)));
     }
     return 0;
   });
@@ -67,7 +84,7 @@ int runImport(const ImportOptions& options) {
     const Outcome<std::string> bytes = serializeObject(object);
     if (!bytes) throw Trouble{options.file + ": " + bytes.why()};
     if (!options.inPlace) {
-      mustBeWritten(writeNewFile(options.out, *bytes));
+      mustBeWritten(writeWholeFile(options.out, *bytes, existingFiles(options.force)));
     } else if (*changes > 0) {
       mustBeWritten(replaceFile(options.file, *bytes));
     }
@@ -86,17 +103,26 @@ Command exportCommand() {
       .options =
           {
               {"file", &options->file, "Object file"},
-              {"-o,--output", &options->out, "File to write, which must not exist (the standard output by default)"},
-              {"--schema", &options->schema, "Write the JSON Schema of the settings in place of a rig's"},
+              {"-o,--output", &options->out, "File to write (the standard output by default)"},
+              forceOption(options->force),
+              {"--textconv",
+               &options->textconv,
+               "Say \"(not readable: why)\" of a file that is no object, and end with 0",
+               {.excludes = "--output"}},
+              {"--schema",
+               &options->schema,
+               "Write the JSON Schema of the settings in place of a rig's",
+               {.excludes = "--textconv"}},
           },
       .footer =
-          "Listed is what each skelegon stores, by layer and name. The same rig always gives the same text, whatever its "
-          "file "
-          "is\n"
-          "called, so that it serves version control as a textconv. Exit codes: 0; 2 trouble.\n"
+          "Listed is what each skelegon stores, by layer and name. The same rig always gives the same text, whatever its\n"
+          "file is called. With --textconv it serves version control, which stops at a command that fails. Exit codes: 0;\n"
+          "2 trouble.\n"
           "Examples:\n"
-          "  varnel export biped.lwo\n"
-          "  varnel export biped.lwo -o biped.json",
+          "  varnel export rigs/lizard.lwo\n"
+          "  varnel export rigs/lizard.lwo -o lizard.json\n"
+          "With git, in git diff and git log, with a line \"*.lwo diff=varnel\" in .gitattributes:\n"
+          "  git config diff.varnel.textconv 'varnel export --textconv'",
       .run = [options] { return runExport(*options); },
   };
 }
@@ -110,23 +136,22 @@ Command importCommand() {
           {
               {"file", &options->file, "Object file", {.isRequired = true}},
               {"json", &options->json, "Settings, as export writes them", {.isRequired = true}},
-              {"-o,--output", &options->out, "Object file to write, which must not exist"},
+              {"-o,--output", &options->out, "Object file to write"},
+              forceOption(options->force),
               {"--in-place", &options->inPlace, "Write over the object file", {.excludes = "--output"}},
               {"--dry-run", &options->dryRun, "Write nothing, show what would change"},
               {"--merge", &options->merge, "Leave settings that the JSON does not list as they are"},
               languageOption(&options->language, "Language of what --dry-run shows"),
           },
       .footer =
-          "Every skelegon that the JSON names gets exactly the settings that stand there, or with --merge these too; the "
-          "others "
-          "stay as\n"
-          "they are. Only tags are written. JSON that is not understood whole is refused, and nothing is written. Exit "
-          "codes: 0; "
-          "2 trouble.\n"
+          "Every skelegon that the JSON names gets exactly the settings that stand there, or with --merge these too; the\n"
+          "others stay as they are. Only tags are written. JSON that is not understood whole is refused, and nothing is\n"
+          "written. Exit codes: 0; 2 trouble.\n"
           "Examples:\n"
-          "  varnel import biped.lwo biped.json --dry-run\n"
-          "  varnel import biped.lwo biped.json -o biped-2.lwo\n"
-          "  varnel import biped.lwo biped.json --in-place",
+          "  varnel export rigs/lizard.lwo -o lizard.json\n"
+          "  varnel import rigs/lizard.lwo lizard.json --dry-run\n"
+          "  varnel import rigs/lizard.lwo lizard.json -o lizard-2.lwo\n"
+          "  varnel import rigs/lizard.lwo lizard.json --in-place",
       .run = [options] { return runImport(*options); },
   };
 }

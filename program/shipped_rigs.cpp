@@ -5,54 +5,70 @@
 #include <memory>
 
 #include "objectfile/sample_rigs.h"
+#include "program/rig_tool_support.h"
 #include "program/subcommands.h"
-#include "program/support.h"
 
 namespace standin {
 namespace {
 
 struct ShippedRig {
   const char* file;
-  std::optional<Failure> (*write)(const std::string& path);
+  ObjectFile (*make)();
 };
 
 constexpr std::array kShippedRigs{
-    ShippedRig{"lizard.lwo", writeDemoRig},
-    ShippedRig{"人形.lwo", writeJapaneseRig},
+    ShippedRig{"lizard.lwo", makeDemoRig},
+    ShippedRig{"人形.lwo", makeJapaneseRig},
 };
 
-int run(const std::string& folder) {
-  return reporting([&] {
-    std::error_code error;
-    std::filesystem::create_directories(pathFromUtf8(folder), error);
-    if (error) throw Trouble{"the folder " + folder + " cannot be made"};
-    for (const std::string& path : writeShippedRigs(folder)) std::cout << path << "\n";
+struct RigsOptions {
+  std::string folder;
+  bool force = false;
+};
+
+int run(const RigsOptions& options) {
+  return exitCodeOf([&] {
+    mustBeFolder(options.folder);
+    for (const std::string& path : writeShippedRigs(options.folder, existingFiles(options.force))) {
+      std::cout << path << "\n";
+    }
+    return 0;
   });
 }
 
 }  // namespace
 
-std::vector<std::string> writeShippedRigs(const std::string& folder) {
+std::vector<std::string> writeShippedRigs(const std::string& folder, Existing existing) {
   std::vector<std::string> paths;
+  paths.reserve(kShippedRigs.size());
   for (const ShippedRig& rig : kShippedRigs) {
-    const std::string path = utf8Of(pathFromUtf8(folder) / pathFromUtf8(rig.file));
-    if (const auto failure = rig.write(path)) throw Trouble{failure->text};
-    paths.push_back(path);
+    paths.push_back(utf8Of(pathFromUtf8(folder) / pathFromUtf8(rig.file)));
+  }
+  mustBeWritten(refusedFiles(paths, existing));
+  for (std::size_t i = 0; i < paths.size(); ++i) {
+    const Outcome<std::string> bytes = serializeObject(kShippedRigs[i].make());
+    if (!bytes) throw Trouble{bytes.why()};
+    mustBeWritten(writeWholeFile(paths[i], *bytes, existing));
   }
   return paths;
 }
 
 Command rigsCommand() {
-  const auto folder = std::make_shared<std::string>();
+  const auto options = std::make_shared<RigsOptions>();
   return {
       .name = "rigs",
       .text = "Write the rigs that come with the program into a folder",
       .options =
           {
-              {"folder", folder.get(), "Where to; it is made when it is not there", {.isRequired = true}},
+              {"folder", &options->folder, "Where to; it is made when it is not there", {.isRequired = true}},
+              forceOption(options->force),
           },
-      .footer = "Example:\n  varnel rigs my-rigs",
-      .run = [folder] { return run(*folder); },
+      .footer =
+          "Files that are there stay, and then none is written. Exit codes: 0; 2 trouble.\n"
+          "Examples:\n"
+          "  varnel rigs my-rigs\n"
+          "  varnel rigs my-rigs --force",
+      .run = [options] { return run(*options); },
   };
 }
 

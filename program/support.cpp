@@ -2,6 +2,7 @@
 
 #include <iostream>
 #include <sstream>
+#include <system_error>
 
 #include "standin/core/program_folder.h"
 #include "standin/core/witness.h"
@@ -24,6 +25,12 @@ void loadModule(ModuleFile& module, const std::string& chosen) {
   const std::string path = chosen.empty() ? modulePath() : chosen;
   if (path.empty()) throw Trouble{"there is no module beside the program; name one with --module"};
   if (const std::string refusal = module.load(path); !refusal.empty()) throw Trouble{refusal};
+}
+
+void mustBeFolder(const std::string& path) {
+  std::error_code error;
+  std::filesystem::create_directories(pathFromUtf8(path), error);
+  if (error) throw Trouble{"the folder " + path + " cannot be made: " + error.message()};
 }
 
 void endSession(ModuleFile& module) {

@@ -35,6 +35,9 @@ T* must(T* thing, const std::string& what) {
 // The module of --module, else the one beside the program. Throws Trouble.
 void loadModule(ModuleFile& module, const std::string& chosen);
 
+// Makes the folder when it is not there. Throws Trouble.
+void mustBeFolder(const std::string& path);
+
 // Runs a tool in Modeler or Layout; the panel that it opened. Throws Trouble.
 template <class Host>
 Panel& openTool(Host& host, ModuleFile& module, const char* tool) {

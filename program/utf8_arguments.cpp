@@ -9,6 +9,7 @@
 
 #include <cstdio>
 
+#include "program/wildcards.h"
 #include "standin/core/wide_text.h"
 #endif
 
@@ -22,7 +23,7 @@ std::vector<std::string> utf8Arguments(int /*argc*/, char** /*argv*/) {
   wchar_t** const wide = CommandLineToArgvW(GetCommandLineW(), &count);
   for (int i = 1; wide != nullptr && i < count; ++i) arguments.push_back(utf8(wide[i]));
   LocalFree(wide);
-  return arguments;
+  return expandWildcards(arguments);
 }
 
 void useUtf8Streams() {

@@ -6,7 +6,7 @@
 
 namespace standin {
 
-// The arguments behind the program's name.
+// The arguments behind the program's name, with files in the place of "*" and "?".
 std::vector<std::string> utf8Arguments(int argc, char** argv);
 
 // Lets standard output take UTF-8 and write line ends as they are.

@@ -4,11 +4,11 @@
 #include <memory>
 #include <thread>
 
-#include "objectfile/file_bytes.h"
 #include "objectfile/temporary_folder.h"
+#include "objectfile/whole_file.h"
 #include "program/host_option.h"
+#include "program/rig_tool_support.h"
 #include "program/subcommands.h"
-#include "program/support.h"
 #include "standin/core/program_folder.h"
 #include "standin/validate/check_run.h"
 #include "standin/validate/ladder_report.h"
@@ -19,7 +19,6 @@ namespace {
 namespace v = validate;
 
 constexpr double kQuickShare = 0.02;
-constexpr int kNothingToCheck = 2;
 
 struct ValidateOptions {
   std::string module;
@@ -33,6 +32,7 @@ struct ValidateOptions {
   unsigned jobs = std::max(1U, std::thread::hardware_concurrency());
   bool quick = false;
   bool list = false;
+  bool force = false;
 };
 
 // "4" is the ladder up to there, "3-5" are these. Throws Trouble.
@@ -63,13 +63,22 @@ std::string today() {
   return std::string(text) + " UTC";
 }
 
-void writeReports(const std::string& folder, const v::ReportHead& head, const std::vector<v::CheckResult>& results) {
-  std::error_code error;
-  std::filesystem::create_directories(pathFromUtf8(folder), error);
-  for (const auto& [name, content] :
-       {std::pair("report.txt", v::reportText(head, results)), std::pair("report.html", v::reportPage(head, results))}) {
-    if (const auto failure = writeFileBytes(utf8Of(pathFromUtf8(folder) / name), content)) throw Trouble{failure->text};
-  }
+std::string reportFile(const ValidateOptions& options, const char* extension) {
+  return utf8Of(pathFromUtf8(options.report) / (std::string("report.") + extension));
+}
+
+// Before the checks, which can take an hour.
+void prepareReports(const ValidateOptions& options) {
+  if (options.report.empty()) return;
+  mustBeFolder(options.report);
+  mustBeWritten(refusedFiles({reportFile(options, "txt"), reportFile(options, "html")}, existingFiles(options.force)));
+}
+
+void writeReports(const ValidateOptions& options, const v::ReportHead& head, const std::vector<v::CheckResult>& results) {
+  if (options.report.empty()) return;
+  const Existing existing = existingFiles(options.force);
+  mustBeWritten(writeWholeFile(reportFile(options, "txt"), v::reportText(head, results), existing));
+  mustBeWritten(writeWholeFile(reportFile(options, "html"), v::reportPage(head, results), existing));
 }
 
 int list(const v::RunOrder& order) {
@@ -89,6 +98,7 @@ int validateModule(const ValidateOptions& options) {
   order.module = options.module.empty() ? modulePath() : utf8Of(std::filesystem::absolute(pathFromUtf8(options.module)));
   if (order.module.empty()) throw Trouble{"there is no module beside the program; name one"};
   if (!std::filesystem::exists(pathFromUtf8(order.module))) throw Trouble{"there is no file " + order.module};
+  prepareReports(options);
   const TemporaryFolder folder;
   order.program = programFile();
   order.folder = folder.path();
@@ -103,17 +113,12 @@ int validateModule(const ValidateOptions& options) {
   const v::ReportHead head{order.module, v::thisBuild(), today(), order.seed, order.share, host};
   const std::string text = v::reportText(head, results);
   std::cout << text.substr(text.rfind("\n\n") + 1);
-  if (!options.report.empty()) writeReports(options.report, head, results);
+  writeReports(options, head, results);
   return v::isSound(results) ? 0 : 1;
 }
 
 int run(const ValidateOptions& options) {
-  try {
-    return validateModule(options);
-  } catch (const Trouble& trouble) {
-    std::cerr << trouble.why << "\n";
-    return kNothingToCheck;
-  }
+  return exitCodeOf([&] { return validateModule(options); });
 }
 
 }  // namespace
@@ -127,10 +132,11 @@ Command validateCommand() {
           {
               {"module", &options->module, "The module's file (the one beside this program by default)"},
               {"--level", &options->levels, "The ladder up to a level, or a range: 4, 7-9", {.showsDefault = true}},
-              {"--only", &options->only, "Only these checks, by name"},
+              {"--only", &options->only, "Only these checks, by name", {.separator = ','}},
               hostOption(options->host),
               {"--seed", &options->seed, "Of everything random", {.showsDefault = true}},
               {"--report", &options->report, "Write report.txt and report.html into this folder"},
+              forceOption(options->force),
               {"--share",
                &options->share,
                "Do only this share of the long checks of levels 7 to 11",
@@ -145,8 +151,11 @@ Command validateCommand() {
           },
       .footer =
           "Exit code 0: sound; 1: something was found; 2: nothing could be checked.\n\n"
-          "Examples:\n  varnel validate varnel.p\n  varnel validate varnel.p --level 11 --report report\n"
-          "  varnel validate --only walks --seed 7\n  varnel validate --level 5 --host new-bones=selected",
+          "Examples:\n  varnel validate --only descriptor,servers " +
+          moduleFileName() +
+          "\n  varnel validate --level 3 --report report\n"
+          "  varnel validate --only walks --quick --seed 7\n"
+          "  varnel validate --level 5-5 --host new-bones=selected --host sets=fire",
       .run = [options] { return run(*options); },
   };
 }

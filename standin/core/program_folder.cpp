@@ -37,6 +37,8 @@ std::string programFile() { return utf8(runningFile()); }
 
 std::string programFolder() { return utf8(runningFile().parent_path()); }
 
+std::string moduleFileName() { return kModuleName; }
+
 std::string modulePath() {
   if (const char* const chosen = std::getenv("VARNEL_MODULE"); chosen != nullptr && *chosen != '\0') return chosen;
   const fs::path folder = runningFile().parent_path();

@@ -48,6 +48,19 @@ TEST_F(ModelerFiles, ATagThatAnEditSetIsInTheSavedFile) {
   EXPECT_EQ(again.skelegon("背骨")->tag(settingTag(13)), "2");
 }
 
+TEST_F(ModelerFiles, AnObjectThatMustNotBeWrittenStaysAsItIs) {
+  writeDemoRig(path("rig.lwo"));
+  const std::string before = *readFileBytes(path("rig.lwo"));
+  opened(path("rig.lwo"));
+  using Permissions = std::filesystem::perms;
+  std::filesystem::permissions(pathFromUtf8(path("rig.lwo")), Permissions::owner_read);
+  const auto failure = host.save();
+  ASSERT_TRUE(failure);
+  EXPECT_NE(failure->text.find("it is read-only"), std::string::npos) << failure->text;
+  EXPECT_TRUE(*readFileBytes(path("rig.lwo")) == before);
+  std::filesystem::permissions(pathFromUtf8(path("rig.lwo")), Permissions::owner_all);  // so that the folder can go
+}
+
 // The second tag of a type stands in a chunk behind the first.
 void writeRepeatedTag(const std::string& path) {
   ObjectFile object = *parseObject(*serializeObject(twoLayerRig()));

@@ -7,7 +7,7 @@
 #include <sstream>
 
 #include "objectfile/temporary_folder.h"
-#include "program/replace_file.h"
+#include "objectfile/whole_file.h"
 #include "program/subcommands.h"
 #include "program/support.h"
 #include "tests/standin/rigs_fixture.h"

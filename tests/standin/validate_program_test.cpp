@@ -24,7 +24,7 @@ class ValidateCommand : public Validation {
 };
 
 TEST_F(ValidateCommand, GivesZeroForASoundModule) {
-  EXPECT_EQ(varnel({modulePath(), "--only", "descriptor", "servers"}), 0) << output;
+  EXPECT_EQ(varnel({modulePath(), "--only", "descriptor,servers"}), 0) << output;
   EXPECT_NE(output.find("pass   servers"), std::string::npos) << output;
 }
 

@@ -1,0 +1,77 @@
+#include "objectfile/whole_file.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <system_error>
+
+#include "objectfile/file_bytes.h"
+
+namespace standin {
+namespace {
+
+namespace fs = std::filesystem;
+
+Failure cannotWrite(const std::string& path, const std::string& why) { return Failure{"cannot write " + path + ": " + why}; }
+
+// In the same folder, since a rename across file systems would be a copy.
+fs::path besides(const fs::path& path) {
+  fs::path name = path.filename();
+  name += ".varnel-" + std::to_string(std::random_device()());
+  return path.parent_path() / name;
+}
+
+// The temporary name is nobody's concern: failures tell of the file that was to be written.
+std::optional<Failure> writeThrough(const fs::path& path, const std::string& bytes, std::optional<fs::perms> permissions) {
+  const fs::path temporary = besides(path);
+  std::optional<Failure> failure = writeFileBytes(utf8Of(temporary), bytes, utf8Of(path));
+  std::error_code error;
+  if (!failure && permissions) fs::permissions(temporary, *permissions, error);
+  if (!failure && !error) fs::rename(temporary, path, error);
+  if (!failure && error) failure = cannotWrite(utf8Of(path), error.message());
+  if (failure) fs::remove(temporary, error);
+  return failure;
+}
+
+// Why the file itself must not be written; empty when it may. The administrator, whom the system lets write everything, is
+// held to what the permissions say.
+std::string whyProtected(const fs::path& path, fs::perms permissions) {
+  constexpr fs::perms kWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  if ((permissions & kWrite) == fs::perms::none) return "it is read-only";
+  errno = 0;
+  const std::fstream file(path, std::ios::binary | std::ios::in | std::ios::out);
+  return file ? std::string() : std::generic_category().message(errno);
+}
+
+// A link that leads nowhere is something, too.
+bool isThere(const std::string& path) {
+  std::error_code error;
+  return fs::exists(fs::symlink_status(pathFromUtf8(path), error));
+}
+
+}  // namespace
+
+std::optional<Failure> refusedFiles(const std::vector<std::string>& paths, Existing existing) {
+  const auto found = std::find_if(paths.begin(), paths.end(), isThere);
+  if (existing == Existing::Replace || found == paths.end()) return {};
+  return Failure{*found + " exists and is not written over; --force writes over it"};
+}
+
+std::optional<Failure> writeWholeFile(const std::string& path, const std::string& bytes, Existing existing) {
+  if (auto refused = refusedFiles({path}, existing)) return refused;
+  return isThere(path) ? replaceFile(path, bytes) : writeThrough(pathFromUtf8(path), bytes, {});
+}
+
+std::optional<Failure> replaceFile(const std::string& path, const std::string& bytes) {
+  std::error_code error;
+  const fs::path target = fs::canonical(pathFromUtf8(path), error);
+  if (error) return cannotWrite(path, error.message());
+  const fs::file_status status = fs::status(target, error);
+  if (!fs::is_regular_file(status)) return cannotWrite(path, "it is no file");
+  if (const std::string why = whyProtected(target, status.permissions()); !why.empty()) return cannotWrite(path, why);
+  return writeThrough(target, bytes, status.permissions());
+}
+
+}  // namespace standin

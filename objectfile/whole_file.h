@@ -1,0 +1,29 @@
+// Writing files whole: what reads the file sees the old content or the new, never a part. Nothing is written over unless
+// someone asked for it. Paths are UTF-8.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "objectfile/outcome.h"
+
+namespace standin {
+
+// What becomes of a file that is there already.
+enum class Existing { Keep, Replace };
+
+// The answer of --force.
+inline Existing existingFiles(bool isForced) { return isForced ? Existing::Replace : Existing::Keep; }
+
+// Which of the files is there and has to be kept, for those who write several: none of them is written then.
+std::optional<Failure> refusedFiles(const std::vector<std::string>& paths, Existing existing);
+
+// Fails when there is something of that name that has to be kept. Empty when the file was written.
+std::optional<Failure> writeWholeFile(const std::string& path, const std::string& bytes, Existing existing);
+
+// Writes a file beside it and renames that; its permissions stay. A link is followed. What must not be written is refused,
+// though a file could be put in its place. After a failure the file is as it was.
+std::optional<Failure> replaceFile(const std::string& path, const std::string& bytes);
+
+}  // namespace standin
