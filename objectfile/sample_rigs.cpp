@@ -19,6 +19,16 @@ void colour(RigBuilder& rig, const Skelegon& skelegon, const char* forProgram, c
   rig.settings(skelegon, {{129, word}});
 }
 
+// As the panel stores that the colour is left alone: a bone of which none is stored becomes orange.
+void leaveOtherColoursAlone(ObjectFile& object) {
+  for (ObjectLayer& layer : object.layers) {
+    for (ObjectPolygon& skelegon : layer.group(lw::kTypeBone).polygons) {
+      if (skelegon.tag(lw::kTagColour) != nullptr) continue;
+      for (const std::uint32_t type : {lw::kTagColour, settingTag(129)}) skelegon.setTag(type, "Modeler");
+    }
+  }
+}
+
 struct Spine {
   Skelegon root, middle, chest, neck, head, jaw;
 };
@@ -77,8 +87,8 @@ void setNeck(RigBuilder& rig, const Skelegon& neck) {
 void setHead(RigBuilder& rig, const Skelegon& head) {
   // weights, the target item and the limits of the rotation
   rig.tag(head, lw::kTagBoneWeight, "Head");
-  colour(rig, head, "", "Cyan");
-  rig.settings(head, {{29, "1"}, {30, "1"}, {186, "2"}});
+  colour(rig, head, "Purple", "Purple");
+  rig.settings(head, {{186, "2"}});
   rig.settings(head, {{52, "Head_tar"}, {130, "[file]:Lizard"}, {136, "1"}, {145, "0"}, {152, "Cyan"}});
   rig.settings(head, {{95, "1"},
                       {96, "1"},
@@ -179,7 +189,6 @@ void addTail(RigBuilder& rig) {
   for (const Skelegon& part : tail) rig.settings(part, {{12, "[file]:Lizard"}, {13, "1"}, {16, "1"}});
   rig.settings(tail[0], {{51, "Root"}});
   rig.tag(tail[0], lw::kTagBoneWeight, "Tail_01");
-  colour(rig, tail[5], "Modeler", "Modeler");
 }
 
 struct NameRow {
@@ -230,7 +239,20 @@ ObjectFile makeDemoRig() {
 
   rig.layer(1, "Tail", {}, 0);
   addTail(rig);
-  return rig.take();
+  ObjectFile object = rig.take();
+  leaveOtherColoursAlone(object);
+  return object;
+}
+
+ObjectFile makeEverySettingRig() {
+  ObjectFile object = makeDemoRig();
+  for (ObjectPolygon& skelegon : object.layers[0].group(lw::kTypeBone).polygons) {
+    if (*skelegon.tag(lw::kTagBone) != "Head") continue;
+    for (const std::uint8_t number : std::initializer_list<std::uint8_t>{29, 30}) skelegon.setTag(settingTag(number), "1");
+    skelegon.setTag(lw::kTagColour, "");
+    skelegon.setTag(settingTag(129), "Cyan");
+  }
+  return object;
 }
 
 std::string lizardNameInJapanese(std::string text) {
@@ -266,9 +288,11 @@ ObjectFile makeJapaneseRig() {
   rig.settings(bones[0], {{142, "腰_initpos"}, {151, "0"}});
   rig.settings(bones[1], {{26, "1"}, {48, "1"}, {49, "60.000000"}});
   rig.tag(bones[3], lw::kTagBoneWeight, "頭ウェイト");
-  rig.tag(bones[3], lw::kTagColour, "Red");
+  colour(rig, bones[3], "Red", "Red");
   rig.settings(bones[3], {{52, "頭_tar"}, {130, "腰"}, {136, "1"}, {152, "Orang"}, {95, "1"}});
-  return rig.take();
+  ObjectFile object = rig.take();
+  leaveOtherColoursAlone(object);
+  return object;
 }
 
 ObjectFile makeChainRig(std::size_t skelegons, std::size_t settingsEach) {

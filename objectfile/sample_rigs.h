@@ -9,9 +9,12 @@
 
 namespace standin {
 
-// A lizard of two layers, "Lizard" and "Tail": meshes, weight maps and 24 skelegons that together store every bone setting,
-// helper nulls of all seven kinds among them.
+// A lizard of two layers, "Lizard" and "Tail": meshes, weight maps and 24 skelegons that together store every bone setting
+// but the two weight switches, helper nulls of all seven kinds among them. One conversion brings all of it to the bones.
 ObjectFile makeDemoRig();
+// The same with what one conversion does not bring as it is stored: both weight switches, and a colour of which Layout reads
+// the host's empty half.
+ObjectFile makeEverySettingRig();
 
 // The same with Japanese names, for pictures: 腰, 背骨①, 前足_L_01, 尾_01.
 ObjectFile makeJapaneseLizard();

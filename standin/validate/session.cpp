@@ -18,7 +18,7 @@ TripRig rigOf(ObjectFile object, const std::string& path) {
   return {std::move(object), path};
 }
 
-TripRig lizardRig(const std::string& folder) { return rigOf(makeDemoRig(), folder + "/lizard.lwo"); }
+TripRig lizardRig(const std::string& folder) { return rigOf(makeEverySettingRig(), folder + "/lizard.lwo"); }
 TripRig japaneseRig(const std::string& folder) { return rigOf(makeJapaneseRig(), folder + "/人形.lwo"); }
 
 Session::Session(Program program, const TripRig& rig, const std::string& module, const HostOptions& host) : path_(module) {

@@ -21,7 +21,7 @@ struct TripRig {
   std::string path;
 };
 
-// The rigs that are shipped, written into a folder.
+// The rigs that are shipped, the lizard with every setting, written into a folder.
 TripRig lizardRig(const std::string& folder);
 TripRig japaneseRig(const std::string& folder);
 // Writes any object under a name.

@@ -212,14 +212,25 @@ TEST(BuiltRigs, AChainSharesThePointsBetweenParentAndChild) {
   EXPECT_EQ(rig.object().layers[0].points.size(), 4U);
 }
 
-TEST(DemoRig, StoresEverySettingThatThePanelCanMake) {
+std::set<std::uint32_t> typesStoredIn(ObjectFile rig) {
   std::set<std::uint32_t> stored;
-  ObjectFile rig = makeDemoRig();
   for (ObjectLayer& layer : rig.layers) {
     for (const ObjectPolygon& skelegon : layer.group(lw::kTypeBone).polygons) {
       for (const PolygonTag& tag : skelegon.tags) stored.insert(tag.type);
     }
   }
+  return stored;
+}
+
+TEST(DemoRig, StoresEverySettingButTheWeightSwitches) {
+  std::set<std::uint32_t> stored = typesStoredIn(makeEverySettingRig());
+  for (const std::uint8_t number : std::initializer_list<std::uint8_t>{29, 30})
+    EXPECT_EQ(stored.erase(settingTag(number)), 1U);
+  EXPECT_EQ(typesStoredIn(makeDemoRig()), stored);
+}
+
+TEST(EverySettingRig, StoresEverySettingThatThePanelCanMake) {
+  const std::set<std::uint32_t> stored = typesStoredIn(makeEverySettingRig());
   // Those that no control writes, and the name and the weight map, which have tag types of their own.
   const std::set<int> without = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 14, 15, 18, 19, 20, 21, 22, 23, 24, 25, 28, 144};
   for (int number = 0; number < 187; ++number) {
