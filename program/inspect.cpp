@@ -9,6 +9,7 @@
 #include "program/rig_tool_support.h"
 #include "program/subcommands.h"
 #include "rigs/findings.h"
+#include "rigs/japanese_texts.h"
 #include "rigs/report.h"
 
 namespace standin {
@@ -19,6 +20,8 @@ struct InspectOptions {
   std::string language = "en";
   std::string codePage;
   std::vector<std::string> ignored;
+  std::string skelegon;
+  bool findingsOnly = false;
   bool all = false;
   bool json = false;
   bool strict = false;
@@ -37,9 +40,29 @@ rigs::CodePage codePageOf(const std::string& name) {
   return codePage;
 }
 
-rigs::Inspected inspect(const std::string& path, const rigs::CodePage& codePage, const std::vector<std::string>& ignored) {
+bool hasSkelegon(const rigs::Rig& rig, const std::string& name) {
+  return std::any_of(rig.skelegons.begin(), rig.skelegons.end(),
+                     [&](const auto& skelegon) { return skelegon.name == name; });
+}
+
+// What is told of the file and of a layer holds for the skelegons in it too.
+bool concerns(const rigs::Rig& rig, const rigs::Finding& finding, const std::string& name) {
+  const auto bearsName = [&](std::size_t i) { return rig.skelegons[i].name == name; };
+  if (finding.skelegon) return bearsName(*finding.skelegon);
+  if (!finding.layer) return true;
+  const auto& skelegons = rig.layers[*finding.layer].skelegons;
+  return std::any_of(skelegons.begin(), skelegons.end(), bearsName);
+}
+
+bool isWanted(const rigs::Rig& rig, const rigs::Finding& finding, const InspectOptions& options) {
+  const std::string id = rigs::findingRow(finding.kind).id;
+  if (std::find(options.ignored.begin(), options.ignored.end(), id) != options.ignored.end()) return false;
+  return options.skelegon.empty() || concerns(rig, finding, options.skelegon);
+}
+
+rigs::Inspected inspect(const std::string& path, const rigs::CodePage& codePage, const InspectOptions& options) {
   rigs::Inspected file{path, {}, {}, {}};
-  const Outcome<ObjectFile> object = readObject(path, TextlessTags::LeaveOut);
+  Outcome<ObjectFile> object = readObject(path, TextlessTags::LeaveOut);
   if (!object) {
     file.trouble = object.why();
     return file;
@@ -47,26 +70,40 @@ rigs::Inspected inspect(const std::string& path, const rigs::CodePage& codePage,
   file.rig = rigs::rigOf(*object, fileNameOf(path));
   file.rig.pathLength = std::filesystem::absolute(pathFromUtf8(path)).u16string().size();
   file.findings = rigs::findingsOf(file.rig, codePage);
-  std::erase_if(file.findings, [&](const rigs::Finding& finding) {
-    const std::string id = rigs::findingRow(finding.kind).id;
-    return std::find(ignored.begin(), ignored.end(), id) != ignored.end();
-  });
+  if (file.rig.isInJapanese) {
+    // Judged as it is stored, shown as it can be read.
+    rigs::putInUtf8(*object);
+    file.rig = rigs::rigOf(*object, fileNameOf(path));
+    file.rig.isInJapanese = true;
+  }
+  std::erase_if(file.findings, [&](const rigs::Finding& finding) { return !isWanted(file.rig, finding, options); });
+  if (!options.skelegon.empty() && !hasSkelegon(file.rig, options.skelegon)) {
+    file.trouble = path + ": no skelegon is called " + options.skelegon;
+  }
   return file;
 }
 
 void printFile(const rigs::Inspected& file, const rigs::ReportOptions& options, const rigs::CodePage& codePage) {
-  std::cout << "== " << file.path << "\n" << rigs::treeText(file.rig, options);
-  std::cout << rigs::findingsText(file.rig, file.findings, codePage.number(), options.language);
+  const bool japanese = options.language == rigs::Language::Japanese;
+  std::cout << "== " << file.path;
+  if (file.rig.isInJapanese) {
+    const std::string page = std::to_string(rigs::kJapaneseCodePage);
+    std::cout << (japanese ? " (コードページ " + page + " として読んだ)" : " (read in code page " + page + ")");
+  }
+  std::cout << "\n";
+  if (!options.findingsOnly) std::cout << rigs::treeText(file.rig, options);
+  std::cout << rigs::findingsText(file.rig, file.findings, options.language)
+            << rigs::summaryText(file.path, file.findings, codePage.number(), options.language);
 }
 
 int run(const InspectOptions& options) {
   return exitCodeOf([&] {
     const rigs::CodePage codePage = codePageOf(options.codePage);
-    const rigs::ReportOptions report{languageOf(options.language), options.all};
+    const rigs::ReportOptions report{languageOf(options.language), options.all, options.findingsOnly, options.skelegon};
     int result = 0;
     std::vector<rigs::Inspected> files;
     for (const std::string& path : options.files) {
-      files.push_back(inspect(path, codePage, options.ignored));
+      files.push_back(inspect(path, codePage, options));
       const rigs::Inspected& file = files.back();
       if (!file.trouble.empty()) {
         std::cout.flush();
@@ -75,7 +112,7 @@ int run(const InspectOptions& options) {
       } else if (!options.json) {
         printFile(file, report, codePage);
       }
-      if (options.strict && !file.findings.empty()) result = std::max(result, 1);
+      if (options.strict && rigs::countOf(file.findings, rigs::FindingWeight::Problem) > 0) result = std::max(result, 1);
     }
     if (options.json) std::cout << rigs::inspectionJson(files, report);
     return result;
@@ -102,13 +139,17 @@ Command inspectCommand() {
               {"--code-page", &options->codePage,
                "Code page of the system that runs Layout: 932, 1252, ... or utf-8 (this system's on Windows, else 932)"},
               {"--ignore", &options->ignored, "Kinds of findings to leave out", {.choices = findingIds(), .separator = ','}},
+              {"--findings", &options->findingsOnly, "Print the findings only"},
+              {"--skelegon", &options->skelegon, "Show the skelegon of this name alone, and what concerns it"},
               {"--all", &options->all, "Show settings that are at their default and further tags too"},
               {"--json", &options->json, "Print JSON"},
-              {"--strict", &options->strict, "Exit with 1 when there are findings"},
+              {"--strict", &options->strict, "Exit with 1 when there are problems"},
           },
       .footer =
-          "Shown is what differs from the defaults. Exit codes: 0; 1 with --strict and findings; 2 when a file cannot be "
-          "read.\n"
+          "Shown is what differs from the defaults. A problem is a setting that will not arrive, or not as it is stored; a "
+          "note\n"
+          "may be meant so. Exit codes: 0; 1 with --strict and problems; 2 when a file cannot be read or has no such "
+          "skelegon.\n"
           "Examples:\n"
           "  varnel inspect biped.lwo\n"
           "  varnel inspect --lang ja --all biped.lwo\n"

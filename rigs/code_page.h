@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -25,6 +26,8 @@ class CodePage {
   bool isKnown() const;
   // Whether the code page has every character of the UTF-8 text. False for a text that is no UTF-8.
   bool holds(std::string_view utf8) const;
+  // The text of that code page as UTF-8; nothing when it is none.
+  std::optional<std::string> decoded(std::string_view text) const;
 
  private:
   struct Tables;

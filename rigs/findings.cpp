@@ -6,7 +6,9 @@
 #include <string_view>
 #include <utility>
 
+#include "rigs/japanese_texts.h"
 #include "rigs/names_in_layout.h"
+#include "rigs/renamer_names.h"
 #include "rigs/text.h"
 #include "rigs/values.h"
 #include "skelegon/item_names.h"
@@ -26,7 +28,22 @@ std::string_view valueOf(const Skelegon& skelegon, const Setting& setting) {
   const std::string* const text = skelegon.stored(setting);
   return text != nullptr ? std::string_view(*text) : setting.defaultText;
 }
-bool isOn(const Skelegon& skelegon, Slot slot) { return skg::leadingInteger(valueOf(skelegon, settingOf(slot))) != 0; }
+int integerOf(const Skelegon& skelegon, Slot slot) { return skg::leadingInteger(valueOf(skelegon, settingOf(slot))); }
+bool isOn(const Skelegon& skelegon, Slot slot) { return integerOf(skelegon, slot) != 0; }
+
+// Whether one is stored that says something else than the default.
+bool isChanged(const Skelegon& skelegon, Slot slot) {
+  const Setting& setting = settingOf(slot);
+  return !meansTheSame(setting, valueOf(skelegon, setting), setting.defaultText);
+}
+
+// The range as it is stored, or a hundredth of it, as it is sent: "10–250 m".
+std::string rangeShown(const Skelegon& skelegon, double factor) {
+  const auto metres = [&](Slot slot) { return shortNumber(skg::leadingReal(valueOf(skelegon, settingOf(slot))) * factor); };
+  return metres(Slot::RangeMin) + "–" + metres(Slot::RangeMax) + " m";
+}
+
+bool isProblem(const Finding& finding) { return findingRow(finding.kind).weight == FindingWeight::Problem; }
 
 class FindingSearch {
  public:
@@ -49,14 +66,24 @@ class FindingSearch {
       checkLayer(l);
       for (const std::size_t i : layer.skelegons) checkSkelegon(i);
     }
-    // What linked names become is often meant so: behind what is not.
-    const auto isUnmeant = [](const Finding& finding) { return finding.kind != FindingKind::BecomesNull; };
-    std::stable_partition(findings_.begin(), findings_.end(), isUnmeant);
+    std::stable_partition(findings_.begin(), findings_.end(), isProblem);
     return std::move(findings_);
   }
 
  private:
   const Layer& layerOf(const Skelegon& skelegon) const { return rig_.layers[skelegon.layer]; }
+
+  // Texts as they are shown. They are judged as they are stored.
+  std::string readable(const std::string& text) const { return rig_.isInJapanese ? inUtf8(text) : text; }
+  std::string quoted(const std::string& text) const { return inQuotes(readable(text)); }
+  // The file's part of an item's name is UTF-8 in any case.
+  std::string quotedItem(const Layer& layer, const std::string& text) const {
+    return inQuotes(itemMeant(layer, readable(text)));
+  }
+  std::string quotedItem(const Layer& layer) const {
+    if (!layer.itemName.ends_with(layer.name)) return inQuotes(layer.itemName);
+    return inQuotes(layer.itemName.substr(0, layer.itemName.size() - layer.name.size()) + readable(layer.name));
+  }
 
   Finding& add(FindingKind kind, std::string text = {}) {
     findings_.push_back({kind, {}, {}, nullptr, std::move(text), {}, {}});
@@ -80,17 +107,28 @@ class FindingSearch {
     if (!codePage_.holds(rig_.fileName)) {
       add(FindingKind::PathCodePage, inQuotes(rig_.fileName)).number = std::to_string(codePage_.number());
     }
+    if (rig_.isInJapanese) add(FindingKind::TextCodePage).number = std::to_string(kJapaneseCodePage);
   }
 
   void checkLayer(std::size_t l) {
     const Layer& layer = rig_.layers[l];
-    if (!matchesItsItem(rig_, layer)) add(FindingKind::LayerName, inQuotes(layer.itemName)).layer = l;
+    if (!matchesItsItem(rig_, layer)) add(FindingKind::LayerName, quotedItem(layer)).layer = l;
     const auto before = rig_.layers.begin() + static_cast<std::ptrdiff_t>(l);
     if (std::any_of(rig_.layers.begin(), before, [&](const Layer& other) { return other.itemName == layer.itemName; })) {
-      add(FindingKind::LayerTwice, inQuotes(layer.name)).layer = l;
+      add(FindingKind::LayerTwice, quoted(layer.name)).layer = l;
     }
     // Of the four settings of a layer each bone keeps its own falloff.
     for (const Slot slot : {Slot::UseBonesFromObject, Slot::BoneCalc, Slot::LimitBoneNum}) checkObjectWide(l, slot);
+    checkCounters(l);
+  }
+
+  void checkCounters(std::size_t l) {
+    const std::optional<SharedNames> shared = sharedByCounters(rig_, rig_.layers[l]);
+    if (!shared) return;
+    Finding& finding = add(FindingKind::CountersTwice, quoted(rig_.skelegons[shared->second].name));
+    finding.layer = l;
+    finding.other = quoted(rig_.skelegons[shared->first].name);
+    finding.number = std::to_string(shared->skelegons);
   }
 
   // The object has one such value, and each bone sends that of its skelegon.
@@ -107,7 +145,7 @@ class FindingSearch {
       last = &skelegon;
     }
     if (isOne) return;
-    Finding& finding = add(FindingKind::GroupDiffers, inQuotes(last->name));
+    Finding& finding = add(FindingKind::GroupDiffers, quoted(last->name));
     finding.layer = l;
     finding.setting = &setting;
   }
@@ -120,9 +158,9 @@ class FindingSearch {
       if (text != nullptr) checkValue(i, setting, *text);
     }
     checkTogether(i);
+    checkColourStored(i);
     for (const PolygonTag& tag : skelegon.tags) {
-      if (isUnknownSlot(tag.type))
-        addFor(i, nullptr, FindingKind::UnknownSlot, inQuotes(tag.text)).other = tagName(tag.type);
+      if (isUnknownSlot(tag.type)) addFor(i, nullptr, FindingKind::UnknownSlot, quoted(tag.text)).other = tagName(tag.type);
     }
     checkOddTags(i);
   }
@@ -139,6 +177,32 @@ class FindingSearch {
     if (isOn(skelegon, Slot::Twist) && !isOn(skelegon, Slot::BoneType)) {
       addFor(i, &settingOf(Slot::Twist), FindingKind::TwistWithoutJoint);
     }
+    if (isOn(skelegon, Slot::LimitedRange)) {
+      addFor(i, &settingOf(Slot::LimitedRange), FindingKind::LimitedRange, rangeShown(skelegon, 1)).other =
+          rangeShown(skelegon, 0.01);
+    }
+    checkScaleFollow(i);
+  }
+
+  // What the Z scale follows is sent by the word of the Y scale's controller.
+  void checkScaleFollow(std::size_t i) {
+    constexpr int kSameAsItem = 6;
+    const Skelegon& skelegon = rig_.skelegons[i];
+    const bool isSent = integerOf(skelegon, Slot::YScaleController) == kSameAsItem;
+    const bool isMeant = integerOf(skelegon, Slot::ZScaleController) == kSameAsItem;
+    const bool isStored = isChanged(skelegon, Slot::ZScaleFollow) || isChanged(skelegon, Slot::ZScaleFactor) ||
+                          isChanged(skelegon, Slot::ZScaleOffset);
+    if (isMeant && !isSent) addFor(i, &settingOf(Slot::ZScaleFollow), FindingKind::ZFollowLost);
+    if (isSent && !isMeant && isStored) addFor(i, &settingOf(Slot::ZScaleFollow), FindingKind::ZFollowSent);
+  }
+
+  // The bone's colour alone has no default. Without a name nothing is sent, no colour either.
+  void checkColourStored(std::size_t i) {
+    const Skelegon& skelegon = rig_.skelegons[i];
+    const Setting& colour = settingOf(Slot::Colour);
+    const bool isStored =
+        skelegon.stored(colour) != nullptr || skelegon.stored(*settingOfTag(skg::kColourCopyTag)) != nullptr;
+    if (!skelegon.name.empty() && !isStored) addFor(i, &colour, FindingKind::ColourMissing);
   }
 
   // Only where it makes a difference to the conversion.
@@ -147,8 +211,8 @@ class FindingSearch {
     const auto isRead = [](std::uint32_t type) { return type == lw::kTagBone || settingOfTag(type) != nullptr; };
     for (const RepeatedTag& tag : skelegon.repeated) {
       if (!isRead(tag.type)) continue;
-      Finding& finding = addFor(i, settingOfTag(tag.type), FindingKind::TagRepeated, inQuotes(tag.first));
-      finding.other = inQuotes(tag.last);
+      Finding& finding = addFor(i, settingOfTag(tag.type), FindingKind::TagRepeated, quoted(tag.first));
+      finding.other = quoted(tag.last);
       finding.number = std::to_string(tag.times);
     }
     for (const TextlessTag& tag : skelegon.textless) {
@@ -163,21 +227,30 @@ class FindingSearch {
       addFor(i, nullptr, FindingKind::NoName);
       return;
     }
+    checkLength(i, nullptr, skelegon.name);
     // Told once for all that bear it.
     if (skelegon.namesakes > 1 && skelegon.number == 0) {
       addFor(i, nullptr, FindingKind::NameTwice).number = std::to_string(skelegon.namesakes);
     }
     const std::size_t first = *layersOfName_[skelegon.name].begin();
     if (first != skelegon.layer && skelegon.number == 0) {
-      addFor(i, nullptr, FindingKind::NameInTwoLayers, inQuotes(rig_.layers[first].name));
+      addFor(i, nullptr, FindingKind::NameInTwoLayers, quoted(rig_.layers[first].name));
     }
     if (items_.count(skelegon.name) != 0) addFor(i, nullptr, FindingKind::NameOfItem);
+  }
+
+  void checkLength(std::size_t i, const Setting* setting, const std::string& text) {
+    if (text.size() <= kLongestFieldText) return;
+    Finding& finding = addFor(i, setting, FindingKind::NameTooLong);
+    finding.number = std::to_string(text.size());
+    finding.other = std::to_string(kLongestFieldText);
   }
 
   void checkValue(std::size_t i, const Setting& setting, const std::string& text) {
     if (isNumeric(setting.kind)) return checkNumber(i, setting, text);
     if (setting.kind == SlotKind::Colour) return checkColour(i, setting, text);
     if (text.empty()) return;
+    checkLength(i, &setting, text);
     if (setting.slot == Slot::WeightMap) checkCommand(i, setting, "BoneWeightMapName", text);
     if (skg::linkedItemOf(setting.slot) != nullptr) checkHelper(i, setting, text);
     if (skg::isParentName(setting.slot)) checkLookUp(i, setting, text, FindingKind::ParentMissing);
@@ -187,13 +260,13 @@ class FindingSearch {
   void checkNumber(std::size_t i, const Setting& setting, const std::string& text) {
     const Reading reading = readingOf(setting.kind, text);
     if (reading == Reading::Nothing) {
-      addFor(i, &setting, FindingKind::NumberUnreadable, inQuotes(text));
+      addFor(i, &setting, FindingKind::NumberUnreadable, quoted(text));
       return;
     }
     const bool isWhole =
         setting.kind == SlotKind::Choice || setting.kind == SlotKind::Flag || setting.kind == SlotKind::Integer;
     if (reading == Reading::Beginning) {
-      addFor(i, &setting, FindingKind::NumberPartly, inQuotes(text)).number =
+      addFor(i, &setting, FindingKind::NumberPartly, quoted(text)).number =
           isWhole ? std::to_string(skg::leadingInteger(text)) : shortNumber(skg::leadingReal(text));
     }
     if (isInList(setting, text)) return;
@@ -210,34 +283,42 @@ class FindingSearch {
     if (text.empty()) {
       addFor(i, &setting, FindingKind::ColourEmpty);
     } else if (std::find(skg::BoneColourNames.begin(), skg::BoneColourNames.end(), text) == skg::BoneColourNames.end()) {
-      addFor(i, &setting, FindingKind::ColourUnknown, inQuotes(text));
+      addFor(i, &setting, FindingKind::ColourUnknown, quoted(text));
     }
   }
 
   void checkHelper(std::size_t i, const Setting& setting, const std::string& text) {
     const std::string item = itemMeant(layerOf(rig_.skelegons[i]), text);
     if (found_.count(item) != 0) return;
-    addFor(i, &setting, FindingKind::BecomesNull, inQuotes(item));
-    checkCommand(i, setting, "AddNull", item);
+    addFor(i, &setting, FindingKind::BecomesNull, quotedItem(layerOf(rig_.skelegons[i]), text));
+    checkCommand(i, setting, "AddNull", text);
   }
 
   void checkLookUp(std::size_t i, const Setting& setting, const std::string& text, FindingKind kind) {
-    const std::string item = itemMeant(layerOf(rig_.skelegons[i]), text);
-    if (found_.count(item) == 0 && nulls_.count(item) == 0) addFor(i, &setting, kind, inQuotes(item));
+    const Layer& layer = layerOf(rig_.skelegons[i]);
+    const std::string item = itemMeant(layer, text);
+    if (found_.count(item) == 0 && nulls_.count(item) == 0) addFor(i, &setting, kind, quotedItem(layer, text));
   }
 
   void checkCommand(std::size_t i, const Setting& setting, const std::string& command, const std::string& text) {
-    const std::string sent = itemMeant(layerOf(rig_.skelegons[i]), text);
+    const Layer& layer = layerOf(rig_.skelegons[i]);
+    const std::string sent = itemMeant(layer, text);
     const std::size_t bytes = command.size() + 1 + sent.size();
     if (bytes > kLongestCommand) {
       Finding& finding = addFor(i, &setting, FindingKind::CommandTooLong);
       finding.other = command;
       finding.number = std::to_string(bytes);
-    } else if (!codePage_.holds(sent)) {
-      Finding& finding = addFor(i, &setting, FindingKind::CommandCodePage, inQuotes(sent));
+    } else if (!arrives(sent)) {
+      Finding& finding = addFor(i, &setting, FindingKind::CommandCodePage, quotedItem(layer, text));
       finding.other = command;
       finding.number = std::to_string(codePage_.number());
     }
+  }
+
+  // What is no UTF-8 is sent as it stands, and so is what it was where that code page is Layout's.
+  bool arrives(const std::string& text) const {
+    const bool isAsItStands = rig_.isInJapanese && codePage_.number() == kJapaneseCodePage && !isUtf8(text);
+    return isAsItStands || codePage_.holds(text);
   }
 
   const Rig& rig_;
@@ -267,18 +348,26 @@ std::string filled(std::string_view pattern, const Finding& finding) {
 
 std::vector<Finding> findingsOf(const Rig& rig, const CodePage& codePage) { return FindingSearch(rig, codePage).all(); }
 
-std::string placeOf(const Rig& rig, const Finding& finding, Language language) {
-  if (!finding.layer) return {};
+Place placeOf(const Rig& rig, const Finding& finding, Language language) {
+  Place place;
+  if (!finding.layer) return place;
   const Layer& layer = rig.layers[*finding.layer];
   const bool japanese = language == Language::Japanese;
-  std::string place = printable(layer.name);
-  if (place.empty()) place = (japanese ? "レイヤー " : "layer ") + std::to_string(layer.number);
-  if (finding.skelegon) place += " / " + nameShown(rig.skelegons[*finding.skelegon], language);
-  if (finding.setting != nullptr) place += " / " + finding.setting->name(language);
+  place.layer = printable(layer.name);
+  if (place.layer.empty()) place.layer = (japanese ? "レイヤー " : "layer ") + std::to_string(layer.number);
+  if (finding.skelegon) place.skelegon = nameShown(rig.skelegons[*finding.skelegon], language);
+  if (finding.setting != nullptr) place.setting = finding.setting->name(language);
   // These are about a stored text; where it is that of no setting, it is the skelegon's name.
   const bool isOfAText = finding.kind == FindingKind::TagRepeated || finding.kind == FindingKind::TextMissing;
-  if (isOfAText && finding.setting == nullptr) place += japanese ? " / 名前" : " / name";
+  if (isOfAText && finding.setting == nullptr) place.setting = japanese ? "名前" : "name";
   return place;
+}
+
+std::string joined(const Place& place) {
+  std::string text = place.layer;
+  if (!place.skelegon.empty()) text += " / " + place.skelegon;
+  if (!place.setting.empty()) text += " / " + place.setting;
+  return text;
 }
 
 std::string sentenceOf(const Finding& finding, Language language) {

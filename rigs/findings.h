@@ -20,6 +20,8 @@ enum class FindingKind : std::size_t {
   NameTwice,
   NameInTwoLayers,
   NameOfItem,
+  NameTooLong,
+  CountersTwice,
   BecomesNull,
   ParentMissing,
   BonesFromMissing,
@@ -27,24 +29,35 @@ enum class FindingKind : std::size_t {
   FlagOutside,
   ColourUnknown,
   ColourEmpty,
+  ColourMissing,
   NumberUnreadable,
   NumberPartly,
   CommandTooLong,
   PathTooLong,
   PathCodePage,
   CommandCodePage,
+  TextCodePage,
   UnknownSlot,
   WeightOnlyLate,
   WeightOnlyLost,
   TwistWithoutJoint,
+  LimitedRange,
+  ZFollowLost,
+  ZFollowSent,
   GroupDiffers,
   TagRepeated,
   TextMissing,
 };
-inline constexpr std::size_t kFindingKinds = 27;
+inline constexpr std::size_t kFindingKinds = 34;
+
+enum class FindingWeight {
+  Problem,  // a setting will not arrive, will arrive at another item or as something else
+  Note,     // the rig may be meant so
+};
 
 struct FindingRow {
   FindingKind kind;
+  FindingWeight weight;
   const char* id;       // on the command line and in JSON; the anchor of its entry in the manual
   const char* page;     // of the manual that has this entry
   const char* english;  // what will happen; {text}, {other} and {number} stand for what the finding is about
@@ -53,6 +66,8 @@ struct FindingRow {
 };
 const std::array<FindingRow, kFindingKinds>& findingTable();
 const FindingRow& findingRow(FindingKind kind);
+
+const char* wordOf(FindingWeight weight, Language language);
 
 // The entry, as it lies beside the program: "manual/en/surprises.html#no-name".
 std::string manualEntryOf(FindingKind kind, Language language);
@@ -67,12 +82,19 @@ struct Finding {
   std::string number;
 };
 
-// In the order of the file: the file itself, then each layer with its skelegons and their settings; the names that become
-// nulls stand last.
+// The problems, then the notes. Each in the order of the file: the file itself, then each layer with its skelegons and their
+// settings.
 std::vector<Finding> findingsOf(const Rig& rig, const CodePage& codePage);
 
-// "Rig / Toe_L / Color (bone)"; empty for the file itself.
-std::string placeOf(const Rig& rig, const Finding& finding, Language language);
+// What a finding is about; all parts are empty for the file itself.
+struct Place {
+  std::string layer;
+  std::string skelegon;
+  std::string setting;
+};
+Place placeOf(const Rig& rig, const Finding& finding, Language language);
+// "Rig / Toe_L / Color (bone)"
+std::string joined(const Place& place);
 // What will happen, as a sentence.
 std::string sentenceOf(const Finding& finding, Language language);
 
@@ -81,5 +103,8 @@ inline constexpr std::size_t kLongestCommand = 511;
 
 // The longest path that the module opens, in units of UTF-16. For a longer one it opens the one before.
 inline constexpr std::size_t kLongestPath = 259;
+
+// The longest name that a field of the property panel takes whole, in bytes.
+inline constexpr std::size_t kLongestFieldText = 4095;
 
 }  // namespace standin::rigs

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "rigs/japanese_texts.h"
 #include "rigs/json_text.h"
 #include "rigs/text.h"
 #include "rigs/values.h"
@@ -51,11 +52,19 @@ std::vector<std::string> settingLines(const Skelegon& skelegon, const ReportOpti
   return lines;
 }
 
+bool isAskedFor(const Skelegon& skelegon, const ReportOptions& options) {
+  return options.skelegon.empty() || skelegon.name == options.skelegon;
+}
+
 // Walks a layer's skelegons from the topmost down, without recursion. A ring of skelegons begins at its first in the file.
 class Tree {
  public:
   Tree(const Rig& rig, const Layer& layer, const ReportOptions& options)
       : rig_(rig), options_(options), done_(rig.skelegons.size()) {
+    if (!options.skelegon.empty()) {
+      for (const std::size_t i : layer.skelegons) writeAlone(i);
+      return;
+    }
     for (const std::size_t i : layer.skelegons) {
       if (!rig.skelegons[i].parent) walk(i);
     }
@@ -79,8 +88,8 @@ class Tree {
       steps.pop_back();
       if (done_[step.skelegon]) continue;
       done_[step.skelegon] = true;
-      write(step);
       const auto& children = rig_.skelegons[step.skelegon].children;
+      write(step, !children.empty());
       for (std::size_t c = children.size(); c-- > 0;) {
         const bool deeper = step.depth < kDeepestShown;
         const bool last = c + 1 == children.size();
@@ -90,10 +99,14 @@ class Tree {
     }
   }
 
-  void write(const Step& step) {
+  void writeAlone(std::size_t i) {
+    if (isAskedFor(rig_.skelegons[i], options_)) write({i, "  ", "  ", 0}, false);
+  }
+
+  void write(const Step& step, bool hasChildren) {
     const Skelegon& skelegon = rig_.skelegons[step.skelegon];
     text_ += step.branch + nameShown(skelegon, options_.language) + '\n';
-    const char* const line = skelegon.children.empty() ? "   " : "│  ";
+    const char* const line = hasChildren ? "│  " : "   ";
     for (const std::string& setting : settingLines(skelegon, options_)) text_.append(step.indent + line + setting + '\n');
   }
 
@@ -179,7 +192,8 @@ Json skelegonJson(const Rig& rig, std::size_t index, const ReportOptions& option
 }
 
 Json findingJson(const Rig& rig, const Finding& finding, Language language) {
-  Json json{{"id", findingRow(finding.kind).id}};
+  const FindingRow& row = findingRow(finding.kind);
+  Json json{{"id", row.id}, {"weight", wordOf(row.weight, Language::English)}};
   json["layer"] = finding.layer ? Json(rig.layers[*finding.layer].name) : Json();
   json["skelegon"] = finding.skelegon ? Json(nameShown(rig.skelegons[*finding.skelegon])) : Json();
   json["setting"] = finding.setting != nullptr ? Json(finding.setting->name(language)) : Json();
@@ -188,20 +202,30 @@ Json findingJson(const Rig& rig, const Finding& finding, Language language) {
   return json;
 }
 
+Json layersJson(const Rig& rig, const ReportOptions& options) {
+  Json layers = Json::array();
+  for (const Layer& layer : rig.layers) {
+    Json skelegons = Json::array();
+    for (const std::size_t i : layer.skelegons) {
+      if (isAskedFor(rig.skelegons[i], options)) skelegons.push_back(skelegonJson(rig, i, options));
+    }
+    if (skelegons.empty() && !options.skelegon.empty()) continue;
+    layers.push_back(
+        Json{{"number", layer.number}, {"name", layer.name}, {"item", layer.itemName}, {"skelegons", std::move(skelegons)}});
+  }
+  return layers;
+}
+
 Json fileJson(const Inspected& file, const ReportOptions& options) {
   Json json{{"file", file.path}};
   if (!file.trouble.empty()) {
     json["trouble"] = file.trouble;
     return json;
   }
-  Json layers = Json::array();
-  for (const Layer& layer : file.rig.layers) {
-    Json skelegons = Json::array();
-    for (const std::size_t i : layer.skelegons) skelegons.push_back(skelegonJson(file.rig, i, options));
-    layers.push_back(
-        Json{{"number", layer.number}, {"name", layer.name}, {"item", layer.itemName}, {"skelegons", std::move(skelegons)}});
-  }
-  json["layers"] = std::move(layers);
+  if (file.rig.isInJapanese) json["decodedFrom"] = kJapaneseCodePage;
+  if (!options.findingsOnly) json["layers"] = layersJson(file.rig, options);
+  json["problems"] = countOf(file.findings, FindingWeight::Problem);
+  json["notes"] = countOf(file.findings, FindingWeight::Note);
   Json findings = Json::array();
   for (const Finding& finding : file.findings) findings.push_back(findingJson(file.rig, finding, options.language));
   json["findings"] = std::move(findings);
@@ -213,24 +237,9 @@ Json fileJson(const Inspected& file, const ReportOptions& options) {
 std::string treeText(const Rig& rig, const ReportOptions& options) {
   std::string text;
   for (const Layer& layer : rig.layers) {
-    text += layerHead(rig, layer, options.language);
-    text += Tree(rig, layer, options).text();
-  }
-  return text;
-}
-
-std::string findingsText(const Rig& rig, const std::vector<Finding>& findings, int codePage, Language language) {
-  const bool japanese = language == Language::Japanese;
-  const std::string count = std::to_string(findings.size());
-  const std::string page = std::to_string(codePage);
-  std::string text = japanese ? "指摘 " + count + " 件 (コードページ " + page + ")\n"
-                              : plural(findings.size(), "finding") + " (code page " + page + ")\n";
-  for (const Finding& finding : findings) {
-    const std::string place = placeOf(rig, finding, language);
-    const std::string entry = manualEntryOf(finding.kind, language);
-    text.append("  [").append(findingRow(finding.kind).id).append("] ");
-    text += (place.empty() ? "" : place + ": ") + sentenceOf(finding, language);
-    text += (japanese ? "（" + entry + " を参照）" : " (see " + entry + ")") + '\n';
+    const std::string tree = Tree(rig, layer, options).text();
+    if (tree.empty() && !options.skelegon.empty()) continue;
+    text += layerHead(rig, layer, options.language) + tree;
   }
   return text;
 }

@@ -2,6 +2,7 @@
 // depends on nothing but what it is given, so that it can be compared from one day to the next.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -13,11 +14,17 @@ namespace standin::rigs {
 
 struct ReportOptions {
   Language language = Language::English;
-  bool all = false;  // defaults and other tags too
+  bool all = false;           // defaults and other tags too
+  bool findingsOnly = false;  // in JSON; as text the tree is another function
+  std::string skelegon = {};  // only those of this name; all when it is empty
 };
 
 std::string treeText(const Rig& rig, const ReportOptions& options);
-std::string findingsText(const Rig& rig, const std::vector<Finding>& findings, int codePage, Language language);
+// A line for those that say the same.
+std::string findingsText(const Rig& rig, const std::vector<Finding>& findings, Language language);
+// How many there are of each weight, in one line.
+std::string summaryText(const std::string& path, const std::vector<Finding>& findings, int codePage, Language language);
+std::size_t countOf(const std::vector<Finding>& findings, FindingWeight weight);
 std::string differencesText(const std::vector<Difference>& differences, Language language);
 
 // One object of a file.

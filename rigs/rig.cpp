@@ -4,6 +4,7 @@
 #include <map>
 #include <unordered_map>
 
+#include "rigs/japanese_texts.h"
 #include "rigs/names_in_layout.h"
 #include "rigs/text.h"
 
@@ -77,6 +78,7 @@ const std::string* Skelegon::stored(const Setting& setting) const {
 Rig rigOf(const ObjectFile& object, const std::string& fileName) {
   Rig rig;
   rig.fileName = fileName;
+  rig.isInJapanese = isInJapaneseCodePage(object);
   for (std::size_t l = 0; l < object.layers.size(); ++l) {
     const ObjectLayer& from = object.layers[l];
     Layer layer{from.number, from.name, itemNameOf(from, object.layers.size(), fileName), {}};

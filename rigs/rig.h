@@ -45,6 +45,7 @@ struct Layer {
 struct Rig {
   std::string fileName;        // without its folder
   std::size_t pathLength = 0;  // of the whole path, in units of UTF-16; 0 where it is not known
+  bool isInJapanese = false;   // its texts are those of the Japanese code page, not UTF-8
   std::vector<Layer> layers;
   std::vector<Skelegon> skelegons;
 };

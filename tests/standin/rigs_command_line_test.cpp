@@ -10,6 +10,7 @@
 #include "objectfile/whole_file.h"
 #include "program/subcommands.h"
 #include "program/support.h"
+#include "rigs/code_page.h"
 #include "tests/standin/rigs_fixture.h"
 
 namespace standin {
@@ -39,7 +40,7 @@ class RigCommandLine : public testing::Test {
   // Runs "varnel WORDS"; the exit code.
   int run(std::vector<std::string> words) {
     const Program program{
-        .commands = {inspectCommand(), commandsCommand(), diffCommand(), exportCommand(), importCommand()},
+        .commands = {inspectCommand(), commandsCommand(), diffCommand(), exportCommand(), importCommand(), rigsCommand()},
     };
     const Caught out(std::cout);
     const Caught error(std::cerr);
@@ -85,6 +86,101 @@ TEST_F(RigCommandLine, InspectIsStrictOnlyWhenAsked) {
   EXPECT_EQ(run({"inspect", "--strict", "--ignore", "parent-missing", poor}), 1);
   EXPECT_EQ(run({"inspect", "--strict", "--ignore", "parent-missing,number-unreadable", poor}), 0);
   EXPECT_EQ(run({"inspect", "--strict", sound}), 0);
+}
+
+TEST_F(RigCommandLine, InspectIsNotStrictWithNotes) {
+  SoundRig rig;
+  rig.set(rig.root, 33, "1");  // arrives as a hundredth, which may be meant
+  const std::string file = write("rig.lwo", rig);
+  EXPECT_EQ(run({"inspect", "--strict", "--code-page", "932", file}), 0);
+  EXPECT_THAT(out_, HasSubstr("note [limited-range]"));
+  EXPECT_THAT(out_, testing::EndsWith("\n" + file + ": 0 problems, 1 note (code page 932)\n"));
+}
+
+TEST_F(RigCommandLine, InspectSumsUpEachFile) {
+  const std::string sound = write("rig.lwo", SoundRig());
+  const std::string other = write("other.lwo", SoundRig());  // which has no item "rig" to be a parent
+  EXPECT_EQ(run({"inspect", sound, other}), 0);
+  EXPECT_THAT(out_, HasSubstr("\n" + sound + ": 0 problems, 0 notes "));
+  EXPECT_THAT(out_, HasSubstr("\n" + other + ": 1 problem, 0 notes "));
+}
+
+TEST_F(RigCommandLine, InspectLeavesTheTreeOutWhenAskedForFindings) {
+  SoundRig rig;
+  rig.set(rig.root, 33, "1");
+  const std::string file = write("rig.lwo", rig);
+  EXPECT_EQ(run({"inspect", "--findings", file}), 0);
+  EXPECT_THAT(out_, testing::StartsWith("== " + file + "\n  note [limited-range] "));
+  EXPECT_EQ(std::count(out_.begin(), out_.end(), '\n'), 3);
+  EXPECT_EQ(run({"inspect", "--findings", "--json", file}), 0);
+  const auto json = nlohmann::json::parse(out_);
+  EXPECT_FALSE(json[0].contains("layers"));
+  EXPECT_EQ(json[0]["findings"].size(), 1U);
+}
+
+TEST_F(RigCommandLine, InspectShowsOneSkelegonAlone) {
+  SoundRig rig;
+  rig.set(rig.root, 31, "strong");
+  rig.set(rig.hand, 33, "1");
+  const std::string file = write("rig.lwo", rig);
+  EXPECT_EQ(run({"inspect", "--strict", "--skelegon", "Hand", file}), 0);
+  EXPECT_THAT(out_, HasSubstr("\n  Hand\n     Bone Active: off\n"));
+  EXPECT_THAT(out_, HasSubstr("[limited-range] Rig / Hand"));
+  EXPECT_THAT(out_, testing::Not(HasSubstr("strong")));
+  EXPECT_EQ(run({"inspect", "--json", "--skelegon", "Hand", file}), 0);
+  const auto json = nlohmann::json::parse(out_);
+  ASSERT_EQ(json[0]["layers"][0]["skelegons"].size(), 1U);
+  EXPECT_EQ(json[0]["layers"][0]["skelegons"][0]["name"], "Hand");
+}
+
+TEST_F(RigCommandLine, InspectTellsOfTheLayerWithTheSkelegon) {
+  SoundRig rig;
+  rig.builder.layer(1, "Left Arm");
+  rig.builder.settings(rig.builder.root("Arm", {0, 0, 0}, {1, 0, 0}), {{129, "Red"}});
+  const std::string file = write("rig.lwo", rig);
+  run({"inspect", "--skelegon", "Arm", file});
+  EXPECT_THAT(out_, HasSubstr("[layer-name] Left Arm"));
+  run({"inspect", "--skelegon", "Root", file});
+  EXPECT_THAT(out_, testing::Not(HasSubstr("[layer-name]")));
+}
+
+TEST_F(RigCommandLine, InspectSaysWhenNoSkelegonHasTheName) {
+  const std::string file = write("rig.lwo", SoundRig());
+  EXPECT_EQ(run({"inspect", "--skelegon", "Wing", file}), 2);
+  EXPECT_THAT(error_, HasSubstr("rig.lwo: no skelegon is called Wing"));
+  EXPECT_THAT(out_, IsEmpty());
+}
+
+// "頭" and "腰" as a host with that code page stores them.
+TEST_F(RigCommandLine, InspectReadsNamesInTheJapaneseCodePage) {
+  if (!rigs::CodePage(932).isKnown()) GTEST_SKIP() << "this system has no tables of code page 932";
+  RigBuilder builder;
+  builder.layer(0, "\x91\xcc");
+  const auto root = builder.root("\x8d\x98", {0, 0, 0}, {0, 1, 0});
+  builder.settings(root, {{55, "\x93\xaa_goal"}, {129, "Red"}});
+  const std::string file = folder_.file("リグ.lwo");
+  ASSERT_FALSE(writeObject(builder.object(), file));
+  EXPECT_EQ(run({"inspect", "--code-page", "932", "--skelegon", "腰", file}), 0) << error_;
+  EXPECT_THAT(out_, HasSubstr("== " + file + " (read in code page 932)\n"));
+  EXPECT_THAT(out_, HasSubstr("layer 0 \"体\", in Layout \"リグ\""));
+  EXPECT_THAT(out_, HasSubstr("\n  腰\n     Goal Object: 頭_goal\n"));
+  EXPECT_THAT(out_, HasSubstr("[becomes-null] 体 / 腰 / Goal Object: nothing in the file bears the name \"頭_goal\""));
+  EXPECT_THAT(out_, HasSubstr("note [text-code-page]"));
+  EXPECT_EQ(run({"inspect", "--json", file}), 0);
+  const auto json = nlohmann::json::parse(out_);
+  EXPECT_EQ(json[0]["decodedFrom"], 932);
+  EXPECT_EQ(json[0]["layers"][0]["skelegons"][0]["name"], "腰");
+}
+
+TEST_F(RigCommandLine, TheShippedRigsHaveNoProblem) {
+  const std::string rigs = folder_.file("rigs");
+  EXPECT_EQ(run({"rigs", rigs}), 0) << error_;
+  const std::vector<std::string> names = {"lizard.lwo", "人形.lwo"};
+  EXPECT_EQ(std::count(out_.begin(), out_.end(), '\n'), static_cast<std::ptrdiff_t>(names.size())) << "and no others";
+  for (const std::string& name : names) {
+    EXPECT_EQ(run({"inspect", "--strict", "--findings", "--code-page", "932", rigs + "/" + name}), 0) << out_;
+    EXPECT_THAT(out_, HasSubstr(name + ": 0 problems, "));
+  }
 }
 
 TEST_F(RigCommandLine, InspectTakesTheCodePageThatIsNamed) {

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "host/lwtool2_panels.h"
 #include "layout/narrow_path.h"
 #include "objectfile/chunk_records.h"
 #include "rigs/names_in_layout.h"
@@ -20,7 +21,7 @@ using testing::IsEmpty;
 std::vector<std::string> found(const Rig& rig, int codePage = 932) {
   std::vector<std::string> list;
   for (const Finding& finding : findingsOf(rig, CodePage(codePage))) {
-    const std::string place = placeOf(rig, finding, Language::English);
+    const std::string place = joined(placeOf(rig, finding, Language::English));
     list.push_back(findingRow(finding.kind).id + (place.empty() ? "" : " " + place));
   }
   return list;
@@ -31,9 +32,14 @@ std::string sentence(const Rig& rig, int codePage = 932) {
   return findings.empty() ? "" : sentenceOf(findings.front(), Language::English);
 }
 
+// Stays sound when skelegons are added.
+struct ColouredRig : SoundRig {
+  Rig rig(const std::string& fileName = kFileName) const { return colouredRigOf(object(), fileName); }
+};
+
 class Findings : public testing::Test {
  protected:
-  SoundRig sound;
+  ColouredRig sound;
 };
 
 TEST_F(Findings, OfASoundRigThereAreNone) { EXPECT_THAT(found(sound.rig()), IsEmpty()); }
@@ -54,14 +60,14 @@ TEST_F(Findings, ALayerNameThatEndsLikeACounterIsNotFound) {
   RigBuilder builder;
   builder.layer(3, "Arm (2)");
   builder.root("A", {0, 0, 0}, {1, 0, 0});
-  EXPECT_THAT(found(rigOf(builder.object(), kFileName)), ElementsAre("layer-name Arm (2)"));
+  EXPECT_THAT(found(colouredRigOf(builder.object())), ElementsAre("layer-name Arm (2)"));
 }
 
 TEST_F(Findings, ALayerWithoutSkelegonsMayBeCalledAnything) {
   RigBuilder builder;
   builder.layer(3, "Left Arm");
   builder.point({0, 0, 0});
-  EXPECT_THAT(found(rigOf(builder.object(), kFileName)), IsEmpty());
+  EXPECT_THAT(found(colouredRigOf(builder.object())), IsEmpty());
 }
 
 TEST_F(Findings, TwoLayersOfOneNameGetTheSettingsOfTheFirst) {
@@ -70,7 +76,7 @@ TEST_F(Findings, TwoLayersOfOneNameGetTheSettingsOfTheFirst) {
     builder.layer(number, "Arm");
     builder.root("Bone" + std::to_string(number), {0, 0, 0}, {1, 0, 0});
   }
-  EXPECT_THAT(found(rigOf(builder.object(), kFileName)), ElementsAre("layer-twice Arm"));
+  EXPECT_THAT(found(colouredRigOf(builder.object())), ElementsAre("layer-twice Arm"));
 }
 
 TEST_F(Findings, ASkelegonWithoutANameGetsNoSettings) {
@@ -103,7 +109,7 @@ TEST_F(Findings, ALinkedNameThatNothingBearsBecomesANull) {
 }
 
 TEST_F(Findings, ALinkedNameIsLookedUpWithTheObjectsNameForThePlaceholder) {
-  SoundRig rig;
+  ColouredRig rig;
   rig.builder.layer(1, "Body");
   rig.set(rig.hand, 130, "");
   rig.builder.settings(rig.root, {{51, "[file]:Body"}});
@@ -146,6 +152,22 @@ TEST_F(Findings, AnUnknownColourBecomesOrange) {
 TEST_F(Findings, AnEmptyColourOfTheHostsHidesTheChosenOne) {
   sound.builder.tag(sound.root, lw::kTagColour, "");
   EXPECT_THAT(found(sound.rig()), ElementsAre("colour-empty Rig / Root / Color (bone)"));
+}
+
+TEST_F(Findings, ABoneOfWhichNoColourIsStoredBecomesOrange) {
+  RigBuilder builder;
+  builder.layer(0, "Rig");
+  const auto root = builder.root("Root", {0, 0, 0}, {0, 1, 0});
+  EXPECT_THAT(found(rigOf(builder.object(), kFileName)), ElementsAre("colour-missing Rig / Root / Color (bone)"));
+  builder.settings(root, {{129, "Modeler"}});
+  EXPECT_THAT(found(rigOf(builder.object(), kFileName)), IsEmpty());
+}
+
+TEST_F(Findings, ASkelegonWithoutANameGetsNoColourEither) {
+  RigBuilder builder;
+  builder.layer(0, "Rig");
+  builder.between(builder.point({0, 0, 0}), builder.point({0, 1, 0}), std::nullopt);
+  EXPECT_THAT(found(rigOf(builder.object(), kFileName)), ElementsAre("no-name Rig / (no name)"));
 }
 
 TEST_F(Findings, TheCopyOfTheColourCountsOnlyAlone) {
@@ -192,6 +214,14 @@ TEST_F(Findings, APathThatIsTooLongIsNotOpened) {
   EXPECT_THAT(sentence(rig), HasSubstr("has 260 characters, more than the 259"));
 }
 
+TEST_F(Findings, ANameThatIsLongerThanAFieldIsNoted) {
+  static_assert(kLongestFieldText == lw::CControl::kLongestText);
+  sound.builder.child(sound.hand, std::string(kLongestFieldText, 'x'), {1, 1, 1});
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+  sound.set(sound.hand, 52, std::string(kLongestFieldText + 1, 'x'));
+  EXPECT_THAT(found(sound.rig()), testing::Contains("name-too-long Rig / Hand / Target Item"));
+}
+
 TEST_F(Findings, AFileNameOutsideTheCodePageIsNotFound) {
   EXPECT_THAT(found(sound.rig("頭.lwo"), 1252), testing::Contains("path-code-page"));
   EXPECT_THAT(found(sound.rig("頭.lwo"), 932), testing::Not(testing::Contains("path-code-page")));
@@ -211,7 +241,7 @@ TEST_F(Findings, ALinkedNameThatIsFoundIsNotSent) {
 
 TEST_F(Findings, ATagOfNoSettingIsNamed) {
   for (const std::uint8_t slot : std::initializer_list<std::uint8_t>{3, 28, 144, 187, 255}) {
-    SoundRig rig;
+    ColouredRig rig;
     rig.set(rig.root, slot, "x");
     EXPECT_THAT(found(rig.rig()), ElementsAre("unknown-slot Rig / Root"));
     EXPECT_THAT(sentence(rig.rig()), HasSubstr("sg1+" + std::to_string(slot)));
@@ -247,6 +277,90 @@ TEST_F(Findings, TwistNeedsAJoint) {
   EXPECT_THAT(found(sound.rig()), ElementsAre("twist-without-joint Rig / Root / Twist"));
   sound.set(sound.root, 26, "1");
   EXPECT_THAT(found(sound.rig()), IsEmpty());
+}
+
+TEST_F(Findings, ALimitedRangeArrivesAsAHundredth) {
+  sound.builder.settings(sound.root, {{34, "10.000000"}, {35, "250.000000"}});
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+  sound.set(sound.root, 33, "1");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("limited-range Rig / Root / Limited Range"));
+  EXPECT_THAT(sentence(sound.rig()), HasSubstr("10–250 m will arrive as 0.1–2.5 m"));
+}
+
+// Both are as the conversion sends them, by the word of the Y scale's controller.
+TEST_F(Findings, WhatTheZScaleFollowsIsLostWithoutTheYScale) {
+  sound.set(sound.root, 123, "6");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("z-follow-lost Rig / Root / Follow (Z Scale)"));
+  sound.set(sound.root, 118, "6");
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+}
+
+TEST_F(Findings, WhatTheZScaleFollowsIsSentWithTheYScale) {
+  sound.set(sound.root, 118, "6");
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+  for (const std::uint8_t slot : std::initializer_list<std::uint8_t>{183, 184, 185}) {
+    ColouredRig rig = sound;
+    rig.set(rig.root, slot, "2");
+    EXPECT_THAT(found(rig.rig()), ElementsAre("z-follow-sent Rig / Root / Follow (Z Scale)"));
+    rig.set(rig.root, 123, "6");
+    EXPECT_THAT(found(rig.rig()), IsEmpty());
+  }
+}
+
+TEST_F(Findings, BranchesAreCountedAlike) {
+  const auto thumb = sound.builder.child(sound.hand, "Thumb", {1, 3, 0});
+  sound.builder.child(thumb, "Thumb_tip", {1, 4, 0});
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+  const auto finger = sound.builder.child(sound.hand, "Finger", {0, 3, 0});
+  sound.builder.child(finger, "Finger_tip", {0, 4, 0});
+  EXPECT_THAT(found(sound.rig()), ElementsAre("counters-twice Rig"));
+  EXPECT_THAT(
+      sentence(sound.rig()),
+      HasSubstr("2 of this layer's skelegons would get a name that another has, first \"Finger\" that of \"Thumb\""));
+}
+
+TEST_F(Findings, ColumnsThatAre24ApartAreCountedAlike) {
+  RigBuilder builder;
+  builder.layer(0, "Rig");
+  for (int i = 0; i < 24; ++i) builder.root("Head" + std::to_string(i), {0, 0, 0}, {0, 1, 0});
+  EXPECT_THAT(found(colouredRigOf(builder.object())), IsEmpty());
+  builder.root("Last", {0, 0, 0}, {0, 1, 0});
+  EXPECT_THAT(found(colouredRigOf(builder.object())), ElementsAre("counters-twice Rig"));
+}
+
+TEST_F(Findings, ARingOfSkelegonsCanBeCounted) {
+  RigBuilder builder;
+  builder.layer(0, "Rig");
+  builder.point({0, 0, 0});
+  builder.point({0, 1, 0});
+  builder.between(0, 1, "A");
+  builder.between(1, 0, "B");
+  EXPECT_THAT(found(colouredRigOf(builder.object())), ElementsAre("counters-twice Rig"));
+}
+
+TEST_F(Findings, ProblemsStandBeforeNotes) {
+  sound.set(sound.root, 33, "1");
+  sound.set(sound.hand, 31, "strong");
+  EXPECT_THAT(found(sound.rig()),
+              ElementsAre("number-unreadable Rig / Hand / Strength", "limited-range Rig / Root / Limited Range"));
+}
+
+// "頭" as a host with that code page stores it.
+constexpr const char* kHeadIn932 = "\x93\xaa";
+
+TEST_F(Findings, TextsInTheJapaneseCodePageAreReadInIt) {
+  if (!CodePage(932).isKnown()) GTEST_SKIP() << "this system has no tables of code page 932";
+  sound.builder.tag(sound.root, lw::kTagBoneWeight, kHeadIn932);
+  EXPECT_THAT(found(sound.rig(), 932), ElementsAre("text-code-page"));
+  EXPECT_THAT(found(sound.rig(), 1252), testing::Contains("command-code-page Rig / Root / Bone Weight Map"));
+  EXPECT_THAT(sentence(sound.rig(), 1252), HasSubstr("\"頭\""));
+}
+
+TEST_F(Findings, TextsThatAreInNoCodePageAreLeftAlone) {
+  sound.builder.tag(sound.root, lw::kTagBoneWeight, kHeadIn932);
+  sound.builder.tag(sound.hand, lw::kTagBoneWeight, "\xff");
+  EXPECT_THAT(found(sound.rig(), 932), testing::Not(testing::Contains("text-code-page")));
+  EXPECT_THAT(sentence(sound.rig(), 932), HasSubstr("\\x93\\xaa"));
 }
 
 TEST_F(Findings, AnObjectsSettingThatDiffersInItsLayerIsTheLastOnes) {
@@ -318,7 +432,7 @@ TEST(FindingPlaces, AreNamedInJapaneseToo) {
   builder.layer(0, "");
   builder.between(builder.point({0, 0, 0}), builder.point({1, 0, 0}), std::nullopt);
   const Rig rig = rigOf(builder.object(), kFileName);
-  EXPECT_EQ(placeOf(rig, findingsOf(rig, CodePage(932)).front(), Language::Japanese), "レイヤー 0 / (名前なし)");
+  EXPECT_EQ(joined(placeOf(rig, findingsOf(rig, CodePage(932)).front(), Language::Japanese)), "レイヤー 0 / (名前なし)");
 }
 
 TEST(FindingTable, HasAnIdAndASentenceInBothLanguagesInEachRow) {

@@ -19,6 +19,18 @@ namespace standin::rigs {
 
 inline constexpr const char* kFileName = "rig.lwo";
 
+// With a stored colour for each skelegon that has none, for what has none becomes orange.
+inline Rig colouredRigOf(ObjectFile object, const std::string& fileName = kFileName) {
+  constexpr std::uint8_t kColour = 129;
+  for (ObjectLayer& layer : object.layers) {
+    for (ObjectPolygon& skelegon : layer.group(lw::kTypeBone).polygons) {
+      const bool isStored = skelegon.tag(lw::kTagColour) != nullptr || skelegon.tag(settingTag(kColour)) != nullptr;
+      if (!isStored) skelegon.setTag(settingTag(kColour), "Modeler");
+    }
+  }
+  return rigOf(object, fileName);
+}
+
 // A root and a child in the one layer of a file, with a few settings that are all in order.
 struct SoundRig {
   RigBuilder builder;
@@ -32,7 +44,7 @@ struct SoundRig {
     builder.tag(root, lw::kTagBoneWeight, "Root");
     builder.tag(root, lw::kTagColour, "Green");
     builder.settings(root, {{13, "2"}, {31, "80.000000"}, {129, "Green"}});
-    builder.settings(hand, {{27, "0"}, {52, "Root"}, {97, "-1.570796"}, {130, "rig"}});
+    builder.settings(hand, {{27, "0"}, {52, "Root"}, {97, "-1.570796"}, {129, "Modeler"}, {130, "rig"}});
   }
 
   void set(const RigBuilder::Skelegon& skelegon, std::uint8_t slot, std::string text) {

@@ -313,6 +313,19 @@ TEST(Manual, LeadsToTheEntryOfEachFinding) {
   }
 }
 
+TEST(Manual, SaysWhichFindingsAreProblems) {
+  for (const Edition& edition : kEditions) {
+    const std::string section = sectionOf(page(edition, "tools.md"), "inspect");
+    const bool isJapanese = edition.language == Language::Japanese;
+    const std::size_t notes = section.find(isJapanese ? "\n注意: " : "\nNotes: ");
+    ASSERT_NE(notes, std::string::npos) << edition.folder;
+    for (const rigs::FindingRow& row : rigs::findingTable()) {
+      const bool isAmongNotes = section.find(std::string("[`") + row.id + "`]") > notes;
+      EXPECT_EQ(isAmongNotes, row.weight == rigs::FindingWeight::Note) << edition.folder << ": " << row.id;
+    }
+  }
+}
+
 // ---------------------------------------------------------------------------------------------------------------------
 // The languages beside each other
 
