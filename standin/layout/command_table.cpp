@@ -120,7 +120,7 @@ Rejection addNull(LayoutState& state, Item*, const Arguments& arguments) {
 
 Rejection skelegonsToBones(LayoutState& state, Item* item, const Arguments&) {
   const LayoutOptions& options = state.scene.options();
-  if (skelegonSources(state.scene, *item).empty()) return options.noSkelegonsIsRefused ? "the object has no skelegons" : "";
+  if (skelegonSources(state.scene, *item).empty()) return options.noSkelegonsIsRefused ? kNoSkelegons : "";
   // The host tells how many bones it made, in a box that the user has to close.
   if (state.autoConfirm == 0) return std::string(kAsksUser) + "confirm the conversion";
   if (state.autoConfirm < 0) return "the conversion was not confirmed";

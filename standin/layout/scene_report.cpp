@@ -1,7 +1,10 @@
 #include "standin/layout/scene_report.h"
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
+#include "standin/core/folded_text.h"
 #include "standin/layout/number_text.h"
 
 namespace standin {
@@ -17,15 +20,13 @@ std::string degreesText(const Vec3& v) {
   return numberText(v[0] * unit, 2) + " " + numberText(v[1] * unit, 2) + " " + numberText(v[2] * unit, 2);
 }
 
-std::string changesText(const Scene& scene, const Item& item) {
-  std::string text;
-  for (const Setting& setting : changedSettings(scene, item))
-    text += (text.empty() ? "" : "; ") + setting.name + " " + setting.value;
-  return text.empty() ? text : "  [" + text + "]";
+std::string counted(std::size_t count, const std::string& one) {
+  return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
 }
 
 std::string line(std::size_t depth, const std::string& text) {
-  return std::string(2 * std::min(depth, kDeepestIndent), ' ') + text + '\n';
+  const std::size_t indent = 2 * std::min(depth, kDeepestIndent);
+  return folded(std::string(indent, ' ') + text, kReportColumns, indent + 4) + '\n';
 }
 
 struct Branch {
@@ -43,15 +44,64 @@ void pushBelow(std::vector<Branch>& open, const Item& object, const Item* above,
   for (const Item* bone : bones) open.push_back({bone, depth});
 }
 
-std::string boneLine(const Scene& scene, const Branch& branch, bool parentShown) {
+std::string countsText(const Scene& scene, std::size_t changed) {
+  std::size_t nulls = 0;
+  std::size_t bones = 0;
+  for (const Item* object : scene.objects()) {
+    nulls += object->isNull() ? 1 : 0;
+    bones += object->bones.size();
+  }
+  return line(0, "Counts: " + counted(scene.objects().size() - nulls, "object") + ", " + counted(bones, "bone") + ", " +
+                     counted(nulls, "null") + ", " + counted(scene.lights().size(), "light") + ", " +
+                     counted(scene.cameras().size(), "camera") + "; " + counted(changed, "setting") +
+                     " differ from a fresh item");
+}
+
+// The report in the making.
+class Report {
+ public:
+  Report(Scene& scene, SceneReportForm form, double time) : scene_(scene), form_(form), time_(time) {}
+
+  std::string text();
+
+ private:
+  std::string itemText(std::size_t depth, const std::string& text, const Item& item);
+  std::string boneText(const Branch& branch, bool parentShown);
+  std::string bonesText(const Item& object);
+  std::string objectText(Item& object);
+  std::string nullText(Item& null);
+  std::string plainItems(const char* heading, const std::vector<Item*>& items);
+  std::string sumsText() const;
+
+  Scene& scene_;
+  SceneReportForm form_;
+  double time_;
+  std::size_t changed_ = 0;                   // settings, of all items
+  std::map<std::string, std::size_t> items_;  // by the name of a setting: those that it differs on
+};
+
+// The item's line, and what differs on it.
+std::string Report::itemText(std::size_t depth, const std::string& text, const Item& item) {
+  const std::vector<Setting> changed = changedSettings(scene_, item);
+  changed_ += changed.size();
+  for (const Setting& setting : changed) ++items_[setting.name];
+  if (form_ == SceneReportForm::Short) {
+    return line(depth, changed.empty() ? text : text + "  [" + counted(changed.size(), "setting") + "]");
+  }
+  std::string all = line(depth, text);
+  for (const Setting& setting : changed) all += line(depth + 2, "- " + setting.name + ": " + setting.value);
+  return all;
+}
+
+std::string Report::boneText(const Branch& branch, bool parentShown) {
   const Item& bone = *branch.bone;
-  std::string text = scene.nameOf(bone) + "  (length " + numberText(bone.rest.length) + ")";
-  if (!parentShown) text += "  below " + scene.nameOf(*bone.parent);
-  return line(branch.depth, text + changesText(scene, bone));
+  std::string text = scene_.nameOf(bone) + "  (length " + numberText(bone.rest.length) + ")";
+  if (!parentShown) text += "  below " + scene_.nameOf(*bone.parent);
+  return itemText(branch.depth, text, bone);
 }
 
 // A bone that stands below an item outside the object begins a tree of its own.
-std::string bonesText(const Scene& scene, const Item& object) {
+std::string Report::bonesText(const Item& object) {
   std::vector<Branch> open;
   for (auto bone = object.bones.rbegin(); bone != object.bones.rend(); ++bone) {
     const Item* parent = (*bone)->parent;
@@ -62,69 +112,59 @@ std::string bonesText(const Scene& scene, const Item& object) {
     const Branch branch = open.back();
     open.pop_back();
     const Item* parent = branch.bone->parent;
-    text += boneLine(scene, branch, branch.depth > 2 || parent == nullptr || parent == &object);
+    text += boneText(branch, branch.depth > 2 || parent == nullptr || parent == &object);
     pushBelow(open, object, branch.bone, branch.depth + 1);
   }
   return text;
 }
 
-std::string objectText(Scene& scene, Item& object, double time) {
-  std::string text = scene.nameOf(object) + "  (bones " + std::to_string(object.bones.size()) + ", at " +
-                     vectorText(scene.placement(object, time).position) + ")";
-  if (object.parent != nullptr) text += "  below " + scene.nameOf(*object.parent);
-  return line(1, text + changesText(scene, object)) + bonesText(scene, object);
+std::string Report::objectText(Item& object) {
+  std::string text = scene_.nameOf(object) + "  (bones " + std::to_string(object.bones.size()) + ", at " +
+                     vectorText(scene_.placement(object, time_).position) + ")";
+  if (object.parent != nullptr) text += "  below " + scene_.nameOf(*object.parent);
+  return itemText(1, text, object) + bonesText(object);
 }
 
-std::string nullText(Scene& scene, Item& null, double time) {
-  std::string text = scene.nameOf(null) + "  at " + vectorText(Scene::motionAt(null, kAxisX, time)) + ", turned " +
-                     degreesText(Scene::motionAt(null, kAxisH, time));
-  const Vec3 scale = Scene::motionAt(null, kAxisSX, time);
+std::string Report::nullText(Item& null) {
+  std::string text = scene_.nameOf(null) + "  at " + vectorText(Scene::motionAt(null, kAxisX, time_)) + ", turned " +
+                     degreesText(Scene::motionAt(null, kAxisH, time_));
+  const Vec3 scale = Scene::motionAt(null, kAxisSX, time_);
   if (scale != Vec3{1, 1, 1}) text += ", scaled " + vectorText(scale);
-  text += ", below " + (null.parent == nullptr ? std::string("nothing") : scene.nameOf(*null.parent));
-  return line(1, text + changesText(scene, null));
+  text += ", below " + (null.parent == nullptr ? std::string("nothing") : scene_.nameOf(*null.parent));
+  return itemText(1, text, null);
 }
 
-std::string counted(std::size_t count, const std::string& one) {
-  return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
+std::string Report::plainItems(const char* heading, const std::vector<Item*>& items) {
+  std::string text;
+  for (const Item* item : items) text += itemText(1, scene_.nameOf(*item), *item);
+  return items.empty() ? text : heading + ('\n' + text);
 }
 
-std::string countsText(const SceneCounts& counts) {
-  return "Counts: " + counted(counts.objects, "object") + ", " + counted(counts.bones, "bone") + ", " +
-         counted(counts.nulls, "null") + ", " + counted(counts.lights, "light") + ", " + counted(counts.cameras, "camera") +
-         "; " + counted(counts.changed, "setting") + " differ from a fresh item\n";
+// One setting a line, those of most items first.
+std::string Report::sumsText() const {
+  if (form_ == SceneReportForm::Full || items_.empty()) return {};
+  std::vector<std::pair<std::string, std::size_t>> sums(items_.begin(), items_.end());
+  std::stable_sort(sums.begin(), sums.end(), [](const auto& a, const auto& b) { return a.second > b.second; });
+  std::string text = "Settings that differ from a fresh item\n";
+  for (const auto& [name, items] : sums) text += line(1, name + ": on " + counted(items, "item"));
+  return text;
+}
+
+std::string Report::text() {
+  std::string objects;
+  std::string nulls;
+  for (Item* object : scene_.objects()) {
+    const bool bare = object->isNull() && object->bones.empty();
+    (bare ? nulls : objects) += bare ? nullText(*object) : objectText(*object);
+  }
+  std::string text = "Objects\n" + objects;
+  if (!nulls.empty()) text += "Nulls\n" + nulls;
+  text += plainItems("Lights", scene_.lights()) + plainItems("Cameras", scene_.cameras()) + sumsText();
+  return text + countsText(scene_, changed_);
 }
 
 }  // namespace
 
-SceneCounts countScene(const Scene& scene) {
-  SceneCounts counts;
-  counts.lights = scene.lights().size();
-  counts.cameras = scene.cameras().size();
-  for (const Item* object : scene.objects()) {
-    ++(object->isNull() ? counts.nulls : counts.objects);
-    counts.bones += object->bones.size();
-  }
-  for (const Item& item : scene.all()) {
-    if (item.alive) counts.changed += changedSettings(scene, item).size();
-  }
-  return counts;
-}
-
-std::string sceneReport(Scene& scene, double time) {
-  std::string objects;
-  std::string nulls;
-  for (Item* object : scene.objects()) {
-    const bool bare = object->isNull() && object->bones.empty();
-    (bare ? nulls : objects) += bare ? nullText(scene, *object, time) : objectText(scene, *object, time);
-  }
-  std::string text = "Objects\n" + objects;
-  if (!nulls.empty()) text += "Nulls\n" + nulls;
-  for (const auto* list : {&scene.lights(), &scene.cameras()}) {
-    if (list->empty()) continue;
-    text += list == &scene.lights() ? "Lights\n" : "Cameras\n";
-    for (const Item* item : *list) text += line(1, scene.nameOf(*item) + changesText(scene, *item));
-  }
-  return text + countsText(countScene(scene));
-}
+std::string sceneReport(Scene& scene, SceneReportForm form, double time) { return Report(scene, form, time).text(); }
 
 }  // namespace standin

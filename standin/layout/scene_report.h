@@ -21,18 +21,13 @@ std::vector<Setting> settingsOf(const Scene& scene, const Item& item);
 // Those that a fresh item of the kind does not have.
 std::vector<Setting> changedSettings(const Scene& scene, const Item& item);
 
-struct SceneCounts {
-  std::size_t objects = 0;  // that come from files
-  std::size_t nulls = 0;
-  std::size_t bones = 0;
-  std::size_t lights = 0;
-  std::size_t cameras = 0;
-  std::size_t changed = 0;  // settings that differ, of all items
+enum class SceneReportForm {
+  Short,  // behind each item how many of its settings differ; at the end each such setting with the number of its items
+  Full,   // below each item every setting that differs, with its value
 };
 
-SceneCounts countScene(const Scene& scene);
-
-// Objects with their bones as a tree, then nulls, lights and cameras, then the counts.
-std::string sceneReport(Scene& scene, double time = 0);
+// Objects with their bones as a tree, then nulls, lights and cameras, then the counts. Lines are folded to kReportColumns.
+inline constexpr std::size_t kReportColumns = 98;
+std::string sceneReport(Scene& scene, SceneReportForm form = SceneReportForm::Short, double time = 0);
 
 }  // namespace standin

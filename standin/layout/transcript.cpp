@@ -14,10 +14,11 @@ bool isShownOnStatusLine(const Event& event) {
 }
 
 std::string line(const Event& event) {
+  const std::string command = withItemName(event.text, event.item);
   switch (event.kind) {
-    case EventKind::Command: return "  " + event.text;
-    case EventKind::Rejected: return "! " + event.text + "  -- rejected: " + event.why;
-    case EventKind::Asked: return "? " + event.text + "  -- would ask the user: " + event.why;
+    case EventKind::Command: return "  " + command;
+    case EventKind::Rejected: return "! " + command + "  -- rejected: " + event.why;
+    case EventKind::Asked: return "? " + command + "  -- would ask the user: " + event.why;
     case EventKind::Status:
       return "| " + (event.progress ? fixedText(*event.progress * 100, 0) + " % " : std::string()) + event.text;
   }
@@ -25,6 +26,10 @@ std::string line(const Event& event) {
 }
 
 }  // namespace
+
+std::string withItemName(const std::string& command, const std::string& item) {
+  return item.empty() ? command : command + "  -- " + item;
+}
 
 void Transcript::add(Event event) {
   ++counts_[static_cast<std::size_t>(event.kind)];

@@ -1,3 +1,5 @@
+#include <sstream>
+
 #include "standin/layout/number_text.h"
 #include "standin/layout/skelegon_bones.h"
 #include "tests/standin/layout_fixture.h"
@@ -23,6 +25,19 @@ TEST(Transcript, ShowsEachEventInOrder) {
             "| 50 % half\n"
             "! Nonsense  -- rejected: unknown command\n"
             "? ItemColor  -- would ask the user: argument 1 is missing\n");
+}
+
+TEST(Transcript, NamesAnItemBesideItsNumberAsItWasCalledThen) {
+  LayoutSession session;
+  session.send("AddNull A");
+  session.send("SelectItem 0x10000000");
+  session.send("AddNull A");
+  session.send("SelectItem 0x10000000");
+  EXPECT_EQ(session.host.transcript().text(),
+            "  AddNull A\n"
+            "  SelectItem 0x10000000  -- A\n"
+            "  AddNull A\n"
+            "  SelectItem 0x10000000  -- A (1)\n");
 }
 
 TEST(Transcript, ListsEveryCommandAsItWasSent) {
@@ -60,11 +75,44 @@ TEST(SceneReport, ShowsBonesAsATreeWithWhatDiffers) {
             "Objects\n"
             "  rig  (bones 3, at 0 0 0)\n"
             "    Root  (length 2)\n"
-            "      Tip  (length 1)  [strength 50 %]\n"
+            "      Tip  (length 1)  [1 setting]\n"
             "    Apart  (length 1)\n"
             "Nulls\n"
-            "  Goal  at 0 0 0, turned 0 0 0, below Root  [visibility textured with wire]\n"
+            "  Goal  at 0 0 0, turned 0 0 0, below Root  [1 setting]\n"
+            "Settings that differ from a fresh item\n"
+            "  strength: on 1 item\n"
+            "  visibility: on 1 item\n"
             "Counts: 1 object, 3 bones, 1 null, 0 lights, 0 cameras; 2 settings differ from a fresh item\n");
+  EXPECT_EQ(sceneReport(session.scene(), SceneReportForm::Full),
+            "Objects\n"
+            "  rig  (bones 3, at 0 0 0)\n"
+            "    Root  (length 2)\n"
+            "      Tip  (length 1)\n"
+            "          - strength: 50 %\n"
+            "    Apart  (length 1)\n"
+            "Nulls\n"
+            "  Goal  at 0 0 0, turned 0 0 0, below Root\n"
+            "      - visibility: textured with wire\n"
+            "Counts: 1 object, 3 bones, 1 null, 0 lights, 0 cameras; 2 settings differ from a fresh item\n");
+}
+
+TEST(SceneReport, NamesFirstWhatDiffersOnMostItems) {
+  LayoutSession session;
+  for (const char* const name : {"AddNull A", "AddNull B"}) {
+    session.send(name);
+    session.send("ItemVisibility 7");
+  }
+  session.send("ItemColor 3");
+  EXPECT_NE(sceneReport(session.scene()).find("  visibility: on 2 items\n  colour: on 1 item\n"), std::string::npos);
+}
+
+TEST(SceneReport, FoldsLongLines) {
+  LayoutSession session;
+  std::string name = "AddNull";
+  for (int i = 0; i < 40; ++i) name += " word";
+  session.send(name);
+  std::istringstream lines(sceneReport(session.scene()));
+  for (std::string line; std::getline(lines, line);) EXPECT_LE(line.size(), kReportColumns) << line;
 }
 
 TEST(SceneReport, ShowsABoneBelowAnotherItemAsATreeOfItsOwn) {
