@@ -56,6 +56,13 @@ std::string findingText(const CheckFinding& finding) {
   return text + ": " + finding.what;
 }
 
+// What the checks of a level put in, to see what becomes of it.
+const char* injectedName(int level) {
+  constexpr int kRefusals = 6;
+  constexpr int kMemory = 7;
+  return level == kRefusals || level == kMemory ? "refused on purpose" : "faults put in";
+}
+
 std::string headText(const ReportHead& head) {
   std::string text = "module  " + head.module + "\nhost    " + head.build + "\nseed    " + std::to_string(head.seed) + "\n";
   if (!head.host.empty()) text += "on      " + head.host + "\n";
@@ -141,7 +148,8 @@ bool isSound(std::span<const CheckResult> results) {
 std::string resultText(const CheckResult& result) {
   std::string text = right(std::to_string(result.check->level), 2) + "  " + left(nameOf(result.verdict), 5) + "  " +
                      left(result.check->name, 18) + right(std::to_string(result.cases), 9) + " cases" +
-                     right(std::to_string(result.injected), 9) + " faults" + right(seconds(result.seconds), 8) + " s\n";
+                     right(std::to_string(result.injected), 9) + " " + left(injectedName(result.check->level), 18) +
+                     right(seconds(result.seconds), 8) + " s\n";
   if (!result.reason.empty()) text += "      skipped: " + result.reason + "\n";
   for (const std::string& note : result.notes) text += "      " + note + "\n";
   for (const CheckFinding& finding : result.findings) text += "      " + findingText(finding) + "\n";
@@ -152,11 +160,12 @@ std::string resultText(const CheckResult& result) {
 std::string reportText(const ReportHead& head, std::span<const CheckResult> results) {
   std::string text = headText(head) + "\n";
   for (const CheckResult& result : results) text += resultText(result);
-  text += "\nlevel             pass  fail crash  hang  skip     cases    faults        s\n";
+  text += "\nlevel             pass  fail crash  hang  skip     cases    put in        s\n";
   for (const auto& [level, sums] : sumsByLevel(results)) {
     text += rowText(right(std::to_string(level), 2) + " " + levelName(level), sums);
   }
-  return text + rowText("all", sumsOf(results));
+  return text + rowText("all", sumsOf(results)) +
+         "put in: on purpose, by the checks: calls and memory refused, data spoilt\n";
 }
 
 std::string reportPage(const ReportHead& head, std::span<const CheckResult> results) {
@@ -167,12 +176,12 @@ std::string reportPage(const ReportHead& head, std::span<const CheckResult> resu
   page += isSound(results) ? "<span class=\"pass\">sound</span>" : "<span class=\"fail\">not sound</span>";
   page += "</h1>\n<pre>" + escaped(headText(head)) + "</pre>\n<h2>Levels</h2>\n<table>\n<tr><th>Level</th>";
   for (const Verdict verdict : kVerdicts) page += cell(nameOf(verdict), "th", "n");
-  page += "<th class=\"n\">cases</th><th class=\"n\">faults put in</th><th class=\"n\">s</th></tr>\n";
+  page += "<th class=\"n\">cases</th><th class=\"n\">put in on purpose</th><th class=\"n\">s</th></tr>\n";
   for (const auto& [level, sums] : sumsByLevel(results))
     page += levelRow(std::to_string(level) + " " + levelName(level), sums);
   page += levelRow("all", sumsOf(results));
   page += "</table>\n<h2>Checks</h2>\n<table>\n<tr><th class=\"n\"></th><th>Check</th><th>Verdict</th><th>What holds</th>";
-  page += "<th class=\"n\">cases</th><th class=\"n\">faults</th><th class=\"n\">s</th></tr>\n";
+  page += "<th class=\"n\">cases</th><th class=\"n\">put in</th><th class=\"n\">s</th></tr>\n";
   for (const CheckResult& result : results) page += checkRow(result);
   return page + "</table>\n</html>\n";
 }

@@ -85,14 +85,14 @@ void disturbed(CheckRun& run, std::string_view name, const Disturber& disturber,
 
 void refusedCalls(CheckRun& run, std::string_view name) {
   const Disturber calls{[](std::uint64_t n) { witness().refuseCall(n); }, [] { return witness().refusalHappened(); },
-                        [] { return "refused " + witness().refusedFunction() + ":"; }};
+                        [] { return "refused on purpose: " + witness().refusedFunction() + ":"; }};
   disturbed(run, name, calls, 1);
 }
 
 void refusedMemory(CheckRun& run, std::string_view name) {
   if (const char* const why = memory::whyUnwatched()) return run.skip(why);
   const Disturber allocations{[](std::uint64_t n) { memory::refuse(n); }, [] { return memory::refusalHappened(); },
-                              [] { return std::string("no memory:"); }};
+                              [] { return std::string("memory refused on purpose:"); }};
   disturbed(run, name, allocations, run.stride());
 }
 

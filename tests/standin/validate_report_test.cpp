@@ -45,6 +45,14 @@ TEST(ValidationReport, CountsByLevelAndInAll) {
   EXPECT_TRUE(holds(text, "all                  1     0     1     0     0        43         7")) << text;
 }
 
+TEST(ValidationReport, SaysThatRefusalsAreOnPurpose) {
+  CheckResult result;
+  result.check = checkNamed("calls-property");
+  result.injected = 12;
+  EXPECT_TRUE(holds(resultText(result), "12 refused on purpose")) << resultText(result);
+  EXPECT_TRUE(holds(reportText(someHead(), twoResults()), "put in: on purpose")) << reportText(someHead(), twoResults());
+}
+
 TEST(ValidationReport, MakesAPageOfItsOwn) {
   const std::string page = reportPage(someHead(), twoResults());
   EXPECT_TRUE(holds(page, "not sound"));
