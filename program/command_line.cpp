@@ -3,7 +3,11 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <iostream>
 #include <type_traits>
+
+#include "program/nearest_name.h"
+#include "program/system_language.h"
 
 namespace standin {
 namespace {
@@ -52,6 +56,25 @@ void addCommand(CLI::App& app, const Command& command, int& result) {
   subcommand->callback([&command, &result] { result = command.run(); });
 }
 
+// Why the first word cannot be the command that has to stand there; empty when it can.
+std::string refusalOfCommand(const Program& program, const std::vector<std::string>& words) {
+  const auto word = std::find_if(words.begin(), words.end(), [](const std::string& w) { return !w.starts_with('-'); });
+  if (word == words.end()) return {};
+  std::vector<std::string> names;
+  for (const Command& command : program.commands) {
+    if (command.name == *word) return {};
+    if (!command.isHidden) names.push_back(command.name);
+  }
+  const std::string near = nearestName(*word, names);
+  return "there is no command \"" + *word + "\"" + (near.empty() ? "" : "; did you mean \"" + near + "\"?");
+}
+
+int refused(const std::string& why) {
+  std::cout.flush();
+  std::cerr << "varnel: " << why << "\nvarnel --help names the commands, varnel COMMAND --help what they take\n";
+  return kWrongUsage;
+}
+
 }  // namespace
 
 int runCommandLine(const Program& program, std::vector<std::string> words) {
@@ -62,11 +85,12 @@ int runCommandLine(const Program& program, std::vector<std::string> words) {
   app.set_version_flag("--version", program.version);
   int result = 0;
   for (const Command& command : program.commands) addCommand(app, command, result);
+  if (const std::string why = refusalOfCommand(program, words); !why.empty()) return refused(why);
   std::reverse(words.begin(), words.end());  // the parser takes them from the back
   try {
     app.parse(words);
   } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? 0 : kWrongUsage;
+    return error.get_exit_code() == 0 ? app.exit(error) : refused(error.what());
   }
   return result;
 }
@@ -76,8 +100,11 @@ CommandOption moduleOption(std::string& target) {
 }
 
 CommandOption languageOption(OptionTarget target, const std::string& text) {
-  const bool isList = std::holds_alternative<std::vector<std::string>*>(target);
-  return {"--lang", target, text, {.choices = {"en", "ja"}, .separator = isList ? ',' : '\0'}};
+  if (std::string* const* const one = std::get_if<std::string*>(&target)) {
+    **one = systemLanguage();
+    return {"--lang", target, text + " (the system's by default)", {.choices = {"en", "ja"}}};
+  }
+  return {"--lang", target, text, {.choices = {"en", "ja"}, .separator = ','}};
 }
 
 CommandOption forceOption(bool& target) { return {"--force", &target, "Write over files that are there"}; }

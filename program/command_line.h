@@ -52,12 +52,13 @@ struct Program {
   std::vector<Command> commands;  // in the order of the help; one of them has to be named
 };
 
-// Runs the command that the words name, or prints the help or what is wrong with them. The exit code: the command's own, 0
-// after a help, kWrongUsage.
+// Runs the command that the words name, or prints the help, or to the error output what is wrong with them. The exit code:
+// the command's own, 0 after a help, kWrongUsage.
 int runCommandLine(const Program& program, std::vector<std::string> words);
 
 // Options that many commands have.
 CommandOption moduleOption(std::string& target);
+// A single language is the system's unless one is named.
 CommandOption languageOption(OptionTarget target, const std::string& text);
 // Asks to write over files that are there.
 CommandOption forceOption(bool& target);

@@ -1,75 +1,65 @@
+#include <algorithm>
 #include <iostream>
 #include <memory>
 
 #include "objectfile/temporary_folder.h"
-#include "program/host_option.h"
+#include "program/conversion.h"
 #include "program/shipped_rigs.h"
 #include "program/subcommands.h"
-#include "program/support.h"
 #include "standin/layout/scene_report.h"
 #include "standin/panels/text.h"
-#include "standin/variants/played_host.h"
 
 namespace standin {
 namespace {
 
 struct ConvertOptions {
   std::vector<std::string> files;
-  std::string module;
-  HostWords host;
-  std::string language = "en";
+  ConversionOptions conversion;
   bool shipped = false;
   bool transcript = false;
-  bool noSkelegons = false;
-  bool noPivot = false;
+  bool full = false;
 };
 
-// What the user of the panel does: opens the tool, sets the options and presses the button.
-void runTool(LayoutHost& host, ModuleFile& module, const ConvertOptions& options) {
-  const Panel& panel = openTool(host, module, kConversionTool);
-  if (options.noSkelegons) must(person::switchTo(panel.find(ControlKind::Bool, 0), false));
-  if (options.noPivot) must(person::switchTo(panel.find(ControlKind::Bool, 1), false));
-  std::cout << "panel\n";
-  indent(panelText(panel));
-  must(person::press(panel.find(ControlKind::Button, 0)));
+void printScene(const char* heading, LayoutHost& host, const ConvertOptions& options, Progress& progress) {
+  progress.tell("looking at the scene");
+  const std::string report = sceneReport(host.scene(), options.full ? SceneReportForm::Full : SceneReportForm::Short);
+  progress.clear();
+  std::cout << heading << "\n";
+  indent(report);
 }
 
-void convertFile(const std::string& file, const ConvertOptions& options) {
+int convertFile(const std::string& file, const ConvertOptions& options) {
   std::cout << "== " << fileNameOf(file) << std::endl;
-  PlayedLayout host(options.host.options());
-  host.setLocale(localeOf(options.language));
-  std::string why;
-  const std::vector<Item*> items = host.loadObject(file, &why);
-  if (items.empty()) throw Trouble{why};
-  host.select(items);
-  std::cout << "before\n";
-  indent(sceneReport(host.scene()));
-
-  ModuleFile module;
-  loadModule(module, options.module);
-  runTool(host, module, options);
+  Progress progress;
+  Conversion conversion(file, options.conversion, progress);
+  LayoutHost& host = conversion.host();
+  printScene("before", host, options, progress);
+  std::cout << "panel\n";
+  indent(panelText(conversion.open()));
+  const ConversionVerdict verdict = conversion.run(progress);
 
   const Transcript& transcript = host.transcript();
   if (options.transcript) {
     std::cout << "transcript\n";
     indent(transcript.text());
   }
-  std::cout << "after\n";
-  indent(sceneReport(host.scene()));
+  printScene("after", host, options, progress);
   const std::size_t refused = transcript.count(EventKind::Rejected) + transcript.count(EventKind::Asked);
-  std::cout << "commands: " << transcript.commandCount() << " sent, " << refused << " refused\n";
-  endSession(module);
+  std::cout << "commands: " << transcript.commandCount() << " sent, " << refused << " refused\n" << verdictText(verdict);
+  conversion.end();
+  return verdict.isSound() ? 0 : kNotAllWell;
 }
 
 int run(const ConvertOptions& options) {
   const TemporaryFolder folder;
   std::vector<std::string> files;
-  int result = reporting([&] {
+  int result = exitCodeOf([&] {
     if (options.shipped) files = writeShippedRigs(folder.path());
     files.insert(files.end(), options.files.begin(), options.files.end());
     if (files.empty()) throw Trouble{"no files; name some, or give --shipped"};
+    return 0;
   });
-  for (const std::string& file : files) result |= reporting([&] { convertFile(file, options); });
+  for (const std::string& file : files) result = std::max(result, exitCodeOf([&] { return convertFile(file, options); }));
   return result;
 }
 
@@ -77,21 +67,22 @@ int run(const ConvertOptions& options) {
 
 Command convertCommand() {
   const auto options = std::make_shared<ConvertOptions>();
+  std::vector<CommandOption> rows = {{"files", &options->files, "Object files"}};
+  for (CommandOption& row : conversionOptions(options->conversion, "Language of the panel")) rows.push_back(std::move(row));
+  rows.push_back({"--shipped", &options->shipped, "Convert the rigs that come with the program first"});
+  rows.push_back({"--full", &options->full, "Show every setting that differs from a fresh item's, with its value"});
+  rows.push_back({"--transcript", &options->transcript, "Show every command"});
   return {
       .name = "convert",
       .text = "Convert the skelegons of object files to bones, as in Layout",
-      .options =
-          {
-              {"files", &options->files, "Object files"},
-              moduleOption(options->module),
-              hostOption(options->host),
-              languageOption(&options->language, "Language of the panel"),
-              {"--shipped", &options->shipped, "Convert the rigs that come with the program first"},
-              {"--transcript", &options->transcript, "Show every command"},
-              {"--no-skelegons", &options->noSkelegons, "Switch the option for making bones off"},
-              {"--no-pivot", &options->noPivot, "Switch the option for recording the pivot rotation off"},
-          },
-      .footer = "Example:\n  varnel convert --lang ja biped.lwo",
+      .options = std::move(rows),
+      .footer =
+          "Shown are the scene before and after, the number of commands, and the verdict. Exit codes: 0 all went well; 1 "
+          "something\n"
+          "did not, as the verdict says; 2 a file cannot be read.\n"
+          "Examples:\n"
+          "  varnel convert biped.lwo\n"
+          "  varnel convert --full --lang ja biped.lwo",
       .run = [options] { return run(*options); },
   };
 }

@@ -1,48 +1,35 @@
 #include <iostream>
 #include <memory>
 
-#include "program/host_option.h"
-#include "program/rig_tool_support.h"
+#include "program/conversion.h"
 #include "program/subcommands.h"
 #include "rigs/report.h"
-#include "standin/panels/panel.h"
-#include "standin/variants/played_host.h"
 
 namespace standin {
 namespace {
 
 struct CommandsOptions {
   std::string file;
-  std::string module;
-  HostWords host;
-  std::string language = "en";
-  bool noSkelegons = false;
-  bool noPivot = false;
+  ConversionOptions conversion;
   bool json = false;
 };
-
-void pressRun(LayoutHost& host, ModuleFile& module, const CommandsOptions& options) {
-  const Panel& panel = openTool(host, module, kConversionTool);
-  if (options.noSkelegons) must(person::switchTo(panel.find(ControlKind::Bool, 0), false));
-  if (options.noPivot) must(person::switchTo(panel.find(ControlKind::Bool, 1), false));
-  must(person::press(panel.find(ControlKind::Button, 0)));
-}
 
 std::vector<rigs::SentCommand> sentCommands(const Transcript& transcript) {
   std::vector<rigs::SentCommand> commands;
   for (const Event& event : transcript.events()) {
     switch (event.kind) {
-      case EventKind::Command: commands.push_back({event.text, "accepted", {}}); break;
-      case EventKind::Rejected: commands.push_back({event.text, "rejected", event.why}); break;
-      case EventKind::Asked: commands.push_back({event.text, "asked", event.why}); break;
+      case EventKind::Command: commands.push_back({event.text, "accepted", {}, event.item}); break;
+      case EventKind::Rejected: commands.push_back({event.text, "rejected", event.why, event.item}); break;
+      case EventKind::Asked: commands.push_back({event.text, "asked", event.why, event.item}); break;
       case EventKind::Status: break;
     }
   }
   return commands;
 }
 
+// The commands are data; what became of them goes to the error output.
 void print(const std::vector<rigs::SentCommand>& commands) {
-  for (const rigs::SentCommand& command : commands) std::cout << command.text << "\n";
+  for (const rigs::SentCommand& command : commands) std::cout << withItemName(command.text, command.item) << "\n";
   std::cout.flush();
   for (const rigs::SentCommand& command : commands) {
     if (command.result == "accepted") continue;
@@ -52,23 +39,19 @@ void print(const std::vector<rigs::SentCommand>& commands) {
 
 int run(const CommandsOptions& options) {
   return exitCodeOf([&] {
-    PlayedLayout host(options.host.options());
-    host.setLocale(localeOf(options.language));
-    std::string why;
-    const std::vector<Item*> items = host.loadObject(options.file, &why);
-    if (items.empty()) throw Trouble{why.empty() ? options.file + ": the object has no layer" : why};
-    host.select(items);
-    ModuleFile module;
-    loadModule(module, options.module);
-    pressRun(host, module, options);
-    const std::vector<rigs::SentCommand> commands = sentCommands(host.transcript());
+    Progress progress;
+    Conversion conversion(options.file, options.conversion, progress);
+    conversion.open();
+    const ConversionVerdict verdict = conversion.run(progress);
+    const std::vector<rigs::SentCommand> commands = sentCommands(conversion.host().transcript());
     if (options.json) {
-      std::cout << rigs::commandsJson(commands);
+      std::cout << rigs::commandsJson(commands) << std::flush;
     } else {
       print(commands);
     }
-    endSession(module);
-    return 0;
+    std::cerr << verdictText(verdict);
+    conversion.end();
+    return verdict.isSound() ? 0 : kNotAllWell;
   });
 }
 
@@ -76,23 +59,19 @@ int run(const CommandsOptions& options) {
 
 Command commandsCommand() {
   const auto options = std::make_shared<CommandsOptions>();
+  std::vector<CommandOption> rows = {{"file", &options->file, "Object file", {.isRequired = true}}};
+  for (CommandOption& row : conversionOptions(options->conversion, "Language of Layout")) rows.push_back(std::move(row));
+  rows.push_back({"--json", &options->json, "Print JSON, with what became of each command"});
   return {
       .name = "commands",
       .text = "Print the commands that a conversion sends to Layout",
-      .options =
-          {
-              {"file", &options->file, "Object file", {.isRequired = true}},
-              moduleOption(options->module),
-              hostOption(options->host),
-              languageOption(&options->language, "Language of Layout"),
-              {"--no-skelegons", &options->noSkelegons, "Switch the option for making bones off"},
-              {"--no-pivot", &options->noPivot, "Switch the option for recording the pivot rotation off"},
-              {"--json", &options->json, "Print JSON, with what became of each command"},
-          },
+      .options = std::move(rows),
       .footer =
           "The module itself sends them, with every layer of the object selected, to the Layout that this program plays. "
-          "Commands\n"
-          "that Layout did not do are named on the error output. Exit codes: 0; 2 when there is nothing to show.\n"
+          "Behind\n"
+          "the number of an item stands its name. Commands that Layout did not do, and the verdict, go to the error output. "
+          "Exit\n"
+          "codes: 0 all went well; 1 something did not, as the verdict says; 2 there is nothing to show.\n"
           "Examples:\n"
           "  varnel commands biped.lwo\n"
           "  varnel commands --no-pivot --json biped.lwo > commands.json",

@@ -1,12 +1,13 @@
-// The subcommands of the program. Where no comment says otherwise, the exit codes are 0 for done and 1 for something went
-// wrong.
+// The subcommands of the program. Exit codes: 0 for done, 1 where a comment says so, 2 for what could not be done, with the
+// reason on the error output.
 #pragma once
 
 #include "program/command_line.h"
 
 namespace standin {
 
-// Loads object files into the stand-in Layout, lets the module convert them, and shows before and after.
+// Loads object files into the stand-in Layout, lets the module convert them, and shows before and after with a verdict; 1 when
+// not all went well.
 Command convertCommand();
 // The typical trip of a setting, from the property panel in Modeler to the bone in Layout.
 Command tripCommand();
@@ -22,7 +23,7 @@ Command deskCommand();
 // Writes the rigs that come with the program as files.
 Command rigsCommand();
 
-// Those that look into rigs. Exit codes: 0, 1 where a command says so, and 2 when a file cannot be read or written.
+// Those that look into rigs; their helps say when they end with 1.
 Command inspectCommand();
 Command commandsCommand();
 Command diffCommand();
@@ -32,7 +33,7 @@ Command importCommand();
 // What hosts may differ in, for the option --host.
 Command hostsCommand();
 
-// The ladder of checks against a module's file. Exit codes: 0 sound, 1 something was found, 2 nothing could be checked.
+// The ladder of checks against a module's file. 1 when something was found.
 Command validateCommand();
 // A single check, for the processes of their own; the help hides it.
 Command validateCheckCommand();

@@ -41,6 +41,9 @@ void endSession(ModuleFile& module) {
 
 std::uint32_t localeOf(const std::string& language) { return language == "ja" ? kLocaleJapanese : kLocaleEnglish; }
 
-void printTrouble(const Trouble& trouble) { std::cout << "  failed: " << trouble.why << "\n"; }
+void printTrouble(const Trouble& trouble) {
+  std::cout.flush();
+  std::cerr << "varnel: " << trouble.why << "\n";
+}
 
 }  // namespace standin

@@ -13,6 +13,10 @@
 
 namespace standin {
 
+// Exit codes, beside 0: something that the command looked at went wrong, or it could not do what it was asked for.
+inline constexpr int kNotAllWell = 1;
+inline constexpr int kTrouble = 2;
+
 // What ends a subcommand: a sentence for the user.
 struct Trouble {
   std::string why;
@@ -51,18 +55,27 @@ void endSession(ModuleFile& module);
 // The locale of --lang: "en" or "ja".
 std::uint32_t localeOf(const std::string& language);
 
+// To the error output, so that what is printed stays data.
 void printTrouble(const Trouble& trouble);
 
-// Runs the action and prints what ended it. The exit code.
+// Runs the action, which gives the exit code, and prints what ended it.
 template <class Action>
-int reporting(Action&& action) {
+int exitCodeOf(Action&& action) {
   try {
-    std::forward<Action>(action)();
-    return 0;
+    return std::forward<Action>(action)();
   } catch (const Trouble& trouble) {
     printTrouble(trouble);
-    return 1;
+    return kTrouble;
   }
+}
+
+// The same for an action that is done when it returns.
+template <class Action>
+int reporting(Action&& action) {
+  return exitCodeOf([&] {
+    std::forward<Action>(action)();
+    return 0;
+  });
 }
 
 }  // namespace standin

@@ -114,11 +114,7 @@ int validateModule(const ValidateOptions& options) {
   const std::string text = v::reportText(head, results);
   std::cout << text.substr(text.rfind("\n\n") + 1);
   writeReports(options, head, results);
-  return v::isSound(results) ? 0 : 1;
-}
-
-int run(const ValidateOptions& options) {
-  return exitCodeOf([&] { return validateModule(options); });
+  return v::isSound(results) ? 0 : kNotAllWell;
 }
 
 }  // namespace
@@ -156,7 +152,7 @@ Command validateCommand() {
           "\n  varnel validate --level 3 --report report\n"
           "  varnel validate --only walks --quick --seed 7\n"
           "  varnel validate --level 5-5 --host new-bones=selected --host sets=fire",
-      .run = [options] { return run(*options); },
+      .run = [options] { return exitCodeOf([&] { return validateModule(*options); }); },
   };
 }
 

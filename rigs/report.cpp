@@ -279,6 +279,7 @@ std::string commandsJson(const std::vector<SentCommand>& commands) {
   Json json = Json::array();
   for (const SentCommand& command : commands) {
     Json entry{{"command", command.text}, {"result", command.result}};
+    if (!command.item.empty()) entry["item"] = command.item;
     if (!command.why.empty()) entry["why"] = command.why;
     json.push_back(std::move(entry));
   }

@@ -41,6 +41,7 @@ struct SentCommand {
   std::string text;
   std::string result;  // "accepted", "rejected" or "asked"
   std::string why;
+  std::string item = {};  // the name of the item that it gives by its number
 };
 std::string commandsJson(const std::vector<SentCommand>& commands);
 
