@@ -46,6 +46,9 @@ bool asksAQuestion(const std::string& example) {
   return example.starts_with("varnel diff ") || example.find(" --strict") != std::string::npos;
 }
 
+// The error stream has the verdict, for what it printed is for other programs.
+bool endsWithAVerdict(const std::string& example) { return example.starts_with("varnel commands"); }
+
 // It waits for a person.
 bool waitsForSomeone(const std::string& example) { return example.starts_with("varnel desk"); }
 
@@ -62,7 +65,7 @@ class HelpExamples : public TypedLines {
     const int code = type(example);
     EXPECT_LE(code, asksAQuestion(example) ? 1 : 0) << example << "\n" << out << error;
     EXPECT_GE(code, 0) << example;
-    EXPECT_EQ(error, "") << example;
+    EXPECT_TRUE(error.empty() || endsWithAVerdict(example)) << example << "\n" << error;
   }
 };
 
