@@ -353,7 +353,8 @@ TEST_F(RigCommandLine, ADryRunShowsWhatWouldChangeAndWritesNothing) {
 
 TEST_F(RigCommandLine, MergingAPartOfTheSettingsKeepsTheRest) {
   const std::string file = write("rig.lwo", SoundRig());
-  const std::string json = write("part.json", R"({"format": "varnel settings", "version": 1, "layers": [{"number": 0, "name": "Rig",
+  const std::string json =
+      write("part.json", R"({"format": "varnel settings", "version": 1, "layers": [{"number": 0, "name": "Rig",
       "skelegons": [{"name": "Root", "settings": {"Strength": 50}}]}]})");
   EXPECT_EQ(run({"import", file, json, "--merge", "--in-place"}), 0) << error_;
   EXPECT_THAT(out_, HasSubstr("1 tag changed"));
