@@ -37,6 +37,24 @@ bool isChanged(const Skelegon& skelegon, Slot slot) {
   return !meansTheSame(setting, valueOf(skelegon, setting), setting.defaultText);
 }
 
+// Choices of which the conversion asks only whether they are 0.
+bool isSentAsFlag(Slot slot) {
+  return slot == Slot::BoneType || slot == Slot::Visibility ||
+         std::any_of(skg::kLinkedItems.begin(), skg::kLinkedItems.end(),
+                     [&](const skg::LinkedItem& item) { return item.visibility == slot; });
+}
+
+// Whether the conversion looks at the setting: at those of a linked item only where that has a name.
+bool isLookedAt(const Skelegon& skelegon, Slot slot) {
+  bool isOfItem = false;
+  for (const skg::LinkedItem& item : skg::kLinkedItems) {
+    if (slot != item.parent && slot != item.shape && slot != item.visibility && slot != item.colour) continue;
+    if (!valueOf(skelegon, settingOf(item.name)).empty()) return true;
+    isOfItem = true;
+  }
+  return !isOfItem;
+}
+
 // The range as it is stored, or a hundredth of it, as it is sent: "10–250 m".
 std::string rangeShown(const Skelegon& skelegon, double factor) {
   const auto metres = [&](Slot slot) { return shortNumber(skg::leadingReal(valueOf(skelegon, settingOf(slot))) * factor); };
@@ -49,11 +67,13 @@ class FindingSearch {
  public:
   FindingSearch(const Rig& rig, const CodePage& codePage) : rig_(rig), codePage_(codePage), found_(namesFound(rig)) {
     for (const Layer& layer : rig.layers) items_.insert(layer.itemName);
-    for (const Skelegon& skelegon : rig.skelegons) {
+    for (std::size_t i = 0; i < rig.skelegons.size(); ++i) {
+      const Skelegon& skelegon = rig.skelegons[i];
       layersOfName_[skelegon.name].insert(skelegon.layer);
       for (const Setting& setting : allSettings()) {
         const std::string* const text = skg::linkedItemOf(setting.slot) != nullptr ? skelegon.stored(setting) : nullptr;
-        if (text != nullptr && !text->empty()) nulls_.insert(itemMeant(layerOf(skelegon), *text));
+        const bool isMade = text != nullptr && !text->empty() && !skelegon.name.empty();
+        if (isMade) nulls_.try_emplace(itemMeant(layerOf(skelegon), *text), i);
       }
     }
   }
@@ -153,27 +173,26 @@ class FindingSearch {
   void checkSkelegon(std::size_t i) {
     const Skelegon& skelegon = rig_.skelegons[i];
     checkName(i);
-    for (const Setting& setting : allSettings()) {
-      const std::string* const text = skelegon.stored(setting);
-      if (text != nullptr) checkValue(i, setting, *text);
-    }
-    checkTogether(i);
-    checkColourStored(i);
+    if (!skelegon.name.empty()) checkSettings(i);  // without a name nothing is sent
     for (const PolygonTag& tag : skelegon.tags) {
       if (isUnknownSlot(tag.type)) addFor(i, nullptr, FindingKind::UnknownSlot, quoted(tag.text)).other = tagName(tag.type);
     }
     checkOddTags(i);
   }
 
+  void checkSettings(std::size_t i) {
+    for (const Setting& setting : allSettings()) {
+      const std::string* const text = rig_.skelegons[i].stored(setting);
+      if (text != nullptr) checkValue(i, setting, *text);
+    }
+    checkTogether(i);
+    checkColourStored(i);
+  }
+
   // Settings that are sound each by itself.
   void checkTogether(std::size_t i) {
     const Skelegon& skelegon = rig_.skelegons[i];
-    const bool hasMap = !valueOf(skelegon, settingOf(Slot::WeightMap)).empty();
-    if (hasMap && isOn(skelegon, Slot::WeightMapOnly)) {
-      // Both switches go out under one name, which switches normalization on as well.
-      const bool isBoth = isOn(skelegon, Slot::WeightNormalization);
-      addFor(i, &settingOf(Slot::WeightMapOnly), isBoth ? FindingKind::WeightOnlyLate : FindingKind::WeightOnlyLost);
-    }
+    checkWeights(i);
     if (isOn(skelegon, Slot::Twist) && !isOn(skelegon, Slot::BoneType)) {
       addFor(i, &settingOf(Slot::Twist), FindingKind::TwistWithoutJoint);
     }
@@ -182,6 +201,20 @@ class FindingSearch {
           rangeShown(skelegon, 0.01);
     }
     checkScaleFollow(i);
+  }
+
+  void checkWeights(std::size_t i) {
+    const Skelegon& skelegon = rig_.skelegons[i];
+    const bool hasMap = !valueOf(skelegon, settingOf(Slot::WeightMap)).empty();
+    const bool isOnly = isOn(skelegon, Slot::WeightMapOnly);
+    const bool isNormal = isOn(skelegon, Slot::WeightNormalization);
+    if (hasMap && isOnly) {
+      // Both switches go out under one name, which switches normalization on as well.
+      addFor(i, &settingOf(Slot::WeightMapOnly), isNormal ? FindingKind::WeightOnlyLate : FindingKind::WeightOnlyLost);
+      return;
+    }
+    if (isOnly) addFor(i, &settingOf(Slot::WeightMapOnly), FindingKind::WeightNotSent);
+    if (isNormal) addFor(i, &settingOf(Slot::WeightNormalization), FindingKind::WeightNotSent);
   }
 
   // What the Z scale follows is sent by the word of the Y scale's controller.
@@ -196,13 +229,13 @@ class FindingSearch {
     if (isSent && !isMeant && isStored) addFor(i, &settingOf(Slot::ZScaleFollow), FindingKind::ZFollowSent);
   }
 
-  // The bone's colour alone has no default. Without a name nothing is sent, no colour either.
+  // The bone's colour alone has no default.
   void checkColourStored(std::size_t i) {
     const Skelegon& skelegon = rig_.skelegons[i];
     const Setting& colour = settingOf(Slot::Colour);
     const bool isStored =
         skelegon.stored(colour) != nullptr || skelegon.stored(*settingOfTag(skg::kColourCopyTag)) != nullptr;
-    if (!skelegon.name.empty() && !isStored) addFor(i, &colour, FindingKind::ColourMissing);
+    if (!isStored) addFor(i, &colour, FindingKind::ColourMissing);
   }
 
   // Only where it makes a difference to the conversion.
@@ -247,14 +280,15 @@ class FindingSearch {
   }
 
   void checkValue(std::size_t i, const Setting& setting, const std::string& text) {
+    if (!isNumeric(setting.kind)) checkLength(i, &setting, text);
+    if (!isLookedAt(rig_.skelegons[i], setting.slot)) return;
     if (isNumeric(setting.kind)) return checkNumber(i, setting, text);
     if (setting.kind == SlotKind::Colour) return checkColour(i, setting, text);
     if (text.empty()) return;
-    checkLength(i, &setting, text);
     if (setting.slot == Slot::WeightMap) checkCommand(i, setting, "BoneWeightMapName", text);
     if (skg::linkedItemOf(setting.slot) != nullptr) checkHelper(i, setting, text);
-    if (skg::isParentName(setting.slot)) checkLookUp(i, setting, text, FindingKind::ParentMissing);
-    if (setting.slot == Slot::UseBonesFromObject) checkLookUp(i, setting, text, FindingKind::BonesFromMissing);
+    if (skg::isParentName(setting.slot)) checkParent(i, setting, text);
+    if (setting.slot == Slot::UseBonesFromObject) checkBonesFrom(i, setting, text);
   }
 
   void checkNumber(std::size_t i, const Setting& setting, const std::string& text) {
@@ -270,7 +304,7 @@ class FindingSearch {
           isWhole ? std::to_string(skg::leadingInteger(text)) : shortNumber(skg::leadingReal(text));
     }
     if (isInList(setting, text)) return;
-    const bool isFlag = setting.kind == SlotKind::Flag;
+    const bool isFlag = setting.kind == SlotKind::Flag || isSentAsFlag(setting.slot);
     addFor(i, &setting, isFlag ? FindingKind::FlagOutside : FindingKind::ChoiceOutside,
            std::to_string(skg::leadingInteger(text)))
         .number = std::to_string(setting.englishChoices.size());
@@ -294,10 +328,27 @@ class FindingSearch {
     checkCommand(i, setting, "AddNull", text);
   }
 
-  void checkLookUp(std::size_t i, const Setting& setting, const std::string& text, FindingKind kind) {
+  // Whether the file has the item by the time it is looked up: nulls are made in the order of the skelegons.
+  bool isThere(const std::string& item, std::size_t nullsMade) const {
+    const auto null = nulls_.find(item);
+    return found_.count(item) != 0 || (null != nulls_.end() && null->second < nullsMade);
+  }
+
+  // Parents are set when all nulls of the skelegon are made.
+  void checkParent(std::size_t i, const Setting& setting, const std::string& text) {
     const Layer& layer = layerOf(rig_.skelegons[i]);
     const std::string item = itemMeant(layer, text);
-    if (found_.count(item) == 0 && nulls_.count(item) == 0) addFor(i, &setting, kind, quotedItem(layer, text));
+    if (isThere(item, i + 1)) return;
+    const bool isLate = nulls_.count(item) != 0;
+    addFor(i, &setting, isLate ? FindingKind::ParentLate : FindingKind::ParentMissing, quotedItem(layer, text));
+  }
+
+  // The object is looked up first of all.
+  void checkBonesFrom(std::size_t i, const Setting& setting, const std::string& text) {
+    const Layer& layer = layerOf(rig_.skelegons[i]);
+    if (!isThere(itemMeant(layer, text), i)) {
+      addFor(i, &setting, FindingKind::BonesFromMissing, quotedItem(layer, text));
+    }
   }
 
   void checkCommand(std::size_t i, const Setting& setting, const std::string& command, const std::string& text) {
@@ -325,7 +376,7 @@ class FindingSearch {
   const CodePage& codePage_;
   std::set<std::string> found_;
   std::set<std::string> items_;
-  std::set<std::string> nulls_;  // made for the helper items of the file
+  std::map<std::string, std::size_t> nulls_;  // made for the helper items of the file: the first skelegon of each
   std::map<std::string, std::set<std::size_t>> layersOfName_;
   std::vector<Finding> findings_;
 };

@@ -24,6 +24,7 @@ enum class FindingKind : std::size_t {
   CountersTwice,
   BecomesNull,
   ParentMissing,
+  ParentLate,
   BonesFromMissing,
   ChoiceOutside,
   FlagOutside,
@@ -40,6 +41,7 @@ enum class FindingKind : std::size_t {
   UnknownSlot,
   WeightOnlyLate,
   WeightOnlyLost,
+  WeightNotSent,
   TwistWithoutJoint,
   LimitedRange,
   ZFollowLost,
@@ -48,7 +50,7 @@ enum class FindingKind : std::size_t {
   TagRepeated,
   TextMissing,
 };
-inline constexpr std::size_t kFindingKinds = 34;
+inline constexpr std::size_t kFindingKinds = 36;
 
 enum class FindingWeight {
   Problem,  // a setting will not arrive, will arrive at another item or as something else

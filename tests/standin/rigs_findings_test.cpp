@@ -119,10 +119,54 @@ TEST_F(Findings, ALinkedNameIsLookedUpWithTheObjectsNameForThePlaceholder) {
   EXPECT_THAT(sentence(rig.rig()), HasSubstr("\"rig:Bodie\""));
 }
 
-TEST_F(Findings, AParentMayBeANullOfAnotherSkelegon) {
+TEST_F(Findings, AParentMayBeANullOfThisOrAnEarlierSkelegon) {
+  sound.set(sound.root, 55, "Root_goal");
+  sound.set(sound.root, 51, "Root_goal");
+  sound.set(sound.hand, 51, "Root_goal");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("becomes-null Rig / Root / Goal Object"));
+}
+
+TEST_F(Findings, ANullOfALaterSkelegonComesTooLateForAParent) {
   sound.set(sound.hand, 55, "Hand_goal");
   sound.set(sound.root, 51, "Hand_goal");
-  EXPECT_THAT(found(sound.rig()), ElementsAre("becomes-null Rig / Hand / Goal Object"));
+  EXPECT_THAT(found(sound.rig()),
+              ElementsAre("parent-late Rig / Root / Parent Item", "becomes-null Rig / Hand / Goal Object"));
+}
+
+TEST_F(Findings, OnlyANullOfAnEarlierSkelegonIsThereToTakeBonesFrom) {
+  sound.set(sound.root, 55, "Root_goal");
+  sound.set(sound.hand, 12, "Root_goal");
+  EXPECT_THAT(found(sound.rig()), testing::Not(testing::Contains(HasSubstr("bones-from-missing"))));
+  sound.set(sound.root, 12, "Root_goal");
+  EXPECT_THAT(found(sound.rig()), testing::Contains("bones-from-missing Rig / Root / Use Bones From Object"));
+}
+
+TEST_F(Findings, WhatBelongsToALinkedItemWithoutANameIsNotLookedAt) {
+  sound.builder.settings(sound.root, {{131, "Nobody"}, {146, "7"}, {153, "Pink"}});
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+  sound.set(sound.root, 53, "Hand");
+  EXPECT_THAT(found(sound.rig()),
+              ElementsAre("parent-missing Rig / Root / Pole Item Parent", "flag-outside Rig / Root / Visibility (Pole Item)",
+                          "colour-unknown Rig / Root / Color (Pole Item)"));
+}
+
+TEST_F(Findings, TheInitialPositionItemSharesAParent) {
+  sound.set(sound.root, 133, "Nobody");
+  EXPECT_THAT(found(sound.rig()), IsEmpty());
+  sound.set(sound.root, 142, "Hand");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("parent-missing Rig / Root / Position Item Parent"));
+}
+
+TEST_F(Findings, OfASkelegonWithoutANameNoSettingIsJudged) {
+  sound.builder.tag(sound.hand, lw::kTagBone, "");
+  sound.builder.settings(sound.hand, {{13, "99"}, {48, "1"}, {55, "Goal"}});
+  EXPECT_THAT(found(sound.rig()), ElementsAre("no-name Rig / (no name)"));
+}
+
+TEST_F(Findings, ABoneTypeOrAVisibilityOfTwoCountsAsOne) {
+  sound.builder.settings(sound.root, {{26, "2"}, {128, "2"}});
+  EXPECT_THAT(found(sound.rig()),
+              ElementsAre("flag-outside Rig / Root / Bone Type", "flag-outside Rig / Root / Visibility (bone)"));
 }
 
 TEST_F(Findings, BonesFromAMissingObjectEndTheLayer) {
@@ -145,8 +189,8 @@ TEST_F(Findings, AFlagOfTwoCountsAsOn) {
 }
 
 TEST_F(Findings, AnUnknownColourBecomesOrange) {
-  sound.set(sound.root, 152, "Pink");
-  EXPECT_THAT(found(sound.rig()), ElementsAre("colour-unknown Rig / Root / Color (Target Item)"));
+  sound.set(sound.hand, 152, "Pink");
+  EXPECT_THAT(found(sound.rig()), ElementsAre("colour-unknown Rig / Hand / Color (Target Item)"));
 }
 
 TEST_F(Findings, AnEmptyColourOfTheHostsHidesTheChosenOne) {
@@ -266,10 +310,12 @@ TEST_F(Findings, TheWeightMapOnlyWithoutNormalizationIsLost) {
   EXPECT_THAT(found(sound.rig()), ElementsAre("weight-only-lost Rig / Root / Use Weight Map Only"));
 }
 
-TEST_F(Findings, WeightSwitchesThatAreNotSentAreNotTold) {
+TEST_F(Findings, WeightSwitchesThatAreNotSentAreTold) {
   sound.set(sound.root, 30, "1");                              // not without the map only
   sound.builder.settings(sound.hand, {{29, "1"}, {30, "1"}});  // no map
-  EXPECT_THAT(found(sound.rig()), IsEmpty());
+  EXPECT_THAT(found(sound.rig()), ElementsAre("weight-not-sent Rig / Root / Weight Normalization",
+                                              "weight-not-sent Rig / Hand / Use Weight Map Only",
+                                              "weight-not-sent Rig / Hand / Weight Normalization"));
 }
 
 TEST_F(Findings, TwistNeedsAJoint) {
