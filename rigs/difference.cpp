@@ -195,22 +195,29 @@ class Comparison {
       const std::string* const from = was == nullptr ? nullptr : was->stored(setting);
       const std::string* const to = now.stored(setting);
       if (isSame(setting, from, to)) continue;
-      Text before = was == nullptr ? Text() : valueShown(setting, from);
-      Text after = valueShown(setting, to);
-      // Two texts of one meaning: only as they stand are they different.
-      if (before && before == after) {
-        before = inQuotes(*from);
-        after = inQuotes(*to);
-      }
-      add(DifferenceKind::Setting, after_, i, setting.name(language_), std::move(before), std::move(after));
+      // Two texts that are shown alike: only as they stand are they different.
+      const bool isAlike = was != nullptr && isShownAlike(setting, from, to);
+      Text before = was == nullptr ? Text() : valueShown(setting, from, isAlike);
+      add(DifferenceKind::Setting, after_, i, setting.name(language_), std::move(before), valueShown(setting, to, isAlike));
     }
     compareOtherTags(i, was, now);
   }
 
-  Text valueShown(const Setting& setting, const std::string* stored) const {
-    if (stored != nullptr) return shown(setting, *stored, language_);
-    if (setting.slot == skg::Slot::Colour || setting.defaultText.empty()) return {};
-    return shown(setting, setting.defaultText, language_) + (language_ == Language::Japanese ? " (初期値)" : " (default)");
+  static bool hasDefault(const Setting& setting) {
+    return setting.slot != skg::Slot::Colour && !setting.defaultText.empty();
+  }
+
+  bool isShownAlike(const Setting& setting, const std::string* from, const std::string* to) const {
+    if ((from == nullptr || to == nullptr) && !hasDefault(setting)) return false;
+    const auto text = [&](const std::string* stored) { return stored == nullptr ? setting.defaultText : *stored; };
+    return shown(setting, text(from), language_) == shown(setting, text(to), language_);
+  }
+
+  Text valueShown(const Setting& setting, const std::string* stored, bool asItStands) const {
+    const auto words = [&](std::string_view text) { return asItStands ? inQuotes(text) : shown(setting, text, language_); };
+    if (stored != nullptr) return words(*stored);
+    if (!hasDefault(setting)) return {};
+    return words(setting.defaultText) + (language_ == Language::Japanese ? " (初期値)" : " (default)");
   }
 
   void compareOtherTags(std::size_t i, const Skelegon* was, const Skelegon& now) {

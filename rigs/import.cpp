@@ -148,8 +148,9 @@ class Import {
       if (setting == nullptr) refuse(place, "unknown setting " + inQuotes(key));
       const Outcome<std::string> text = textOf(*setting, value);
       if (!text) refuse(place + ", " + inQuotes(key), text.why());
-      // What stands as it is to be stored is no value but a text. A colour that is not stored becomes orange: it has no default.
-      const bool hasDefault = !value.is_object() && setting->kind != skg::SlotKind::Colour;
+      // What stands as it is to be stored is no value but a text. A bone whose colour is not stored becomes orange: that one
+      // colour has no default.
+      const bool hasDefault = !value.is_object() && setting->slot != skg::Slot::Colour;
       values[setting->tag] = {*text, hasDefault && meansTheSame(*setting, *text, setting->defaultText)};
     }
   }

@@ -1,4 +1,6 @@
 // The form of the settings as JSON, for programs that write or check them.
+#include <cstdint>
+
 #include "rigs/setting_json.h"
 #include "rigs/settings_json.h"
 
@@ -23,7 +25,7 @@ Json plainSchema(const Setting& setting) {
   switch (setting.kind) {
     case SlotKind::Flag: return Json{{"type", "boolean"}};
     case SlotKind::Choice: return Json{{"enum", setting.englishChoices}};
-    case SlotKind::Integer: return Json{{"type", "integer"}};
+    case SlotKind::Integer: return Json{{"type", "integer"}, {"minimum", INT32_MIN}, {"maximum", INT32_MAX}};
     case SlotKind::Percent:
     case SlotKind::Distance:
     case SlotKind::Number:
@@ -35,7 +37,8 @@ Json plainSchema(const Setting& setting) {
 
 Json settingSchema(const Setting& setting) {
   Json json{{"title", setting.japanese}, {"anyOf", Json::array({plainSchema(setting), ref("asStored")})}};
-  if (setting.kind != SlotKind::Colour) json["default"] = valueOf(setting, setting.defaultText);
+  // A bone whose colour is not stored becomes orange: that one colour has no default.
+  if (setting.slot != skg::Slot::Colour) json["default"] = valueOf(setting, setting.defaultText);
   return json;
 }
 
@@ -49,7 +52,7 @@ Json settingsOfASkelegon() {
 
 std::string settingsSchema() {
   const Json text = Json{{"type", "string"}};
-  const Json hex = object({{"hex", {{"type", "string"}, {"pattern", "^([0-9A-Fa-f]{2})*$"}}}}, {"hex"});
+  const Json hex = object({{"hex", {{"type", "string"}, {"pattern", "^(0[1-9A-Fa-f]|[1-9A-Fa-f][0-9A-Fa-f])*$"}}}}, {"hex"});
   const Json name = Json{{"anyOf", Json::array({text, hex})}};
   Json json =
       object({{"format", {{"const", "varnel settings"}}}, {"version", {{"const", 1}}}, {"layers", listOf(ref("layer"))}},

@@ -67,6 +67,11 @@ TEST_F(Differences, AStoredDefaultIsNone) {
   EXPECT_THAT(differences(before, after), IsEmpty());
 }
 
+TEST_F(Differences, ValuesThatAreShownAlikeStandAsTheyAreStored) {
+  after.set(after.root, 97, "-3.141593");  // what the panel stores for 180 degrees, and not the default
+  EXPECT_EQ(differences(before, after), "Rig / Root\n  Min (Heading Limits): \"-3.141592\" (default) -> \"-3.141593\"\n");
+}
+
 TEST_F(Differences, NumbersThatReadOnlyInPartAreShownAsTheyStand) {
   after.set(after.root, 31, "80 %");
   EXPECT_EQ(differences(before, after), "Rig / Root\n  Strength: 80 % -> \"80 %\"\n");

@@ -124,8 +124,14 @@ TEST_F(Import, ADefaultThatIsStoredStaysWhereItIsListed) {
   EXPECT_EQ(stored(0, 27), "1");
 }
 
+TEST_F(Import, TheDefaultColourOfALinkedItemIsNotStored) {
+  Json json = exported();
+  skelegon(json, 0)["settings"]["Color (Target Item)"] = "Modeler";
+  EXPECT_EQ(*importSettings(object, json.dump()), 0U);
+}
+
 // A bone whose colour is not stored becomes orange.
-TEST_F(Import, AColourIsStoredWhateverItIs) {
+TEST_F(Import, ABonesColourIsStoredWhateverItIs) {
   Json json = exported();
   skelegon(json, 1)["settings"]["Color (bone)"] = "Modeler";
   EXPECT_EQ(*importSettings(object, json.dump()), 1U);

@@ -55,6 +55,7 @@ class Schema : public testing::Test {
     if (rule.contains("enum")) return std::find(rule["enum"].begin(), rule["enum"].end(), json) != rule["enum"].end();
     if (!isOfType(rule["type"], json)) return false;
     if (rule.contains("minimum") && json < rule["minimum"]) return false;
+    if (rule.contains("maximum") && json > rule["maximum"]) return false;
     if (rule.contains("pattern") &&
         !std::regex_match(json.get<std::string>(), std::regex(rule["pattern"].get<std::string>())))
       return false;
@@ -79,7 +80,8 @@ TEST_F(Schema, HoldsEverySettingWithItsChoicesAndItsDefault) {
     if (setting.kind == skg::SlotKind::Choice) {
       EXPECT_EQ(rule["anyOf"][0]["enum"], Json(setting.englishChoices));
     }
-    if (setting.kind != skg::SlotKind::Colour) {
+    EXPECT_EQ(rule.contains("default"), setting.slot != skg::Slot::Colour) << setting.english;
+    if (rule.contains("default")) {
       EXPECT_TRUE(accepts(fileWith({{setting.english, rule["default"]}}))) << setting.english;
     }
   }
@@ -92,9 +94,11 @@ TEST_F(Schema, RefusesValuesOfAnotherKind) {
                                                 {{"Bone Active", 1}},
                                                 {{"Bone Type", "Ball"}},
                                                 {{"Limit Bone Num", 1.5}},
+                                                {{"Limit Bone Num", 2147483648}},
                                                 {{"Color (bone)", "Dark Red"}},
                                                 {{"Goal Object", 5}},
                                                 {{"Goal Object", {{"hex", "8"}}}},
+                                                {{"Goal Object", {{"hex", "4100"}}}},
                                                 {{"Goal Object", {{"text", "a"}, {"hex", "00"}}}}}) {
     EXPECT_FALSE(accepts(fileWith(settings))) << settings;
   }
