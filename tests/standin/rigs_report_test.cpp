@@ -49,6 +49,13 @@ TEST(RigReport, ShowsDefaultsAndFurtherTagsWhenAskedForAll) {
   EXPECT_THAT(text, Not(HasSubstr("Color (bone): Modeler Setting")));
 }
 
+TEST(RigReport, CallsADefaultAsTheManualDoes) {
+  ReportOptions options;
+  options.language = Language::Japanese;
+  options.all = true;
+  EXPECT_THAT(treeText(SoundRig().rig(), options), testing::HasSubstr("ボーン有効: オン (初期値)\n"));
+}
+
 TEST(RigReport, ShowsARingOfSkelegonsOnce) {
   RigBuilder builder;
   builder.point({0, 0, 0});
