@@ -81,8 +81,8 @@ Command convertCommand() {
           "something\n"
           "did not, as the verdict says; 2 a file cannot be read.\n"
           "Examples:\n"
-          "  varnel convert biped.lwo\n"
-          "  varnel convert --full --lang ja biped.lwo",
+          "  varnel convert rigs/lizard.lwo\n"
+          "  varnel convert --full --lang ja rigs/lizard.lwo",
       .run = [options] { return run(*options); },
   };
 }

@@ -59,7 +59,7 @@ Command deskCommand() {
               hostOption(options->host),
               languageOption(&options->language, "Language of the panels"),
           },
-      .footer = "Example:\n  varnel desk biped.lwo",
+      .footer = "Example:\n  varnel desk rigs/lizard.lwo",
       .run = [options] { return run(*options); },
   };
 }

@@ -151,8 +151,8 @@ Command inspectCommand() {
           "may be meant so. Exit codes: 0; 1 with --strict and problems; 2 when a file cannot be read or has no such "
           "skelegon.\n"
           "Examples:\n"
-          "  varnel inspect biped.lwo\n"
-          "  varnel inspect --lang ja --all biped.lwo\n"
+          "  varnel inspect rigs/lizard.lwo\n"
+          "  varnel inspect --lang ja --all rigs/lizard.lwo\n"
           "  varnel inspect --strict --ignore becomes-null rigs/*.lwo",
       .run = [options] { return run(*options); },
   };

@@ -73,8 +73,8 @@ Command commandsCommand() {
           "Exit\n"
           "codes: 0 all went well; 1 something did not, as the verdict says; 2 there is nothing to show.\n"
           "Examples:\n"
-          "  varnel commands biped.lwo\n"
-          "  varnel commands --no-pivot --json biped.lwo > commands.json",
+          "  varnel commands rigs/lizard.lwo\n"
+          "  varnel commands --no-pivot --json rigs/lizard.lwo > commands.json",
       .run = [options] { return run(*options); },
   };
 }
