@@ -16,12 +16,9 @@ namespace fs = std::filesystem;
 
 Failure cannotWrite(const std::string& path, const std::string& why) { return Failure{"cannot write " + path + ": " + why}; }
 
-// In the same folder, since a rename across file systems would be a copy.
-fs::path besides(const fs::path& path) {
-  fs::path name = path.filename();
-  name += ".varnel-" + std::to_string(std::random_device()());
-  return path.parent_path() / name;
-}
+// In the same folder, since a rename across file systems would be a copy. It leaves the file's own name out, which may be
+// as long as the system allows.
+fs::path besides(const fs::path& path) { return path.parent_path() / (".varnel-" + std::to_string(std::random_device()())); }
 
 // The temporary name is nobody's concern: failures tell of the file that was to be written.
 std::optional<Failure> writeThrough(const fs::path& path, const std::string& bytes, std::optional<fs::perms> permissions) {
@@ -57,6 +54,14 @@ std::optional<Failure> refusedFiles(const std::vector<std::string>& paths, Exist
   const auto found = std::find_if(paths.begin(), paths.end(), isThere);
   if (existing == Existing::Replace || found == paths.end()) return {};
   return Failure{*found + " exists and is not written over; --force writes over it"};
+}
+
+std::optional<Failure> refusedFolder(const std::string& folder) {
+  const fs::path trial = besides(pathFromUtf8(folder) / "trial");
+  std::optional<Failure> failure = writeFileBytes(utf8Of(trial), {}, folder);
+  std::error_code ignored;
+  if (!failure) fs::remove(trial, ignored);
+  return failure;
 }
 
 std::optional<Failure> writeWholeFile(const std::string& path, const std::string& bytes, Existing existing) {

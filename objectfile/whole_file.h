@@ -19,6 +19,9 @@ inline Existing existingFiles(bool isForced) { return isForced ? Existing::Repla
 // Which of the files is there and has to be kept, for those who write several: none of them is written then.
 std::optional<Failure> refusedFiles(const std::vector<std::string>& paths, Existing existing);
 
+// Why no file can be made in the folder, which shows only by making one; empty when it can. Nothing is left there.
+std::optional<Failure> refusedFolder(const std::string& folder);
+
 // Fails when there is something of that name that has to be kept. Empty when the file was written.
 std::optional<Failure> writeWholeFile(const std::string& path, const std::string& bytes, Existing existing);
 

@@ -3,7 +3,9 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <array>
 #include <iostream>
+#include <string_view>
 #include <type_traits>
 
 #include "program/nearest_name.h"
@@ -56,8 +58,15 @@ void addCommand(CLI::App& app, const Command& command, int& result) {
   subcommand->callback([&command, &result] { result = command.run(); });
 }
 
-// Why the first word cannot be the command that has to stand there; empty when it can.
+// These may stand before the command; all others are a command's own.
+constexpr std::array<std::string_view, 4> kProgramsOptions{"-h", "--help", "--help-all", "--version"};
+
+// Why the words cannot be read as a command and what stands behind it; empty when they can.
 std::string refusalOfCommand(const Program& program, const std::vector<std::string>& words) {
+  if (!words.empty() && words.front().starts_with('-') &&
+      std::find(kProgramsOptions.begin(), kProgramsOptions.end(), words.front()) == kProgramsOptions.end()) {
+    return "the option " + words.front() + " cannot stand before the command; options stand behind it";
+  }
   const auto word = std::find_if(words.begin(), words.end(), [](const std::string& w) { return !w.starts_with('-'); });
   if (word == words.end()) return {};
   std::vector<std::string> names;

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <iostream>
 #include <memory>
+#include <optional>
 
 #include "objectfile/temporary_folder.h"
 #include "program/conversion.h"
@@ -51,10 +52,10 @@ int convertFile(const std::string& file, const ConvertOptions& options) {
 }
 
 int run(const ConvertOptions& options) {
-  const TemporaryFolder folder;
+  std::optional<TemporaryFolder> folder;  // only for what has no file yet
   std::vector<std::string> files;
   int result = exitCodeOf([&] {
-    if (options.shipped) files = writeShippedRigs(folder.path());
+    if (options.shipped) files = writeShippedRigs(folder.emplace().path());
     files.insert(files.end(), options.files.begin(), options.files.end());
     if (files.empty()) throw Trouble{"no files; name some, or give --shipped"};
     return 0;

@@ -60,6 +60,16 @@ bool isWanted(const rigs::Rig& rig, const rigs::Finding& finding, const InspectO
   return options.skelegon.empty() || concerns(rig, finding, options.skelegon);
 }
 
+// In the units that the host's limit counts. A name that is no text, as unpacking in a wrong code page leaves it, has its
+// bytes.
+std::size_t lengthOf(const std::filesystem::path& path) {
+  try {
+    return path.u16string().size();
+  } catch (const std::filesystem::filesystem_error&) {
+    return path.native().size();
+  }
+}
+
 rigs::Inspected inspect(const std::string& path, const rigs::CodePage& codePage, const InspectOptions& options) {
   rigs::Inspected file{path, {}, {}, {}};
   Outcome<ObjectFile> object = readObject(path, TextlessTags::LeaveOut);
@@ -68,7 +78,7 @@ rigs::Inspected inspect(const std::string& path, const rigs::CodePage& codePage,
     return file;
   }
   file.rig = rigs::rigOf(*object, fileNameOf(path));
-  file.rig.pathLength = std::filesystem::absolute(pathFromUtf8(path)).u16string().size();
+  file.rig.pathLength = lengthOf(std::filesystem::absolute(pathFromUtf8(path)));
   file.findings = rigs::findingsOf(file.rig, codePage);
   if (file.rig.isInJapanese) {
     // Judged as it is stored, shown as it can be read.

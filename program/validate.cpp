@@ -71,6 +71,7 @@ std::string reportFile(const ValidateOptions& options, const char* extension) {
 void prepareReports(const ValidateOptions& options) {
   if (options.report.empty()) return;
   mustBeFolder(options.report);
+  mustBeWritten(refusedFolder(options.report));
   mustBeWritten(refusedFiles({reportFile(options, "txt"), reportFile(options, "html")}, existingFiles(options.force)));
 }
 
@@ -98,6 +99,7 @@ int validateModule(const ValidateOptions& options) {
   order.module = options.module.empty() ? modulePath() : utf8Of(std::filesystem::absolute(pathFromUtf8(options.module)));
   if (order.module.empty()) throw Trouble{"there is no module beside the program; name one"};
   if (!std::filesystem::exists(pathFromUtf8(order.module))) throw Trouble{"there is no file " + order.module};
+  if (const Outcome<std::string> bytes = readFileBytes(order.module); !bytes) throw Trouble{bytes.why()};
   prepareReports(options);
   const TemporaryFolder folder;
   order.program = programFile();

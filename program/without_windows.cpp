@@ -12,7 +12,7 @@ Command refusal(const std::string& name, const std::string& what) {
       .text = what + " (needs Windows)",
       .run =
           [name] {
-            std::cerr << "varnel " << name << " needs the Windows build of this program; it runs under Wine too\n";
+            std::cerr << "varnel: " << name << " needs the Windows build of this program; it runs under Wine too\n";
             return kWrongUsage;
           },
       .takesAnything = true,

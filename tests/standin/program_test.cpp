@@ -48,6 +48,12 @@ TEST_F(TheProgram, DoesNotOfferWhatTheHelpHides) {
   EXPECT_THAT(error_, Not(HasSubstr("validate-check")));
 }
 
+TEST_F(TheProgram, NamesAnOptionBeforeTheCommand) {
+  EXPECT_EQ(run({"--lang", "ja", "inspect", "rig.lwo"}), 2);
+  EXPECT_THAT(error_, StartsWith("varnel: the option --lang cannot stand before the command; options stand behind it\n"));
+  EXPECT_EQ(run({"--help", "inspect"}), 0) << error_;
+}
+
 // Each with words that it cannot do.
 class AnyCommand : public ProgramRun, public testing::WithParamInterface<std::vector<std::string>> {};
 

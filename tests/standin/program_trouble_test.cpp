@@ -57,6 +57,33 @@ TEST_F(ProgramTrouble, AMissingPlaceForTemporaryFilesIsNamed) {
   }
 }
 
+TEST_F(ProgramTrouble, AConversionOfFilesNeedsNoPlaceForTemporaryFiles) {
+  EXPECT_EQ(type("TMPDIR=/nowhere varnel convert rigs/lizard.lwo"), 0) << error;
+}
+
+// As names are after unpacking in a wrong code page.
+TEST_F(ProgramTrouble, ANameThatIsNoTextDoesNotEndAnInspection) {
+  const std::string name = "\x90l.lwo";
+  write(name, bytesOf("rigs/lizard.lwo"));
+  EXPECT_EQ(type("varnel inspect --lang en '" + name + "' rigs/lizard.lwo"), 0) << error;
+  EXPECT_THAT(out, HasSubstr("\nrigs/lizard.lwo: 0 problems"));
+}
+
+TEST_F(ProgramTrouble, ANameAsLongAsTheSystemAllowsIsWritten) {
+  const std::string name = std::string(250, 'n') + ".json";
+  EXPECT_EQ(type("varnel export rigs/lizard.lwo -o " + name), 0) << error;
+  EXPECT_THAT(bytesOf(name), HasSubstr("varnel settings"));
+}
+
+TEST_F(ProgramTrouble, AFolderThatTakesNoReportIsNamedBeforeTheChecks) {
+  expectRefused("varnel validate --only descriptor --report /proc/self", "cannot write /proc/self: ");
+  EXPECT_EQ(out, "");
+}
+
+TEST_F(ProgramTrouble, WindowsThatThereAreNotAreToldLikeAllTroubles) {
+  expectRefused("varnel desk", "varnel: desk needs the Windows build");
+}
+
 TEST_F(ProgramTrouble, AFolderThatCannotBeWrittenIntoIsNamed) {
   expectRefused("varnel rigs /proc/rigs", "/proc/rigs cannot be made: No such file or directory");
 }
@@ -81,6 +108,7 @@ TEST_F(ProgramTrouble, AFolderGivenAsAFileIsNamed) {
         "varnel import rigs lizard.json -o new.lwo", "varnel import rigs/lizard.lwo rigs -o new.lwo"}) {
     expectRefused(line, "cannot read rigs: Is a directory");
   }
+  expectRefused("varnel validate --only descriptor rigs", "rigs: Is a directory");
   expectRefused("varnel commands rigs/lizard.lwo --module rigs", "there is no file \"rigs\"");
 }
 
