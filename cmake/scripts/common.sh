@@ -96,5 +96,5 @@ start_wine() {
 wine_run() {
   wine_environment
   LC_ALL=ja_JP.UTF-8 timeout --kill-after=10 "${WINE_SECONDS:-300}" xvfb-run -a -n $((99 + 50 * ${WINE_SLOT:-0})) wine "$@" \
-    2> >(grep -v '^X connection to' >&2)
+    2> >(grep -av '^X connection to' >&2)
 }

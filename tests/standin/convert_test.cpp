@@ -4,8 +4,8 @@
 #include <sstream>
 
 #include "objectfile/sample_rigs.h"
-#include "standin/core/folded_text.h"
-#include "tests/standin/program_run.h"
+#include "standin/panels/folded_text.h"
+#include "tests/standin/program_fixture.h"
 #include "tests/standin/rigs_fixture.h"
 
 namespace standin {
@@ -30,13 +30,12 @@ SoundRig wellRig() {
 }
 
 // Both commands end with the same verdict, each on the stream that its other output leaves free.
-class ConversionRun : public ProgramRun, public testing::WithParamInterface<const char*> {
+class ConversionRun : public TypedLines, public testing::WithParamInterface<const char*> {
  protected:
   int convert(const ObjectFile& object, const std::string& name = "rig.lwo") {
-    const std::string path = folder_.file(name);
-    EXPECT_FALSE(writeObject(object, path));
-    const int result = run({GetParam(), path});
-    verdict_ = std::string(GetParam()) == "convert" ? out_ : error_;
+    EXPECT_FALSE(writeObject(object, name));
+    const int result = type(std::string("varnel ") + GetParam() + " " + name);
+    verdict_ = std::string(GetParam()) == "convert" ? out : error;
     verdict_.erase(0, verdict_.find("verdict: "));
     return result;
   }
@@ -45,7 +44,7 @@ class ConversionRun : public ProgramRun, public testing::WithParamInterface<cons
 };
 
 TEST_P(ConversionRun, OfASoundRigEndsWithZero) {
-  EXPECT_EQ(convert(wellRig().object()), 0) << out_ << error_;
+  EXPECT_EQ(convert(wellRig().object()), 0) << out << error;
   EXPECT_EQ(verdict_, "verdict: all went well\n  objects converted: 1 of 1\n  bones set: 2 of 2\n");
 }
 
@@ -114,65 +113,59 @@ TEST_P(ConversionRun, LeavesABoneWithoutANameWithoutSettings) {
 INSTANTIATE_TEST_SUITE_P(By, ConversionRun, testing::Values("convert", "commands"),
                          [](const auto& info) { return std::string(info.param); });
 
-class ConvertCommand : public ProgramRun {
+class ConvertCommand : public TypedLines {
  protected:
-  void convert(std::vector<std::string> options) {
-    const std::string path = folder_.file("rig.lwo");
-    EXPECT_FALSE(writeObject(wellRig().object(), path));
-    options.insert(options.begin(), {"convert", path, "--lang", "en"});
-    EXPECT_EQ(run(options), 0) << error_;
+  void convert(const std::string& options = {}) {
+    EXPECT_FALSE(writeObject(wellRig().object(), "rig.lwo"));
+    EXPECT_EQ(type("varnel convert rig.lwo --lang en " + options), 0) << error;
   }
 };
 
 TEST_F(ConvertCommand, CountsWhatDiffersUnlessItIsAskedForMore) {
-  convert({});
-  EXPECT_THAT(out_, AllOf(HasSubstr("strength: on 1 item\n"), Not(HasSubstr("strength: 80 %"))));
-  EXPECT_THAT(out_, HasSubstr("Root  (length 1)  [5 settings]\n"));
+  convert();
+  EXPECT_THAT(out, AllOf(HasSubstr("strength: on 1 item\n"), Not(HasSubstr("strength: 80 %"))));
+  EXPECT_THAT(out, HasSubstr("Root  (length 1)  [5 settings]\n"));
 }
 
 TEST_F(ConvertCommand, ShowsEachSettingOnALineWhenItIsAskedForAll) {
-  convert({"--full"});
-  EXPECT_THAT(out_, AllOf(HasSubstr("- strength: 80 %\n"), HasSubstr("- weight map: Root\n"), Not(HasSubstr("on 1 item"))));
+  convert("--full");
+  EXPECT_THAT(out, AllOf(HasSubstr("- strength: 80 %\n"), HasSubstr("- weight map: Root\n"), Not(HasSubstr("on 1 item"))));
 }
 
 TEST_F(ConvertCommand, KeepsToAHundredColumns) {
-  ASSERT_EQ(run({"convert", "--shipped", "--full", "--lang", "en"}), 0) << error_;
-  std::istringstream lines(out_);
+  ASSERT_EQ(type("varnel convert --shipped --full --lang en"), 0) << error;
+  std::istringstream lines(out);
   std::size_t count = 0;
   for (std::string line; std::getline(lines, line); ++count) EXPECT_LE(columnsOf(line), 100U) << line;
   EXPECT_GT(count, 100U);
 }
 
 TEST_F(ConvertCommand, KeepsItsErrorStreamForErrors) {
-  convert({});
-  EXPECT_THAT(error_, IsEmpty());
+  convert();
+  EXPECT_THAT(error, IsEmpty());
 }
 
 TEST_F(ConvertCommand, ShowsNamesBesideNumbersInItsTranscript) {
-  convert({"--transcript"});
-  EXPECT_THAT(out_, HasSubstr("    SelectItem 0x40000000  -- Root\n"));
+  convert("--transcript");
+  EXPECT_THAT(out, HasSubstr("    SelectItem 0x40000000  -- Root\n"));
 }
 
-class CommandsCommand : public ProgramRun {
+class CommandsCommand : public TypedLines {
  protected:
-  std::string soundRig() const {
-    const std::string path = folder_.file("rig.lwo");
-    EXPECT_FALSE(writeObject(wellRig().object(), path));
-    return path;
-  }
+  void SetUp() override { EXPECT_FALSE(writeObject(wellRig().object(), "rig.lwo")); }
 };
 
 TEST_F(CommandsCommand, NamesTheItemBesideItsNumber) {
-  EXPECT_EQ(run({"commands", soundRig()}), 0) << error_;
-  EXPECT_THAT(out_, HasSubstr("\nSelectItem 0x40000001  -- Hand\n"));
-  EXPECT_THAT(out_, HasSubstr("\nTargetItem 0x10000001  -- Reach\n"));
-  EXPECT_THAT(out_, HasSubstr("\nBoneStrength 0.8000000000\n"));
+  EXPECT_EQ(type("varnel commands rig.lwo"), 0) << error;
+  EXPECT_THAT(out, HasSubstr("\nSelectItem 0x40000001  -- Hand\n"));
+  EXPECT_THAT(out, HasSubstr("\nTargetItem 0x10000001  -- Reach\n"));
+  EXPECT_THAT(out, HasSubstr("\nBoneStrength 0.8000000000\n"));
 }
 
 TEST_F(CommandsCommand, GivesTheNameAsAMemberOfItsOwnInJson) {
-  EXPECT_EQ(run({"commands", "--json", soundRig()}), 0) << error_;
-  EXPECT_THAT(out_, HasSubstr("\"item\": \"Hand\""));
-  EXPECT_THAT(out_, Not(HasSubstr("  -- ")));
+  EXPECT_EQ(type("varnel commands --json rig.lwo"), 0) << error;
+  EXPECT_THAT(out, HasSubstr("\"item\": \"Hand\""));
+  EXPECT_THAT(out, Not(HasSubstr("  -- ")));
 }
 
 }  // namespace

@@ -7,8 +7,11 @@
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <utility>
 
-#ifndef _WIN32
+#ifdef _WIN32
+#include <windows.h>
+#else
 #include <sys/wait.h>
 #endif
 
@@ -18,46 +21,101 @@
 
 namespace standin {
 
-// Where "varnel" can be called from any folder.
-inline void putProgramOnPath() {
-  // The test programs lie in a folder below the program's.
-  const std::filesystem::path folder = pathFromUtf8(programFolder()).parent_path();
-  static bool isDone = false;
-  if (isDone) return;
-  isDone = true;
-  const char* const before = std::getenv("PATH");
+// Sets a variable of the environment while it lives, for the programs that are started meanwhile.
+class Environment {
+ public:
+  Environment(std::string name, const std::string& value) : name_(std::move(name)) {
+    const char* const before = std::getenv(name_.c_str());
+    wasSet_ = before != nullptr;
+    if (wasSet_) before_ = before;
+    set(value);
+  }
+  ~Environment() { set(before_); }
+  Environment(const Environment&) = delete;
+  Environment& operator=(const Environment&) = delete;
+
+ private:
+  void set(const std::string& value) const {
 #ifdef _WIN32
-  _putenv_s("PATH", (folder.string() + ";" + (before == nullptr ? "" : before)).c_str());
+    _putenv_s(name_.c_str(), value.c_str());
 #else
-  setenv("PATH", (folder.string() + ":" + (before == nullptr ? "" : before)).c_str(), 1);
+    setenv(name_.c_str(), value.c_str(), 1);
 #endif
+  }
+
+  std::string name_;
+  std::string before_;
+  bool wasSet_ = false;
+};
+
+#ifdef _WIN32
+
+class ChildsFile {
+ public:
+  explicit ChildsFile(const std::string& path) {
+    SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
+    handle_ = CreateFileW(pathFromUtf8(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited,
+                          CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+  }
+  ~ChildsFile() { CloseHandle(handle_); }
+  ChildsFile(const ChildsFile&) = delete;
+  ChildsFile& operator=(const ChildsFile&) = delete;
+  HANDLE handle() const { return handle_; }
+
+ private:
+  HANDLE handle_;
+};
+
+// Without this system's shell, which sometimes does not wait for a program; of what it does, a ">" at the end of a line is enough.
+inline int runLine(std::string line, std::string outFile, const std::string& errorFile) {
+  constexpr const char* kInto = " > ";
+  if (const std::size_t at = line.find(kInto); at != std::string::npos) {
+    outFile = line.substr(at + 3);
+    line.erase(at);
+  }
+  const ChildsFile out(outFile);
+  const ChildsFile error(errorFile);
+  STARTUPINFOW start = {};
+  start.cb = sizeof start;
+  start.dwFlags = STARTF_USESTDHANDLES;
+  start.hStdOutput = out.handle();
+  start.hStdError = error.handle();
+  PROCESS_INFORMATION process = {};
+  std::wstring words = pathFromUtf8(line).wstring();
+  if (!CreateProcessW(nullptr, words.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process)) return -1;
+  WaitForSingleObject(process.hProcess, INFINITE);
+  DWORD code = 0;
+  GetExitCodeProcess(process.hProcess, &code);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  return static_cast<int>(code);
 }
 
+#else
+
+inline int runLine(const std::string& line, const std::string& outFile, const std::string& errorFile) {
+  const int status = std::system(("(" + line + ") >'" + outFile + "' 2>'" + errorFile + "'").c_str());
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+#endif
+
+// "varnel" can be called from the folder of each.
 class TypedLines : public testing::Test {
  protected:
-  TypedLines() : before_(std::filesystem::current_path()) {
-    putProgramOnPath();
+  TypedLines() : path_("PATH", programFolderFirst()), before_(std::filesystem::current_path()) {
     std::filesystem::current_path(pathFromUtf8(folder_.path()));
   }
   ~TypedLines() override { std::filesystem::current_path(before_); }
   TypedLines(const TypedLines&) = delete;
   TypedLines& operator=(const TypedLines&) = delete;
 
-  // The line's exit code; what it printed is in `out` and `error`.
+  // The line's exit code, -1 where it could not be started; what it printed is in `out` and `error`.
   int type(const std::string& line) {
     const std::string outFile = streams_.file("out.txt");
     const std::string errorFile = streams_.file("error.txt");
     write(outFile, "");
-#ifdef _WIN32
-    // Not every shell of this system takes brackets, so that a line's own ">" stands alone.
-    const bool goesElsewhere = line.find('>') != std::string::npos;
-    const std::string whole = line + (goesElsewhere ? "" : " >\"" + outFile + "\"") + " 2>\"" + errorFile + "\"";
-    const int code = std::system(whole.c_str());
-#else
-    const std::string whole = "(" + line + ") >\"" + outFile + "\" 2>\"" + errorFile + "\"";
-    const int status = std::system(whole.c_str());
-    const int code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-#endif
+    const int code = runLine(line, outFile, errorFile);
     out = *readFileBytes(outFile);
     error = *readFileBytes(errorFile);
     return code;
@@ -83,6 +141,19 @@ class TypedLines : public testing::Test {
   std::string error;
 
  private:
+  static std::string programFolderFirst() {
+    // The test programs lie in a folder below the program's.
+    const std::string folder = utf8Of(pathFromUtf8(programFolder()).parent_path());
+    const char* const others = std::getenv("PATH");
+#ifdef _WIN32
+    const char* const between = ";";
+#else
+    const char* const between = ":";
+#endif
+    return folder + between + (others == nullptr ? "" : others);
+  }
+
+  Environment path_;
   TemporaryFolder folder_;
   TemporaryFolder streams_;
   std::filesystem::path before_;

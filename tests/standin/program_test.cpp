@@ -1,7 +1,7 @@
 // What all commands of the program have in common.
 #include <gmock/gmock.h>
 
-#include "tests/standin/program_run.h"
+#include "tests/standin/program_fixture.h"
 #include "tests/standin/rigs_fixture.h"
 
 #if defined(_WIN32)
@@ -21,87 +21,82 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
-class TheProgram : public ProgramRun {
+class TheProgram : public TypedLines {
  protected:
-  std::string soundRig() const {
-    const std::string path = folder_.file("rig.lwo");
+  void SetUp() override {
     SoundRig rig;
     rig.set(rig.hand, 52, "Reach");  // a null that the conversion makes
-    EXPECT_FALSE(writeObject(rig.object(), path));
-    return path;
+    EXPECT_FALSE(writeObject(rig.object(), "rig.lwo"));
   }
 };
 
 TEST_F(TheProgram, NamesAnUnknownCommandAndTheNearest) {
-  EXPECT_EQ(run({"convrt", "rig.lwo"}), 2);
-  EXPECT_THAT(error_, StartsWith("varnel: there is no command \"convrt\"; did you mean \"convert\"?\n"));
-  EXPECT_THAT(out_, IsEmpty());
+  EXPECT_EQ(type("varnel convrt rig.lwo"), 2);
+  EXPECT_THAT(error, StartsWith("varnel: there is no command \"convrt\"; did you mean \"convert\"?\n"));
+  EXPECT_THAT(out, IsEmpty());
 }
 
 TEST_F(TheProgram, NamesAnUnknownCommandThatNoneIsNear) {
-  EXPECT_EQ(run({"xyzzy"}), 2);
-  EXPECT_THAT(error_, AllOf(StartsWith("varnel: there is no command \"xyzzy\"\n"), HasSubstr("varnel --help")));
+  EXPECT_EQ(type("varnel xyzzy"), 2);
+  EXPECT_THAT(error, AllOf(StartsWith("varnel: there is no command \"xyzzy\"\n"), HasSubstr("varnel --help")));
 }
 
 TEST_F(TheProgram, DoesNotOfferWhatTheHelpHides) {
-  EXPECT_EQ(run({"validate-chck"}), 2);
-  EXPECT_THAT(error_, Not(HasSubstr("validate-check")));
+  EXPECT_EQ(type("varnel validate-chck"), 2);
+  EXPECT_THAT(error, Not(HasSubstr("validate-check")));
 }
 
 TEST_F(TheProgram, NamesAnOptionBeforeTheCommand) {
-  EXPECT_EQ(run({"--lang", "ja", "inspect", "rig.lwo"}), 2);
-  EXPECT_THAT(error_, StartsWith("varnel: the option --lang cannot stand before the command; options stand behind it\n"));
-  EXPECT_EQ(run({"--help", "inspect"}), 0) << error_;
+  EXPECT_EQ(type("varnel --lang ja inspect rig.lwo"), 2);
+  EXPECT_THAT(error, StartsWith("varnel: the option --lang cannot stand before the command; options stand behind it\n"));
+  EXPECT_EQ(type("varnel --help inspect"), 0) << error;
 }
 
 // Each with words that it cannot do.
-class AnyCommand : public ProgramRun, public testing::WithParamInterface<std::vector<std::string>> {};
+class AnyCommand : public TypedLines, public testing::WithParamInterface<std::string> {};
 
 TEST_P(AnyCommand, TellsItsTroubleOnTheErrorStreamAndEndsWithTwo) {
-  EXPECT_EQ(run(GetParam()), 2);
-  EXPECT_THAT(error_, AllOf(StartsWith("varnel: "), HasSubstr("missing")));
-  EXPECT_THAT(out_, Not(HasSubstr("missing.p")));
+  EXPECT_EQ(type("varnel " + GetParam()), 2);
+  EXPECT_THAT(error, AllOf(StartsWith("varnel: "), HasSubstr("missing")));
+  EXPECT_THAT(out, Not(HasSubstr("missing.p")));
 }
 
-using Words = std::vector<std::string>;
 INSTANTIATE_TEST_SUITE_P(WithoutItsFile, AnyCommand,
-                         testing::Values(Words{"convert", "missing.lwo"},
-                                         Words{"convert", "--shipped", "--module", "missing.p"},
-                                         Words{"commands", "missing.lwo"}, Words{"inspect", "missing.lwo"},
-                                         Words{"diff", "missing.lwo", "missing.lwo"}, Words{"export", "missing.lwo"},
-                                         Words{"import", "missing.lwo", "missing.json", "--in-place"},
-                                         Words{"trip", "--module", "missing.p"}, Words{"rename", "--module", "missing.p"},
-                                         Words{"panels", "--module", "missing.p"}, Words{"validate", "missing.p"},
-                                         Words{"inspect", "rig.lwo", "--missing"}, Words{"hosts", "missing"}),
-                         [](const auto& info) { return info.param.front() + std::to_string(info.index); });
+                         testing::Values("convert missing.lwo", "convert --shipped --module missing.p",
+                                         "commands missing.lwo", "inspect missing.lwo", "diff missing.lwo missing.lwo",
+                                         "export missing.lwo", "import missing.lwo missing.json --in-place",
+                                         "trip --module missing.p", "rename --module missing.p", "panels --module missing.p",
+                                         "validate missing.p", "inspect rig.lwo --missing", "hosts missing"),
+                         [](const auto& info) {
+                           return info.param.substr(0, info.param.find(' ')) + std::to_string(info.index);
+                         });
 
 #if defined(_WIN32)
 
 TEST_F(TheProgram, SpeaksTheLanguageOfTheSystem) {
   const bool isJapanese = PRIMARYLANGID(GetUserDefaultUILanguage()) == LANG_JAPANESE;
-  EXPECT_EQ(run({"inspect", soundRig()}), 0);
-  EXPECT_THAT(out_, HasSubstr(isJapanese ? "フォールオフ種" : "Falloff Type"));
+  EXPECT_EQ(type("varnel inspect rig.lwo"), 0);
+  EXPECT_THAT(out, HasSubstr(isJapanese ? "フォールオフ種" : "Falloff Type"));
 }
 
 #else
 
 TEST_F(TheProgram, SpeaksTheLanguageOfTheSystem) {
-  const std::string rig = soundRig();
   const Environment all("LC_ALL", "");
   const Environment messages("LC_MESSAGES", "");
   for (const auto& [language, text] :
        {std::pair("ja_JP.UTF-8", "フォールオフ種"), std::pair("fr_FR.UTF-8", "Falloff Type")}) {
     const Environment lang("LANG", language);
-    EXPECT_EQ(run({"inspect", rig}), 0);
-    EXPECT_THAT(out_, HasSubstr(text));
+    EXPECT_EQ(type("varnel inspect rig.lwo"), 0);
+    EXPECT_THAT(out, HasSubstr(text));
   }
 }
 
 TEST_F(TheProgram, TakesLcAllBeforeLang) {
   const Environment lang("LANG", "ja_JP.UTF-8");
   const Environment all("LC_ALL", "C");
-  EXPECT_EQ(run({"inspect", soundRig()}), 0);
-  EXPECT_THAT(out_, HasSubstr("Falloff Type"));
+  EXPECT_EQ(type("varnel inspect rig.lwo"), 0);
+  EXPECT_THAT(out, HasSubstr("Falloff Type"));
 }
 
 // What the program writes to a terminal that is its error stream.
@@ -111,7 +106,7 @@ TEST_F(TheProgram, TellsOnATerminalHowFarItIs) {
   const std::string name = ptsname(terminal);
   // Held open, so that what was written is still there when the program has gone.
   const int other = open(name.c_str(), O_RDWR | O_NOCTTY);
-  EXPECT_EQ(run({"convert", soundRig()}, name), 0);
+  EXPECT_EQ(type("varnel convert rig.lwo 2>" + name), 0);
   std::string shown(65536, '\0');
   const ssize_t size = read(terminal, shown.data(), shown.size());
   shown.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
@@ -126,8 +121,8 @@ TEST_F(TheProgram, LetsALanguageBeNamed) {
 #if !defined(_WIN32)
   const Environment all("LC_ALL", "ja_JP.UTF-8");
 #endif
-  EXPECT_EQ(run({"inspect", "--lang", "en", soundRig()}), 0);
-  EXPECT_THAT(out_, HasSubstr("Falloff Type"));
+  EXPECT_EQ(type("varnel inspect --lang en rig.lwo"), 0);
+  EXPECT_THAT(out, HasSubstr("Falloff Type"));
 }
 
 }  // namespace
