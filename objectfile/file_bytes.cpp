@@ -16,7 +16,6 @@ Failure cannot(const char* what, const std::string& path, const std::string& why
 
 // Why the last call to the system failed, in its words: a stream only tells that it did.
 std::string wordsOfTheSystem() { return errno == 0 ? std::string() : std::generic_category().message(errno); }
-std::string wordsOf(std::errc error) { return std::make_error_code(error).message(); }
 
 Outcome<std::string> readAll(std::ifstream& file, const std::string& path) {
   const std::streamoff size = file.tellg();

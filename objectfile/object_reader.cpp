@@ -1,7 +1,6 @@
 // Bytes to object. A damaged file is refused whole, with a sentence.
 #include <algorithm>
 #include <new>
-#include <system_error>
 
 #include "objectfile/chunk_records.h"
 #include "objectfile/object_file.h"
@@ -124,10 +123,6 @@ class ObjectReader {
   std::string why_;
 };
 
-}  // namespace
-
-namespace {
-
 Outcome<ObjectFile> parse(std::string_view bytes, TextlessTags textless) {
   Outcome<Form> form = splitForm(bytes);
   if (!form) return Failure{form.why()};
@@ -145,7 +140,7 @@ Outcome<ObjectFile> parseObject(std::string_view bytes, TextlessTags textless) {
   try {
     return parse(bytes, textless);
   } catch (const std::bad_alloc&) {
-    return Failure{std::make_error_code(std::errc::not_enough_memory).message()};
+    return Failure{wordsOf(std::errc::not_enough_memory)};
   }
 }
 

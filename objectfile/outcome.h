@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <system_error>
 #include <utility>
 #include <variant>
 
@@ -10,6 +11,9 @@ namespace standin {
 struct Failure {
   std::string text;
 };
+
+// What the system says of an error.
+inline std::string wordsOf(std::errc error) { return std::make_error_code(error).message(); }
 
 template <class T>
 class [[nodiscard]] Outcome {

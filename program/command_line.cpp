@@ -9,6 +9,7 @@
 #include <type_traits>
 
 #include "program/nearest_name.h"
+#include "program/support.h"
 #include "program/system_language.h"
 
 namespace standin {
@@ -79,9 +80,9 @@ std::string refusalOfCommand(const Program& program, const std::vector<std::stri
 }
 
 int refused(const std::string& why) {
-  std::cout.flush();
-  std::cerr << "varnel: " << why << "\nvarnel --help names the commands, varnel COMMAND --help what they take\n";
-  return kWrongUsage;
+  printTrouble({why});
+  std::cerr << "varnel --help names the commands, varnel COMMAND --help what they take\n";
+  return kTrouble;
 }
 
 }  // namespace

@@ -11,9 +11,6 @@
 
 namespace standin {
 
-// The answer to a command line that cannot be taken.
-inline constexpr int kWrongUsage = 2;
-
 // Where the words of an option go. A truth is a switch, which takes no word. A list of words that have their
 // places takes all there are; one behind an option takes a word each time, so that the next may be a file.
 using OptionTarget = std::variant<bool*, int*, unsigned*, std::uint64_t*, double*, std::string*, std::vector<std::string>*>;
@@ -53,7 +50,7 @@ struct Program {
 };
 
 // Runs the command that the words name, or prints the help, or to the error output what is wrong with them. The exit code:
-// the command's own, 0 after a help, kWrongUsage.
+// the command's own, 0 after a help, else kTrouble.
 int runCommandLine(const Program& program, std::vector<std::string> words);
 
 // Options that many commands have.

@@ -14,7 +14,7 @@ struct DeskOptions {
   std::string file;
   std::string module;
   HostWords host;
-  std::string language = "en";
+  std::string language;
 };
 
 void openObject(ModelerHost& host, const std::string& file) {

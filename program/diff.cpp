@@ -12,7 +12,7 @@ namespace {
 struct DiffOptions {
   std::string before;
   std::string after;
-  std::string language = "en";
+  std::string language;
   bool json = false;
 };
 

@@ -17,7 +17,7 @@ namespace {
 
 struct InspectOptions {
   std::vector<std::string> files;
-  std::string language = "en";
+  std::string language;
   std::string codePage;
   std::vector<std::string> ignored;
   std::string skelegon;

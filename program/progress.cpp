@@ -12,7 +12,7 @@
 #include <cmath>
 #include <iostream>
 
-#include "standin/core/folded_text.h"
+#include "standin/panels/folded_text.h"
 
 namespace standin {
 namespace {

@@ -18,7 +18,7 @@ namespace {
 struct RenameOptions {
   std::string module;
   HostWords host;
-  std::string language = "en";
+  std::string language;
 };
 
 // ---------------------------------------------------------------------------------------------------------------------

@@ -60,8 +60,6 @@ class StandardOutput : public std::streambuf {
   int error_ = 0;
 };
 
-std::string wordsOf(std::errc error) { return std::make_error_code(error).message(); }
-
 // Of the exception that is being handled.
 std::string whatEndedIt() {
   try {
@@ -82,8 +80,7 @@ std::string whatEndedIt() {
 }
 
 int say(const std::string& why) {
-  std::cout.flush();
-  std::cerr << "varnel: " << why << "\n";
+  printTrouble({why});
   return kTrouble;
 }
 

@@ -28,7 +28,7 @@ struct ImportOptions {
   bool inPlace = false;
   bool dryRun = false;
   bool merge = false;
-  std::string language = "en";
+  std::string language;
   bool force = false;
 };
 

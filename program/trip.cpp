@@ -18,7 +18,7 @@ constexpr const char* kSkelegon = "Tail_01";
 struct TripOptions {
   std::string module;
   HostWords host;
-  std::string language = "en";
+  std::string language;
 };
 
 class Steps {

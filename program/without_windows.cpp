@@ -1,7 +1,7 @@
 // The subcommands that show windows, where the system has none that the stand-in knows to use.
-#include <iostream>
 
 #include "program/subcommands.h"
+#include "program/support.h"
 
 namespace standin {
 namespace {
@@ -12,8 +12,8 @@ Command refusal(const std::string& name, const std::string& what) {
       .text = what + " (needs Windows)",
       .run =
           [name] {
-            std::cerr << "varnel: " << name << " needs the Windows build of this program; it runs under Wine too\n";
-            return kWrongUsage;
+            printTrouble({name + " needs the Windows build of this program; it runs under Wine too"});
+            return kTrouble;
           },
       .takesAnything = true,
   };

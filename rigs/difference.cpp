@@ -13,11 +13,6 @@ namespace {
 
 using Pairs = std::vector<std::optional<std::size_t>>;
 
-std::string layerShown(const Layer& layer, Language language) {
-  if (!layer.name.empty()) return printable(layer.name);
-  return (language == Language::Japanese ? "レイヤー " : "layer ") + std::to_string(layer.number);
-}
-
 // The texts say the same, or none of them is stored and the other is the default. What does not read as its kind is compared as it
 // stands. A colour that is not stored is no default: its bone becomes orange.
 bool isSame(const Setting& setting, const std::string* a, const std::string* b) {
@@ -85,7 +80,7 @@ class Comparison {
   using Text = std::optional<std::string>;
 
   void add(DifferenceKind kind, const Layer& layer, std::string what = {}, Text from = {}, Text to = {}) {
-    differences_.push_back({kind, layerShown(layer, language_), {}, std::move(what), std::move(from), std::move(to)});
+    differences_.push_back({kind, nameShown(layer, language_), {}, std::move(what), std::move(from), std::move(to)});
   }
   void add(DifferenceKind kind, const Rig& rig, std::size_t skelegon, std::string what = {}, Text from = {}, Text to = {}) {
     const Skelegon& subject = rig.skelegons[skelegon];
@@ -217,7 +212,7 @@ class Comparison {
     const auto words = [&](std::string_view text) { return asItStands ? inQuotes(text) : shown(setting, text, language_); };
     if (stored != nullptr) return words(*stored);
     if (!hasDefault(setting)) return {};
-    return words(setting.defaultText) + (language_ == Language::Japanese ? " (初期値)" : " (default)");
+    return words(setting.defaultText) + defaultRemark(language_);
   }
 
   void compareOtherTags(std::size_t i, const Skelegon* was, const Skelegon& now) {

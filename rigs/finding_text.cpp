@@ -1,4 +1,4 @@
-// The findings of a file as lines: those that say the same of several skelegons are one line.
+// What findings say: their places and sentences, and the lines of a file, of which one tells all that say the same.
 #include <algorithm>
 #include <map>
 #include <tuple>
@@ -8,6 +8,20 @@
 
 namespace standin::rigs {
 namespace {
+
+std::string filled(std::string_view pattern, const Finding& finding) {
+  const std::pair<std::string_view, const std::string&> parts[] = {
+      {"{text}", finding.text}, {"{other}", finding.other}, {"{number}", finding.number}};
+  std::string sentence;
+  while (!pattern.empty()) {
+    const auto part =
+        std::find_if(std::begin(parts), std::end(parts), [&](const auto& p) { return pattern.starts_with(p.first); });
+    const bool isPart = part != std::end(parts);
+    sentence.append(isPart ? std::string_view(part->second) : pattern.substr(0, 1));
+    pattern.remove_prefix(isPart ? part->first.size() : 1);
+  }
+  return sentence;
+}
 
 // How many skelegons or texts a line names.
 constexpr std::size_t kNamed = 3;
@@ -78,6 +92,30 @@ std::string lineOf(const Fold& fold, Language language) {
 }
 
 }  // namespace
+
+Place placeOf(const Rig& rig, const Finding& finding, Language language) {
+  Place place;
+  if (!finding.layer) return place;
+  const Layer& layer = rig.layers[*finding.layer];
+  place.layer = nameShown(layer, language);
+  if (finding.skelegon) place.skelegon = nameShown(rig.skelegons[*finding.skelegon], language);
+  if (finding.setting != nullptr) place.setting = finding.setting->name(language);
+  // These are about a stored text; where it is that of no setting, it is the skelegon's name.
+  const bool isOfAText = finding.kind == FindingKind::TagRepeated || finding.kind == FindingKind::TextMissing;
+  if (isOfAText && finding.setting == nullptr) place.setting = language == Language::Japanese ? "名前" : "name";
+  return place;
+}
+
+std::string joined(const Place& place) {
+  std::string text = place.layer;
+  if (!place.skelegon.empty()) text += " / " + place.skelegon;
+  if (!place.setting.empty()) text += " / " + place.setting;
+  return text;
+}
+
+std::string sentenceOf(const Finding& finding, Language language) {
+  return filled(findingRow(finding.kind).in(language), finding);
+}
 
 std::size_t countOf(const std::vector<Finding>& findings, FindingWeight weight) {
   return static_cast<std::size_t>(std::count_if(

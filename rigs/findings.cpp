@@ -381,48 +381,8 @@ class FindingSearch {
   std::vector<Finding> findings_;
 };
 
-std::string filled(std::string_view pattern, const Finding& finding) {
-  const std::pair<std::string_view, const std::string&> parts[] = {
-      {"{text}", finding.text}, {"{other}", finding.other}, {"{number}", finding.number}};
-  std::string sentence;
-  while (!pattern.empty()) {
-    const auto part =
-        std::find_if(std::begin(parts), std::end(parts), [&](const auto& p) { return pattern.starts_with(p.first); });
-    const bool isPart = part != std::end(parts);
-    sentence.append(isPart ? std::string_view(part->second) : pattern.substr(0, 1));
-    pattern.remove_prefix(isPart ? part->first.size() : 1);
-  }
-  return sentence;
-}
-
 }  // namespace
 
 std::vector<Finding> findingsOf(const Rig& rig, const CodePage& codePage) { return FindingSearch(rig, codePage).all(); }
-
-Place placeOf(const Rig& rig, const Finding& finding, Language language) {
-  Place place;
-  if (!finding.layer) return place;
-  const Layer& layer = rig.layers[*finding.layer];
-  const bool japanese = language == Language::Japanese;
-  place.layer = printable(layer.name);
-  if (place.layer.empty()) place.layer = (japanese ? "レイヤー " : "layer ") + std::to_string(layer.number);
-  if (finding.skelegon) place.skelegon = nameShown(rig.skelegons[*finding.skelegon], language);
-  if (finding.setting != nullptr) place.setting = finding.setting->name(language);
-  // These are about a stored text; where it is that of no setting, it is the skelegon's name.
-  const bool isOfAText = finding.kind == FindingKind::TagRepeated || finding.kind == FindingKind::TextMissing;
-  if (isOfAText && finding.setting == nullptr) place.setting = japanese ? "名前" : "name";
-  return place;
-}
-
-std::string joined(const Place& place) {
-  std::string text = place.layer;
-  if (!place.skelegon.empty()) text += " / " + place.skelegon;
-  if (!place.setting.empty()) text += " / " + place.setting;
-  return text;
-}
-
-std::string sentenceOf(const Finding& finding, Language language) {
-  return filled(findingRow(finding.kind).in(language), finding);
-}
 
 }  // namespace standin::rigs

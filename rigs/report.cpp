@@ -37,7 +37,7 @@ std::vector<std::string> settingLines(const Skelegon& skelegon, const ReportOpti
     if (!differs && !options.all) continue;
     const std::string value =
         shown(setting, text == nullptr ? setting.defaultText : std::string_view(*text), options.language);
-    const char* const remark = text != nullptr ? "" : japanese ? " (初期値)" : " (default)";
+    const char* const remark = text != nullptr ? "" : defaultRemark(options.language);
     lines.push_back(setting.name(options.language) + ": " + value + remark);
   }
   if (options.all && !storesColour(skelegon)) {

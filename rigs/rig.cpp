@@ -107,6 +107,11 @@ std::string nameShown(const Skelegon& skelegon, Language language) {
   return skelegon.namesakes == 1 ? name : name + " [" + std::to_string(skelegon.number + 1) + "]";
 }
 
+std::string nameShown(const Layer& layer, Language language) {
+  if (!layer.name.empty()) return printable(layer.name);
+  return (language == Language::Japanese ? "レイヤー " : "layer ") + std::to_string(layer.number);
+}
+
 std::string tagName(std::uint32_t tag) {
   if ((tag & kFamilyMask) != skg::kPropertyTagFamily) return chunkName(tag);
   return "sg1+" + std::to_string(tag & ~kFamilyMask);

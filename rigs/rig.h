@@ -55,6 +55,9 @@ Rig rigOf(const ObjectFile& object, const std::string& fileName);
 // "Tail", "(no name)", or "Tail [2]" for the second of that name.
 std::string nameShown(const Skelegon& skelegon, Language language = Language::English);
 
+// Its name, or "layer 2".
+std::string nameShown(const Layer& layer, Language language);
+
 // "BONE", or "sg1+200" for a tag of the settings' family.
 std::string tagName(std::uint32_t tag);
 

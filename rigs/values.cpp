@@ -97,6 +97,8 @@ std::string shown(const Setting& setting, std::string_view text, Language langua
   return std::to_string(value);
 }
 
+const char* defaultRemark(Language language) { return language == Language::Japanese ? " (初期値)" : " (default)"; }
+
 std::string sixDecimals(double value) {
   std::array<char, 512> buffer;  // the greatest double has 309 digits
   const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, 6);

@@ -23,6 +23,9 @@ bool meansTheSame(const Setting& setting, std::string_view a, std::string_view b
 // "80 %", "Inverse Distance^4", "on", "90°", "Dark Red". A text that does not read as its kind is shown in quotation marks.
 std::string shown(const Setting& setting, std::string_view text, Language language);
 
+// What stands behind a value that is shown though it is not stored.
+const char* defaultRemark(Language language);
+
 // The number as it is written into tags: "%.6f", in every locale.
 std::string sixDecimals(double value);
 // As short as six decimals allow: "0.25".

@@ -4,8 +4,8 @@
 #include <map>
 #include <utility>
 
-#include "standin/core/folded_text.h"
 #include "standin/layout/number_text.h"
+#include "standin/panels/folded_text.h"
 
 namespace standin {
 namespace {

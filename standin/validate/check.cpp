@@ -24,11 +24,23 @@ const Check* checkNamed(std::string_view name) {
   return found == all.end() ? nullptr : &*found;
 }
 
-const char* levelName(int level) {
-  static constexpr std::array<const char*, kLastLevel> kNames{"file",         "activation", "services", "panels",
-                                                              "trips",        "refusals",   "memory",   "walks",
-                                                              "hostile data", "endurance",  "hosts"};
-  return kNames.at(static_cast<std::size_t>(level - kFirstLevel));
+const Level& levelOf(int level) {
+  constexpr const char* kFaults = "faults put in";
+  constexpr const char* kRefusals = "refused on purpose";
+  static constexpr std::array<Level, kLastLevel> kLevels{{
+      {"file", kFaults},
+      {"activation", kFaults},
+      {"services", kFaults},
+      {"panels", kFaults},
+      {"trips", kFaults},
+      {"refusals", kRefusals},
+      {"memory", kRefusals},
+      {"walks", kFaults},
+      {"hostile data", kFaults},
+      {"endurance", kFaults},
+      {"hosts", kFaults},
+  }};
+  return kLevels.at(static_cast<std::size_t>(level - kFirstLevel));
 }
 
 }  // namespace standin::validate

@@ -28,8 +28,13 @@ struct Check {
 std::span<const Check> allChecks();
 // Null when there is none of that name.
 const Check* checkNamed(std::string_view name);
-// "panels", for the level's heading. `level` is one of the ladder.
-const char* levelName(int level);
+
+struct Level {
+  const char* name;   // "panels", for its heading
+  const char* putIn;  // what its checks put in, to see what becomes of it
+};
+// `level` is one of the ladder.
+const Level& levelOf(int level);
 
 // The checks of each level, beside the code that makes them.
 std::span<const Check> fileChecks();        // 1

@@ -56,13 +56,6 @@ std::string findingText(const CheckFinding& finding) {
   return text + ": " + finding.what;
 }
 
-// What the checks of a level put in, to see what becomes of it.
-const char* injectedName(int level) {
-  constexpr int kRefusals = 6;
-  constexpr int kMemory = 7;
-  return level == kRefusals || level == kMemory ? "refused on purpose" : "faults put in";
-}
-
 std::string headText(const ReportHead& head) {
   std::string text = "module  " + head.module + "\nhost    " + head.build + "\nseed    " + std::to_string(head.seed) + "\n";
   if (!head.host.empty()) text += "on      " + head.host + "\n";
@@ -148,7 +141,7 @@ bool isSound(std::span<const CheckResult> results) {
 std::string resultText(const CheckResult& result) {
   std::string text = right(std::to_string(result.check->level), 2) + "  " + left(nameOf(result.verdict), 5) + "  " +
                      left(result.check->name, 18) + right(std::to_string(result.cases), 9) + " cases" +
-                     right(std::to_string(result.injected), 9) + " " + left(injectedName(result.check->level), 18) +
+                     right(std::to_string(result.injected), 9) + " " + left(levelOf(result.check->level).putIn, 18) +
                      right(seconds(result.seconds), 8) + " s\n";
   if (!result.reason.empty()) text += "      skipped: " + result.reason + "\n";
   for (const std::string& note : result.notes) text += "      " + note + "\n";
@@ -162,7 +155,7 @@ std::string reportText(const ReportHead& head, std::span<const CheckResult> resu
   for (const CheckResult& result : results) text += resultText(result);
   text += "\nlevel             pass  fail crash  hang  skip     cases    put in        s\n";
   for (const auto& [level, sums] : sumsByLevel(results)) {
-    text += rowText(right(std::to_string(level), 2) + " " + levelName(level), sums);
+    text += rowText(right(std::to_string(level), 2) + " " + levelOf(level).name, sums);
   }
   return text + rowText("all", sumsOf(results)) +
          "put in: on purpose, by the checks: calls and memory refused, data spoilt\n";
@@ -178,7 +171,7 @@ std::string reportPage(const ReportHead& head, std::span<const CheckResult> resu
   for (const Verdict verdict : kVerdicts) page += cell(nameOf(verdict), "th", "n");
   page += "<th class=\"n\">cases</th><th class=\"n\">put in on purpose</th><th class=\"n\">s</th></tr>\n";
   for (const auto& [level, sums] : sumsByLevel(results))
-    page += levelRow(std::to_string(level) + " " + levelName(level), sums);
+    page += levelRow(std::to_string(level) + " " + levelOf(level).name, sums);
   page += levelRow("all", sumsOf(results));
   page += "</table>\n<h2>Checks</h2>\n<table>\n<tr><th class=\"n\"></th><th>Check</th><th>Verdict</th><th>What holds</th>";
   page += "<th class=\"n\">cases</th><th class=\"n\">put in</th><th class=\"n\">s</th></tr>\n";

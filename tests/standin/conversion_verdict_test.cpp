@@ -8,7 +8,7 @@
 
 #include "program/nearest_name.h"
 #include "program/progress.h"
-#include "standin/core/folded_text.h"
+#include "standin/panels/folded_text.h"
 #include "tests/standin/layout_fixture.h"
 
 namespace standin {

@@ -3,11 +3,12 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace standin {
 
 // The columns that a text (UTF-8) takes on a terminal: letters of East Asian width take two.
-std::size_t columnsOf(const std::string& text);
+std::size_t columnsOf(std::string_view text);
 
 // The line, broken at spaces so that no part is wider than that; parts after the first begin with `indent` spaces. A word that
 // is wider by itself stays whole, so that a name can be copied. No newline at the end.
