@@ -275,7 +275,8 @@ void setErased(Control& control, bool isErased) {
   control.isErased = isErased;
   std::vector<Control*>& unerased = control.panel->unerased;
   if (isErased) {
-    std::erase(unerased, &control);
+    *std::find(unerased.begin(), unerased.end(), &control) = unerased.back();
+    unerased.pop_back();
   } else {
     unerased.push_back(&control);
   }

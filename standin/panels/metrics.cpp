@@ -1,5 +1,6 @@
 #include "standin/panels/metrics.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -40,6 +41,12 @@ TextPiece take(std::string_view& text, TextPiece::Kind kind, std::size_t length,
   return piece;
 }
 
+// How many characters at the start take a byte and a cell each.
+std::size_t plainCells(std::string_view text) {
+  const auto isPlain = [](char c) { return c >= 0x20 && c < 0x7F; };
+  return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) - text.begin());
+}
+
 std::string hexByte(unsigned byte) {
   constexpr std::string_view digits = "0123456789abcdef";
   return {'\\', 'x', digits[byte / 16], digits[byte % 16]};
@@ -76,6 +83,12 @@ bool isWide(char32_t character) {
 int textWidth(std::string_view text) {
   int width = 0;
   while (!text.empty()) {
+    // Nearly all there is, in a hurry.
+    if (const std::size_t cells = plainCells(text); cells > 0) {
+      width += kCellWidth * static_cast<int>(cells);
+      text.remove_prefix(cells);
+      continue;
+    }
     const TextPiece piece = takePiece(text);
     if (piece.kind == TextPiece::Kind::Icon) {
       width += kIconWidth;

@@ -1,9 +1,8 @@
 #include <algorithm>
-#include <deque>
-#include <unordered_map>
 #include <utility>
 
 #include "standin/core/witness.h"
+#include "standin/panels/handle_pool.h"
 #include "standin/panels/metrics.h"
 #include "standin/panels/panel.h"
 #include "standin/panels/running.h"
@@ -12,7 +11,7 @@
 namespace standin {
 namespace {
 
-// What the module holds. Never freed, over all sessions of the process: a handle that died is known as dead for good.
+// What the module holds, of all sessions of the process.
 struct ControlHandle {
   lw::LWControl face;
   Control* record;
@@ -22,10 +21,8 @@ struct PanelHandle {
 };
 
 struct Handles {
-  std::deque<ControlHandle> controls;
-  std::deque<PanelHandle> panels;
-  std::unordered_map<const void*, ControlHandle*> controlByAddress;
-  std::unordered_map<const void*, PanelHandle*> panelByAddress;
+  HandlePool<ControlHandle> controls;
+  HandlePool<PanelHandle> panels;
 };
 
 Handles& handles() {
@@ -33,16 +30,11 @@ Handles& handles() {
   return instance;
 }
 
-void giveHandle(Panel& panel) {
-  PanelHandle& handle = handles().panels.emplace_back(PanelHandle{&panel});
-  handles().panelByAddress.emplace(&handle, &handle);
-  panel.id = reinterpret_cast<lw::PanelId>(&handle);
-}
+void giveHandle(Panel& panel) { panel.id = reinterpret_cast<lw::PanelId>(&handles().panels.add({&panel})); }
 
 void giveHandle(Control& control) {
-  ControlHandle& handle = handles().controls.emplace_back(ControlHandle{newControlFace(), &control});
+  ControlHandle& handle = handles().controls.add({newControlFace(), &control});
   handle.face.priv_data = &handle;
-  handles().controlByAddress.emplace(&handle.face, &handle);
   control.face = &handle.face;
 }
 
@@ -128,8 +120,8 @@ Panels& panels() {
 void Panels::reset() {
   // Only the records of this session: those before have none any more, and there may be very many.
   for (const auto& panel : panels_) {
-    handles().panelByAddress.at(panel->id)->record = nullptr;
-    for (const auto& control : panel->controls) handles().controlByAddress.at(control->face)->record = nullptr;
+    handles().panels.find(panel->id)->record = nullptr;
+    for (const auto& control : panel->controls) handles().controls.find(control->face)->record = nullptr;
   }
   panels_.clear();
   notes_.clear();
@@ -227,12 +219,12 @@ Panel* Panels::resolve(lw::PanelId id, std::string& why) const {
     why = "got a null panel";
     return nullptr;
   }
-  const auto found = handles().panelByAddress.find(id);
-  if (found == handles().panelByAddress.end()) {
+  const auto* const handle = handles().panels.find(id);
+  if (handle == nullptr) {
     why = "got a panel that the host never made";
     return nullptr;
   }
-  Panel* panel = found->second->record;
+  Panel* panel = handle->record;
   if (panel == nullptr) {
     why = "got a panel of an earlier session";
     return nullptr;
@@ -249,12 +241,12 @@ Control* Panels::resolve(const lw::LWControl* face, std::string& why) const {
     why = "got a null control";
     return nullptr;
   }
-  const auto found = handles().controlByAddress.find(face);
-  if (found == handles().controlByAddress.end()) {
+  const auto* const handle = handles().controls.find(face);
+  if (handle == nullptr) {
     why = "got a control that the host never made";
     return nullptr;
   }
-  Control* control = found->second->record;
+  Control* control = handle->record;
   if (control == nullptr) {
     why = "got a control of an earlier session";
     return nullptr;
@@ -263,7 +255,7 @@ Control* Panels::resolve(const lw::LWControl* face, std::string& why) const {
     why = "got the destroyed " + control->describe();
     return nullptr;
   }
-  if (!isIntact(*found->second)) {
+  if (!isIntact(*handle)) {
     why = "got a control whose record the module has overwritten: " + control->describe();
     return nullptr;
   }
