@@ -37,19 +37,6 @@ std::vector<std::size_t> parentsByPoint(const std::vector<ObjectPolygon>& skeleg
   return parents;
 }
 
-// A bone lies along +Z of its own axes, without bank in its object.
-Matrix3 restAxes(const Vec3& direction) {
-  const double heading = std::atan2(direction[0], direction[2]);
-  const double pitch = std::asin(std::clamp(-direction[1], -1.0, 1.0));
-  return rotation({heading, pitch, 0}, RotationOrder::HPB);
-}
-
-void rest(Item& bone, const Vec3& head, const Vec3& tail) {
-  bone.rest.position = head;
-  bone.rest.length = length(tail - head);
-  if (bone.rest.length > 0) bone.rest.direction = (tail - head) * (1 / bone.rest.length);
-}
-
 // Sets the motion that puts the bone at its rest position.
 void place(Item& bone, const Item* parentBone) {
   Matrix3 axes = restAxes(bone.rest.direction);
@@ -114,7 +101,7 @@ std::vector<Item*> makeBonesOf(Scene& scene, Item& from, Item& object) {
   for (const std::size_t i : orderOf(scene.options().boneOrder, parents)) {
     const ObjectPolygon& skelegon = skelegons[i];
     Item& bone = scene.addBone(object, boneName(skelegon));
-    rest(bone, vectorOf(source.points[skelegon.points[0]]), vectorOf(source.points[skelegon.points[1]]));
+    bone.rest = restOf(vectorOf(source.points[skelegon.points[0]]), vectorOf(source.points[skelegon.points[1]]));
     takeTags(bone, skelegon, scene.options().bonesTakeColour);
     bones[i] = &bone;
   }
@@ -127,6 +114,20 @@ std::vector<Item*> makeBonesOf(Scene& scene, Item& from, Item& object) {
 }
 
 }  // namespace
+
+BoneRest restOf(const Vec3& head, const Vec3& tail) {
+  BoneRest rest;
+  rest.position = head;
+  rest.length = length(tail - head);
+  if (rest.length > 0) rest.direction = (tail - head) * (1 / rest.length);
+  return rest;
+}
+
+Matrix3 restAxes(const Vec3& direction) {
+  const double heading = std::atan2(direction[0], direction[2]);
+  const double pitch = std::asin(std::clamp(-direction[1], -1.0, 1.0));
+  return rotation({heading, pitch, 0}, RotationOrder::HPB);
+}
 
 std::vector<Item*> skelegonSources(Scene& scene, const Item& object) {
   std::vector<Item*> sources;

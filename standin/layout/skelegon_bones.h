@@ -12,6 +12,12 @@ inline constexpr std::array<const char*, 15> kColourNames{"Black",  "DkBlu", "Dk
                                                           "Purple", "Brown", "Gray",  "Blue",  "Green",
                                                           "Cyan",   "Red",   "Magen", "Orang", "White"};
 
+// How the bone of a skelegon rests, from its two points.
+BoneRest restOf(const Vec3& head, const Vec3& tail);
+
+// A bone lies along +Z of its own axes, without bank in its object.
+Matrix3 restAxes(const Vec3& direction);
+
 // The items whose skelegons become bones of the object: the object itself where it has any, and by an option the others of
 // its file.
 std::vector<Item*> skelegonSources(Scene& scene, const Item& object);
