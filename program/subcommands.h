@@ -30,6 +30,9 @@ Command diffCommand();
 Command exportCommand();
 Command importCommand();
 
+// Draws the bones of a rig; 1 when the conversion before it did not go all well.
+Command pictureCommand();
+
 // What hosts may differ in, for the option --host.
 Command hostsCommand();
 

@@ -9,6 +9,8 @@
 #include <utility>
 
 #include "interface/lightwave.h"
+#include "rigs/names_in_layout.h"
+#include "rigs/settings.h"
 #include "standin/layout/skelegon_bones.h"
 
 namespace standin::views {
@@ -56,6 +58,7 @@ class SceneReader {
       : scene_(scene), object_(object), marked_(markedNames.begin(), markedNames.end()) {}
 
   PosedRig read() {
+    rig_.isAfter = true;
     readLayers();
     for (Item* item : scene_.objects()) {
       if (item->isNull()) addNull(*item);
@@ -80,6 +83,7 @@ class SceneReader {
     for (const ObjectLayer& layer : object_.layers) rig_.layers.push_back({layer.number, layer.name, {}});
     for (Item* item : scene_.objects()) {
       if (!item->source || place == object_.layers.size()) continue;
+      fileName_ = item->source->path.substr(item->source->path.find_last_of("/\\") + 1);
       rig_.layers[place].mesh = meshOf(object_.layers[place], scene_.placement(*item, 0));
       layers_[item] = place++;
     }
@@ -92,6 +96,7 @@ class SceneReader {
     if (const auto layer = layers_.find(item.owner); layer != layers_.end()) bone.layer = layer->second;
     bone.tail = bone.head + bone.axes.columns[2] * item.rest.length;
     bone.isMarked = marked_.count(item.givenName) != 0;
+    bone.givenName = item.givenName;
     bones_[&item] = rig_.bones.size();
     byName_.emplace(item.givenName, rig_.bones.size());
     rig_.bones.push_back(std::move(bone));
@@ -120,27 +125,22 @@ class SceneReader {
 
   // Nothing in a scene points to these: only the stored name tells. As in the conversion, names mean the first that bears them.
   void addInitialPositions() {
-    for (const ObjectLayer& layer : object_.layers) {
-      for (const PolygonGroup& group : layer.groups) {
-        if (group.type != lw::kTypeBone) continue;
-        for (const ObjectPolygon& skelegon : group.polygons) addInitialPosition(skelegon);
-      }
+    const rigs::Rig rig = rigs::rigOf(object_, fileName_);
+    const rigs::Setting* const setting = rigs::settingOfTag(settingTag(kInitialPositionSlot));
+    for (const rigs::Skelegon& skelegon : rig.skelegons) {
+      const std::string* const stored = skelegon.stored(*setting);
+      if (stored == nullptr || stored->empty()) continue;
+      const auto bone = byName_.find(skelegon.name);
+      const auto null = nullsByName_.find(rigs::itemMeant(rig.layers[skelegon.layer], *stored));
+      if (bone == byName_.end() || null == nullsByName_.end()) continue;
+      if (!isInitialPosition_.emplace(bone->second, null->second).second) continue;
+      rig_.nulls[null->second].lines.push_back({bone->second, HelperKind::InitialPosition});
     }
-  }
-
-  void addInitialPosition(const ObjectPolygon& skelegon) {
-    const std::string* const name = skelegon.tag(lw::kTagBone);
-    const std::string* const wanted = skelegon.tag(settingTag(kInitialPositionSlot));
-    if (name == nullptr || wanted == nullptr || wanted->empty()) return;
-    const auto bone = byName_.find(*name);
-    const auto null = nullsByName_.find(*wanted);
-    if (bone == byName_.end() || null == nullsByName_.end()) return;
-    if (!isInitialPosition_.emplace(bone->second, null->second).second) return;
-    rig_.nulls[null->second].lines.push_back({bone->second, HelperKind::InitialPosition});
   }
 
   Scene& scene_;
   const ObjectFile& object_;
+  std::string fileName_;
   std::unordered_set<std::string_view> marked_;
   std::unordered_map<const Item*, std::size_t> layers_;
   std::unordered_map<const Item*, std::size_t> bones_;
@@ -162,6 +162,7 @@ PosedRig posedBefore(const ObjectFile& object, const rigs::Rig& rig, const std::
     PosedBone bone{skelegon.name,           skelegon.layer,           skelegon.parent,   vectorOf(skelegon.head),
                    vectorOf(skelegon.tail), restAxes(rest.direction), colourOf(skelegon)};
     bone.isMarked = i < marked.size() && marked[i];
+    bone.givenName = skelegon.name;
     posed.bones.push_back(std::move(bone));
   }
   return posed;

@@ -27,8 +27,9 @@ struct PosedBone {
   Vec3 tail{};
   Matrix3 axes;  // the bone lies along the third
   int colour = 0;
-  bool isMarked = false;    // a problem was found
-  std::string remark = {};  // what it is, for those who ask
+  bool isMarked = false;       // a problem was found
+  std::string remark = {};     // what it is, for those who ask
+  std::string givenName = {};  // without the counter that Layout shows behind a namesake's name
 };
 
 // A bone that refers to the item, and as what.
@@ -67,6 +68,7 @@ struct PosedRig {
   std::vector<PosedBone> bones;
   std::vector<PosedNull> nulls;
   std::vector<BoneLine> boneLines;
+  bool isAfter = false;  // the conversion
 };
 
 // The skelegons, in the rig's order, where Layout makes bones of them: each layer counts from its pivot. `marked` says which

@@ -36,17 +36,15 @@ Matrix3 turn(std::size_t axis, double angle) {
   return m;
 }
 
-double dot(const Vec3& a, const Vec3& b) { return a[0] * b[0] + a[1] * b[1] + a[2] * b[2]; }
-
-Vec3 cross(const Vec3& a, const Vec3& b) {
-  return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
-}
-
 }  // namespace
 
 Vec3 operator+(const Vec3& a, const Vec3& b) { return {a[0] + b[0], a[1] + b[1], a[2] + b[2]}; }
 Vec3 operator-(const Vec3& a, const Vec3& b) { return {a[0] - b[0], a[1] - b[1], a[2] - b[2]}; }
 Vec3 operator*(const Vec3& a, double factor) { return {a[0] * factor, a[1] * factor, a[2] * factor}; }
+double dot(const Vec3& a, const Vec3& b) { return a[0] * b[0] + a[1] * b[1] + a[2] * b[2]; }
+Vec3 cross(const Vec3& a, const Vec3& b) {
+  return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
+}
 double length(const Vec3& v) { return std::sqrt(dot(v, v)); }
 
 Vec3 operator*(const Matrix3& m, const Vec3& v) { return m.columns[0] * v[0] + m.columns[1] * v[1] + m.columns[2] * v[2]; }

@@ -22,6 +22,8 @@ enum class RotationOrder : int { PHB = 0, HBP = 1, BPH = 2, HPB = 3, PBH = 4, BH
 Vec3 operator+(const Vec3& a, const Vec3& b);
 Vec3 operator-(const Vec3& a, const Vec3& b);
 Vec3 operator*(const Vec3& a, double factor);
+double dot(const Vec3& a, const Vec3& b);
+Vec3 cross(const Vec3& a, const Vec3& b);
 double length(const Vec3& v);
 
 Vec3 operator*(const Matrix3& m, const Vec3& v);
