@@ -50,7 +50,9 @@ Seen seen(const ViewAxes& axes, const Vec3& point) {
 }
 
 bool isFinite(const Vec3& point) {
-  return std::all_of(point.begin(), point.end(), [](double value) { return std::isfinite(value); });
+  // Far beyond the floats of a file, and far below where differences and products are no numbers any more.
+  constexpr double kFarthest = 1e100;
+  return std::all_of(point.begin(), point.end(), [](double value) { return std::abs(value) < kFarthest; });
 }
 
 void Extent::add(const Seen& point) {
