@@ -124,6 +124,7 @@ MeshDrawing MeshOutline::drawing(const Frame& frame) const {
   if (isSimplified_) return drawing;
   for (const auto& face : faces_) {
     std::vector<OnPage> points;
+    points.reserve(face.size());
     for (const std::uint32_t point : face) points.push_back(places[point]);
     addPolygon(drawing.surface, points);
   }

@@ -49,6 +49,9 @@ constexpr CountRow kCounts[] = {
     {"mesh: 1 short edge left out", "mesh: # short edges left out", "メッシュ: 短い辺 # を省略"},
 };
 
+constexpr Both kNoSkelegons = {"no skelegons", "スケルゴンなし"};
+constexpr Both kNoBones = {"no bones", "ボーンなし"};
+
 constexpr Both kRemarks[] = {
     {"so many bones are drawn as lines", "数が多いので、ボーンは線で描く"},
     {"mesh: outline only", "メッシュ: 輪郭のみ"},
@@ -74,6 +77,8 @@ const char* remarkText(Remark remark, Language language) { return rowOf(kRemarks
 
 std::string countText(Counted what, std::size_t count, Language language) {
   const CountRow& row = rowOf(kCounts, what);
+  if (count == 0 && what == Counted::Skelegons) return kNoSkelegons.in(language);
+  if (count == 0 && what == Counted::Bones) return kNoBones.in(language);
   std::string text = language == Language::Japanese ? row.japanese : count == 1 ? row.one : row.several;
   if (const std::size_t at = text.find('#'); at != std::string::npos) text.replace(at, 1, std::to_string(count));
   return text;
@@ -97,14 +102,18 @@ std::string titleOf(const PosedNull& null, const std::vector<PosedBone>& bones, 
     const std::string& bone = bones[line.bone].name;
     const std::string kind = nameOf(line.kind, language);
     title.append(i == 0 ? ": " : ", ");
-    title.append(language == Language::Japanese ? bone + " の" + kind : kind + " of " + bone);
+    if (language == Language::Japanese) {
+      title.append(bone).append(" の").append(kind);
+    } else {
+      title.append(kind).append(" of ").append(bone);
+    }
   }
   return title + (null.lines.size() > kMostShown ? ", …" : "");
 }
 
 std::string titleOf(const PosedBone& bone, Language language) {
   const char* const none = language == Language::Japanese ? "(名前なし)" : "(no name)";
-  const std::string name = bone.name.empty() ? none : bone.name;
+  std::string name = bone.name.empty() ? none : bone.name;
   if (!bone.isMarked) return name;
   return name + ": " + (bone.remark.empty() ? remarkText(Remark::HasProblem, language) : bone.remark);
 }
