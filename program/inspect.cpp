@@ -1,11 +1,8 @@
 #include <algorithm>
-#include <charconv>
-#include <filesystem>
 #include <iostream>
 #include <memory>
-#include <system_error>
 
-#include "objectfile/file_bytes.h"
+#include "program/inspection.h"
 #include "program/rig_tool_support.h"
 #include "program/subcommands.h"
 #include "rigs/findings.h"
@@ -27,19 +24,6 @@ struct InspectOptions {
   bool strict = false;
 };
 
-rigs::CodePage codePageOf(const std::string& name) {
-  if (name.empty()) return rigs::CodePage(rigs::CodePage::usual());
-  if (name == "utf-8") return rigs::CodePage(rigs::kUtf8CodePage);
-  int number = 0;
-  const char* const end = name.data() + name.size();
-  const auto read = std::from_chars(name.data(), end, number);
-  rigs::CodePage codePage(number);
-  if (read.ptr != end || read.ec != std::errc() || !codePage.isKnown()) {
-    throw Trouble{"code page " + name + " is not known here"};
-  }
-  return codePage;
-}
-
 bool hasSkelegon(const rigs::Rig& rig, const std::string& name) {
   return std::any_of(rig.skelegons.begin(), rig.skelegons.end(),
                      [&](const auto& skelegon) { return skelegon.name == name; });
@@ -60,32 +44,9 @@ bool isWanted(const rigs::Rig& rig, const rigs::Finding& finding, const InspectO
   return options.skelegon.empty() || concerns(rig, finding, options.skelegon);
 }
 
-// In the units that the host's limit counts. A name that is no text, as unpacking in a wrong code page leaves it, has its
-// bytes.
-std::size_t lengthOf(const std::filesystem::path& path) {
-  try {
-    return path.u16string().size();
-  } catch (const std::filesystem::filesystem_error&) {
-    return path.native().size();
-  }
-}
-
 rigs::Inspected inspect(const std::string& path, const rigs::CodePage& codePage, const InspectOptions& options) {
-  rigs::Inspected file{path, {}, {}, {}};
-  Outcome<ObjectFile> object = readObject(path, TextlessTags::LeaveOut);
-  if (!object) {
-    file.trouble = object.why();
-    return file;
-  }
-  file.rig = rigs::rigOf(*object, fileNameOf(path));
-  file.rig.pathLength = lengthOf(std::filesystem::absolute(pathFromUtf8(path)));
-  file.findings = rigs::findingsOf(file.rig, codePage);
-  if (file.rig.isInJapanese) {
-    // Judged as it is stored, shown as it can be read.
-    rigs::putInUtf8(*object);
-    file.rig = rigs::rigOf(*object, fileNameOf(path));
-    file.rig.isInJapanese = true;
-  }
+  rigs::Inspected file = inspectObject(path, codePage).inspected;
+  if (!file.trouble.empty()) return file;
   std::erase_if(file.findings, [&](const rigs::Finding& finding) { return !isWanted(file.rig, finding, options); });
   if (!options.skelegon.empty() && !hasSkelegon(file.rig, options.skelegon)) {
     file.trouble = path + ": no skelegon is called " + options.skelegon;
@@ -146,8 +107,7 @@ Command inspectCommand() {
           {
               {"files", &options->files, "Object files", {.isRequired = true}},
               languageOption(&options->language, "Language of the settings' names"),
-              {"--code-page", &options->codePage,
-               "Code page of the system that runs Layout: 932, 1252, ... or utf-8 (this system's on Windows, else 932)"},
+              codePageOption(options->codePage),
               {"--ignore", &options->ignored, "Kinds of findings to leave out", {.choices = findingIds(), .separator = ','}},
               {"--findings", &options->findingsOnly, "Print the findings only"},
               {"--skelegon", &options->skelegon, "Show the skelegon of this name alone, and what concerns it"},

@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "program/conversion.h"
+#include "program/sent_commands.h"
 #include "program/subcommands.h"
 #include "rigs/report.h"
 
@@ -13,19 +14,6 @@ struct CommandsOptions {
   ConversionOptions conversion;
   bool json = false;
 };
-
-std::vector<rigs::SentCommand> sentCommands(const Transcript& transcript) {
-  std::vector<rigs::SentCommand> commands;
-  for (const Event& event : transcript.events()) {
-    switch (event.kind) {
-      case EventKind::Command: commands.push_back({event.text, "accepted", {}, event.item}); break;
-      case EventKind::Rejected: commands.push_back({event.text, "rejected", event.why, event.item}); break;
-      case EventKind::Asked: commands.push_back({event.text, "asked", event.why, event.item}); break;
-      case EventKind::Status: break;
-    }
-  }
-  return commands;
-}
 
 // The commands are data; what became of them goes to the error output.
 void print(const std::vector<rigs::SentCommand>& commands) {

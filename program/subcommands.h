@@ -29,6 +29,8 @@ Command commandsCommand();
 Command diffCommand();
 Command exportCommand();
 Command importCommand();
+// Writes a page for each rig.
+Command reportCommand();
 
 // Draws the bones of a rig; 1 when the conversion before it did not go all well.
 Command pictureCommand();

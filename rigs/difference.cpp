@@ -82,10 +82,14 @@ class Comparison {
   void add(DifferenceKind kind, const Layer& layer, std::string what = {}, Text from = {}, Text to = {}) {
     differences_.push_back({kind, nameShown(layer, language_), {}, std::move(what), std::move(from), std::move(to)});
   }
+  // The skelegon is one of the new state, or of the old one when it was removed.
   void add(DifferenceKind kind, const Rig& rig, std::size_t skelegon, std::string what = {}, Text from = {}, Text to = {}) {
     const Skelegon& subject = rig.skelegons[skelegon];
     add(kind, rig.layers[subject.layer], std::move(what), std::move(from), std::move(to));
+    const bool isGone = kind == DifferenceKind::Removed;
     differences_.back().skelegon = nameShown(subject, language_);
+    differences_.back().placeBefore = isGone ? skelegon : earlier_[skelegon];
+    differences_.back().placeAfter = isGone ? std::nullopt : std::optional(skelegon);
   }
 
   // By number and name, then by name, then by number alone: a layer that has another number is the same, and so is one that was

@@ -1,6 +1,7 @@
 // What differs between two states of a rig, by skelegon and setting.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -32,6 +33,9 @@ struct Difference {
   // As shown, a default with a word that it is one; absent where there is nothing: the skelegon is new, or no colour is stored.
   std::optional<std::string> from;
   std::optional<std::string> to;
+  // The skelegon's place in the rigs, where it is in them.
+  std::optional<std::size_t> placeBefore = {};
+  std::optional<std::size_t> placeAfter = {};
 };
 
 // In the order of the new state, with what was removed behind.

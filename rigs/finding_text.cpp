@@ -5,23 +5,10 @@
 #include <utility>
 
 #include "rigs/report.h"
+#include "rigs/text.h"
 
 namespace standin::rigs {
 namespace {
-
-std::string filled(std::string_view pattern, const Finding& finding) {
-  const std::pair<std::string_view, const std::string&> parts[] = {
-      {"{text}", finding.text}, {"{other}", finding.other}, {"{number}", finding.number}};
-  std::string sentence;
-  while (!pattern.empty()) {
-    const auto part =
-        std::find_if(std::begin(parts), std::end(parts), [&](const auto& p) { return pattern.starts_with(p.first); });
-    const bool isPart = part != std::end(parts);
-    sentence.append(isPart ? std::string_view(part->second) : pattern.substr(0, 1));
-    pattern.remove_prefix(isPart ? part->first.size() : 1);
-  }
-  return sentence;
-}
 
 // How many skelegons or texts a line names.
 constexpr std::size_t kNamed = 3;
@@ -80,17 +67,6 @@ std::string sentenceOf(const Fold& fold, Language language) {
   return sentenceOf(finding, language);
 }
 
-std::string lineOf(const Fold& fold, Language language) {
-  const bool japanese = language == Language::Japanese;
-  const FindingRow& row = findingRow(fold.first->kind);
-  std::string line = std::string("  ") + wordOf(row.weight, language) + " [" + row.id + "] ";
-  if (fold.count > 1) line += std::to_string(fold.count) + " × ";
-  line += joined({fold.place.layer, listed(fold.skelegons, language), fold.place.setting});
-  if (!fold.place.layer.empty()) line += ": ";
-  const std::string entry = manualEntryOf(row.kind, language);
-  return line + sentenceOf(fold, language) + (japanese ? "（" + entry + " を参照）" : " (see " + entry + ")") + '\n';
-}
-
 }  // namespace
 
 Place placeOf(const Rig& rig, const Finding& finding, Language language) {
@@ -114,7 +90,8 @@ std::string joined(const Place& place) {
 }
 
 std::string sentenceOf(const Finding& finding, Language language) {
-  return filled(findingRow(finding.kind).in(language), finding);
+  return filled(findingRow(finding.kind).in(language),
+                {{"{text}", finding.text}, {"{other}", finding.other}, {"{number}", finding.number}});
 }
 
 std::size_t countOf(const std::vector<Finding>& findings, FindingWeight weight) {
@@ -122,9 +99,26 @@ std::size_t countOf(const std::vector<Finding>& findings, FindingWeight weight) 
       findings.begin(), findings.end(), [&](const Finding& finding) { return findingRow(finding.kind).weight == weight; }));
 }
 
+std::vector<FindingLine> findingLines(const Rig& rig, const std::vector<Finding>& findings, Language language) {
+  std::vector<FindingLine> lines;
+  for (const Fold& fold : foldsOf(rig, findings, language)) {
+    lines.push_back({&findingRow(fold.first->kind), fold.count, fold.first->skelegon,
+                     joined({fold.place.layer, listed(fold.skelegons, language), fold.place.setting}),
+                     sentenceOf(fold, language)});
+  }
+  return lines;
+}
+
 std::string findingsText(const Rig& rig, const std::vector<Finding>& findings, Language language) {
+  const bool japanese = language == Language::Japanese;
   std::string text;
-  for (const Fold& fold : foldsOf(rig, findings, language)) text += lineOf(fold, language);
+  for (const FindingLine& line : findingLines(rig, findings, language)) {
+    text += std::string("  ") + wordOf(line.row->weight, language) + " [" + line.row->id + "] ";
+    if (line.count > 1) text += std::to_string(line.count) + " × ";
+    if (!line.place.empty()) text += line.place + ": ";
+    const std::string entry = manualEntryOf(line.row->kind, language);
+    text += line.sentence + (japanese ? "（" + entry + " を参照）" : " (see " + entry + ")") + '\n';
+  }
   return text;
 }
 

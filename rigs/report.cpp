@@ -6,6 +6,7 @@
 #include "rigs/japanese_texts.h"
 #include "rigs/json_text.h"
 #include "rigs/text.h"
+#include "rigs/tree.h"
 #include "rigs/values.h"
 
 namespace standin::rigs {
@@ -26,112 +27,52 @@ bool storesColour(const Skelegon& skelegon) {
   });
 }
 
-// What a skelegon says, line by line.
-std::vector<std::string> settingLines(const Skelegon& skelegon, const ReportOptions& options) {
-  const bool japanese = options.language == Language::Japanese;
-  std::vector<std::string> lines;
-  for (const Setting& setting : allSettings()) {
-    const std::string* const text = skelegon.stored(setting);
-    if (text == nullptr && setting.slot == skg::Slot::Colour) continue;  // told below
-    const bool differs = text != nullptr && !meansTheSame(setting, *text, setting.defaultText);
-    if (!differs && !options.all) continue;
-    const std::string value =
-        shown(setting, text == nullptr ? setting.defaultText : std::string_view(*text), options.language);
-    const char* const remark = text != nullptr ? "" : defaultRemark(options.language);
-    lines.push_back(setting.name(options.language) + ": " + value + remark);
-  }
-  if (options.all && !storesColour(skelegon)) {
-    lines.emplace_back(japanese ? "色 (ボーン): 保存なし、オレンジになる" : "Color (bone): not stored, will become orange");
-  }
-  for (const PolygonTag& tag : skelegon.tags) {
-    const bool isOwn = settingOfTag(tag.type) != nullptr || tag.type == lw::kTagBone;
-    if (isUnknownSlot(tag.type) || (options.all && !isOwn)) {
-      lines.push_back((japanese ? "タグ " : "tag ") + tagName(tag.type) + ": " + inQuotes(tag.text));
-    }
-  }
-  return lines;
-}
-
 bool isAskedFor(const Skelegon& skelegon, const ReportOptions& options) {
   return options.skelegon.empty() || skelegon.name == options.skelegon;
 }
 
-// Walks a layer's skelegons from the topmost down, without recursion. A ring of skelegons begins at its first in the file.
+// A layer's skelegons as a tree of lines, or those alone that are asked for.
 class Tree {
  public:
-  Tree(const Rig& rig, const Layer& layer, const ReportOptions& options)
-      : rig_(rig), options_(options), done_(rig.skelegons.size()) {
-    if (!options.skelegon.empty()) {
-      for (const std::size_t i : layer.skelegons) writeAlone(i);
+  Tree(const Rig& rig, const Layer& layer, const ReportOptions& options) : rig_(rig), options_(options) {
+    if (options.skelegon.empty()) {
+      for (const TreePlace& place : treePlaces(rig, layer)) write(place);
       return;
     }
     for (const std::size_t i : layer.skelegons) {
-      if (!rig.skelegons[i].parent) walk(i);
+      if (isAskedFor(rig.skelegons[i], options)) write(rig.skelegons[i], kTop, kTop, false);
     }
-    for (const std::size_t i : layer.skelegons) walk(i);
   }
 
   std::string text() { return std::move(text_); }
 
  private:
-  struct Step {
-    std::size_t skelegon;
-    std::string indent;  // of the lines below its name
-    std::string branch;  // before its name
-    std::size_t depth;
-  };
+  static constexpr const char* kTop = "  ";
 
-  void walk(std::size_t top) {
-    std::vector<Step> steps = {{top, "  ", "  ", 0}};
-    while (!steps.empty()) {
-      const Step step = std::move(steps.back());
-      steps.pop_back();
-      if (done_[step.skelegon]) continue;
-      done_[step.skelegon] = true;
-      const auto& children = rig_.skelegons[step.skelegon].children;
-      write(step, !children.empty());
-      for (std::size_t c = children.size(); c-- > 0;) {
-        const bool deeper = step.depth < kDeepestShown;
-        const bool last = c + 1 == children.size();
-        steps.push_back({children[c], deeper ? step.indent + (last ? "   " : "│  ") : step.indent,
-                         step.indent + (last ? "└─ " : "├─ "), step.depth + 1});
-      }
+  void write(const TreePlace& place) {
+    const Skelegon& skelegon = rig_.skelegons[place.skelegon];
+    indents_.resize(std::min(place.depth, kDeepestShown) + 1);
+    const std::string above = place.depth == 0 ? kTop : indents_[std::min(place.depth - 1, kDeepestShown)];
+    const std::string branch = place.depth == 0 ? kTop : above + (place.isLast ? "└─ " : "├─ ");
+    if (place.depth <= kDeepestShown) {
+      indents_.back() = place.depth == 0 ? kTop : above + (place.isLast ? "   " : "│  ");
     }
+    write(skelegon, branch, indents_.back(), !skelegon.children.empty());
   }
 
-  void writeAlone(std::size_t i) {
-    if (isAskedFor(rig_.skelegons[i], options_)) write({i, "  ", "  ", 0}, false);
-  }
-
-  void write(const Step& step, bool hasChildren) {
-    const Skelegon& skelegon = rig_.skelegons[step.skelegon];
-    text_ += step.branch + nameShown(skelegon, options_.language) + '\n';
+  void write(const Skelegon& skelegon, const std::string& branch, const std::string& indent, bool hasChildren) {
+    text_ += branch + nameShown(skelegon, options_.language) + '\n';
     const char* const line = hasChildren ? "│  " : "   ";
-    for (const std::string& setting : settingLines(skelegon, options_)) text_.append(step.indent + line + setting + '\n');
+    for (const ShownSetting& setting : shownSettings(skelegon, options_)) {
+      text_.append(indent).append(line).append(setting.name).append(": ").append(setting.value).append(1, '\n');
+    }
   }
 
   const Rig& rig_;
   const ReportOptions& options_;
-  std::vector<bool> done_;
+  std::vector<std::string> indents_;  // of the lines below a name, by depth
   std::string text_;
 };
-
-std::string layerHead(const Rig& rig, const Layer& layer, Language language) {
-  const std::string count = std::to_string(layer.skelegons.size());
-  const std::string name = layer.name.empty() ? "" : " " + inQuotes(layer.name);
-  const std::string stored =
-      std::to_string(std::count_if(rig.skelegons.begin(), rig.skelegons.end(), [&](const Skelegon& s) {
-        return &rig.layers[s.layer] == &layer && std::any_of(s.tags.begin(), s.tags.end(), [](const PolygonTag& tag) {
-          return settingOfTag(tag.type) != nullptr;
-        });
-      }));
-  if (language == Language::Japanese) {
-    return "レイヤー " + std::to_string(layer.number) + name + "、レイアウトでは " + inQuotes(layer.itemName) +
-           ": スケルゴン " + count + "、設定あり " + stored + "\n";
-  }
-  return "layer " + std::to_string(layer.number) + name + ", in Layout " + inQuotes(layer.itemName) + ": " +
-         plural(layer.skelegons.size(), "skelegon") + ", " + stored + " with settings\n";
-}
 
 Json optionalText(const std::optional<std::string>& text) { return text ? Json(*text) : Json(); }
 
@@ -161,12 +102,9 @@ const KindRow& rowOf(DifferenceKind kind) {
 }
 
 std::string differenceLine(const Difference& difference, Language language) {
-  const KindRow& row = rowOf(difference.kind);
-  const bool japanese = language == Language::Japanese;
-  std::string line = japanese ? row.japanese : row.english;
-  if (!difference.what.empty()) line += (line.empty() ? "" : " ") + difference.what;
+  const std::string line = labelOf(difference, language);
   if (!difference.from && !difference.to) return line;
-  const std::string none = japanese ? "(なし)" : "(none)";
+  const std::string none = language == Language::Japanese ? "(なし)" : "(none)";
   return line + ": " + difference.from.value_or(none) + " -> " + difference.to.value_or(none);
 }
 
@@ -234,12 +172,60 @@ Json fileJson(const Inspected& file, const ReportOptions& options) {
 
 }  // namespace
 
+std::vector<ShownSetting> shownSettings(const Skelegon& skelegon, const ReportOptions& options) {
+  const bool japanese = options.language == Language::Japanese;
+  std::vector<ShownSetting> list;
+  for (const Setting& setting : allSettings()) {
+    const std::string* const text = skelegon.stored(setting);
+    if (text == nullptr && setting.slot == skg::Slot::Colour) continue;  // told below
+    const bool differs = text != nullptr && !meansTheSame(setting, *text, setting.defaultText);
+    if (!differs && !options.all) continue;
+    const std::string value =
+        shown(setting, text == nullptr ? setting.defaultText : std::string_view(*text), options.language);
+    list.push_back({setting.name(options.language), value + (text != nullptr ? "" : defaultRemark(options.language))});
+  }
+  if (options.all && !storesColour(skelegon)) {
+    list.push_back(japanese ? ShownSetting{"色 (ボーン)", "保存なし、オレンジになる"}
+                            : ShownSetting{"Color (bone)", "not stored, will become orange"});
+  }
+  for (const PolygonTag& tag : skelegon.tags) {
+    const bool isOwn = settingOfTag(tag.type) != nullptr || tag.type == lw::kTagBone;
+    if (isUnknownSlot(tag.type) || (options.all && !isOwn)) {
+      list.push_back({(japanese ? "タグ " : "tag ") + tagName(tag.type), inQuotes(tag.text)});
+    }
+  }
+  return list;
+}
+
+std::string layerLine(const Rig& rig, const Layer& layer, Language language) {
+  const std::string count = std::to_string(layer.skelegons.size());
+  const std::string name = layer.name.empty() ? "" : " " + inQuotes(layer.name);
+  const auto storesSome = [&](std::size_t i) {
+    const auto& tags = rig.skelegons[i].tags;
+    return std::any_of(tags.begin(), tags.end(), [](const PolygonTag& tag) { return settingOfTag(tag.type) != nullptr; });
+  };
+  const std::string stored = std::to_string(std::count_if(layer.skelegons.begin(), layer.skelegons.end(), storesSome));
+  if (language == Language::Japanese) {
+    return "レイヤー " + std::to_string(layer.number) + name + "、レイアウトでは " + inQuotes(layer.itemName) +
+           ": スケルゴン " + count + "、設定あり " + stored;
+  }
+  return "layer " + std::to_string(layer.number) + name + ", in Layout " + inQuotes(layer.itemName) + ": " +
+         plural(layer.skelegons.size(), "skelegon") + ", " + stored + " with settings";
+}
+
+std::string labelOf(const Difference& difference, Language language) {
+  const KindRow& row = rowOf(difference.kind);
+  std::string label = language == Language::Japanese ? row.japanese : row.english;
+  if (!difference.what.empty()) label += (label.empty() ? "" : " ") + difference.what;
+  return label;
+}
+
 std::string treeText(const Rig& rig, const ReportOptions& options) {
   std::string text;
   for (const Layer& layer : rig.layers) {
     const std::string tree = Tree(rig, layer, options).text();
     if (tree.empty() && !options.skelegon.empty()) continue;
-    text += layerHead(rig, layer, options.language) + tree;
+    text += layerLine(rig, layer, options.language) + '\n' + tree;
   }
   return text;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,11 +21,32 @@ struct ReportOptions {
 };
 
 std::string treeText(const Rig& rig, const ReportOptions& options);
-// A line for those that say the same.
+// "layer 1 "Rig", in Layout "rig:Rig": 2 skelegons, 2 with settings"
+std::string layerLine(const Rig& rig, const Layer& layer, Language language);
+
+// A setting by its name, with what the skelegon stores in it.
+struct ShownSetting {
+  std::string name;
+  std::string value;
+};
+// Those that are not at their default, and tags of their family that are of none; or all.
+std::vector<ShownSetting> shownSettings(const Skelegon& skelegon, const ReportOptions& options);
+
+// Findings that say the same, as one.
+struct FindingLine {
+  const FindingRow* row = nullptr;
+  std::size_t count = 0;                // how many say it
+  std::optional<std::size_t> skelegon;  // the first of whom it is said
+  std::string place;                    // empty for the file itself
+  std::string sentence;
+};
+std::vector<FindingLine> findingLines(const Rig& rig, const std::vector<Finding>& findings, Language language);
 std::string findingsText(const Rig& rig, const std::vector<Finding>& findings, Language language);
 // How many there are of each weight, in one line.
 std::string summaryText(const std::string& path, const std::vector<Finding>& findings, int codePage, Language language);
 std::size_t countOf(const std::vector<Finding>& findings, FindingWeight weight);
+// What differs: "moved", "tag SURF", or a setting's name.
+std::string labelOf(const Difference& difference, Language language);
 std::string differencesText(const std::vector<Difference>& differences, Language language);
 
 // One object of a file.

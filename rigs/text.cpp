@@ -1,5 +1,7 @@
 #include "rigs/text.h"
 
+#include <algorithm>
+
 namespace standin::rigs {
 namespace {
 
@@ -28,6 +30,17 @@ std::string printable(std::string_view text) {
 }
 
 std::string inQuotes(std::string_view text) { return '"' + printable(text) + '"'; }
+
+std::string filled(std::string_view pattern, std::initializer_list<std::pair<std::string_view, std::string_view>> parts) {
+  std::string text;
+  while (!pattern.empty()) {
+    const auto part = std::find_if(parts.begin(), parts.end(), [&](const auto& p) { return pattern.starts_with(p.first); });
+    const bool isPart = part != parts.end();
+    text += isPart ? part->second : pattern.substr(0, 1);
+    pattern.remove_prefix(isPart ? part->first.size() : 1);
+  }
+  return text;
+}
 
 std::string hexOf(std::string_view bytes) {
   std::string hex;

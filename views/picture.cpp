@@ -127,7 +127,7 @@ class Picture {
     const Counted bones = content_.rig.isAfter ? Counted::Bones : Counted::Skelegons;
     notes.push_back(countText(bones, content_.bones.size() + nowhere_, language));
     add(Counted::Helpers, content_.nulls.size() + nullsNowhere_);
-    add(Counted::Problems, marked_);
+    add(options_.marks == Marks::Problems ? Counted::Problems : Counted::Changes, marked_);
     add(Counted::Nowhere, nowhere_);
     add(Counted::NullsNowhere, nullsNowhere_);
     if (content_.detail == Detail::Lines) notes.emplace_back(remarkText(Remark::ManyBones, language));

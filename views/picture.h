@@ -11,6 +11,9 @@
 
 namespace standin::views {
 
+// Why bones are marked.
+enum class Marks { Problems, Changes };
+
 struct PictureOptions {
   std::vector<View> views;  // all when there is none
   int width = 960;
@@ -20,6 +23,7 @@ struct PictureOptions {
   // the page's colour, and names are edged in the page's property --ground.
   bool standsAlone = true;
   Language language = Language::English;
+  Marks marks = Marks::Problems;
   std::string title = {};  // above the views; none when it is empty
 };
 

@@ -41,6 +41,7 @@ constexpr CountRow kCounts[] = {
     {"1 bone", "# bones", "ボーン #"},
     {"1 helper item", "# helper items", "ヘルパーアイテム #"},
     {"1 with a problem, in red", "# with a problem, in red", "問題あり # (赤)"},
+    {"1 changed, in red", "# changed, in red", "変更あり # (赤)"},
     {"1 without a finite position, not drawn", "# without a finite position, not drawn",
      "位置が有限でないもの # (描かない)"},
     {"1 helper item without a finite position, not drawn", "# helper items without a finite position, not drawn",

@@ -23,6 +23,7 @@ enum class Counted {
   Bones,
   Helpers,
   Problems,
+  Changes,
   Nowhere,       // bones without a finite position
   NullsNowhere,  // helper items without one
   NamesLeftOut,

@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <map>
 
+#include "views/html.h"
+
 namespace standin::validate {
 namespace {
 
@@ -76,19 +78,7 @@ std::string rowText(const std::string& name, const Sums& sums) {
 
 // --- the page -------------------------------------------------------------------------------------------------------------
 
-std::string escaped(std::string_view text) {
-  std::string result;
-  for (const char c : text) {
-    switch (c) {
-      case '&': result += "&amp;"; break;
-      case '<': result += "&lt;"; break;
-      case '>': result += "&gt;"; break;
-      case '"': result += "&quot;"; break;
-      default: result += c;
-    }
-  }
-  return result;
-}
+using views::escaped;
 
 std::string cell(const std::string& text, const char* kind = "td", const char* style = nullptr) {
   return std::string("<") + kind + (style == nullptr ? "" : std::string(" class=\"") + style + "\"") + ">" + text + "</" +
