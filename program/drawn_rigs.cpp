@@ -51,6 +51,7 @@ views::PosedRig drawnAfter(Scene& scene, const InspectedObject& file, rigs::Lang
     bone.name = readable(bone.name);
   }
   for (views::PosedNull& null : posed.nulls) null.name = readable(null.name);
+  for (views::PosedLayer& layer : posed.layers) layer.name = readable(layer.name);
   return posed;
 }
 

@@ -1,14 +1,12 @@
 #include <algorithm>
 #include <iostream>
-#include <map>
 #include <memory>
 
 #include "objectfile/whole_file.h"
 #include "program/conversion.h"
+#include "program/drawn_rigs.h"
 #include "program/rig_tool_support.h"
 #include "program/subcommands.h"
-#include "rigs/findings.h"
-#include "rigs/japanese_texts.h"
 #include "rigs/text.h"
 #include "views/picture.h"
 
@@ -34,69 +32,17 @@ const std::vector<std::string>& viewNames() {
   return names;
 }
 
-// A rig as it is stored, and what is wrong with its skelegons, in words.
-struct Judged {
-  ObjectFile object;
-  rigs::Rig rig;
-  std::vector<std::string> problems;  // by skelegon; empty for those without
-
-  std::vector<bool> marked() const {
-    std::vector<bool> marked;
-    for (const std::string& problem : problems) marked.push_back(!problem.empty());
-    return marked;
-  }
-};
-
-Judged judged(const std::string& path, rigs::Language language) {
-  Outcome<ObjectFile> object = readObject(path, TextlessTags::LeaveOut);
-  if (!object) throw Trouble{object.why()};
-  Judged all{std::move(*object), {}, {}};
-  all.rig = rigs::rigOf(all.object, fileNameOf(path));
-  all.problems.resize(all.rig.skelegons.size());
-  for (const rigs::Finding& finding : rigs::findingsOf(all.rig, rigs::CodePage(rigs::CodePage::usual()))) {
-    const bool isProblem = rigs::findingRow(finding.kind).weight == rigs::FindingWeight::Problem;
-    if (!isProblem || !finding.skelegon) continue;
-    std::string& problem = all.problems[*finding.skelegon];
-    problem += (problem.empty() ? "" : " / ") + sentenceOf(finding, language);
-  }
-  return all;
-}
-
-views::PosedRig before(const Judged& judged) {
-  views::PosedRig posed = views::posedBefore(judged.object, judged.rig, judged.marked());
-  for (std::size_t i = 0; i < posed.bones.size(); ++i) posed.bones[i].remark = judged.problems[i];
-  return posed;
-}
-
 // Also where not all went well: the verdict tells that.
-views::PosedRig after(const Judged& judged, const PictureWords& words, bool& isSound) {
+views::PosedRig after(const InspectedObject& file, const PictureWords& words, bool& isSound) {
   Progress progress;
   Conversion conversion(words.file, words.conversion, progress);
   conversion.open();
   const ConversionVerdict verdict = conversion.run(progress);
   isSound = verdict.isSound();
   if (!isSound) std::cerr << verdictText(verdict);
-
-  std::vector<std::string> names;
-  std::map<std::string, std::string> problems;
-  for (std::size_t i = 0; i < judged.problems.size(); ++i) {
-    if (judged.problems[i].empty()) continue;
-    names.push_back(judged.rig.skelegons[i].name);
-    problems.emplace(judged.rig.skelegons[i].name, judged.problems[i]);
-  }
-  views::PosedRig posed = views::posedAfter(conversion.host().scene(), judged.object, names);
-  for (views::PosedBone& bone : posed.bones) {
-    if (const auto problem = problems.find(bone.givenName); problem != problems.end()) bone.remark = problem->second;
-  }
+  views::PosedRig posed = drawnAfter(conversion.host().scene(), file, languageOf(words.conversion.language));
   conversion.end();
   return posed;
-}
-
-// Some hosts store their texts in the Japanese code page.
-void makeReadable(views::PosedRig& posed) {
-  for (views::PosedBone& bone : posed.bones) bone.name = rigs::inUtf8(bone.name);
-  for (views::PosedNull& null : posed.nulls) null.name = rigs::inUtf8(null.name);
-  for (views::PosedLayer& layer : posed.layers) layer.name = rigs::inUtf8(layer.name);
 }
 
 std::vector<std::size_t> layersNamed(const views::PosedRig& posed, const PictureWords& words) {
@@ -125,10 +71,10 @@ int run(const PictureWords& words) {
     // Before the long work.
     if (!words.out.empty()) mustBeWritten(refusedFiles({words.out}, existingFiles(words.force)));
     const rigs::Language language = languageOf(words.conversion.language);
-    const Judged rig = judged(words.file, language);
+    const InspectedObject file = inspectObject(words.file, codePageOf({}));
+    if (!file.inspected.trouble.empty()) throw Trouble{file.inspected.trouble};
     bool isSound = true;
-    views::PosedRig posed = words.after ? after(rig, words, isSound) : before(rig);
-    makeReadable(posed);
+    const views::PosedRig posed = words.after ? after(file, words, isSound) : drawnBefore(file, language);
 
     views::PictureOptions options;
     for (const std::string& view : words.views) {
