@@ -91,4 +91,17 @@ void RigBuilder::settings(const Skelegon& skelegon, std::initializer_list<Settin
   for (const Setting& setting : list) tag(skelegon, settingTag(setting.number), setting.text);
 }
 
+void RigBuilder::colour(const Skelegon& skelegon, const std::string& word) {
+  for (const std::uint32_t type : {lw::kTagColour, settingTag(129)}) tag(skelegon, type, word);
+}
+
+void RigBuilder::leaveOtherColoursAlone() {
+  for (ObjectLayer& layer : object_.layers) {
+    for (ObjectPolygon& skelegon : layer.group(lw::kTypeBone).polygons) {
+      if (skelegon.tag(lw::kTagColour) != nullptr) continue;
+      for (const std::uint32_t type : {lw::kTagColour, settingTag(129)}) skelegon.setTag(type, "Modeler");
+    }
+  }
+}
+
 }  // namespace standin

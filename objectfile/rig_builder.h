@@ -50,6 +50,10 @@ class RigBuilder {
 
   void tag(const Skelegon& skelegon, std::uint32_t type, std::string text);
   void settings(const Skelegon& skelegon, std::initializer_list<Setting> list);
+  // The bone colour is stored twice: where the program looks for it, and under the number of its own setting.
+  void colour(const Skelegon& skelegon, const std::string& word);
+  // As the panel stores that a colour is left alone: a bone of which none is stored becomes orange.
+  void leaveOtherColoursAlone();
 
   const ObjectFile& object() const { return object_; }
   ObjectFile take() { return std::move(object_); }

@@ -104,17 +104,12 @@ ObjectFile PicturedRig::plain() const { return isJapanese_ ? makeJapaneseLizard(
 ObjectFile PicturedRig::filled() const {
   ObjectFile object = plain();
   ObjectLayer& layer = object.layers[0];
-  VertexMap map = layer.maps[0];
-  map.name = filledSkelegon();
-  layer.maps.push_back(map);
-
   const auto store = [&](ObjectPolygon& skelegon, std::span<const FilledRow> rows) {
     for (const FilledRow& row : rows) skelegon.setTag(settingTag(row.number), name(row.text));
   };
   for (ObjectPolygon& skelegon : layer.group(lw::kTypeBone).polygons) store(skelegon, kOfTheLayer);
   ObjectPolygon& filled = skelegonNamed(layer, filledSkelegon());
   store(filled, kOfTheSkelegon);
-  filled.setTag(lw::kTagBoneWeight, map.name);
   filled.setTag(lw::kTagColour, *filled.tag(settingTag(kColour)));
   return object;
 }

@@ -19,7 +19,7 @@ TripRig rigOf(ObjectFile object, const std::string& path) {
 }
 
 TripRig lizardRig(const std::string& folder) { return rigOf(makeEverySettingRig(), folder + "/lizard.lwo"); }
-TripRig japaneseRig(const std::string& folder) { return rigOf(makeJapaneseRig(), folder + "/人形.lwo"); }
+TripRig japaneseRig(const std::string& folder) { return rigOf(makeBoxedDoll(), folder + "/人形.lwo"); }
 
 Session::Session(Program program, const TripRig& rig, const std::string& module, const HostOptions& host) : path_(module) {
   if (program == Program::Modeler) {

@@ -203,6 +203,8 @@ std::vector<DeskWindow::Row> DeskWindow::foregroundRows() const {
   }
   std::vector<Row> rows;
   for (const MeshPolygon* polygon : host_.current()->scan(layers)) rows.push_back({polygon, rowText(*polygon)});
+  // A body has many faces, and the tools are for skelegons.
+  std::stable_partition(rows.begin(), rows.end(), [](const Row& row) { return row.polygon->type == lw::kTypeBone; });
   return rows;
 }
 

@@ -33,7 +33,7 @@ ModelerHost& host() {
 
 void loadObject() {
   host().closeAll();
-  host().add(standin::makeJapaneseRig(), "rig.lwo");
+  host().add(standin::makeBoxedDoll(), "rig.lwo");
   host().showAllLayers();
 }
 

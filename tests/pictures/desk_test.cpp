@@ -87,6 +87,11 @@ TEST_F(Desk, ListsThePolygonsOfTheForeground) {
   EXPECT_LT(tail, all);
 }
 
+TEST_F(Desk, ListsTheSkelegonsOfAllLayersBeforeTheFaces) {
+  EXPECT_EQ(rowOf(L"Root"), 0U);
+  EXPECT_EQ(rowOf(L"Tail_06"), 23U);
+}
+
 TEST_F(Desk, ClickOnALayerTakesItOutOfTheForeground) {
   clickRow(DeskPart::Layers, 0);
   EXPECT_FALSE(host.current()->layer(0)->foreground);

@@ -250,7 +250,7 @@ TEST(DamagedObjects, AMapOfManyDimensionsAndNoValuesIsRefused) {
 }
 
 TEST(DamagedObjects, NoCutAndNoFlippedByteCrashesTheReader) {
-  const std::string whole = *serializeObject(makeDemoRig());
+  const std::string whole = *serializeObject(makeBoxedLizard());
   for (std::size_t length = 0; length < whole.size(); length += 7) EXPECT_FALSE(parseObject(whole.substr(0, length)));
   std::mt19937 random(20240501);
   for (int round = 0; round < 3000; ++round) {
