@@ -76,20 +76,20 @@ struct Followed {
   VertexMap* map;
 };
 
-// Square of the distance.
-double distance(const Vector& point, const Followed& bone) {
+// How little of a point follows a bone: it grows with the distance, more slowly about a long bone, so that thin limbs bend softly too.
+double looseness(const Vector& point, const Followed& bone) {
+  constexpr double kSoftness = 0.25;  // of the bone's length
   const Vector along = bone.tail - bone.head;
-  const double share = std::clamp(dot(point - bone.head, along) / std::max(dot(along, along), 1e-12), 0.0, 1.0);
-  const Vector away = point - (bone.head + along * share);
-  return dot(away, away);
+  const double square = std::max(dot(along, along), 1e-12);
+  const Vector away = point - (bone.head + along * std::clamp(dot(point - bone.head, along) / square, 0.0, 1.0));
+  return std::pow(dot(away, away) + square * kSoftness * kSoftness, 2);
 }
 
 // The nearer a skelegon, the more of the point follows it.
 void weigh(const Vector& at, std::uint32_t point, std::span<const Followed> bones) {
-  constexpr double kTouching = 1e-6;
   constexpr double kLeast = 0.01;  // of the weight of the nearest
   std::vector<std::pair<double, VertexMap*>> weights;
-  for (const Followed& bone : bones) weights.emplace_back(std::pow(distance(at, bone) + kTouching, -2), bone.map);
+  for (const Followed& bone : bones) weights.emplace_back(1 / looseness(at, bone), bone.map);
   std::sort(weights.begin(), weights.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
   std::erase_if(weights, [least = weights.front().first * kLeast](const auto& weight) { return weight.first < least; });
   weights.resize(std::min(weights.size(), kMostWeights));
