@@ -136,14 +136,14 @@ void takeSelector(const Album& album) {
     const auto clickRow = [&](int row, Held held, int x = kBesideTriangles) {
       must(at.driver.clickAt(tree, x, row * kTreeRow + kTreeRow / 2, MouseButton::Left, held));
     };
-    must(at.driver.resize(panel, 150, 220));
+    must(at.driver.resize(panel, 150, 250));
     clickRow(kRowOfMaps, {}, kOutermostTriangle);
     album.take(at.driver, panel, "selector", "resized");
     clickRow(3, {});
     clickRow(6, {.shift = true});
     clickRow(9, {.control = true});
     album.take(at.driver, panel, "selector", "selections");
-    must(at.driver.resize(panel, -180, -520));  // fewer rows than there are
+    must(at.driver.resize(panel, -180, -550));  // fewer rows than there are
     const POINT thumb{tree.hot().right() - 6, tree.hot().y + 20};
     must(at.driver.drag(panel, thumb, {thumb.x, thumb.y + 60}));
     album.take(at.driver, panel, "selector", "scrolled");
