@@ -20,6 +20,7 @@ struct Turned {
 
 std::vector<BodyRing> turned(const std::vector<Turned>& rows) {
   std::vector<BodyRing> rings;
+  rings.reserve(rows.size());
   for (const Turned& row : rows) rings.push_back(roundRing({0, row.height, 0}, row.radius));
   return rings;
 }
