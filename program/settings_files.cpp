@@ -2,6 +2,8 @@
 #include <iostream>
 #include <memory>
 
+#include "gltf/rig_gltf.h"
+#include "gltf/write_glb.h"
 #include "objectfile/file_bytes.h"
 #include "objectfile/whole_file.h"
 #include "program/rig_tool_support.h"
@@ -19,6 +21,7 @@ struct ExportOptions {
   bool schema = false;
   bool force = false;
   bool textconv = false;
+  bool gltf = false;
 };
 
 struct ImportOptions {
@@ -45,9 +48,37 @@ int runTextconv(const std::string& path) {
   return 0;
 }
 
+bool isNamedGlb(const std::string& path) {
+  std::string extension = utf8Of(pathFromUtf8(path).extension());
+  for (char& c : extension) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  return extension == ".glb";
+}
+
+std::string counted(std::size_t count, const char* one, const char* several) {
+  return std::to_string(count) + ' ' + (count == 1 ? one : several);
+}
+
+int runGltf(const ExportOptions& options) {
+  if (!isNamedGlb(options.out)) throw Trouble{"with --gltf, name the file to write with -o; its name has to end in .glb"};
+  mustBeWritten(refusedFiles({options.out}, existingFiles(options.force)));
+  const Outcome<gltf::Translated> rig = gltf::translated(readRigFile(options.file), options.file);
+  if (!rig) throw Trouble{options.file + ": " + rig.why()};
+  const Outcome<std::string> bytes = gltf::glbOf(rig->model);
+  if (!bytes) throw Trouble{options.file + ": " + bytes.why()};
+  mustBeWritten(writeWholeFile(options.out, *bytes, existingFiles(options.force)));
+  std::size_t triangles = 0;
+  for (const gltf::Mesh& mesh : rig->model.meshes) triangles += mesh.triangles.size();
+  std::cout << options.out << ": " << counted(rig->bones, "bone", "bones") << ", "
+            << counted(rig->model.meshes.size(), "mesh", "meshes") << " of " << counted(triangles, "triangle", "triangles")
+            << "\n";
+  for (const std::string& line : gltf::linesOf(rig->leftOut)) std::cout << "  " << line << "\n";
+  return 0;
+}
+
 int runExport(const ExportOptions& options) {
   return exitCodeOf([&] {
     if (options.file.empty() && !options.schema) throw Trouble{"name the object file"};
+    if (options.gltf) return runGltf(options);
     if (options.textconv) return runTextconv(options.file);
     const std::string json = options.schema
                                  ? rigs::settingsSchema()
@@ -99,7 +130,7 @@ Command exportCommand() {
   const auto options = std::make_shared<ExportOptions>();
   return {
       .name = "export",
-      .text = "Write the stored settings of a rig as JSON",
+      .text = "Write the stored settings of a rig as JSON, or its skeleton and mesh as glTF",
       .options =
           {
               {"file", &options->file, "Object file"},
@@ -113,14 +144,20 @@ Command exportCommand() {
                &options->schema,
                "Write the JSON Schema of the settings in place of a rig's",
                {.excludes = "--textconv"}},
+              {"--gltf",
+               &options->gltf,
+               "Write the skeleton and the mesh for 3D viewers instead, as glTF 2.0; -o names a file that ends in .glb",
+               {.excludes = "--schema"}},
           },
       .footer =
           "Listed is what each skelegon stores, by layer and name. The same rig always gives the same text, whatever its\n"
-          "file is called. With --textconv it serves version control, which stops at a command that fails. Exit codes: 0;\n"
-          "2 trouble.\n"
+          "file is called. With --textconv it serves version control, which stops at a command that fails. With --gltf it "
+          "says\n"
+          "what glTF has no place for. Exit codes: 0; 2 trouble.\n"
           "Examples:\n"
           "  varnel export rigs/lizard.lwo\n"
           "  varnel export rigs/lizard.lwo -o lizard.json\n"
+          "  varnel export --gltf rigs/lizard.lwo -o lizard.glb\n"
           "With git, in git diff and git log, with a line \"*.lwo diff=varnel\" in .gitattributes:\n"
           "  git config diff.varnel.textconv 'varnel export --textconv'",
       .run = [options] { return runExport(*options); },

@@ -71,7 +71,7 @@ Outcome<std::string> plainText(const Setting& setting, const Json& value) {
   return Failure{"one of these was expected: " + list};
 }
 
-Json exportSkelegon(const Skelegon& skelegon) {
+Json jsonOf(const Skelegon& skelegon) {
   Json json;
   json["name"] = jsonOfText(skelegon.name);
   if (skelegon.namesakes > 1) json["nth"] = skelegon.number + 1;
@@ -103,11 +103,13 @@ Outcome<std::string> textOf(const Setting& setting, const Json& value) {
   return *text;
 }
 
+std::string exportSkelegon(const Skelegon& skelegon) { return jsonOf(skelegon).dump(-1, ' ', false, Json::error_handler_t::replace); }
+
 std::string exportSettings(const Rig& rig) {
   Json layers = Json::array();
   for (const Layer& layer : rig.layers) {
     Json skelegons = Json::array();
-    for (const std::size_t i : layer.skelegons) skelegons.push_back(exportSkelegon(rig.skelegons[i]));
+    for (const std::size_t i : layer.skelegons) skelegons.push_back(jsonOf(rig.skelegons[i]));
     layers.push_back(Json{{"number", layer.number}, {"name", jsonOfText(layer.name)}, {"skelegons", std::move(skelegons)}});
   }
   return dumpJson(Json{{"format", "varnel settings"}, {"version", 1}, {"layers", std::move(layers)}});

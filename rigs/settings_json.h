@@ -13,6 +13,9 @@ namespace standin::rigs {
 // Ends with a line end; the same rig always gives the same text, and the file's name is not in it.
 std::string exportSettings(const Rig& rig);
 
+// What that holds of one skelegon, on one line.
+std::string exportSkelegon(const Skelegon& skelegon);
+
 // What becomes of the settings that the JSON does not list for a skelegon that it names.
 enum class Unlisted { Removed, Kept };
 
