@@ -69,7 +69,7 @@ int runGltf(const ExportOptions& options) {
   std::size_t triangles = 0;
   for (const gltf::Mesh& mesh : rig->model.meshes) triangles += mesh.triangles.size();
   std::cout << options.out << ": " << counted(rig->bones, "bone", "bones") << ", "
-            << counted(rig->model.meshes.size(), "mesh", "meshes") << " of " << counted(triangles, "triangle", "triangles")
+            << counted(rig->model.meshes.size(), "mesh", "meshes") << ", " << counted(triangles, "triangle", "triangles")
             << "\n";
   for (const std::string& line : gltf::linesOf(rig->leftOut)) std::cout << "  " << line << "\n";
   return 0;

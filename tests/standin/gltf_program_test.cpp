@@ -20,7 +20,7 @@ class GltfProgram : public TypedLines {
 TEST_F(GltfProgram, WritesTheFileAndTellsWhatIsInItAndWhatIsNot) {
   makeRigs();
   EXPECT_EQ(type("varnel export --gltf rigs/lizard.lwo -o lizard.glb"), 0) << error;
-  EXPECT_THAT(out, StartsWith("lizard.glb: 24 bones, 2 meshes of "));
+  EXPECT_THAT(out, StartsWith("lizard.glb: 24 bones, 2 meshes, "));
   EXPECT_THAT(out, HasSubstr("  left out: "));
   EXPECT_EQ(error, "");
   EXPECT_EQ(GlbFile(bytesOf("lizard.glb")).json["asset"]["version"], "2.0");
