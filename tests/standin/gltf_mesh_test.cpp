@@ -154,6 +154,7 @@ TEST(GltfWeights, AMapOfSeveralBonesGoesToTheNearest) {
   body.rig.weightMap("Both", {{0, 0.5F}, {1, 0.5F}, {2, 0.5F}, {3, 0.5F}});
   const GlbFile file = glbFileOf(body.rig.object());
   EXPECT_EQ(sharesOf(file, 1), (Shared{{"Lower", 1}}));  // at its head
+  EXPECT_EQ(sharesOf(file, 2), (Shared{{"Upper", 1}}));  // nearer to its middle than to the other's head
   EXPECT_EQ(sharesOf(file, 3), (Shared{{"Upper", 1}}));
   EXPECT_EQ(translatedWhole(body.rig.object()).leftOut.sharedMaps, 1U);
 }

@@ -122,6 +122,7 @@ TEST(Triangles, ThereAreNoneOfAFaceWithoutArea) {
 TEST(Triangles, OfAFaceThatCrossesItselfAreAGuess) {
   const auto triangles = trianglesOf({{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {3, -1, 0}, {0, 4, 0}});
   ASSERT_TRUE(triangles);
+  EXPECT_TRUE(triangles->isGuess);
   EXPECT_FALSE(triangles->corners.empty());
 }
 
