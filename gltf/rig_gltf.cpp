@@ -146,6 +146,7 @@ class Translator {
       return Failure{"more than " + std::to_string(kMostMovingBones) + " bones have weight maps of one layer"};
     }
     std::vector<WeightedBone> weighted;
+    weighted.reserve(moving.size());
     for (Item* bone : moving) weighted.push_back(weightedBone(*bone, *items_[layer]));
     const auto shares = sharesOf(from, weighted, made_.leftOut);
     if (!shares) return Failure{shares.why()};

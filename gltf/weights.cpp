@@ -4,6 +4,7 @@
 #include <map>
 
 #include "rigs/text.h"
+#include "standin/layout/scene.h"
 
 namespace standin::gltf {
 namespace {

@@ -1,4 +1,5 @@
 // The skeleton in the file is the one that Layout makes: compared by numbers with the stand-in's scene.
+#include "objectfile/rig_builder.h"
 #include "objectfile/sample_rigs.h"
 #include "objectfile/temporary_folder.h"
 #include "rigs/settings_json.h"
