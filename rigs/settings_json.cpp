@@ -103,7 +103,9 @@ Outcome<std::string> textOf(const Setting& setting, const Json& value) {
   return *text;
 }
 
-std::string exportSkelegon(const Skelegon& skelegon) { return jsonOf(skelegon).dump(-1, ' ', false, Json::error_handler_t::replace); }
+std::string exportSkelegon(const Skelegon& skelegon) {
+  return jsonOf(skelegon).dump(-1, ' ', false, Json::error_handler_t::replace);
+}
 
 std::string exportSettings(const Rig& rig) {
   Json layers = Json::array();
