@@ -20,7 +20,7 @@ struct PictureOptions {
   bool labels = true;
   std::vector<std::size_t> layers;  // places in PosedRig::layers; all when there is none
   // With the XML head and a white ground; else an <svg> to put into a page. That one has no ground, its lines and texts have
-  // the page's colour, and names are edged in the page's property --ground.
+  // the page's colour, names are edged in the page's property --ground, and what is marked is in its --problem.
   bool standsAlone = true;
   Language language = Language::English;
   Marks marks = Marks::Problems;

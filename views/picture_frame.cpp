@@ -151,8 +151,9 @@ void PictureFrame::drawBonesAsLines() {
   }
   svg_.begin("g", {{"fill", "none"}, {"stroke-width", "1.2"}, {"stroke-linecap", "round"}});
   for (std::size_t colour = 0; colour <= kColourCount; ++colour) {
-    if (!paths[colour].empty())
-      svg_.path(paths[colour], {{"stroke", colour == kColourCount ? kProblemColour : kPalette[colour]}});
+    if (paths[colour].empty()) continue;
+    svg_.path(paths[colour],
+              {colour == kColourCount ? inProblemColour("stroke") : SvgAttribute{"stroke", kPalette[colour]}});
   }
   svg_.end();
   svg_.lineEnd();
@@ -172,12 +173,18 @@ void PictureFrame::drawBone(std::size_t index) {
   SvgAttributes look = {{"fill", kPalette[colourIndex(bone.colour)]}};
   if (bone.isMarked)
     look.insert(look.end(),
-                {{"stroke", kProblemColour}, {"stroke-width", spans_[index].length < kLeastForAMark ? "1.2" : "2"}});
+                {inProblemColour("stroke"), {"stroke-width", spans_[index].length < kLeastForAMark ? "1.2" : "2"}});
   svg_.path(drawing.outline, look);
   if (!drawing.shade.empty()) {
     svg_.path(drawing.shade, {{"fill", "#000"}, {"fill-opacity", ".3"}, {"stroke", "none"}});
   }
   if (isTold) svg_.end();
+}
+
+// A page has its own red for the dark, on which that of paper is hard to read.
+SvgAttribute PictureFrame::inProblemColour(const char* property) const {
+  if (content_.options.standsAlone) return {property, kProblemColour};
+  return {"style", std::string(property) + ":var(--problem," + kProblemColour + ")"};
 }
 
 void PictureFrame::drawMarks() {
@@ -295,7 +302,7 @@ void PictureFrame::drawLabels() {
   svg_.begin("g", edged);
   for (const Label& label : labels_) {
     SvgAttributes attributes = {{"x", coordinate(label.left)}, {"y", coordinate(label.baseline)}};
-    if (label.isMarked) attributes.push_back({"fill", kProblemColour});
+    if (label.isMarked) attributes.push_back(inProblemColour("fill"));
     if (label.isNull) attributes.push_back({"font-style", "italic"});
     svg_.put("text", attributes, label.text);
   }

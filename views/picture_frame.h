@@ -56,6 +56,7 @@ class PictureFrame {
   void keepFromNames(std::size_t bone);
   void drawBonesAsLines();
   void drawBone(std::size_t index);
+  SvgAttribute inProblemColour(const char* property) const;
   void drawMarks();
   void drawNulls();
   void drawNull(const PosedNull& null);

@@ -7,10 +7,10 @@ namespace standin::views {
 
 inline constexpr const char* kReportStyle = R"(
 :root { color-scheme: light dark; --text: #1f2328; --faint: #5b636d; --ground: #fdfdfc; --raised: #f3f3f0; --line: #d6d6d0;
-  --link: #0b57b8; --good: #176d2c; --bad: #b00020; --mild: #855b00; --step: 1.1rem; }
+  --link: #0b57b8; --good: #176d2c; --bad: #b00020; --mild: #855b00; --problem: #d1242f; --step: 1.1rem; }
 @media (prefers-color-scheme: dark) {
   :root { --text: #e4e6e8; --faint: #a2a9b1; --ground: #17191c; --raised: #212429; --line: #3b4047;
-    --link: #82b6ff; --good: #74cf88; --bad: #ff8a8f; --mild: #e5b45a; }
+    --link: #82b6ff; --good: #74cf88; --bad: #ff8a8f; --mild: #e5b45a; --problem: #ff7479; }
 }
 * { box-sizing: border-box; }
 body { margin: 0 auto; padding: 1rem 1.25rem 4rem; max-width: 84rem; color: var(--text); background: var(--ground);
@@ -80,7 +80,7 @@ details pre { margin-bottom: .7rem; }
 }
 @media print {
   :root { color-scheme: light; --text: #000; --faint: #444; --ground: #fff; --raised: #fff; --line: #bbb; --link: #000; --good: #000;
-    --bad: #000; --mild: #000; }
+    --bad: #000; --mild: #000; --problem: #d1242f; }
   body { max-width: none; padding: 0; font-size: 10pt; }
   nav { display: none; }
   figure, tr, .findings li { break-inside: avoid; }

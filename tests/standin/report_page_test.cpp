@@ -160,6 +160,14 @@ TEST(ReportPage, IsMadeForPhonesPaperAndTheDark) {
   EXPECT_THAT(page, HasSubstr("@media (prefers-color-scheme: dark)"));
 }
 
+// By day, in the dark, and on paper even where the reader's system is dark.
+TEST(ReportPage, GivesPicturesARedForEachGround) {
+  const std::string page = pageOf(reportOn(rigs::SoundRig().rig()));
+  EXPECT_EQ(timesIn(page, "--problem: #d1242f;"), 2U);
+  EXPECT_EQ(timesIn(page, "--problem: "), 3U);
+  EXPECT_GT(page.rfind("--problem: "), page.find("@media print"));
+}
+
 TEST(ReportPage, HasBothPicturesOfAViewBesideEachOther) {
   const std::string page = pageOf(reportOn(rigs::SoundRig().rig()));
   const std::size_t before = page.find("<figcaption>Front: before</figcaption><svg id=\"before\">");

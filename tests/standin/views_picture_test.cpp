@@ -196,6 +196,19 @@ TEST(Picture, InAPageItHasNoHeadAndThePagesColour) {
   EXPECT_EQ(shown.xml.elements[0].attribute("fill"), "currentColor");
 }
 
+TEST(Picture, InAPageWhatIsMarkedHasThePagesRed) {
+  PosedRig rig = chain();
+  rig.bones[1].isMarked = true;
+  PictureOptions options = only(View::Front);
+  EXPECT_THAT(pictureSvg(rig, options), Not(HasSubstr("var(")));
+  options.standsAlone = false;
+  const std::string svg = pictureSvg(rig, options);
+  EXPECT_THAT(svg, HasSubstr("style=\"fill:var(--problem,#d1242f)\">Middle<"));
+  EXPECT_THAT(svg, HasSubstr("style=\"stroke:var(--problem,#d1242f)\""));
+  options.standsAlone = true;
+  EXPECT_THAT(pictureSvg(rig, options), HasSubstr("fill=\"#d1242f\">Middle<"));
+}
+
 // ---------------------------------------------------------------------------------------------------------------------
 // Rigs that nobody makes on purpose
 
