@@ -9,7 +9,11 @@ constexpr char kDigits[] = "0123456789abcdef";
 
 unsigned byteOf(char c) { return static_cast<unsigned char>(c); }
 
-bool isControl(char32_t character) { return character < 0x20 || (character >= 0x7F && character < 0xA0); }
+// Those that turn the direction of writing too: a name with one would turn the sentence that it stands in.
+bool isControl(char32_t character) {
+  const bool isOfDirection = (character >= 0x202A && character <= 0x202E) || (character >= 0x2066 && character <= 0x2069);
+  return character < 0x20 || (character >= 0x7F && character < 0xA0) || isOfDirection;
+}
 
 }  // namespace
 

@@ -110,6 +110,8 @@ TEST(RigSettings, ReadingTellsHowMuchOfATextIsTheNumber) {
 TEST(RigTexts, BytesThatAreNoUtf8AreShownAsNumbers) {
   EXPECT_EQ(printable("頭\x82\xa0z\x7f"), "頭\\x82\\xa0z\\x7f");
   EXPECT_EQ(printable("\xc2\x85"), "\\xc2\\x85");
+  EXPECT_EQ(printable("a\u202eb\u2069"), "a\\xe2\\x80\\xaeb\\xe2\\x81\\xa9");  // they turn what follows
+  EXPECT_EQ(printable("שלום"), "שלום");
   EXPECT_FALSE(isUtf8("\xc0\x80"));
   EXPECT_FALSE(isUtf8("\xed\xa0\x80"));
   EXPECT_FALSE(isUtf8("\xe9\xa0"));
