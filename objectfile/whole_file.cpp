@@ -56,6 +56,18 @@ std::optional<Failure> refusedFiles(const std::vector<std::string>& paths, Exist
   return Failure{*found + " exists and is not written over; --force writes over it"};
 }
 
+std::optional<Failure> refusedAsRead(const std::vector<std::string>& paths, const std::vector<std::string>& read) {
+  for (const std::string& path : paths) {
+    for (const std::string& source : read) {
+      std::error_code error;  // where one of them is not there, they are not the same
+      if (fs::equivalent(pathFromUtf8(path), pathFromUtf8(source), error)) {
+        return Failure{path + " is read, and is not written over"};
+      }
+    }
+  }
+  return {};
+}
+
 std::optional<Failure> refusedFolder(const std::string& folder) {
   const fs::path trial = besides(pathFromUtf8(folder) / "trial");
   std::optional<Failure> failure = writeFileBytes(utf8Of(trial), {}, folder);

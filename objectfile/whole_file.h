@@ -19,6 +19,10 @@ inline Existing existingFiles(bool isForced) { return isForced ? Existing::Repla
 // Which of the files is there and has to be kept, for those who write several: none of them is written then.
 std::optional<Failure> refusedFiles(const std::vector<std::string>& paths, Existing existing);
 
+// Which of the files is one of those that are read. It is not written over even when someone asked for that: who gives a rig's
+// name for its picture, too, would lose the rig.
+std::optional<Failure> refusedAsRead(const std::vector<std::string>& paths, const std::vector<std::string>& read);
+
 // Why no file can be made in the folder, which shows only by making one; empty when it can. Nothing is left there.
 std::optional<Failure> refusedFolder(const std::string& folder);
 

@@ -69,7 +69,10 @@ std::string titleOf(const PictureWords& words, rigs::Language language) {
 int run(const PictureWords& words) {
   return exitCodeOf([&] {
     // Before the long work.
-    if (!words.out.empty()) mustBeWritten(refusedFiles({words.out}, existingFiles(words.force)));
+    if (!words.out.empty()) {
+      mustBeWritten(refusedFiles({words.out}, existingFiles(words.force)));
+      mustBeWritten(refusedAsRead({words.out}, {words.file}));
+    }
     const rigs::Language language = languageOf(words.conversion.language);
     const InspectedObject file = inspectObject(words.file, codePageOf({}));
     if (!file.inspected.trouble.empty()) throw Trouble{file.inspected.trouble};

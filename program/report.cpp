@@ -98,6 +98,8 @@ class Reporter {
     for (const std::string& page : pages_) paths.push_back(inFolder(options_.folder, page));
     if (hasIndex()) paths.push_back(inFolder(options_.folder, views::kIndexPage));
     mustBeWritten(refusedFiles(paths, existingFiles(options_.force)));
+    mustBeWritten(refusedAsRead(paths, files_));
+    if (!options_.against.empty()) mustBeWritten(refusedAsRead(paths, {options_.against}));
     surroundings_ = {language_, views::manualAt(manual, options_.folder), hasIndex()};
   }
 

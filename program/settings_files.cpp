@@ -78,6 +78,7 @@ int runGltf(const ExportOptions& options) {
 int runExport(const ExportOptions& options) {
   return exitCodeOf([&] {
     if (options.file.empty() && !options.schema) throw Trouble{"name the object file"};
+    mustBeWritten(refusedAsRead({options.out}, {options.file}));
     if (options.gltf) return runGltf(options);
     if (options.textconv) return runTextconv(options.file);
     const std::string json = options.schema

@@ -58,6 +58,20 @@ TEST_F(WrittenFiles, AnExportReplacesAFileWhenAsked) {
   EXPECT_THAT(bytesOf("lizard.json"), HasSubstr("varnel settings"));
 }
 
+// A slip of who types: the rig would be gone.
+TEST_F(WrittenFiles, AnObjectIsNotReplacedByWhatIsReadFromIt) {
+  const std::string rig = bytesOf("rigs/lizard.lwo");
+  write("rigs/lizard.html", rig);
+  for (const char* const line :
+       {"varnel picture rigs/lizard.lwo rigs/lizard.lwo --force",
+        "varnel export rigs/lizard.lwo -o rigs/../rigs/lizard.lwo --force", "varnel report rigs/lizard.html -o rigs --force",
+        "varnel report rigs/lizard.lwo --against rigs/lizard.html -o rigs --force"}) {
+    expectRefused(line, "is read, and is not written over");
+  }
+  EXPECT_TRUE(bytesOf("rigs/lizard.lwo") == rig);
+  EXPECT_TRUE(bytesOf("rigs/lizard.html") == rig);
+}
+
 TEST_F(WrittenFiles, AnImportReplacesAnotherFileWhenAsked) {
   makeChangedSettings();
   write("other.lwo", "mine");
