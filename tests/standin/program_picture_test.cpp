@@ -80,6 +80,20 @@ TEST_F(PictureCommand, MarksWhatInspectCallsAProblem) {
   ASSERT_FALSE(writeObject(builder.object(), "poor.lwo"));
   ASSERT_EQ(type("varnel picture --lang en poor.lwo poor.svg"), 0) << error;
   EXPECT_THAT(views::Shown(bytesOf("poor.svg")).textsOf("title"), Contains(HasSubstr("Bone: ")));
+  type("varnel picture --after --lang en poor.lwo after.svg");
+  EXPECT_THAT(views::Shown(bytesOf("after.svg")).textsOf("title"), Contains(HasSubstr("Bone: ")));
+}
+
+// The scene has them as they are stored, in the Japanese code page.
+TEST_F(PictureCommand, NamesBonesAndHelperItemsReadablyAfterTheConversion) {
+  RigBuilder builder;
+  const auto head = builder.root("\x93\xaa", {0, 0, 0}, {0, 1, 0});
+  builder.settings(head, {{52, "\x93\xaa_tar"}});
+  ASSERT_FALSE(writeObject(builder.object(), "head.lwo"));
+  type("varnel picture --after --lang en head.lwo head.svg");
+  const views::Shown shown(bytesOf("head.svg"));
+  EXPECT_THAT(shown.textsOf("text"), Contains("頭"));
+  EXPECT_THAT(shown.textsOf("title"), Contains(HasSubstr("頭_tar")));
 }
 
 TEST_F(PictureCommand, GoesToTheOutputWithoutAFile) {

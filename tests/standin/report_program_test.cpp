@@ -96,6 +96,23 @@ TEST_F(WrittenReports, CompareWithAnotherStateOfTheRig) {
   EXPECT_EQ(picturesIn(page), 16U);
 }
 
+// Where a skelegon has another place in the file than it had, each picture marks its own.
+TEST_F(WrittenReports, MarkTheSameSkelegonInBothStates) {
+  RigBuilder before;
+  before.root("Left", {0, 0, 0}, {0, 1, 0});
+  before.root("Right", {1, 0, 0}, {1, 1, 0});
+  writeRig("before.lwo", before);
+  RigBuilder after;
+  after.settings(after.root("Right", {1, 0, 0}, {1, 1, 0}), {{31, "50.000000"}});
+  after.root("Left", {0, 0, 0}, {0, 1, 0});
+  writeRig("after.lwo", after);
+  ASSERT_EQ(type("varnel report after.lwo --against before.lwo -o report --lang en"), 0) << error;
+  const std::string page = bytesOf("report/after.html");
+  const std::string changes = page.substr(0, page.find("<section id=\"pictures\">"));
+  EXPECT_THAT(changes, HasSubstr("Right: Strength</title>"));
+  EXPECT_THAT(changes, Not(HasSubstr("Left: ")));
+}
+
 TEST_F(WrittenReports, AreNotBegunWhenThereIsNothingToCompareWith) {
   expectRefused("varnel report rigs/lizard.lwo --against missing.lwo -o report", "missing.lwo");
   EXPECT_FALSE(fs::exists("report"));

@@ -131,6 +131,32 @@ TEST(Picture, DrawsFarBonesFirst) {
   EXPECT_EQ(bones.at(1).title, "Near");
 }
 
+// Who looks along an axis sees first what lies nearer on it, from the front, from +X and from above.
+TEST(Picture, EveryViewLooksFromItsOwnSide) {
+  const std::vector<std::pair<View, Vec3>> nearer = {
+      {View::Front, {0, 0, -1}}, {View::Side, {1, 0, 0}}, {View::Top, {0, 1, 0}}};
+  for (const auto& [view, side] : nearer) EXPECT_LT(seen(axesOf(view), side).away, -0.99) << nameOf(view, Language::English);
+}
+
+TEST(Picture, ShadesTheFacesThatAreSeen) {
+  RigBuilder builder;
+  builder.root("Bone", {0, 0, 0}, {1, 0, 0});
+  const BoneShape shape = shapeOf(before(builder.object()).bones[0]);
+  Frame front;
+  front.scale = 100;
+  front.axes = axesOf(View::Front);
+  const std::vector<OnPage> shade = pointsOf(drawingOf(shape, front, true).shade.text());
+  ASSERT_FALSE(shade.empty());
+  // The light comes from above. Of the dark faces behind, one is in the upper half.
+  for (const OnPage& point : shade) EXPECT_GE(point.y, -0.02);
+}
+
+TEST(Picture, NamesWhatIsMarkedFirst) {
+  PosedRig rig = before(makeChainRig(3000, 0));
+  rig.bones[1717].isMarked = true;
+  EXPECT_THAT(Shown(rig, only(View::Front)).textsOf("text"), Contains(rig.bones[1717].name));
+}
+
 TEST(Picture, MarksBonesWithAProblemAndSaysWhich) {
   PosedRig rig = chain();
   rig.bones[1].isMarked = true;
@@ -184,6 +210,39 @@ TEST(Picture, DrawsChosenLayersAlone) {
   ASSERT_EQ(shown.bones().size(), 1U);
   EXPECT_EQ(shown.bones()[0].title, "Second");
   EXPECT_TRUE(shown.with("data-at").empty());
+}
+
+TEST(Picture, OfOneLayerHasNeitherTheMeshNorTheLinesOfOthers) {
+  RigBuilder builder;
+  builder.layer(0, "A").root("First", {0, 0, 0}, {0, 1, 0});
+  builder.box({0, 0, 0}, {100, 100, 100});
+  builder.layer(1, "B").root("Second", {9, 0, 0}, {9, 1, 0});
+  PosedRig rig = before(builder.object());
+  rig.boneLines = {{0, 1, HelperKind::Target}, {1, 0, HelperKind::Goal}};
+  rig.nulls.push_back({"OfBoth", {9, 0, 0}, 4, {{0, HelperKind::Goal}, {1, HelperKind::Goal}}});
+  PictureOptions options = only(View::Front);
+  options.layers = {1};
+  const Shown shown(rig, options);
+  const std::vector<Element> dashed = shown.with("stroke-dasharray");
+  ASSERT_EQ(dashed.size(), 1U);
+  EXPECT_EQ(pointsOf(dashed[0].attribute("d")).size(), 2U);
+  // The bone of a metre fills the frame, and no box of a hundred.
+  EXPECT_GT(numbersOf(shown.with("data-scale").at(0).attribute("data-scale")).at(0), 100);
+}
+
+// Else a face behind another one, turned the other way, would cut a hole into it.
+TEST(Picture, FacesAreAllDrawnTheSameWayRound) {
+  RigBuilder builder;
+  const std::vector<std::uint32_t> corners = {builder.point({0, 0, 0}), builder.point({0, 1, 0}), builder.point({1, 0, 0})};
+  builder.face(corners);
+  builder.face({corners[2], corners[1], corners[0]});
+  const Shown shown(before(builder.object()), only(View::Front));
+  const std::vector<OnPage> p = pointsOf(shown.with("fill-opacity").at(0).attribute("d"));
+  ASSERT_EQ(p.size(), 6U);
+  const auto area = [&](std::size_t at) {
+    return (p[at + 1].x - p[at].x) * (p[at + 2].y - p[at].y) - (p[at + 1].y - p[at].y) * (p[at + 2].x - p[at].x);
+  };
+  EXPECT_GT(area(0) * area(3), 0);
 }
 
 TEST(Picture, InAPageItHasNoHeadAndThePagesColour) {
