@@ -4,6 +4,7 @@
 #include <cstring>
 #include <fstream>  // which the library forgets when it has no files to read
 #include <sstream>
+#include <string_view>
 #include <utility>
 
 // Neither pictures nor files: it only has to turn its model into bytes.
@@ -28,12 +29,9 @@ int indexOf(std::size_t place) { return static_cast<int>(place); }
 
 Value valueOf(const Json& json);
 
-// Without empty objects, which the library would write as null.
 Value valueOfObject(const Json& json) {
   Value::Object object;
-  for (const auto& [key, value] : json.items()) {
-    if (!value.is_object() || !value.empty()) object[key] = valueOf(value);
-  }
+  for (const auto& [key, value] : json.items()) object[key] = valueOf(value);
   return Value(std::move(object));
 }
 
@@ -70,6 +68,23 @@ struct Extras {
   }
 };
 
+// The library writes null for an object without members, such as the settings of a skelegon that stores none. What belongs
+// there is put in its place, as long as it was, so that no size changes. Texts have a backslash before each of their quotes,
+// so that none is mistaken for it; the numbers after the text are left alone.
+std::string withEmptySettings(std::string glb) {
+  constexpr std::string_view kWritten = R"("settings":null)";
+  constexpr std::string_view kMeant = R"("settings":{}  )";
+  static_assert(kWritten.size() == kMeant.size());
+  constexpr std::size_t kHeads = 20;  // of the file and of the text
+  std::uint32_t size = 0;
+  std::memcpy(&size, glb.data() + 12, sizeof(size));
+  const std::size_t end = kHeads + size;
+  for (std::size_t at = glb.find(kWritten, kHeads); at < end; at = glb.find(kWritten, at)) {
+    glb.replace(at, kMeant.size(), kMeant);
+  }
+  return glb;
+}
+
 // What a list of numbers in the file is.
 struct Kind {
   int component;
@@ -102,7 +117,7 @@ class Writer {
   std::string bytes() {
     std::ostringstream stream;
     tinygltf::TinyGLTF().WriteGltfSceneToStream(&to_, stream, false, true);
-    return std::move(stream).str();
+    return withEmptySettings(std::move(stream).str());
   }
 
  private:

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "gltf/numbers.h"
+#include "gltf/weights.h"
 #include "objectfile/rig_builder.h"
 #include "objectfile/sample_rigs.h"
 #include "rigs/text.h"
@@ -157,6 +158,16 @@ TEST(GltfWeights, AMapOfSeveralBonesGoesToTheNearest) {
   EXPECT_EQ(sharesOf(file, 2), (Shared{{"Upper", 1}}));  // nearer to its middle than to the other's head
   EXPECT_EQ(sharesOf(file, 3), (Shared{{"Upper", 1}}));
   EXPECT_EQ(translatedWhole(body.rig.object()).leftOut.sharedMaps, 1U);
+}
+
+TEST(GltfWeights, OfMorePointsAndBonesThanAnybodyWaitsForAreRefused) {
+  ObjectLayer layer;
+  layer.points.resize(1);
+  constexpr std::size_t kPoints = 40'001;
+  layer.maps.push_back({lw::kMapWeight, "Both", 1, std::vector<std::uint32_t>(kPoints), std::vector<float>(kPoints, 1)});
+  LeftOut leftOut;
+  EXPECT_EQ(sharesOf(layer, std::vector<WeightedBone>(50'000, {"Both", {}, {}}), leftOut).why(),
+            "the weight map \"Both\" has 40001 points and 50000 bones, too many to find the nearest");
 }
 
 TEST(GltfWeights, OfAPointThatStandsTwiceInAMapTheLaterHolds) {

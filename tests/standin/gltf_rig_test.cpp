@@ -239,6 +239,29 @@ TEST(GltfSkeleton, CarriesTheStoredSettingsAsExportWritesThem) {
   EXPECT_EQ(head.at("colour"), "Purple");
 }
 
+// The name is a text that could be mistaken for settings without any.
+TEST(GltfSkeleton, CarriesThatASkelegonStoresNothingAsExportWritesIt) {
+  const std::string name = R"("settings":null)";
+  RigBuilder rig;
+  rig.root(name, {0, 0, 0}, {0, 1, 0});
+  const Json exported = Json::parse(rigs::exportSettings(rigs::rigOf(rig.object(), "rig.lwo")));
+  const Json& skelegon = exported.at("layers").at(0).at("skelegons").at(0);
+  EXPECT_EQ(skelegon.at("settings"), Json::object());
+  const GlbFile file = glbFileOf(rig.object());
+  EXPECT_EQ(file.nodes()[file.node(name)].at("extras").at("skelegon"), skelegon);
+}
+
+TEST(GltfSkeleton, OfMoreBonesThanAPointCanNumberIsRefused) {
+  constexpr std::size_t kTooMany = 65'536;
+  ObjectFile object = makeChainRig(kTooMany, 0);
+  ObjectLayer& layer = object.layers[0];
+  for (ObjectPolygon& skelegon : layer.group(lw::kTypeBone).polygons) skelegon.setTag(lw::kTagBoneWeight, "Body");
+  layer.maps.push_back({lw::kMapWeight, "Body", 1, {0}, {1}});
+  layer.group(lw::kTypeFace).polygons.push_back({{0, 1, static_cast<std::uint32_t>(layer.points.size())}, 0, {}});
+  layer.points.push_back({1, 0, 0});
+  EXPECT_EQ(translated(object, "rig.lwo").why(), "more than 65535 bones have weight maps of one layer");
+}
+
 TEST(GltfSkeleton, OfSixtyThousandBonesIsWhole) {
   constexpr std::size_t kMany = 60'000;
   const Translated made = translatedWhole(makeChainRig(kMany, 0));
