@@ -192,6 +192,18 @@ TEST(GltfWeights, AMeshWithoutBonesTakesThoseOfTheLayersWhoseMapsItHas) {
   EXPECT_EQ(file.json["skins"][0]["joints"].size(), 2U);
 }
 
+// As in Layout, where a layer with bones of its own is moved by these.
+TEST(GltfWeights, AMeshWithBonesIsNotMovedByThoseOfOtherLayers) {
+  BodyWithRoot body;
+  body.bone("Arm");
+  body.rig.weightMap("Leg", {{0, 1.0F}});
+  body.rig.layer(1, "Other");
+  body.rig.tag(body.rig.root("Leg", {0, 0, 0}, {0, 1, 0}), lw::kTagBoneWeight, "Leg");
+  const Translated made = translatedWhole(body.rig.object());
+  EXPECT_TRUE(made.model.meshes.at(0).joints.empty());
+  EXPECT_EQ(made.leftOut.unusedMaps, 1U);
+}
+
 // The matrices lead from the mesh to the joint: at rest nothing moves.
 TEST(GltfWeights, LeaveTheMeshWhereItIsAtRest) {
   const GlbFile file = glbFileOf(makeDemoRig(), "lizard.lwo");
