@@ -14,8 +14,6 @@ using Bearers = std::vector<std::uint32_t>;  // bones with one map
 // Comparisons of a point with a bone. More would take longer than anybody waits.
 constexpr std::size_t kMostComparisons = 2'000'000'000;
 
-double dot(const Vec3& a, const Vec3& b) { return a[0] * b[0] + a[1] * b[1] + a[2] * b[2]; }
-
 // Squared.
 double distance(const Vec3& point, const WeightedBone& bone) {
   const Vec3 along = bone.tail - bone.head;

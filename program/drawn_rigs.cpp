@@ -14,8 +14,7 @@ namespace {
 std::vector<std::string> problemsOf(const rigs::Inspected& file, rigs::Language language) {
   std::vector<std::string> problems(file.rig.skelegons.size());
   for (const rigs::Finding& finding : file.findings) {
-    const bool isProblem = rigs::findingRow(finding.kind).weight == rigs::FindingWeight::Problem;
-    if (!isProblem || !finding.skelegon) continue;
+    if (!isProblem(finding) || !finding.skelegon) continue;
     std::string& problem = problems[*finding.skelegon];
     problem += (problem.empty() ? "" : " / ") + sentenceOf(finding, language);
   }
@@ -30,14 +29,14 @@ void mark(views::PosedBone& bone, const std::string& problem) {
 }  // namespace
 
 views::PosedRig drawnBefore(const InspectedObject& file, rigs::Language language) {
-  views::PosedRig posed = views::posedBefore(file.object, file.inspected.rig, {});
+  views::PosedRig posed = views::posedBefore(file.object, file.inspected.rig);
   const std::vector<std::string> problems = problemsOf(file.inspected, language);
   for (std::size_t i = 0; i < posed.bones.size(); ++i) mark(posed.bones[i], problems[i]);
   return posed;
 }
 
 views::PosedRig drawnAfter(Scene& scene, const InspectedObject& file, rigs::Language language) {
-  views::PosedRig posed = views::posedAfter(scene, file.object, {});
+  views::PosedRig posed = views::posedAfter(scene, file.object);
   // The scene has the names as they are stored.
   const auto readable = [&](const std::string& name) { return file.inspected.rig.isInJapanese ? rigs::inUtf8(name) : name; };
   const std::vector<std::string> problems = problemsOf(file.inspected, language);

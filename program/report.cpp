@@ -45,7 +45,7 @@ std::string manualOf(const std::string& named) {
 // Marked are the skelegons that have changed, with what did.
 views::PicturedState picturesOfChanges(const InspectedObject& file, const std::vector<rigs::Difference>& differences,
                                        std::optional<std::size_t> rigs::Difference::*place, rigs::Language language) {
-  views::PosedRig posed = views::posedBefore(file.object, file.inspected.rig, {});
+  views::PosedRig posed = views::posedBefore(file.object, file.inspected.rig);
   for (const rigs::Difference& difference : differences) {
     if (!(difference.*place)) continue;
     views::PosedBone& bone = posed.bones[*(difference.*place)];

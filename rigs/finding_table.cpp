@@ -131,6 +131,8 @@ const std::array<FindingRow, kFindingKinds>& findingTable() { return kRows; }
 
 const FindingRow& findingRow(FindingKind kind) { return kRows[static_cast<std::size_t>(kind)]; }
 
+bool isProblem(const Finding& finding) { return findingRow(finding.kind).weight == FindingWeight::Problem; }
+
 const char* wordOf(FindingWeight weight, Language language) {
   const bool japanese = language == Language::Japanese;
   if (weight == FindingWeight::Problem) return japanese ? "問題" : "problem";

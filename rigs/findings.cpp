@@ -61,8 +61,6 @@ std::string rangeShown(const Skelegon& skelegon, double factor) {
   return metres(Slot::RangeMin) + "–" + metres(Slot::RangeMax) + " m";
 }
 
-bool isProblem(const Finding& finding) { return findingRow(finding.kind).weight == FindingWeight::Problem; }
-
 class FindingSearch {
  public:
   FindingSearch(const Rig& rig, const CodePage& codePage) : rig_(rig), codePage_(codePage), found_(namesFound(rig)) {

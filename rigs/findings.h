@@ -84,6 +84,8 @@ struct Finding {
   std::string number;
 };
 
+bool isProblem(const Finding& finding);
+
 // The problems, then the notes. Each in the order of the file: the file itself, then each layer with its skelegons and their
 // settings.
 std::vector<Finding> findingsOf(const Rig& rig, const CodePage& codePage);

@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <set>
-#include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 #include <utility>
 
 #include "interface/lightwave.h"
@@ -54,8 +52,7 @@ int colourOf(const rigs::Skelegon& skelegon) {
 
 class SceneReader {
  public:
-  SceneReader(Scene& scene, const ObjectFile& object, const std::vector<std::string>& markedNames)
-      : scene_(scene), object_(object), marked_(markedNames.begin(), markedNames.end()) {}
+  SceneReader(Scene& scene, const ObjectFile& object) : scene_(scene), object_(object) {}
 
   PosedRig read() {
     rig_.isAfter = true;
@@ -95,7 +92,6 @@ class SceneReader {
     PosedBone bone{scene_.nameOf(item), 0, {}, placement.position, {}, placement.axes, item.settings.colour};
     if (const auto layer = layers_.find(item.owner); layer != layers_.end()) bone.layer = layer->second;
     bone.tail = bone.head + bone.axes.columns[2] * item.rest.length;
-    bone.isMarked = marked_.count(item.givenName) != 0;
     bone.givenName = item.givenName;
     bones_[&item] = rig_.bones.size();
     byName_.emplace(item.givenName, rig_.bones.size());
@@ -141,7 +137,6 @@ class SceneReader {
   Scene& scene_;
   const ObjectFile& object_;
   std::string fileName_;
-  std::unordered_set<std::string_view> marked_;
   std::unordered_map<const Item*, std::size_t> layers_;
   std::unordered_map<const Item*, std::size_t> bones_;
   std::unordered_map<const Item*, std::size_t> nulls_;
@@ -153,7 +148,7 @@ class SceneReader {
 
 }  // namespace
 
-PosedRig posedBefore(const ObjectFile& object, const rigs::Rig& rig, const std::vector<bool>& marked) {
+PosedRig posedBefore(const ObjectFile& object, const rigs::Rig& rig) {
   PosedRig posed;
   for (const ObjectLayer& layer : object.layers) posed.layers.push_back({layer.number, layer.name, meshOf(layer, {})});
   for (std::size_t i = 0; i < rig.skelegons.size(); ++i) {
@@ -161,15 +156,12 @@ PosedRig posedBefore(const ObjectFile& object, const rigs::Rig& rig, const std::
     const BoneRest rest = restOf(vectorOf(skelegon.head), vectorOf(skelegon.tail));
     PosedBone bone{skelegon.name,           skelegon.layer,           skelegon.parent,   vectorOf(skelegon.head),
                    vectorOf(skelegon.tail), restAxes(rest.direction), colourOf(skelegon)};
-    bone.isMarked = i < marked.size() && marked[i];
     bone.givenName = skelegon.name;
     posed.bones.push_back(std::move(bone));
   }
   return posed;
 }
 
-PosedRig posedAfter(Scene& scene, const ObjectFile& object, const std::vector<std::string>& markedNames) {
-  return SceneReader(scene, object, markedNames).read();
-}
+PosedRig posedAfter(Scene& scene, const ObjectFile& object) { return SceneReader(scene, object).read(); }
 
 }  // namespace standin::views

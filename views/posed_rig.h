@@ -71,11 +71,10 @@ struct PosedRig {
   bool isAfter = false;  // the conversion
 };
 
-// The skelegons, in the rig's order, where Layout makes bones of them: each layer counts from its pivot. `marked` says which
-// skelegons of the rig have a problem, and may be empty.
-PosedRig posedBefore(const ObjectFile& object, const rigs::Rig& rig, const std::vector<bool>& marked);
+// The skelegons, in the rig's order, where Layout makes bones of them: each layer counts from its pivot. None is marked.
+PosedRig posedBefore(const ObjectFile& object, const rigs::Rig& rig);
 
-// The bones and helper items of a scene with this object alone. Marked are the bones that were given one of these names.
-PosedRig posedAfter(Scene& scene, const ObjectFile& object, const std::vector<std::string>& markedNames);
+// The bones and helper items of a scene with this object alone. None is marked.
+PosedRig posedAfter(Scene& scene, const ObjectFile& object);
 
 }  // namespace standin::views

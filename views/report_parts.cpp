@@ -24,8 +24,7 @@ std::string counted(std::size_t count, rigs::FindingWeight weight, Language lang
 std::vector<bool> skelegonsInTrouble(const rigs::Inspected& file) {
   std::vector<bool> inTrouble(file.rig.skelegons.size());
   for (const rigs::Finding& finding : file.findings) {
-    const bool isProblem = rigs::findingRow(finding.kind).weight == rigs::FindingWeight::Problem;
-    if (isProblem && finding.skelegon) inTrouble[*finding.skelegon] = true;
+    if (isProblem(finding) && finding.skelegon) inTrouble[*finding.skelegon] = true;
   }
   return inTrouble;
 }

@@ -14,17 +14,6 @@ class WrittenFiles : public TypedLines {
  protected:
   void SetUp() override { makeRigs(); }
 
-  // Other settings for the lizard.
-  void makeChangedSettings() {
-    ASSERT_EQ(type("varnel export rigs/lizard.lwo -o lizard.json"), 0) << error;
-    std::string json = bytesOf("lizard.json");
-    const std::string before = "\"Strength\": ";
-    const std::size_t at = json.find(before);
-    ASSERT_NE(at, std::string::npos) << json;
-    json.replace(at, json.find_first_of(",\n}", at) - at, before + "12.5");
-    write("changed.json", json);
-  }
-
   static void protect(const char* path) {
     fs::permissions(path, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
                     fs::perm_options::remove);
@@ -73,7 +62,7 @@ TEST_F(WrittenFiles, AnObjectIsNotReplacedByWhatIsReadFromIt) {
 }
 
 TEST_F(WrittenFiles, AnImportReplacesAnotherFileWhenAsked) {
-  makeChangedSettings();
+  exportAnotherStrength(kLizard, "changed.json");
   write("other.lwo", "mine");
   expectRefused("varnel import rigs/lizard.lwo changed.json -o other.lwo", "other.lwo exists");
   EXPECT_EQ(bytesOf("other.lwo"), "mine");
@@ -82,7 +71,7 @@ TEST_F(WrittenFiles, AnImportReplacesAnotherFileWhenAsked) {
 }
 
 TEST_F(WrittenFiles, AReadOnlyObjectStaysAsItIsInPlace) {
-  makeChangedSettings();
+  exportAnotherStrength(kLizard, "changed.json");
   const std::string before = bytesOf(kLizard);
   protect(kLizard);
   expectRefused("varnel import rigs/lizard.lwo changed.json --in-place", "it is read-only");

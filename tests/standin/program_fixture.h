@@ -131,6 +131,15 @@ class TypedLines : public testing::Test {
 
   void makeRigs() { ASSERT_EQ(type("varnel rigs rigs"), 0) << out << error; }
 
+  // Writes an export of the file in which one strength is 12.5.
+  void exportAnotherStrength(const std::string& file, const std::string& json) {
+    ASSERT_EQ(type("varnel export " + file), 0) << error;
+    const std::string before = "\"Strength\": ";
+    const std::size_t at = out.find(before);
+    ASSERT_NE(at, std::string::npos) << out;
+    write(json, out.replace(at, out.find_first_of(",\n}", at) - at, before + "12.5"));
+  }
+
   static std::string bytesOf(const std::string& path) {
     const Outcome<std::string> bytes = readFileBytes(path);
     return bytes ? *bytes : bytes.why();

@@ -38,13 +38,7 @@ class Repository : public TypedLines {
     }
     must("git init -q .");
     must("varnel rigs .");
-    must("varnel export lizard.lwo");
-    std::string json = out;
-    const std::string before = "\"Strength\": ";
-    const std::size_t at = json.find(before);
-    ASSERT_NE(at, std::string::npos);
-    json.replace(at, json.find_first_of(",\n}", at) - at, before + "12.5");
-    write("settings.json", json);
+    exportAnotherStrength("lizard.lwo", "settings.json");
     must("mv lizard.lwo rig.lwo && rm *形.lwo");
     must("varnel import rig.lwo settings.json -o changed.lwo");
   }

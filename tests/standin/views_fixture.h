@@ -238,6 +238,6 @@ class Shown {
   XmlReader xml;
 };
 
-inline PosedRig before(const ObjectFile& object) { return posedBefore(object, rigs::rigOf(object, "rig.lwo"), {}); }
+inline PosedRig before(const ObjectFile& object) { return posedBefore(object, rigs::rigOf(object, "rig.lwo")); }
 
 }  // namespace standin::views

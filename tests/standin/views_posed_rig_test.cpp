@@ -28,9 +28,7 @@ class PosedScene : public testing::Test {
     layers = session.scene().addObject(object, "folder/rig.lwo");
     for (Item* layer : layers) makeBonesOfSkelegons(session.scene(), *layer);
   }
-  PosedRig after(const ObjectFile& object, const std::vector<std::string>& marked = {}) {
-    return posedAfter(session.scene(), object, marked);
-  }
+  PosedRig after(const ObjectFile& object) { return posedAfter(session.scene(), object); }
   Item& bone(std::size_t place) { return *layers.at(0)->bones.at(place); }
 
   LayoutSession session;
@@ -115,17 +113,15 @@ TEST_F(PosedScene, LinksBonesThatReferToBones) {
   EXPECT_EQ(posed.boneLines[0].to, 2U);
 }
 
-TEST_F(PosedScene, MarksBonesByTheNameThatTheyWereGiven) {
+TEST_F(PosedScene, KnowsBonesByTheNameThatTheyWereGiven) {
   RigBuilder builder;
   builder.root("Twin", {0, 0, 0}, {0, 1, 0});
   builder.root("Twin", {1, 0, 0}, {1, 1, 0});
-  builder.root("Other", {2, 0, 0}, {2, 1, 0});
   convert(builder.object());
-  const PosedRig posed = after(builder.object(), {"Twin"});
-  EXPECT_TRUE(posed.bones[0].isMarked);
-  EXPECT_TRUE(posed.bones[1].isMarked);
+  const PosedRig posed = after(builder.object());
+  EXPECT_EQ(posed.bones[0].givenName, "Twin");
+  EXPECT_EQ(posed.bones[1].givenName, "Twin");
   EXPECT_EQ(posed.bones[1].name, "Twin (2)");
-  EXPECT_FALSE(posed.bones[2].isMarked);
 }
 
 TEST(PosedRig, SkelegonsHaveTheColourThatIsStored) {
