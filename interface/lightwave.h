@@ -203,7 +203,8 @@ static_assert(sizeof(LWLayoutGeneric) == 64);
 
 // "LWM: State Query 5"
 struct LWStateQueryFuncs {
-  GapSlot gap_0[4];
+  int (*numLayers)();  // of the current object, those that hold data
+  GapSlot gap_8[3];
   const char* (*layerList)(int layers, const char* object);
   const char* (*object)();  // file name of the current object; null when none is loaded
   GapSlot gap_48[4];

@@ -94,8 +94,9 @@ const lw::ServerRecord* ModuleFile::server(std::string_view name) const {
   return found == servers_.end() ? nullptr : &*found;
 }
 
-std::optional<int> ModuleFile::activate(std::string_view name, int version, void* local) {
-  const lw::ServerRecord* record = server(name);
+std::optional<int> ModuleFile::activate(std::string_view name, int version, void* local, std::string_view ownClass) {
+  const lw::ServerRecord* record = server(ownClass, name);
+  if (record == nullptr) record = server(name);
   if (record == nullptr) {
     witness().fault("activation", "the module has no server \"" + std::string(name) + '"');
     return std::nullopt;

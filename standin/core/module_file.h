@@ -34,8 +34,8 @@ class ModuleFile {
   const lw::ServerRecord* server(std::string_view name) const;
 
   // Activates a server with the globals' lookup and the startup result. Empty when there is no such server, or when it let
-  // an exception out; both are faults of the witness.
-  std::optional<int> activate(std::string_view name, int version, void* local);
+  // an exception out; both are faults of the witness. Of servers of one name, that of the program's own class.
+  std::optional<int> activate(std::string_view name, int version, void* local, std::string_view ownClass = {});
 
  private:
   std::string readDescriptor();

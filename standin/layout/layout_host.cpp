@@ -78,7 +78,7 @@ bool LayoutHost::command(std::string_view utf8) { return runCommand(state_, utf8
 std::optional<int> LayoutHost::activate(ModuleFile& module, std::string_view server, int version) {
   const auto local = std::make_unique<lw::LWLayoutGeneric>();
   STANDIN_FILL_GAP(*local, 0);
-  const std::optional<int> result = module.activate(server, version, local.get());
+  const std::optional<int> result = module.activate(server, version, local.get(), "LayoutGeneric");
   panels().turn();
   return result;
 }

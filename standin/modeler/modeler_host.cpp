@@ -91,7 +91,7 @@ void ModelerHost::offerGlobals() {
 std::optional<int> ModelerHost::activate(ModuleFile& module, std::string_view server, const std::string& argument,
                                          int version) {
   const ActivationRecord record(argument);
-  const std::optional<int> result = module.activate(server, version, record.get());
+  const std::optional<int> result = module.activate(server, version, record.get(), "CommandSequence");
   panels().turn();
   return result;
 }

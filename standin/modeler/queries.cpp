@@ -16,6 +16,16 @@ namespace {
 
 // --- state query ---------------------------------------------------------------------------------------------------------
 
+int numLayers() {
+  const ModelerCall call("LWStateQueryFuncs::numLayers");
+  const ModelerSession* session = call.session();
+  if (session == nullptr || session->current() == nullptr) return 0;
+  const ModelerObject& object = *session->current();
+  const std::vector<MeshLayer>& layers = object.layers();
+  return static_cast<int>(
+      std::count_if(layers.begin(), layers.end(), [&](const MeshLayer& layer) { return object.holdsData(layer); }));
+}
+
 const char* layerList(int layers, const char* name) {
   // The text lent by the last call may be what names the object now.
   const std::string wanted = name == nullptr ? std::string() : std::string(name);
@@ -135,7 +145,8 @@ const char* vmapName(std::uint32_t type, int index) {
 lw::LWStateQueryFuncs* stateQuery() {
   static lw::LWStateQueryFuncs table = [] {
     lw::LWStateQueryFuncs t{};
-    STANDIN_FILL_GAP(t, 0);
+    t.numLayers = &numLayers;
+    STANDIN_FILL_GAP(t, 8);
     t.layerList = &layerList;
     t.object = &objectName;
     STANDIN_FILL_GAP(t, 48);

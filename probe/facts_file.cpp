@@ -1,0 +1,104 @@
+#include "probe/facts_file.h"
+
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+
+namespace probe {
+namespace {
+
+// Control characters and quotes as JSON has them; the rest is UTF-8 and stays.
+std::string jsonText(const std::string& text) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  std::string result = "\"";
+  for (const char letter : text) {
+    const auto byte = static_cast<unsigned char>(letter);
+    if (letter == '"' || letter == '\\') {
+      result += '\\';
+      result += letter;
+    } else if (byte < 0x20) {
+      result += std::string("\\u00") + kDigits[byte >> 4] + kDigits[byte & 0xF];
+    } else {
+      result += letter;
+    }
+  }
+  return result + "\"";
+}
+
+std::string hexadecimal(unsigned number) {
+  std::string digits;
+  do {
+    digits.insert(digits.begin(), "0123456789abcdef"[number & 0xF]);
+    number >>= 4;
+  } while (number != 0);
+  return "0x" + digits;
+}
+
+std::string today() {
+  const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+  std::array<char, 16> text{};
+  const std::tm* const day = std::gmtime(&now);  // one thread calls here: the host's
+  if (day == nullptr || std::strftime(text.data(), text.size(), "%Y-%m-%d", day) == 0) return "unknown";
+  return text.data();
+}
+
+std::string hostText(const Host& host) {
+  const unsigned word = host.number("Product Info");
+  const std::string release = std::to_string(word >> 20 & 0xF) + "." + std::to_string(word >> 16 & 0xF);
+  constexpr unsigned kFirstYear = 2015;
+  return "{\"release\": " + jsonText(release) + ", \"build\": " + std::to_string(word >> 4 & 0xFFF) +
+         ", \"year\": " + std::to_string(kFirstYear + (word >> 24 & 0x3F)) +
+         ", \"language\": " + jsonText(hexadecimal(host.number("Locale Info") & 0xFFFF)) +
+         ", \"word\": " + jsonText(hexadecimal(word)) + "}";
+}
+
+template <class Row, class Text>
+std::string list(const std::vector<Row>& rows, Text&& textOf) {
+  std::string result;
+  for (const Row& row : rows) result += (result.empty() ? "\n    " : ",\n    ") + textOf(row);
+  return "[" + result + (rows.empty() ? "]" : "\n  ]");
+}
+
+std::string factText(const Fact& fact) {
+  const std::string value = fact.answer.value.empty() ? "null" : jsonText(fact.answer.value);
+  return "{\"name\": " + jsonText(fact.name) + ", \"value\": " + value + ", \"seen\": " + jsonText(fact.answer.seen) + "}";
+}
+
+std::string figureText(const Figure& figure) {
+  return "{\"name\": " + jsonText(figure.name) + ", \"seen\": " + jsonText(figure.seen) + "}";
+}
+
+std::filesystem::path pathOf(const std::string& utf8) {
+  return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
+}
+
+}  // namespace
+
+std::string factsText(const Host& host, const Facts& facts) {
+  const std::string version = std::to_string(VARNEL_VERSION_MAJOR) + "." + std::to_string(VARNEL_VERSION_MINOR);
+  return "{\n  \"format\": \"varnel host facts\",\n  \"version\": 1,\n  \"probe\": " + jsonText(version) +
+         ",\n  \"program\": " + jsonText(nameOf(host.program)) + ",\n  \"host\": " + hostText(host) +
+         ",\n  \"date\": " + jsonText(today()) + ",\n  \"facts\": " + list(facts.facts(), factText) +
+         ",\n  \"figures\": " + list(facts.figures(), figureText) + "\n}\n";
+}
+
+void writeFacts(const std::string& path, const std::string& text) {
+  const std::filesystem::path file = pathOf(path);
+  std::filesystem::path part = file;
+  part += ".part";
+  std::ofstream out(part, std::ios::binary);
+  out << text;
+  out.close();
+  std::error_code failure;
+  if (out) std::filesystem::rename(part, file, failure);
+  if (out && !failure) return;
+  std::error_code ignored;
+  std::filesystem::remove(part, ignored);
+  throw Trouble{"The file cannot be written: " + path};
+}
+
+}  // namespace probe

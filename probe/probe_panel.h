@@ -1,0 +1,40 @@
+// The panel that asks before the probe starts, and shows how far it is.
+#pragma once
+
+#include <string>
+
+#include "probe/facts.h"
+#include "probe/host_access.h"
+
+namespace probe {
+
+// Also the command's name, and the panel's title.
+inline constexpr const char* kToolName = "Varnel:HostFacts";
+
+// One panel for the module's stay. It lives on between activations, as all panels that do not block.
+class CProbePanel {
+ public:
+  // Shows it. Throws Trouble when the host does not offer panels.
+  void open(const Host& host);
+  // At the end of the module: nothing of the host may be called any more.
+  void forget();
+
+ private:
+  void make();
+  void start();
+  void save();
+  void say(const std::string& line) const;
+
+  static void onStart(lw::LWControl* control, void* user);
+
+  Host host_;
+  lw::LWPanelFuncs* panels_ = nullptr;
+  lw::PanelId panel_ = nullptr;
+  lw::LWControl* file_ = nullptr;
+  lw::LWControl* now_ = nullptr;
+  Facts facts_;
+};
+
+CProbePanel& probePanel();
+
+}  // namespace probe

@@ -1,0 +1,69 @@
+#include "standin/measure/measure.h"
+
+#include <stdexcept>
+
+#include "objectfile/file_bytes.h"
+#include "standin/core/module_file.h"
+#include "standin/core/witness.h"
+#include "standin/panels/panel.h"
+#include "standin/panels/person.h"
+#include "standin/variants/played_host.h"
+
+namespace standin {
+namespace {
+
+constexpr const char* kProbe = "Varnel:HostFacts";
+
+void must(const Done& done) {
+  if (!done) throw std::runtime_error("the hands cannot: " + done.why);
+}
+
+MeasuredHost handle(Panel& panel, const std::string& file) {
+  must(person::type(panel.find("File"), file));
+  must(person::press(panel.find("Start")));
+  MeasuredHost measured;
+  const Control* const now = panel.find("Now");
+  if (now != nullptr) measured.last = now->shown();
+  if (const Outcome<std::string> bytes = readFileBytes(file)) measured.facts = *bytes;
+  return measured;
+}
+
+std::string faultsSince(std::size_t first) {
+  std::string text;
+  const std::vector<Fault>& faults = witness().faults();
+  for (std::size_t i = first; i < faults.size(); ++i) text += faults[i].function + ": " + faults[i].what + "\n";
+  return text;
+}
+
+template <class Played, class Left>
+MeasuredHost measured(const std::string& module, const HostOptions& options, const std::string& file, Left&& left) {
+  Played host(options);
+  const std::size_t known = witness().faults().size();
+  ModuleFile probe;
+  if (const std::string why = probe.load(module); !why.empty()) throw std::runtime_error(why);
+  host.activate(probe, kProbe);
+  Panel* const panel = panels().find(kProbe);
+  if (panel == nullptr || !panel->isOpen()) throw std::runtime_error("the probe shows no panel");
+  MeasuredHost result = handle(*panel, file);
+  result.complaints = left(host);
+  panels().moduleUnloaded();
+  probe.unload();
+  result.complaints += faultsSince(known);
+  return result;
+}
+
+}  // namespace
+
+MeasuredHost measuredModeler(const std::string& module, const HostOptions& options, const std::string& folder) {
+  return measured<PlayedModeler>(module, options, folder + "/modeler.json", [](const PlayedModeler& host) {
+    return std::string(host.current() == nullptr ? "" : "an object is still loaded\n");
+  });
+}
+
+MeasuredHost measuredLayout(const std::string& module, const HostOptions& options, const std::string& folder) {
+  return measured<PlayedLayout>(module, options, folder + "/layout.json", [](PlayedLayout& host) {
+    return std::string(host.scene().objects().empty() ? "" : "the scene still has objects\n");
+  });
+}
+
+}  // namespace standin

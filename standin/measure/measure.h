@@ -1,0 +1,21 @@
+// A person who runs the probe in one of the two programs: starts it, does by hand what it asks for, and takes the file.
+#pragma once
+
+#include <string>
+
+#include "standin/variants/variants.h"
+
+namespace standin {
+
+struct MeasuredHost {
+  std::string facts;       // what the file holds; empty when there is none
+  std::string last;        // the probe's last line
+  std::string complaints;  // rules of the host that the probe broke, and what it left in the scene; empty when none
+};
+
+// In a fresh Modeler or Layout with nothing loaded. The file is written into the folder and read from there. Throws
+// std::runtime_error when the module cannot be loaded, or shows no panel.
+MeasuredHost measuredModeler(const std::string& module, const HostOptions& host, const std::string& folder);
+MeasuredHost measuredLayout(const std::string& module, const HostOptions& host, const std::string& folder);
+
+}  // namespace standin

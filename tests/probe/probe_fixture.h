@@ -1,0 +1,38 @@
+// Runs of the built probe in the stand-in.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+
+#include "objectfile/file_bytes.h"
+#include "objectfile/temporary_folder.h"
+#include "standin/core/program_folder.h"
+#include "standin/measure/measure.h"
+
+namespace standin {
+
+// The test programs lie in a folder below the modules'.
+inline std::string probePath() { return utf8Of(pathFromUtf8(programFolder()).parent_path() / VARNEL_PROBE); }
+
+class Probing : public testing::Test {
+ protected:
+  MeasuredHost inModeler(const HostOptions& host = {}) { return measuredModeler(probePath(), host, folder_.path()); }
+  MeasuredHost inLayout(const HostOptions& host = {}) { return measuredLayout(probePath(), host, folder_.path()); }
+
+  // The value that the file holds for a question; empty when that is not told, or not asked.
+  static std::string valueIn(const std::string& facts, const std::string& name) {
+    for (const auto& fact : nlohmann::json::parse(facts).at("facts")) {
+      if (fact.at("name") == name && fact.at("value").is_string()) return fact.at("value");
+    }
+    return {};
+  }
+
+ private:
+  TemporaryFolder folder_;
+};
+
+}  // namespace standin
