@@ -12,7 +12,8 @@ standin::Program varnel() {
       .version = std::to_string(VARNEL_VERSION_MAJOR) + "." + std::to_string(VARNEL_VERSION_MINOR),
       .commands = {convertCommand(), tripCommand(), panelsCommand(), renameCommand(), picturesCommand(), deskCommand(),
                    rigsCommand(), inspectCommand(), commandsCommand(), diffCommand(), exportCommand(), importCommand(),
-                   pictureCommand(), reportCommand(), validateCommand(), validateCheckCommand(), hostsCommand()},
+                   pictureCommand(), reportCommand(), validateCommand(), validateCheckCommand(), hostsCommand(),
+                   probeCommand()},
   };
 }
 

@@ -38,6 +38,9 @@ Command pictureCommand();
 // What hosts may differ in, for the option --host.
 Command hostsCommand();
 
+// A person's run of the probe in a host that is played. 1 when it broke a rule of the host.
+Command probeCommand();
+
 // The ladder of checks against a module's file. 1 when something was found.
 Command validateCommand();
 // A single check, for the processes of their own; the help hides it.
