@@ -58,7 +58,7 @@ macro(varnel_compile_in_batches)
 endmacro()
 
 # What is no product is built quickly rather than made quick: its files in batches, with little optimisation, and with no more to
-# debug with than the lines. The product's files are each compiled alone. To be called by the folders' CMakeLists.txt.
+# debug with than the lines. To be called by the folders' CMakeLists.txt.
 macro(varnel_build_quickly)
   varnel_compile_in_batches()
   if(VARNEL_QUICK)
