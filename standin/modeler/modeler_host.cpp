@@ -4,16 +4,11 @@
 #include <utility>
 
 #include "standin/core/service_names.h"
-#include "standin/modeler/repeated_tags.h"
 #include "standin/panels/services.h"
 
 namespace standin {
 namespace {
 
-constexpr std::uint32_t kMapTexture = lw::fourCharacters('T', 'X', 'U', 'V');
-constexpr std::uint32_t kMapMorph = lw::fourCharacters('M', 'O', 'R', 'F');
-
-ModelerSession* theSession = nullptr;
 std::uint32_t sessionCount = 0;
 
 // Services that are there in Modeler as well; some modules ask for them.
@@ -22,32 +17,6 @@ const ServiceNames kMore = {
     "LWM: Dynamic Monitor", "File IO 5",      "Mesh Functions 2",  "SurfaceEditor Functions 2", "Texture Editor 3"};
 
 }  // namespace
-
-ModelerSession* modelerSession() { return theSession; }
-void setModelerSession(ModelerSession* session) { theSession = session; }
-
-void ModelerSession::listMaps(const ModelerObject& object) {
-  if (options.otherMapsBearNames) {
-    for (const std::uint32_t type : {kMapTexture, kMapMorph}) {
-      for (const MeshPolygon* skelegon : object.skelegons()) listMap({type, skelegon->tag(lw::kTagBone)});
-    }
-  }
-  for (const MeshLayer& layer : object.layers()) {
-    for (const VertexMap& map : object.maps(layer)) listMap({map.type, map.name});
-  }
-}
-
-void ModelerSession::listMap(const std::pair<std::uint32_t, std::string>& map) {
-  if (std::find(maps.begin(), maps.end(), map) == maps.end()) maps.push_back(map);
-}
-
-ModelerCall::ModelerCall(const char* function) : HostCall(function), session_(modelerSession()) {
-  if (session_ == nullptr) {
-    fault("was called while no Modeler runs");
-  } else {
-    session_->text.expire();
-  }
-}
 
 ModelerHost::ModelerHost(const ModelerOptions& options) : session_(++sessionCount) {
   const bool another = modelerSession() != nullptr;
@@ -103,30 +72,6 @@ std::optional<int> ModelerHost::activate(lw::ActivateFunc function, const std::s
 
 // --- files and objects ---------------------------------------------------------------------------------------------------
 
-Outcome<ModelerObject*> ModelerHost::open(const std::string& path) {
-  Outcome<ObjectFile> file = readObject(path);
-  if (!file) return Failure{file.why()};
-  file = withOneOfEachTag(std::move(*file), session_.options.firstTagCounts);
-  if (!file) return Failure{file.why()};
-  return &add(std::move(*file), path);
-}
-
-ModelerObject& ModelerHost::add(ObjectFile file, const std::string& fileName) {
-  const std::string reference = "Unnamed " + std::to_string(++session_.objectsMade);
-  const std::string& savedAs = session_.options.objectsAreUnsaved ? std::string() : fileName;
-  session_.objects.push_back(std::make_unique<ModelerObject>(std::move(file), savedAs, reference, session_.handles));
-  session_.currentObject = session_.objects.back().get();
-  session_.listMaps(*session_.currentObject);
-  return *session_.currentObject;
-}
-
-void ModelerHost::close(const ModelerObject& object) {
-  session_.handles.objectClosed(object);
-  if (session_.currentObject == &object) session_.currentObject = nullptr;
-  std::erase_if(session_.objects, [&](const auto& candidate) { return candidate.get() == &object; });
-  if (session_.currentObject == nullptr && !session_.objects.empty()) session_.currentObject = session_.objects.back().get();
-}
-
 void ModelerHost::closeAll() {
   while (!session_.objects.empty()) close(*session_.objects.back());
 }
@@ -134,11 +79,6 @@ void ModelerHost::closeAll() {
 std::optional<Failure> ModelerHost::save() {
   if (current() == nullptr) return Failure{"there is no object to save"};
   return saveAs(current()->name());
-}
-
-std::optional<Failure> ModelerHost::saveAs(const std::string& path) {
-  if (current() == nullptr) return Failure{"there is no object to save"};
-  return current()->save(path);
 }
 
 // --- what a person does --------------------------------------------------------------------------------------------------
@@ -159,10 +99,6 @@ void ModelerHost::selectPolygons(const std::vector<const MeshPolygon*>& polygons
 }
 
 void ModelerHost::deselectAll() { selectPolygons({}); }
-
-void ModelerHost::showLayers(const std::vector<int>& foreground) {
-  if (current() != nullptr) current()->showLayers(foreground, options().layerSwitchDeselects);
-}
 
 void ModelerHost::showAllLayers() {
   std::vector<int> numbers;
@@ -191,22 +127,6 @@ void ModelerHost::removeWeightMap(const std::string& name) {
   const bool used = std::any_of(session_.objects.begin(), session_.objects.end(),
                                 [&](const auto& object) { return object->hasMap(entry); });
   if (!used) std::erase(session_.maps, entry);
-}
-
-bool ModelerHost::undo() {
-  const bool done = current() != nullptr && current()->undo();
-  mapsChanged();
-  return done;
-}
-
-bool ModelerHost::redo() {
-  const bool done = current() != nullptr && current()->redo();
-  mapsChanged();
-  return done;
-}
-
-void ModelerHost::mapsChanged() {
-  if (current() != nullptr) session_.listMaps(*current());
 }
 
 // --- what happened -------------------------------------------------------------------------------------------------------

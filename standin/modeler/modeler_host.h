@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "interface/lightwave.h"
@@ -43,15 +44,15 @@ class ModelerHost {
   // --- files and objects -------------------------------------------------------------------------------------------------
 
   // Opens an object file and makes it the current object. The object lives until it is closed.
-  Outcome<ModelerObject*> open(const std::string& path);
+  Outcome<ModelerObject*> open(const std::string& path) { return session_.open(path); }
   // An object that comes from code. With a file name it passes for one that was opened from there.
-  ModelerObject& add(ObjectFile file, const std::string& fileName = {});
+  ModelerObject& add(ObjectFile file, const std::string& fileName = {}) { return session_.add(std::move(file), fileName); }
   // Closes an object; the one opened before it becomes the current one. Its identifiers are dead.
-  void close(const ModelerObject& object);
+  void close(const ModelerObject& object) { session_.close(object); }
   void closeAll();
   // Saves the current object under its name, or under another. Empty when saved, else the failure.
   std::optional<Failure> save();
-  std::optional<Failure> saveAs(const std::string& path);
+  std::optional<Failure> saveAs(const std::string& path) { return session_.saveAs(path); }
 
   // Null when none is loaded.
   ModelerObject* current() const { return session_.currentObject; }
@@ -65,13 +66,13 @@ class ModelerHost {
   void selectPolygons(const std::vector<const MeshPolygon*>& polygons);
   void deselectAll();
   // Layer numbers from 0. The others are hidden.
-  void showLayers(const std::vector<int>& foreground);
+  void showLayers(const std::vector<int>& foreground) { session_.showLayers(foreground); }
   void showAllLayers();
   void deleteSkelegons(const std::vector<std::string>& names);
   void deletePolygons(const std::vector<const MeshPolygon*>& polygons);
   void removeWeightMap(const std::string& name);
-  bool undo();
-  bool redo();
+  bool undo() { return session_.undo(); }
+  bool redo() { return session_.redo(); }
   // Lays ready what the user answers to the next questions.
   void answer(Answer answer) { session_.messages.answers.push_back(answer); }
   // Lets a person see the messages and answer the questions.
@@ -82,6 +83,8 @@ class ModelerHost {
   // Names of the selected skelegons of the current object, in scan order.
   std::vector<std::string> selectedNames() const;
   const std::vector<Message>& messages() const { return session_.messages.shown; }
+  // All commands that were sent, in order, also those that were refused.
+  const std::vector<std::string>& commands() const { return session_.commands; }
   const std::vector<EditRecord>& edits() const { return session_.edits.records(); }
   // Names of the program's weight maps.
   std::vector<std::string> weightMaps() const;
@@ -89,8 +92,6 @@ class ModelerHost {
 
  private:
   void offerGlobals();
-  // Undo and removal change which vertex maps are there.
-  void mapsChanged();
 
   ModelerSession session_;
 };

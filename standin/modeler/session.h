@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <deque>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -31,9 +32,20 @@ struct ModelerSession {
   // Vertex maps belong to the program: they stay listed after their object is gone.
   std::vector<std::pair<std::uint32_t, std::string>> maps;
   LentText text;
+  std::vector<std::string> commands;  // all that were sent, in order
   int objectsMade = 0;
 
   ModelerObject* current() const { return currentObject; }
+
+  // What a person does to objects, and what commands do. All but the first two need a loaded object.
+  Outcome<ModelerObject*> open(const std::string& path);
+  ModelerObject& add(ObjectFile file, const std::string& fileName);
+  void close(const ModelerObject& object);
+  bool undo();
+  bool redo();
+  void showLayers(const std::vector<int>& foreground);  // layer numbers from 0
+  std::optional<Failure> saveAs(const std::string& path);
+
   void listMaps(const ModelerObject& object);
   void listMap(const std::pair<std::uint32_t, std::string>& map);  // type and name
 };
