@@ -224,7 +224,9 @@ struct LWObjectFuncs {
   const char* (*vmapName)(std::uint32_t type, int index);
   GapSlot gap_64[2];
   const char* (*layerName)(int object, int layer);
-  GapSlot gap_88[5];
+  GapSlot gap_88[2];
+  const char* (*refName)(int object);  // fixed for the object's life
+  GapSlot gap_112[2];
 };
 static_assert(sizeof(LWObjectFuncs) == 128);
 static_assert(offsetof(LWObjectFuncs, filename) == 8);
@@ -233,6 +235,7 @@ static_assert(offsetof(LWObjectFuncs, layerExists) == 24);
 static_assert(offsetof(LWObjectFuncs, numVMaps) == 48);
 static_assert(offsetof(LWObjectFuncs, vmapName) == 56);
 static_assert(offsetof(LWObjectFuncs, layerName) == 80);
+static_assert(offsetof(LWObjectFuncs, refName) == 104);
 
 // "Info Messages 4"
 struct LWMessageFuncs {

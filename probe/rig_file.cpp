@@ -7,8 +7,6 @@
 namespace probe {
 namespace {
 
-constexpr char kFileName[] = "varnel-probe.lwo";
-
 // The builder's own call would replace the first.
 void tagTwice(standin::ObjectFile& rig, const standin::RigBuilder::Skelegon& skelegon) {
   standin::ObjectLayer& layer = rig.layers[skelegon.layer];
@@ -38,10 +36,8 @@ standin::ObjectFile rig() {
 
 }  // namespace
 
-RigFile::RigFile() {
-  if (const auto failure = standin::writeObject(rig(), path())) throw std::runtime_error(failure->text);
+RigFile::RigFile(const std::string& name) : path_(folder_.file(name)) {
+  if (const auto failure = standin::writeObject(rig(), path_)) throw std::runtime_error(failure->text);
 }
-
-std::string RigFile::path() const { return folder_.file(kFileName); }
 
 }  // namespace probe

@@ -29,12 +29,13 @@ inline constexpr char kRigTwiceLast[] = "last";
 class RigFile {
  public:
   // Throws std::runtime_error, with the place and the system's words, where it cannot be written.
-  RigFile();
+  explicit RigFile(const std::string& name = "varnel-probe.lwo");
   // UTF-8.
-  std::string path() const;
+  const std::string& path() const { return path_; }
 
  private:
   standin::TemporaryFolder folder_;
+  std::string path_;
 };
 
 }  // namespace probe

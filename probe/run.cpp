@@ -3,7 +3,9 @@
 #include <array>
 
 #include "probe/ask.h"
+#include "probe/modeler_questions.h"
 #include "probe/not_tellable.h"
+#include "probe/process_questions.h"
 
 namespace probe {
 namespace {
@@ -25,6 +27,8 @@ void leaveWhatNobodyCanTell(Host& /*host*/, Facts& facts) {
 
 constexpr std::array kAreas{
     Area{"what only eyes can tell", kBoth, leaveWhatNobodyCanTell},
+    Area{"the process", kBoth, measureProcess},
+    Area{"objects and edits", kModeler, measureModeler},
 };
 
 bool isIn(const Area& area, Program program) {

@@ -1,5 +1,7 @@
 #include "standin/core/witness.h"
 
+#include <algorithm>
+
 namespace standin {
 
 Witness& witness() {
@@ -19,7 +21,12 @@ void Witness::reset() {
   afterModule_ = std::move(afterModule);
 }
 
-void Witness::fault(std::string function, std::string what) { faults_.push_back({std::move(function), std::move(what)}); }
+void Witness::fault(std::string function, std::string what) {
+  Fault fault{std::move(function), std::move(what)};
+  if (std::find(excused_.begin(), excused_.end(), fault) == excused_.end()) faults_.push_back(std::move(fault));
+}
+
+void Witness::excuse(std::string function, std::string what) { excused_.push_back({std::move(function), std::move(what)}); }
 
 std::string Witness::report() const {
   std::string text;

@@ -20,6 +20,8 @@ namespace standin {
 struct Fault {
   std::string function;  // the host function that was misused, or the module function that misbehaved
   std::string what;
+
+  bool operator==(const Fault&) const = default;
 };
 
 class Witness {
@@ -28,6 +30,8 @@ class Witness {
   void reset();
 
   void fault(std::string function, std::string what);
+  // Until the reset, this fault is none: what is driven now breaks that rule on purpose, to see what the host answers.
+  void excuse(std::string function, std::string what);
   const std::vector<Fault>& faults() const { return faults_; }
   // All faults as lines of text, empty when there is none.
   std::string report() const;
@@ -64,6 +68,7 @@ class Witness {
   void stopClock();
 
   std::vector<Fault> faults_;
+  std::vector<Fault> excused_;
   std::uint64_t calls_ = 0;
   std::uint64_t refuseAt_ = 0;
   std::string refuseNext_;

@@ -5,6 +5,7 @@
 #include "objectfile/file_bytes.h"
 #include "standin/core/module_file.h"
 #include "standin/core/witness.h"
+#include "standin/modeler/mesh_edit.h"
 #include "standin/panels/panel.h"
 #include "standin/panels/person.h"
 #include "standin/variants/played_host.h"
@@ -38,6 +39,7 @@ std::string faultsSince(std::size_t first) {
 template <class Played, class Left>
 MeasuredHost measured(const std::string& module, const HostOptions& options, const std::string& file, Left&& left) {
   Played host(options);
+  witness().excuse(kSetsATag, kTagWhileSelecting);
   const std::size_t known = witness().faults().size();
   ModuleFile probe;
   if (const std::string why = probe.load(module); !why.empty()) throw std::runtime_error(why);

@@ -68,6 +68,10 @@ class MeshEdits {
   std::vector<EditRecord> records_;
 };
 
+// The fault of a tag that is set in an edit for selecting. Who measures what such a call answers makes it on purpose.
+inline constexpr const char* kSetsATag = "MeshEditOp::polTag";
+inline constexpr const char* kTagWhileSelecting = "was used in an edit that may only query and select";
+
 // The operation record of an edit, without the state and the layer.
 lw::MeshEditOp meshEditFunctions();
 

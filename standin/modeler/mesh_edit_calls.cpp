@@ -230,11 +230,11 @@ const char* polyTag(lw::EditId state, lw::PolygonId id, std::uint32_t type) {
 int polTag(lw::EditId state, lw::PolygonId id, std::uint32_t type, const char* text) {
   // Copied before anything else: it may be a text that the host itself lent.
   std::optional<std::string> given = text == nullptr ? std::nullopt : std::optional<std::string>(text);
-  const EditCall call("MeshEditOp::polTag", state);
+  const EditCall call(kSetsATag, state);
   if (call.edits() == nullptr) return lw::kEditBadArguments;
   if (call.edits()->maySelect()) {
-    call.fault("was used in an edit that may only query and select");
-    return lw::kEditBadArguments;
+    call.fault(kTagWhileSelecting);
+    return call.refusal();
   }
   MeshPolygon* polygon = call.changeablePolygon(id);
   if (polygon == nullptr) return lw::kEditBadArguments;
@@ -253,7 +253,7 @@ int polSelect(lw::EditId state, lw::PolygonId id, int on) {
   if (call.edits() == nullptr) return lw::kEditBadArguments;
   if (!call.edits()->maySelect()) {
     call.fault("was used in an edit that was not begun for selecting");
-    return lw::kEditBadArguments;
+    return call.refusal();
   }
   MeshPolygon* polygon = call.changeablePolygon(id);
   if (polygon == nullptr) return lw::kEditBadArguments;

@@ -110,6 +110,12 @@ const char* layerName(int index, int number) {
   return session.text.lend(layer->name);
 }
 
+const char* refName(int index) {
+  const ModelerCall call("LWObjectFuncs::refName");
+  const ModelerObject* object = objectAt(call, index);
+  return object == nullptr ? nullptr : modelerSession()->text.lend(object->referenceName());
+}
+
 std::vector<std::string> mapNames(const ModelerSession& session, std::uint32_t type) {
   std::vector<std::string> names;
   for (const auto& map : session.maps) {
@@ -168,6 +174,8 @@ lw::LWObjectFuncs* sceneObjects() {
     STANDIN_FILL_GAP(t, 64);
     t.layerName = &layerName;
     STANDIN_FILL_GAP(t, 88);
+    t.refName = &refName;
+    STANDIN_FILL_GAP(t, 112);
     return t;
   }();
   return &table;

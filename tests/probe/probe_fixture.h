@@ -25,7 +25,8 @@ class Probing : public testing::Test {
 
   // The value that the file holds for a question; empty when that is not told, or not asked.
   static std::string valueIn(const std::string& facts, const std::string& name) {
-    for (const auto& fact : nlohmann::json::parse(facts).at("facts")) {
+    const auto file = nlohmann::json::parse(facts);
+    for (const auto& fact : file.at("facts")) {
       if (fact.at("name") == name && fact.at("value").is_string()) return fact.at("value");
     }
     return {};

@@ -94,14 +94,14 @@ TEST_F(ModelerMisuse, AnEditLeftOpenByTheEventOfAControl) {
 }
 
 TEST_F(ModelerMisuse, SelectingInAnEditThatIsNotForIt) {
-  edit(lw::kEditDirect, [&](Edit op) { EXPECT_EQ(op.polSelect(op.state, id("Hips"), 1), lw::kEditBadArguments); });
+  edit(lw::kEditDirect, [&](Edit op) { EXPECT_EQ(op.polSelect(op.state, id("Hips"), 1), lw::kEditNoMemory); });
   expectFault("was used in an edit that was not begun for selecting");
   EXPECT_EQ(host->selectedNames(), Names{});
 }
 
 TEST_F(ModelerMisuse, WritingInASelectingEdit) {
   edit(lw::kEditSelecting | lw::kEditDirect,
-       [&](Edit op) { EXPECT_EQ(op.polTag(op.state, id("Hips"), lw::kTagPart, "x"), lw::kEditBadArguments); });
+       [&](Edit op) { EXPECT_EQ(op.polTag(op.state, id("Hips"), lw::kTagPart, "x"), lw::kEditNoMemory); });
   expectFault("was used in an edit that may only query and select");
   EXPECT_EQ(object->skelegon("Hips")->content.tag(lw::kTagPart), nullptr);
 }
@@ -198,6 +198,18 @@ TEST_F(ModelerMisuse, AnEditEndedWithinAScan) {
   };
   op->fastPolyScan(op->state, end, op, lw::kLayersAll, 0);
   expectFault("ended the edit within a scan");
+}
+
+TEST_F(ModelerMisuse, AnExcusedOneIsNoFaultUntilTheNextSession) {
+  const auto tagWhileSelecting = [&] {
+    edit(lw::kEditSelecting | lw::kEditDirect, [&](Edit op) { op.polTag(op.state, id("Hips"), lw::kTagPart, "x"); });
+  };
+  witness().excuse(kSetsATag, kTagWhileSelecting);
+  tagWhileSelecting();
+  EXPECT_EQ(faultCount(), 0U);
+  witness().reset();
+  tagWhileSelecting();
+  expectFault(kTagWhileSelecting);
 }
 
 TEST_F(ModelerMisuse, AnUndoGroup) {

@@ -120,6 +120,16 @@ TEST_F(ModelerOptionsTest, RefusalsAnswerWithTheCodeThatIsChosen) {
   });
 }
 
+// Refused by the rules of an edit, not by way of trial.
+TEST_F(ModelerOptionsTest, WhatAnEditIsNotForIsRefusedWithTheCodeThatIsChosen) {
+  host->options().refusalCode = lw::kEditUserAbort;
+  edit(lw::kEditSelecting | lw::kEditDirect,
+       [&](lw::MeshEditOp& op) { EXPECT_EQ(op.polTag(op.state, id("Head"), lw::kTagBone, "x"), lw::kEditUserAbort); });
+  edit(lw::kEditAll, [&](lw::MeshEditOp& op) { EXPECT_EQ(op.polSelect(op.state, id("Head"), 1), lw::kEditUserAbort); });
+  EXPECT_EQ(witness().faults().size(), 2U);
+  witness().reset();
+}
+
 TEST_F(ModelerOptionsTest, AMissingTagCanReadAsEmpty) {
   host->options().missingTagIsEmpty = true;
   edit(lw::kEditAll, [&](lw::MeshEditOp& op) { EXPECT_STREQ(op.polyTag(op.state, id("Head"), lw::kTagColour), ""); });

@@ -80,6 +80,12 @@ TEST_F(ModelerServices, SceneObjectsCountLayersFromZero) {
   EXPECT_EQ(sceneObjects()->layerExists(0, 2), 0);
 }
 
+TEST_F(ModelerServices, AReferenceNameStaysWhateverTheFileIsCalled) {
+  const std::string reference = sceneObjects()->refName(0);
+  EXPECT_EQ(reference, object->referenceName());
+  EXPECT_NE(reference, sceneObjects()->filename(0));
+}
+
 TEST_F(ModelerServices, GapsBetweenLayerNumbersDoNotExist) {
   RigBuilder rig;
   rig.layer(2, "");
