@@ -111,7 +111,7 @@ int validateModule(const ValidateOptions& options) {
   order.limit = std::chrono::seconds(options.limit);
   order.told = [](const v::CheckResult& result) { std::cout << v::resultText(result) << std::flush; };
   const std::vector<v::CheckResult> results = v::runChecks(order);
-  const std::string host = order.host == HostChoice() ? std::string() : order.host.text();
+  const std::string host = order.host.words().empty() ? std::string() : order.host.text();
   const v::ReportHead head{order.module, v::thisBuild(), today(), order.seed, order.share, host};
   const std::string text = v::reportText(head, results);
   std::cout << text.substr(text.rfind("\n\n") + 1);

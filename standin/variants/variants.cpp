@@ -56,7 +56,7 @@ HostChoice HostChoice::mixture(std::uint64_t seed, const HostChoice& settled) {
   HostChoice choice;
   for (std::size_t i = 0; i < choice.picks_.size(); ++i) {
     const std::size_t pick = random() % allVariants()[i]->values.size();
-    choice.picks_[i] = settled.picks_[i] == 0 ? pick : settled.picks_[i];
+    choice.picks_[i] = settled.picks_[i].value_or(pick);
   }
   return choice;
 }
@@ -108,22 +108,36 @@ std::string HostChoice::take(std::string_view word) {
 
 HostOptions HostChoice::options() const {
   HostOptions options;
-  for (std::size_t i = 0; i < picks_.size(); ++i) allVariants()[i]->values[picks_[i]].set(options);
+  for (std::size_t i = 0; i < picks_.size(); ++i) allVariants()[i]->values[picks_[i].value_or(0)].set(options);
   return options;
 }
+
+const char* HostChoice::settled(std::string_view variant) const {
+  const std::size_t row = rowNamed(variant);
+  return row < picks_.size() && picks_[row] ? allVariants()[row]->values[*picks_[row]].name : nullptr;
+}
+
+namespace {
+
+std::string wordOf(std::size_t row, std::size_t pick) {
+  return std::string(allVariants()[row]->name) + "=" + allVariants()[row]->values[pick].name;
+}
+
+}  // namespace
 
 std::vector<std::string> HostChoice::words() const {
   std::vector<std::string> words;
   for (std::size_t i = 0; i < picks_.size(); ++i) {
-    const HostVariant& row = *allVariants()[i];
-    if (picks_[i] != 0) words.push_back(std::string(row.name) + "=" + row.values[picks_[i]].name);
+    if (picks_[i]) words.push_back(wordOf(i, *picks_[i]));
   }
   return words;
 }
 
 std::string HostChoice::text() const {
   std::string text;
-  for (const std::string& word : words()) text.append(text.empty() ? "" : " ").append(word);
+  for (std::size_t i = 0; i < picks_.size(); ++i) {
+    if (picks_[i].value_or(0) != 0) text.append(text.empty() ? "" : " ").append(wordOf(i, *picks_[i]));
+  }
   return text.empty() ? "the default host" : text;
 }
 
@@ -131,8 +145,8 @@ std::vector<HostChoice> singleChoices(std::span<const HostVariant> rows, const H
   std::vector<HostChoice> choices;
   for (const HostVariant& row : rows) {
     const std::size_t place = rowNamed(row.name);
-    for (std::size_t pick = 0; pick < row.values.size(); ++pick) {
-      if (pick == base.picks_[place]) continue;
+    if (base.picks_[place]) continue;
+    for (std::size_t pick = 1; pick < row.values.size(); ++pick) {
       choices.push_back(base);
       choices.back().picks_[place] = pick;
     }

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -59,11 +60,11 @@ std::span<const VariantArea> variantAreas();
 // The rows of all areas, in that order.
 std::span<const HostVariant* const> allVariants();
 
-// One value for each variant.
+// One value for each variant: one that was settled, else the default.
 class HostChoice {
  public:
-  // The default of each.
-  HostChoice() : picks_(allVariants().size(), 0) {}
+  // Nothing is settled.
+  HostChoice() : picks_(allVariants().size()) {}
   // A value of each by chance, the same for the same seed; but what another choice has settled stays.
   static HostChoice mixture(std::uint64_t seed, const HostChoice& settled = {});
 
@@ -73,19 +74,21 @@ class HostChoice {
   [[nodiscard]] std::string take(std::string_view word);
 
   HostOptions options() const;
-  // What differs from the defaults, as words that take() takes.
+  // The name of the value that is settled; null where none is, or there is no such variant.
+  const char* settled(std::string_view variant) const;
+  // What is settled, defaults too, as words that take() takes.
   std::vector<std::string> words() const;
-  // The same as one text: "open-answer=0 mouse=control"; "the default host" when nothing differs.
+  // What differs from the defaults, as one text: "open-answer=0 mouse=control"; "the default host" when nothing does.
   std::string text() const;
   bool operator==(const HostChoice&) const = default;
 
  private:
   friend std::vector<HostChoice> singleChoices(std::span<const HostVariant> rows, const HostChoice& base);
 
-  std::vector<std::size_t> picks_;
+  std::vector<std::optional<std::size_t>> picks_;
 };
 
-// The hosts that differ from the base in one of the rows: each row with each value that the base does not have.
+// The hosts that differ from the base in one of the rows that it leaves open: each of these with each value but the default.
 std::vector<HostChoice> singleChoices(std::span<const HostVariant> rows, const HostChoice& base = {});
 
 // The table for people at a terminal, and for the documents (in Markdown).

@@ -13,6 +13,7 @@
 namespace standin {
 namespace {
 
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -133,7 +134,18 @@ TEST(HostChoices, TakeTheLastOfSeveralValues) {
   EXPECT_EQ(choice.take(wordOf(firstSingle())), "");
   EXPECT_EQ(choice.text(), wordOf(firstSingle()));
   EXPECT_TRUE(choice.choose(firstSingle().variant, allVariants().front()->values.front().name));
-  EXPECT_EQ(choice, HostChoice());
+  EXPECT_EQ(choice.text(), "the default host");
+  EXPECT_EQ(choice.options(), HostOptions());
+}
+
+TEST(HostChoices, KnowADefaultThatIsSettledFromOneThatIsAssumed) {
+  const HostVariant& first = *allVariants().front();
+  HostChoice choice;
+  EXPECT_EQ(choice.settled(first.name), nullptr);
+  EXPECT_TRUE(choice.choose(first.name, first.values.front().name));
+  EXPECT_STREQ(choice.settled(first.name), first.values.front().name);
+  EXPECT_THAT(choice.words(), ElementsAre(wordOf({first.name, first.values.front().name})));
+  EXPECT_EQ(choice.settled("nonsense"), nullptr);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -158,10 +170,18 @@ TEST(SingleHosts, KeepWhatTheirBaseHas) {
   for (const HostChoice& choice : choices) EXPECT_THAT(choice.text(), HasSubstr(wordOf(firstSingle())));
 }
 
-TEST(SingleHosts, LeaveOutTheirBase) {
+// What is known of a host is not asked again, be it the default.
+TEST(SingleHosts, LeaveOutWhatIsSettled) {
+  const auto rows = panelVariants();
   HostChoice base;
-  ASSERT_EQ(base.take(wordOf(firstSingle())), "");
-  for (const HostChoice& choice : singleChoices(variantAreas().front().rows(), base)) EXPECT_NE(choice, base);
+  ASSERT_TRUE(base.choose(rows[0].name, rows[0].values[0].name));
+  ASSERT_TRUE(base.choose(rows[1].name, rows[1].values[1].name));
+  const std::vector<HostChoice> choices = singleChoices(rows, base);
+  EXPECT_EQ(choices.size(), singleChoices(rows.subspan(2)).size());
+  for (const HostChoice& choice : choices) {
+    EXPECT_STREQ(choice.settled(rows[0].name), rows[0].values[0].name);
+    EXPECT_STREQ(choice.settled(rows[1].name), rows[1].values[1].name);
+  }
 }
 
 TEST(MixedHosts, AreTheSameForTheSameSeed) {
@@ -191,6 +211,12 @@ TEST(MixedHosts, KeepWhatIsSettled) {
   for (std::uint64_t seed = 0; seed < 20; ++seed) {
     EXPECT_THAT(HostChoice::mixture(seed, settled).words(), testing::Contains(wordOf(firstSingle())));
   }
+}
+
+TEST(MixedHosts, KeepDefaultsThatAreSettled) {
+  HostChoice settled;
+  for (const HostVariant* row : allVariants()) ASSERT_TRUE(settled.choose(row->name, row->values.front().name));
+  for (std::uint64_t seed = 0; seed < 20; ++seed) EXPECT_EQ(HostChoice::mixture(seed, settled), settled);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
