@@ -1,22 +1,61 @@
 #include "program/host_option.h"
 
+#include <iostream>
+
+#include "objectfile/file_bytes.h"
+#include "program/host_facts.h"
 #include "program/support.h"
 
 namespace standin {
+namespace {
 
-HostChoice HostWords::choice() const {
+// No name or value of the table looks like this.
+bool isNamedJson(const std::string& word) {
+  std::string end = word.size() < 5 ? std::string() : word.substr(word.size() - 5);
+  for (char& c : end) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  return end == ".json";
+}
+
+bool isFile(const std::string& word) {
+  std::error_code ignored;
+  return isNamedJson(word) || std::filesystem::exists(pathFromUtf8(word), ignored);
+}
+
+// A sentence when the word cannot be taken.
+std::string takeFile(HostChoice& choice, const std::string& path, std::vector<std::string>& remarks) {
+  const Outcome<HostFacts> facts = readHostFacts(path);
+  if (!facts) return facts.why();
+  for (const std::string& remark : settle(choice, *facts)) remarks.push_back(path + ": " + remark);
+  return {};
+}
+
+std::string take(HostChoice& choice, const std::string& word, std::vector<std::string>& remarks) {
+  const std::string refusal = choice.take(word);
+  return refusal.empty() || !isFile(word) ? refusal : takeFile(choice, word, remarks);
+}
+
+}  // namespace
+
+const HostChoice& HostWords::choice() const {
+  if (choice_) return *choice_;
   HostChoice choice;
-  for (const std::string& word : words) {
-    if (const std::string refusal = choice.take(word); !refusal.empty()) throw Trouble{refusal};
+  std::vector<std::string> remarks;
+  for (const std::string& word : words_) {
+    if (const std::string refusal = take(choice, word, remarks); !refusal.empty()) throw Trouble{refusal};
   }
-  return choice;
+  for (const std::string& remark : remarks) std::cerr << "varnel: " << remark << "\n";
+  return choice_.emplace(std::move(choice));
 }
 
 CommandOption hostOption(HostWords& host) {
   return {"--host",
-          &host.words,
-          "NAME=VALUE, a host that differs in this; \"varnel hosts\" lists them all",
-          {.refusal = [](const std::string& word) { return HostChoice().take(word); }}};
+          &host.words_,
+          "The host to play: NAME=VALUE, as \"varnel hosts\" lists them, or a file of facts",
+          {.refusal = [](const std::string& word) {
+            HostChoice choice;
+            std::vector<std::string> remarks;
+            return take(choice, word, remarks);
+          }}};
 }
 
 }  // namespace standin

@@ -13,7 +13,7 @@ standin::Program varnel() {
       .commands = {convertCommand(), tripCommand(), panelsCommand(), renameCommand(), picturesCommand(), deskCommand(),
                    rigsCommand(), inspectCommand(), commandsCommand(), diffCommand(), exportCommand(), importCommand(),
                    pictureCommand(), reportCommand(), validateCommand(), validateCheckCommand(), hostsCommand(),
-                   probeCommand()},
+                   hostCommand(), probeCommand()},
   };
 }
 

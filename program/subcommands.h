@@ -37,6 +37,8 @@ Command pictureCommand();
 
 // What hosts may differ in, for the option --host.
 Command hostsCommand();
+// What a file of facts tells of a host.
+Command hostCommand();
 
 // A person's run of the probe in a host that is played. 1 when it broke a rule of the host.
 Command probeCommand();
