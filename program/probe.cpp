@@ -27,12 +27,6 @@ struct ProbeOptions {
   bool force = false;
 };
 
-bool isSettled(const HostChoice& host, const HostVariant& row) {
-  const std::vector<std::string> words = host.words();
-  return std::any_of(words.begin(), words.end(),
-                     [&](const std::string& word) { return word.starts_with(row.name + std::string("=")); });
-}
-
 // Differs in ten things more than what is settled, the same ones for the same seed; zero adds none.
 HostChoice byChance(std::uint64_t seed, HostChoice host) {
   if (seed == 0) return host;
@@ -40,7 +34,7 @@ HostChoice byChance(std::uint64_t seed, HostChoice host) {
   for (std::size_t added = 0; added < kDiffering;) {
     const HostVariant& row = *allVariants()[random() % allVariants().size()];
     const VariantValue& value = row.values[1 + random() % (row.values.size() - 1)];
-    if (!isSettled(host, row) && host.choose(row.name, value.name)) ++added;
+    if (host.settled(row.name) == nullptr && host.choose(row.name, value.name)) ++added;
   }
   return host;
 }
