@@ -15,6 +15,7 @@ struct DeskOptions {
   std::string module;
   HostWords host;
   std::string language;
+  bool isEmpty = false;
 };
 
 void openObject(ModelerHost& host, const std::string& file) {
@@ -30,7 +31,7 @@ int run(const DeskOptions& options) {
   return reporting([&] {
     PlayedModeler host(options.host.options());
     host.options().localeInfo = localeOf(options.language);
-    openObject(host, options.file);
+    if (!options.isEmpty) openObject(host, options.file);
     ModuleFile module;
     loadModule(module, options.module);
     {
@@ -55,11 +56,12 @@ Command deskCommand() {
       .options =
           {
               {"file", &options->file, "Object file (a rig that comes with the program by default)"},
+              {"--empty", &options->isEmpty, "Open no object", {.excludes = "file"}},
               moduleOption(options->module),
               hostOption(options->host),
               languageOption(&options->language, "Language of the panels"),
           },
-      .footer = "Example:\n  varnel desk rigs/lizard.lwo",
+      .footer = "Examples:\n  varnel desk rigs/lizard.lwo\n  varnel desk --empty --module probe/varnel-probe.p",
       .run = [options] { return run(*options); },
   };
 }

@@ -197,6 +197,7 @@ std::string DeskWindow::written() const {
 bool DeskWindow::isChanged() const { return written() != saved_; }
 
 std::vector<DeskWindow::Row> DeskWindow::foregroundRows() const {
+  if (host_.current() == nullptr) return {};
   std::vector<const MeshLayer*> layers;
   for (const MeshLayer& layer : host_.current()->layers()) {
     if (layer.foreground) layers.push_back(&layer);
@@ -208,10 +209,14 @@ std::vector<DeskWindow::Row> DeskWindow::foregroundRows() const {
   return rows;
 }
 
+const std::vector<MeshLayer>& DeskWindow::layers() const {
+  static const std::vector<MeshLayer> none;
+  return host_.current() == nullptr ? none : host_.current()->layers();
+}
+
 void DeskWindow::refreshLayers() {
-  const std::vector<MeshLayer>& layers = host_.current()->layers();
   std::vector<std::string> texts;
-  for (const MeshLayer& layer : layers) {
+  for (const MeshLayer& layer : layers()) {
     texts.push_back(std::to_string(layer.number + 1) + (layer.name.empty() ? "" : "  " + layer.name));
   }
   HWND const list = part(DeskPart::Layers);
@@ -219,7 +224,7 @@ void DeskWindow::refreshLayers() {
     layerTexts_ = std::move(texts);
     fillList(list, layerTexts_);
   }
-  for (std::size_t i = 0; i < layers.size(); ++i) pick(list, i, layers[i].foreground);
+  for (std::size_t i = 0; i < layers().size(); ++i) pick(list, i, layers()[i].foreground);
 }
 
 void DeskWindow::refreshPolygons() {
@@ -234,10 +239,10 @@ void DeskWindow::refreshPolygons() {
 }
 
 void DeskWindow::refresh() {
-  if (host_.current() == nullptr) return;
   refreshLayers();
   refreshPolygons();
-  const std::string title = host_.current()->name() + (isChanged() ? " * - Varnel" : " - Varnel");
+  const std::string title =
+      host_.current() == nullptr ? "Varnel" : host_.current()->name() + (isChanged() ? " * - Varnel" : " - Varnel");
   if (title != captionOf(handle_)) SetWindowTextW(handle_, wide(title).c_str());
   if (front_.refusals().size() > refusalsSaid_) say(front_.refusals().back());
   refusalsSaid_ = front_.refusals().size();
@@ -307,10 +312,9 @@ void DeskWindow::runTool(const std::string& server) {
 }
 
 void DeskWindow::layersTicked() {
-  const std::vector<MeshLayer>& layers = host_.current()->layers();
   std::vector<int> foreground;
-  for (std::size_t i = 0; i < layers.size(); ++i) {
-    if (isPicked(part(DeskPart::Layers), i)) foreground.push_back(layers[i].number);
+  for (std::size_t i = 0; i < layers().size(); ++i) {
+    if (isPicked(part(DeskPart::Layers), i)) foreground.push_back(layers()[i].number);
   }
   host_.showLayers(foreground);
 }
@@ -324,6 +328,10 @@ void DeskWindow::polygonsPicked() {
 }
 
 bool DeskWindow::save(bool underNewName) {
+  if (host_.current() == nullptr) {
+    say("There is no object");
+    return false;
+  }
   const std::string path = underNewName ? askPath() : std::string();
   if (underNewName && path.empty()) return false;
   const std::optional<Failure> failure = underNewName ? host_.saveAs(path) : host_.save();
@@ -337,7 +345,7 @@ bool DeskWindow::save(bool underNewName) {
 }
 
 void DeskWindow::close() {
-  if (isChanged()) {
+  if (host_.current() != nullptr && isChanged()) {
     const int answer = ask("Save the changes to " + host_.current()->name() + "?", MB_YESNOCANCEL | MB_ICONQUESTION);
     if (answer == IDCANCEL || (answer == IDYES && !save(false))) return;
   }

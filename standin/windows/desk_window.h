@@ -19,7 +19,7 @@ enum class DeskPart { Layers, Polygons, Undo, Redo, Save, SaveAs, Status };
 
 class DeskWindow {
  public:
-  // Shows the host's current object and the module's Modeler tools. All three must outlive it.
+  // Shows the host's current object, if there is one, and the module's Modeler tools. All three must outlive it.
   DeskWindow(ModelerHost& host, ModuleFile& module, WindowsFront& front);
   ~DeskWindow();
   DeskWindow(const DeskWindow&) = delete;
@@ -62,6 +62,7 @@ class DeskWindow {
   void say(const std::string& text);
   Answer answered(const Message& message) const;
 
+  const std::vector<MeshLayer>& layers() const;
   std::vector<Row> foregroundRows() const;
   void refreshLayers();
   void refreshPolygons();

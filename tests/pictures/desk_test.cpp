@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 
+#include "objectfile/file_bytes.h"
 #include "objectfile/sample_rigs.h"
 #include "standin/core/program_folder.h"
 #include "standin/core/tool_names.h"
@@ -141,6 +142,59 @@ TEST_F(Desk, SaveAsWritesTheObject) {
   EXPECT_FALSE(desk->isChanged());
   EXPECT_TRUE(std::filesystem::exists(path));
   std::filesystem::remove(path);
+}
+
+int countOf(const DeskWindow& desk, DeskPart part) {
+  return static_cast<int>(SendMessageW(desk.part(part), LB_GETCOUNT, 0, 0));
+}
+
+TEST_F(Desk, ListsNothingOnceTheObjectIsClosed) {
+  host.closeAll();
+  settle();
+  EXPECT_EQ(countOf(*desk, DeskPart::Layers), 0);
+  EXPECT_EQ(countOf(*desk, DeskPart::Polygons), 0);
+}
+
+TEST_F(Desk, HasNothingToSaveWithoutAnObject) {
+  host.closeAll();
+  settle();
+  for (const DeskPart part : {DeskPart::Save, DeskPart::SaveAs, DeskPart::Undo, DeskPart::Redo}) {
+    ASSERT_TRUE(driver->press(desk->part(part)));
+    settle();
+  }
+  SendMessageW(desk->handle(), WM_CLOSE, 0, 0);
+  EXPECT_TRUE(desk->isOver());
+  EXPECT_EQ("", asked);
+}
+
+// The probe runs where nothing is loaded.
+class EmptyDesk : public Desk {
+ protected:
+  void SetUp() override {
+    ASSERT_EQ("", module.load(probePath()));
+    front.emplace();
+    driver.emplace(*front);
+    desk.emplace(host, module, *front);
+    settle();
+  }
+  static std::string probePath() {
+    const std::filesystem::path own = pathFromUtf8(modulePath());
+    return utf8Of(own.parent_path() / (own.stem().string() + "-probe" + own.extension().string()));
+  }
+};
+
+TEST_F(EmptyDesk, ListsTheCommandsOfAnyModule) {
+  EXPECT_NE(nullptr, desk->toolButton("Varnel:HostFacts"));
+  EXPECT_EQ(nullptr, desk->toolButton(kPropertyTool));
+}
+
+TEST_F(EmptyDesk, StartsTheProbe) {
+  EXPECT_EQ(countOf(*desk, DeskPart::Polygons), 0);
+  ASSERT_TRUE(driver->press(desk->toolButton("Varnel:HostFacts")));
+  settle();
+  const Panel* const panel = panels().find("Varnel:HostFacts");
+  ASSERT_NE(nullptr, panel);
+  EXPECT_TRUE(panel->isOpen());
 }
 
 }  // namespace
