@@ -1,0 +1,15 @@
+# What makes a library a file that the host loads: NAME.p for Windows, with its version in it, else NAME.so.
+function(varnel_module_file target name description)
+  set_target_properties(${target} PROPERTIES PREFIX "" OUTPUT_NAME ${name})
+  if(NOT WIN32)
+    set_target_properties(${target} PROPERTIES SUFFIX ".so")
+    return()
+  endif()
+  set_target_properties(${target} PROPERTIES SUFFIX ".p")
+  configure_file(${CMAKE_SOURCE_DIR}/module/version.rc.in version.rc @ONLY)
+  target_sources(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/version.rc)
+  if(MINGW)
+    # Mends what the statically linked runtime leaks.
+    target_sources(${target} PRIVATE ${CMAKE_SOURCE_DIR}/module/thread_storage_win32.cpp)
+  endif()
+endfunction()
