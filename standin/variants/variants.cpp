@@ -51,12 +51,40 @@ std::span<const HostVariant* const> allVariants() {
 
 // --- a choice -------------------------------------------------------------------------------------------------------------
 
+namespace {
+
+// Whether the host does so: to set the value changes nothing; and the default, which sets nothing, is where no other value is.
+bool holds(const HostVariant& row, std::size_t pick, const HostOptions& host) {
+  const auto isThere = [&](const VariantValue& value) {
+    HostOptions same = host;
+    value.set(same);
+    return same == host;
+  };
+  const auto others = row.values.subspan(1);
+  return pick == 0 ? std::none_of(others.begin(), others.end(), isThere) : isThere(row.values[pick]);
+}
+
+}  // namespace
+
+// Some values of one row set what other rows set, too. False where what is settled would no longer hold.
+bool HostChoice::bears(std::size_t row, std::size_t pick) const {
+  HostChoice more = *this;
+  more.picks_[row] = pick;
+  const HostOptions before = options();
+  const HostOptions after = more.options();
+  const auto all = allVariants();
+  for (std::size_t i = 0; i < picks_.size(); ++i) {
+    if (picks_[i] && holds(*all[i], *picks_[i], before) && !holds(*all[i], *picks_[i], after)) return false;
+  }
+  return true;
+}
+
 HostChoice HostChoice::mixture(std::uint64_t seed, const HostChoice& settled) {
   std::mt19937_64 random(seed);
   HostChoice choice;
   for (std::size_t i = 0; i < choice.picks_.size(); ++i) {
     const std::size_t pick = random() % allVariants()[i]->values.size();
-    choice.picks_[i] = settled.picks_[i].value_or(pick);
+    choice.picks_[i] = settled.picks_[i].value_or(settled.bears(i, pick) ? pick : 0);
   }
   return choice;
 }
@@ -147,6 +175,7 @@ std::vector<HostChoice> singleChoices(std::span<const HostVariant> rows, const H
     const std::size_t place = rowNamed(row.name);
     if (base.picks_[place]) continue;
     for (std::size_t pick = 1; pick < row.values.size(); ++pick) {
+      if (!base.bears(place, pick)) continue;
       choices.push_back(base);
       choices.back().picks_[place] = pick;
     }

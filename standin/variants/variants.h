@@ -65,7 +65,8 @@ class HostChoice {
  public:
   // Nothing is settled.
   HostChoice() : picks_(allVariants().size()) {}
-  // A value of each by chance, the same for the same seed; but what another choice has settled stays.
+  // A value of each by chance, the same for the same seed; but what another choice has settled stays, and no other value
+  // contradicts it.
   static HostChoice mixture(std::uint64_t seed, const HostChoice& settled = {});
 
   // False when there is no such variant or value.
@@ -85,10 +86,13 @@ class HostChoice {
  private:
   friend std::vector<HostChoice> singleChoices(std::span<const HostVariant> rows, const HostChoice& base);
 
+  bool bears(std::size_t row, std::size_t pick) const;
+
   std::vector<std::optional<std::size_t>> picks_;
 };
 
-// The hosts that differ from the base in one of the rows that it leaves open: each of these with each value but the default.
+// The hosts that differ from the base in one of the rows that it leaves open: each of these with each value but the default
+// that does not contradict it.
 std::vector<HostChoice> singleChoices(std::span<const HostVariant> rows, const HostChoice& base = {});
 
 // The table for people at a terminal, and for the documents (in Markdown).

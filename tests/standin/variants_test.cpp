@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <set>
 #include <utility>
@@ -210,6 +211,37 @@ TEST(MixedHosts, KeepWhatIsSettled) {
   ASSERT_EQ(settled.take(wordOf(firstSingle())), "");
   for (std::uint64_t seed = 0; seed < 20; ++seed) {
     EXPECT_THAT(HostChoice::mixture(seed, settled).words(), testing::Contains(wordOf(firstSingle())));
+  }
+}
+
+// "silent-menu" sets what two other rows set.
+HostChoice settledMenu() {
+  HostChoice settled;
+  EXPECT_EQ(settled.take("same-choice=fires"), "");
+  EXPECT_EQ(settled.take("outside-index=clamped"), "");
+  return settled;
+}
+
+TEST(SingleHosts, DoNotContradictWhatIsSettled) {
+  for (const HostChoice& choice : singleChoices(panelVariants(), settledMenu())) {
+    EXPECT_EQ(choice.settled("silent-menu"), nullptr) << choice.text();
+  }
+}
+
+TEST(SingleHosts, HaveWhatSettledValuesAgreeWith) {
+  HostChoice settled = settledMenu();
+  ASSERT_EQ(settled.take("same-choice=silent"), "");
+  const std::vector<HostChoice> choices = singleChoices(panelVariants(), settled);
+  const auto isSo = [](const HostChoice& choice) { return choice.settled("silent-menu") != nullptr; };
+  ASSERT_EQ(std::count_if(choices.begin(), choices.end(), isSo), 1);
+  EXPECT_STREQ(std::find_if(choices.begin(), choices.end(), isSo)->settled("silent-menu"), "clamped-and-silent");
+}
+
+TEST(MixedHosts, DoNotContradictWhatIsSettled) {
+  for (std::uint64_t seed = 0; seed < 20; ++seed) {
+    const HostOptions options = HostChoice::mixture(seed, settledMenu()).options();
+    EXPECT_TRUE(options.panels.repeatedChoiceFires);
+    EXPECT_EQ(options.panels.outsideIndex, OutsideIndex::Clamped);
   }
 }
 
