@@ -486,7 +486,9 @@ enum ItemParam : int {
   kParamForward = 4,
   kParamRotation = 5,  // heading, pitch, bank in radians
   kParamScale = 6,
+  kParamPivot = 7,
   kParamWorldPosition = 8,
+  kParamPivotRotation = 12,
 };
 
 // "LW Item Info 9"
@@ -495,7 +497,7 @@ struct LWItemInfo {
   ItemId (*next)(ItemId);
   GapSlot gap_16[2];
   ItemId (*parent)(ItemId);
-  GapSlot gap_40;
+  ItemId (*target)(ItemId);
   ItemId (*goal)(ItemId);
   int (*type)(ItemId);
   const char* (*name)(ItemId);
@@ -507,11 +509,13 @@ struct LWItemInfo {
   GapSlot gap_120;
   void (*controller)(ItemId, int param, int kinds[3]);
   unsigned (*flags)(ItemId);
-  GapSlot gap_144[8];
+  GapSlot gap_144[6];
+  unsigned (*goalObjective)(ItemId);
+  GapSlot gap_200;
   unsigned (*ikInitialState)(ItemId);
   GapSlot gap_216;
   unsigned (*ikSoft)(ItemId, double time, unsigned* distance, double* least, double* greatest);
-  GapSlot gap_232;
+  ItemId (*pole)(ItemId);
   ItemId (*sameItem)(ItemId, int param);
   GapSlot gap_248[9];
   int (*rotationOrder)(ItemId);
@@ -520,6 +524,7 @@ struct LWItemInfo {
 static_assert(sizeof(LWItemInfo) == 336);
 static_assert(offsetof(LWItemInfo, next) == 8);
 static_assert(offsetof(LWItemInfo, parent) == 32);
+static_assert(offsetof(LWItemInfo, target) == 40);
 static_assert(offsetof(LWItemInfo, goal) == 48);
 static_assert(offsetof(LWItemInfo, type) == 56);
 static_assert(offsetof(LWItemInfo, name) == 64);
@@ -529,30 +534,47 @@ static_assert(offsetof(LWItemInfo, chanGroup) == 104);
 static_assert(offsetof(LWItemInfo, server) == 112);
 static_assert(offsetof(LWItemInfo, controller) == 128);
 static_assert(offsetof(LWItemInfo, flags) == 136);
+static_assert(offsetof(LWItemInfo, goalObjective) == 192);
 static_assert(offsetof(LWItemInfo, ikInitialState) == 208);
 static_assert(offsetof(LWItemInfo, ikSoft) == 224);
+static_assert(offsetof(LWItemInfo, pole) == 232);
 static_assert(offsetof(LWItemInfo, sameItem) == 240);
 static_assert(offsetof(LWItemInfo, rotationOrder) == 320);
 
 // "LW Object Info 14"
 struct LWObjectInfo {
   const char* (*filename)(ItemId);  // of a null object: null or empty
-  GapSlot gap_8[34];
+  GapSlot gap_8[11];
+  ItemId (*boneSource)(ItemId);  // the object whose bones deform this one
+  GapSlot gap_104[22];
   int (*layerLoaded)(ItemId);
-  GapSlot gap_288[15];
+  GapSlot gap_288[11];
+  unsigned (*boneMode)(ItemId);  // 0 full, 1 faster, 2 limited
+  unsigned (*numLimitedBones)(ItemId);
+  GapSlot gap_392[2];
 };
 static_assert(sizeof(LWObjectInfo) == 408);
+static_assert(offsetof(LWObjectInfo, boneSource) == 96);
 static_assert(offsetof(LWObjectInfo, layerLoaded) == 280);
+static_assert(offsetof(LWObjectInfo, boneMode) == 376);
+static_assert(offsetof(LWObjectInfo, numLimitedBones) == 384);
 
 // "LW Bone Info 7"
 struct LWBoneInfo {
   unsigned (*flags)(ItemId);
   GapSlot gap_8[3];
   const char* (*weightMap)(ItemId);  // with none: null or empty
-  GapSlot gap_40[11];
+  double (*strength)(ItemId);
+  int (*falloff)(ItemId);  // counts from 0
+  GapSlot gap_56[2];
+  int (*type)(ItemId);
+  GapSlot gap_80[6];
 };
 static_assert(sizeof(LWBoneInfo) == 128);
 static_assert(offsetof(LWBoneInfo, weightMap) == 32);
+static_assert(offsetof(LWBoneInfo, strength) == 40);
+static_assert(offsetof(LWBoneInfo, falloff) == 48);
+static_assert(offsetof(LWBoneInfo, type) == 72);
 
 enum BoneFlags : unsigned {
   kBoneActive = 0x1,
@@ -583,14 +605,27 @@ struct LWInterfaceInfo {
   const ItemId* selItems;  // ended by a null item
   GapSlot gap_16;
   int gap_24[4];
-  GapSlot gap_40[2];
-  int gap_56[4];
-  GapSlot gap_72[3];
+  GapSlot gap_40;
+  int (*itemVis)(ItemId);
+  unsigned gap_56;
+  unsigned generalFlags;
+  int gap_64[2];
+  int (*itemColor)(ItemId);
+  GapSlot gap_80[2];
   int gap_96[2];
   GapSlot gap_104[4];
 };
 static_assert(sizeof(LWInterfaceInfo) == 136);
 static_assert(offsetof(LWInterfaceInfo, selItems) == 8);
+static_assert(offsetof(LWInterfaceInfo, itemVis) == 48);
+static_assert(offsetof(LWInterfaceInfo, generalFlags) == 60);
+static_assert(offsetof(LWInterfaceInfo, itemColor) == 72);
+
+enum GeneralFlags : unsigned {
+  kGeneralParentInPlace = 0x4,
+  kGeneralIK = 0x80,
+  kGeneralMotionControllers = 0x800,
+};
 
 // "LW Time Info". Ask again whenever a current value is needed.
 struct LWTimeInfo {

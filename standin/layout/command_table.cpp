@@ -5,7 +5,7 @@
 #include <limits>
 #include <utility>
 
-#include "standin/layout/skelegon_bones.h"
+#include "standin/layout/scene_commands.h"
 
 namespace standin {
 namespace {
@@ -91,43 +91,6 @@ CommandRow programSwitch(std::string name, bool LayoutState::*member) {
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Actions
-
-Rejection selectItem(LayoutState& state, Item*, const Arguments& arguments) {
-  state.scene.deselectAll();
-  state.scene.addToSelection(*arguments[0].item);
-  return {};
-}
-
-Rejection addToSelection(LayoutState& state, Item*, const Arguments& arguments) {
-  state.scene.addToSelection(*arguments[0].item);
-  return {};
-}
-
-void selectNew(Scene& scene, NewItems habit, const std::vector<Item*>& items) {
-  if (habit == NewItems::Left) return;
-  if (habit != NewItems::Added) scene.deselectAll();
-  if (habit == NewItems::Cleared) return;
-  for (Item* item : items) scene.addToSelection(*item);
-}
-
-Rejection addNull(LayoutState& state, Item*, const Arguments& arguments) {
-  Scene& scene = state.scene;
-  Item& null = scene.addNull(arguments[0].text);
-  if (scene.options().newNullBelowSelection && !scene.selection().empty()) scene.setParent(null, scene.selection().front());
-  selectNew(scene, scene.options().newNull, {&null});
-  return {};
-}
-
-Rejection skelegonsToBones(LayoutState& state, Item* item, const Arguments&) {
-  const LayoutOptions& options = state.scene.options();
-  if (skelegonSources(state.scene, *item).empty()) return options.noSkelegonsIsRefused ? kNoSkelegons : "";
-  // The host tells how many bones it made, in a box that the user has to close.
-  if (state.autoConfirm == 0) return std::string(kAsksUser) + "confirm the conversion";
-  if (state.autoConfirm < 0) return "the conversion was not confirmed";
-  const std::vector<Item*> bones = makeBonesOfSkelegons(state.scene, *item);
-  selectNew(state.scene, options.newBones, bones);
-  return {};
-}
 
 Rejection statusMessage(LayoutState& state, Item*, const Arguments& arguments) {
   const std::string& text = arguments[0].text;
@@ -219,10 +182,6 @@ constexpr CommandTarget kToBone = CommandTarget::Bone;
 constexpr CommandTarget kToObject = CommandTarget::Object;
 
 void addProgramRows(Rows& rows) {
-  rows.push_back({"SelectItem", kNoTarget, {kItem}, selectItem});
-  rows.push_back({"AddToSelection", kNoTarget, {kItem}, addToSelection});
-  rows.push_back({"AddNull", kNoTarget, {{ArgumentKind::Rest, 0, 0}}, addNull});
-  rows.push_back({"SkelegonsToBones", kToObject, {}, skelegonsToBones});
   rows.push_back(
       {"AutoConfirm", kNoTarget, {whole(-1, 1)}, [](LayoutState& state, Item*, const Arguments& arguments) -> Rejection {
          state.autoConfirm = arguments[0].integer;
@@ -365,6 +324,7 @@ void addBoneFormRows(Rows& rows) {
 
 Rows allRows() {
   Rows rows;
+  addSceneRows(rows);
   addProgramRows(rows);
   addItemRows(rows);
   addIkRows(rows);

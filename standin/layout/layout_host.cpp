@@ -10,6 +10,7 @@
 #include "standin/core/service_names.h"
 #include "standin/core/witness.h"
 #include "standin/layout/command_interface.h"
+#include "standin/layout/scene_commands.h"
 #include "standin/layout/services.h"
 #include "standin/panels/services.h"
 
@@ -63,9 +64,7 @@ void LayoutHost::setProductInfo(std::uint32_t word) { globals().offerNumber("Pro
 void LayoutHost::setLocale(std::uint32_t language) { globals().offerNumber("Locale Info", language); }
 
 std::vector<Item*> LayoutHost::loadObject(const std::string& path, std::string* why) {
-  const Outcome<ObjectFile> file = readObject(path);
-  if (why != nullptr) *why = file.why();
-  return file ? scene().addObject(*file, path) : std::vector<Item*>();
+  return loadIntoScene(scene(), path, why);
 }
 
 void LayoutHost::select(const std::vector<Item*>& items) {
@@ -91,7 +90,7 @@ void* LayoutHost::freshInterfaceInfo() {
   const bool none = scene().selection().empty() && options.selectedItemsNullWhenEmpty;
   const std::vector<lw::ItemId>& list = options.selectionFollows ? scene().followingList() : record.selection;
   record.info.selItems = none ? nullptr : list.data();
-  fillInterfaceGaps(record.info);
+  fillInterfaceInfo(record.info, state_);
   return &record.info;
 }
 

@@ -16,7 +16,8 @@ lw::LWChannelInfo* channelInfoTable();
 lw::LWEnvelopeFuncs* envelopeTable();
 lw::CommandFunc commandFunction();
 
-void fillInterfaceGaps(lw::LWInterfaceInfo& info);
+// All but the selection.
+void fillInterfaceInfo(lw::LWInterfaceInfo& info, const LayoutState& state);
 // Makes a record unusable: its selection is of no item.
 void spoilInterfaceRecord(InterfaceRecord& record);
 

@@ -25,12 +25,32 @@ int command(const char* text) {
   return utf8.starts_with("StatusMsg") ? options.statusResult : options.acceptedResult;
 }
 
+int itemVisibility(lw::ItemId id) {
+  const HostCall call("LWInterfaceInfo::itemVis");
+  const Item* item = checkedItem(call, id);
+  return item == nullptr || call.refused() ? 0 : item->settings.visibility;
+}
+
+int itemColor(lw::ItemId id) {
+  const HostCall call("LWInterfaceInfo::itemColor");
+  const Item* item = checkedItem(call, id);
+  return item == nullptr || call.refused() ? 0 : item->settings.colour;
+}
+
+unsigned generalFlags(const LayoutState& state) {
+  return (state.scene.options().parentInPlace ? lw::kGeneralParentInPlace : 0U) | (state.ikEnabled ? lw::kGeneralIK : 0U) |
+         (state.motionControllersEnabled ? lw::kGeneralMotionControllers : 0U);
+}
+
 }  // namespace
 
-void fillInterfaceGaps(lw::LWInterfaceInfo& info) {
+void fillInterfaceInfo(lw::LWInterfaceInfo& info, const LayoutState& state) {
+  info.itemVis = &itemVisibility;
+  info.itemColor = &itemColor;
+  info.generalFlags = generalFlags(state);
   STANDIN_FILL_GAP(info, 16);
   STANDIN_FILL_GAP(info, 40);
-  STANDIN_FILL_GAP(info, 72);
+  STANDIN_FILL_GAP(info, 80);
   STANDIN_FILL_GAP(info, 104);
 }
 

@@ -69,10 +69,22 @@ lw::ItemId parent(lw::ItemId id) {
   return top && !currentScene().options().topBoneHasParent ? nullptr : currentScene().idOf(item->parent);
 }
 
+lw::ItemId target(lw::ItemId id) {
+  const HostCall call("LWItemInfo::target");
+  const Item* item = checkedItem(call, id);
+  return item == nullptr || call.refused() ? nullptr : currentScene().idOf(item->settings.target);
+}
+
 lw::ItemId goal(lw::ItemId id) {
   const HostCall call("LWItemInfo::goal");
   const Item* item = checkedItem(call, id);
   return item == nullptr || call.refused() ? nullptr : currentScene().idOf(item->settings.ik.goal);
+}
+
+lw::ItemId pole(lw::ItemId id) {
+  const HostCall call("LWItemInfo::pole");
+  const Item* item = checkedItem(call, id);
+  return item == nullptr || call.refused() ? nullptr : currentScene().idOf(item->settings.pole);
 }
 
 int type(lw::ItemId id) {
@@ -95,6 +107,10 @@ Vec3 paramValue(const HostCall& call, Item& item, int param, double time) {
     case lw::kParamUp:
     case lw::kParamForward: return placed().axes.columns[static_cast<std::size_t>(param - lw::kParamRight)];
     case lw::kParamWorldPosition: return placed().position;
+    case lw::kParamRotation: return Scene::motionAt(item, kAxisH, time);
+    case lw::kParamScale: return Scene::motionAt(item, kAxisSX, time);
+    case lw::kParamPivot: return item.pivot;
+    case lw::kParamPivotRotation: return item.pivotRotation;
     default: call.fault("parameter " + std::to_string(param) + " is not one that a tool asks for"); return {};
   }
 }
@@ -153,6 +169,12 @@ unsigned flags(lw::ItemId id) {
   return (ik.unaffected ? lw::kItemUnaffectedByIK : 0U) | (ik.fullTime ? lw::kItemFullTimeIK : 0U) |
          (ik.matchGoalOrientation ? lw::kItemMatchGoalOrientation : 0U) |
          (ik.keepGoalInReach ? lw::kItemKeepGoalInReach : 0U) | (ik.useChain ? lw::kItemUseIKChain : 0U);
+}
+
+unsigned goalObjective(lw::ItemId id) {
+  const HostCall call("LWItemInfo::goalObjective");
+  const Item* item = checkedItem(call, id);
+  return item == nullptr || call.refused() ? 0 : static_cast<unsigned>(item->settings.ik.objective);
 }
 
 unsigned ikInitialState(lw::ItemId id) {
@@ -218,6 +240,7 @@ lw::LWItemInfo* itemInfoTable() {
     t.first = &first;
     t.next = &next;
     t.parent = &parent;
+    t.target = &target;
     t.goal = &goal;
     t.type = &type;
     t.name = &name;
@@ -227,17 +250,18 @@ lw::LWItemInfo* itemInfoTable() {
     t.server = &server;
     t.controller = &controller;
     t.flags = &flags;
+    t.goalObjective = &goalObjective;
     t.ikInitialState = &ikInitialState;
     t.ikSoft = &ikSoft;
+    t.pole = &pole;
     t.sameItem = &sameItem;
     t.rotationOrder = &rotationOrder;
     STANDIN_FILL_GAP(t, 16);
-    STANDIN_FILL_GAP(t, 40);
     STANDIN_FILL_GAP(t, 88);
     STANDIN_FILL_GAP(t, 120);
     STANDIN_FILL_GAP(t, 144);
+    STANDIN_FILL_GAP(t, 200);
     STANDIN_FILL_GAP(t, 216);
-    STANDIN_FILL_GAP(t, 232);
     STANDIN_FILL_GAP(t, 248);
     STANDIN_FILL_GAP(t, 328);
     return t;

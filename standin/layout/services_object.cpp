@@ -1,4 +1,6 @@
 // "LW Object Info 14" and "LW Bone Info 7".
+#include <array>
+
 #include "standin/core/gap_slots.h"
 #include "standin/layout/services.h"
 
@@ -34,6 +36,27 @@ const char* fileName(lw::ItemId id) {
   return giveText(object->source->path);
 }
 
+lw::ItemId boneSource(lw::ItemId id) {
+  const HostCall call("LWObjectInfo::boneSource");
+  const Item* object = checkedObject(call, id);
+  return object == nullptr || call.refused() ? nullptr : currentScene().idOf(object->object.boneSource);
+}
+
+// The command knows four modes, the query three: whether bones act after morphing is a flag of its own.
+unsigned boneMode(lw::ItemId id) {
+  constexpr std::array<unsigned, 4> kModeOfCommand{0, 0, 1, 2};
+  const HostCall call("LWObjectInfo::boneMode");
+  const Item* object = checkedObject(call, id);
+  if (object == nullptr || call.refused()) return 0;
+  return kModeOfCommand.at(static_cast<std::size_t>(object->object.boneMode));
+}
+
+unsigned numLimitedBones(lw::ItemId id) {
+  const HostCall call("LWObjectInfo::numLimitedBones");
+  const Item* object = checkedObject(call, id);
+  return object == nullptr || call.refused() ? 0 : static_cast<unsigned>(object->object.limitedBones);
+}
+
 int layerLoaded(lw::ItemId id) {
   const HostCall call("LWObjectInfo::layerLoaded");
   const Item* object = checkedObject(call, id);
@@ -66,6 +89,24 @@ unsigned boneFlags(lw::ItemId id) {
   return flags;
 }
 
+double strength(lw::ItemId id) {
+  const HostCall call("LWBoneInfo::strength");
+  const Item* bone = checkedBone(call, id);
+  return bone == nullptr || call.refused() ? 0 : bone->bone.strength;
+}
+
+int falloff(lw::ItemId id) {
+  const HostCall call("LWBoneInfo::falloff");
+  const Item* bone = checkedBone(call, id);
+  return bone == nullptr || call.refused() ? 0 : bone->bone.falloff;
+}
+
+int boneType(lw::ItemId id) {
+  const HostCall call("LWBoneInfo::type");
+  const Item* bone = checkedBone(call, id);
+  return bone == nullptr || call.refused() ? 0 : bone->bone.type;
+}
+
 const char* weightMap(lw::ItemId id) {
   const HostCall call("LWBoneInfo::weightMap");
   const Item* bone = checkedBone(call, id);
@@ -80,9 +121,14 @@ lw::LWObjectInfo* objectInfoTable() {
   static lw::LWObjectInfo table = [] {
     lw::LWObjectInfo t{};
     t.filename = &fileName;
+    t.boneSource = &boneSource;
     t.layerLoaded = &layerLoaded;
+    t.boneMode = &boneMode;
+    t.numLimitedBones = &numLimitedBones;
     STANDIN_FILL_GAP(t, 8);
+    STANDIN_FILL_GAP(t, 104);
     STANDIN_FILL_GAP(t, 288);
+    STANDIN_FILL_GAP(t, 392);
     return t;
   }();
   return &table;
@@ -93,8 +139,12 @@ lw::LWBoneInfo* boneInfoTable() {
     lw::LWBoneInfo t{};
     t.flags = &boneFlags;
     t.weightMap = &weightMap;
+    t.strength = &strength;
+    t.falloff = &falloff;
+    t.type = &boneType;
     STANDIN_FILL_GAP(t, 8);
-    STANDIN_FILL_GAP(t, 40);
+    STANDIN_FILL_GAP(t, 56);
+    STANDIN_FILL_GAP(t, 80);
     return t;
   }();
   return &table;

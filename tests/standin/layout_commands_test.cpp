@@ -2,6 +2,7 @@
 #include <cmath>
 #include <cstdio>
 
+#include "objectfile/temporary_folder.h"
 #include "standin/layout/command_table.h"
 #include "tests/standin/layout_fixture.h"
 
@@ -200,6 +201,7 @@ TEST(Falloff, CountsFromOneInTheCommandAndFromZeroInTheBone) {
   Item& bone = session.selectedBone();
   session.send("BoneFalloffType 3");
   EXPECT_EQ(bone.bone.falloff, 2);
+  EXPECT_EQ(session.bones()->falloff(session.id(bone)), 2);
 }
 
 TEST(BoneNumbers, AreOfTheBone) {
@@ -207,8 +209,8 @@ TEST(BoneNumbers, AreOfTheBone) {
   Item& bone = session.selectedBone();
   session.send("BoneType 1");
   session.send("BoneStrength 0.25");
-  EXPECT_EQ(bone.bone.type, 1);
-  EXPECT_EQ(bone.bone.strength, 0.25);
+  EXPECT_EQ(session.bones()->type(session.id(bone)), 1);
+  EXPECT_EQ(session.bones()->strength(session.id(bone)), 0.25);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -221,19 +223,33 @@ TEST(BoneMode, IsANumberOfTheObject) {
   EXPECT_EQ(session.object()->object.boneMode, 3);
 }
 
+// The query knows nothing of the mode after morphing, so that it counts one less.
+TEST(BoneMode, IsCountedOtherwiseByTheQuery) {
+  LayoutSession session;
+  session.selectedBone();
+  const lw::ItemId object = session.id(*session.object());
+  std::vector<unsigned> modes;
+  for (const char* command : {"BoneMode 0", "BoneMode 1", "BoneMode 2", "BoneMode 3"}) {
+    session.send(command);
+    modes.push_back(session.objects()->boneMode(object));
+  }
+  EXPECT_EQ(modes, (std::vector<unsigned>{0, 0, 1, 2}));
+}
+
 TEST(LimitedBones, AreANumberOfTheObject) {
   LayoutSession session;
   session.selectedBone();
   session.send("NumLimitedBones 7");
-  EXPECT_EQ(session.object()->object.limitedBones, 7);
+  EXPECT_EQ(session.objects()->numLimitedBones(session.id(*session.object())), 7U);
 }
 
 TEST(BoneSource, IsALinkOfTheObject) {
   LayoutSession session;
   session.selectedBone();
   Item& other = *session.scene().addObject(oneLayer({}), "other.lwo").front();
+  EXPECT_EQ(session.objects()->boneSource(session.id(*session.object())), nullptr);
   session.send(withItem("BoneSource", other));
-  EXPECT_EQ(session.object()->object.boneSource, &other);
+  EXPECT_EQ(session.objects()->boneSource(session.id(*session.object())), session.id(other));
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
@@ -250,8 +266,8 @@ TEST(Links, ShowInTheItemInfo) {
     ASSERT_EQ(session.send(withItem(command, null)), 1) << command;
   }
   const lw::LWItemInfo* info = session.items();
-  EXPECT_EQ(bone.settings.target, &null);
-  EXPECT_EQ(bone.settings.pole, &null);
+  EXPECT_EQ(info->target(id), other);
+  EXPECT_EQ(info->pole(id), other);
   EXPECT_EQ(info->goal(id), other);
   EXPECT_EQ(info->sameItem(id, lw::kParamPosition), other);
   EXPECT_EQ(info->sameItem(id, lw::kParamRotation), other);
@@ -268,12 +284,11 @@ TEST(Links, AreNoneAtFirst) {
 
 TEST(IkQueries, ShowObjectiveInitialStateAndOrder) {
   LayoutSession session;
-  Item& bone = session.selectedBone();
-  const lw::ItemId id = session.id(bone);
+  const lw::ItemId id = session.id(session.selectedBone());
   session.send("GoalObjective 2");
   session.send("IKInitialState 3");
   session.send("RotationOrder 1");
-  EXPECT_EQ(bone.settings.ik.objective, 2);
+  EXPECT_EQ(session.items()->goalObjective(id), 2U);
   EXPECT_EQ(session.items()->ikInitialState(id), 3U);
   EXPECT_EQ(session.items()->rotationOrder(id), 1);
 }
@@ -333,6 +348,68 @@ TEST(Selection, IsReplacedAndGrownInOrder) {
   EXPECT_FALSE(a.selected);
 }
 
+TEST(LoadObject, MakesAnItemOfEachLayerAndLeavesTheSelection) {
+  LayoutSession session;
+  Item& before = session.scene().addNull("Before");
+  session.host.select({&before});
+  const TemporaryFolder folder;
+  ObjectFile file;
+  file.layers.resize(2);
+  file.layers[1].number = 1;
+  file.layers[1].name = "Second";
+  ASSERT_FALSE(writeObject(file, folder.file("two layers.lwo")));
+  ASSERT_EQ(session.send("LoadObject " + folder.file("two layers.lwo")), 1) << session.lastReason();
+  ASSERT_EQ(session.scene().objects().size(), 3U);
+  EXPECT_EQ(session.scene().nameOf(*session.scene().objects()[2]), "two layers:Second");
+  EXPECT_EQ(session.scene().selection(), std::vector<Item*>{&before});
+}
+
+TEST(LoadObject, OfAFileThatIsNotThereIsRejectedWithTheReason) {
+  LayoutSession session;
+  EXPECT_EQ(session.send("LoadObject no/such.lwo"), 0);
+  EXPECT_FALSE(session.lastReason().empty());
+  EXPECT_TRUE(session.scene().objects().empty());
+}
+
+// Layout strips no quote marks: they are part of the name.
+TEST(LoadObject, TakesQuoteMarksForPartOfTheName) {
+  LayoutSession session;
+  const TemporaryFolder folder;
+  ASSERT_FALSE(writeObject(oneLayer({}), folder.file("a.lwo")));
+  EXPECT_EQ(session.send("LoadObject \"" + folder.file("a.lwo") + "\""), 0);
+}
+
+TEST(ClearSelected, RemovesTheSelectedItemsWithTheirBones) {
+  LayoutSession session;
+  Item& bone = session.selectedBone();
+  Item& null = session.scene().addNull("Null");
+  Item& kept = session.scene().addNull("Kept");
+  session.host.select({session.object(), &bone, &null});
+  session.send("AutoConfirm 1");
+  ASSERT_EQ(session.send("ClearSelected"), 1);
+  EXPECT_EQ(session.scene().objects(), std::vector<Item*>{&kept});
+  EXPECT_FALSE(bone.alive);
+  EXPECT_TRUE(session.scene().selection().empty());
+}
+
+TEST(ClearSelected, WouldAskTheUserWithoutAutoConfirm) {
+  LayoutSession session;
+  Item& null = session.scene().addNull("Null");
+  session.host.select({&null});
+  EXPECT_EQ(session.send("ClearSelected"), 0);
+  EXPECT_EQ(session.host.transcript().count(EventKind::Asked), 1U);
+  EXPECT_TRUE(null.alive);
+}
+
+TEST(ClearSelected, IsRejectedWhereTheAnswerIsNo) {
+  LayoutSession session;
+  Item& null = session.scene().addNull("Null");
+  session.host.select({&null});
+  session.send("AutoConfirm -1");
+  EXPECT_EQ(session.send("ClearSelected"), 0);
+  EXPECT_TRUE(null.alive);
+}
+
 TEST(SkelegonsToBonesCommand, MakesBonesOfTheSelectedObject) {
   LayoutSession session;
   Item& object =
@@ -368,6 +445,22 @@ TEST(ProgramSwitches, AreSetByANumberAndFlippedWithout) {
   EXPECT_TRUE(session.host.state().motionControllersEnabled);
 }
 
+TEST(ProgramSwitches, ShowInTheInterfaceInfo) {
+  LayoutSession session;
+  EXPECT_EQ(session.interfaceInfo()->generalFlags, lw::kGeneralIK | lw::kGeneralMotionControllers);
+  session.send("EnableIK 0");
+  EXPECT_EQ(session.interfaceInfo()->generalFlags, lw::kGeneralMotionControllers);
+  session.send("EnableMC 0");
+  EXPECT_EQ(session.interfaceInfo()->generalFlags, 0U);
+}
+
+TEST(ProgramSwitches, TellOfParentInPlace) {
+  LayoutOptions options;
+  options.parentInPlace = true;
+  LayoutSession session(options);
+  EXPECT_TRUE(session.interfaceInfo()->generalFlags & lw::kGeneralParentInPlace);
+}
+
 TEST(ProgramSwitches, IncludeDeformations) {
   LayoutSession session;
   session.send("EnableDeformations 0");
@@ -388,8 +481,8 @@ TEST(Look, IsOfTheItem) {
   session.host.select({&null});
   session.send("ItemVisibility 7");
   session.send("ItemColor 11");
-  EXPECT_EQ(null.settings.visibility, 7);
-  EXPECT_EQ(null.settings.colour, 11);
+  EXPECT_EQ(session.interfaceInfo()->itemVis(session.id(null)), 7);
+  EXPECT_EQ(session.interfaceInfo()->itemColor(session.id(null)), 11);
 }
 
 TEST(AppliedServers, CountFromOne) {
@@ -527,7 +620,7 @@ TEST(Rejection, OfSkelegonsToBonesWithoutSkelegons) {
 
 TEST(CommandTable, HasEachNameOnce) {
   // The nine axes have six commands each; the rest stand alone.
-  EXPECT_EQ(commandTable().size(), 10U + 13U + 14U + 11U + 9U * 6U + 14U + 12U);
+  EXPECT_EQ(commandTable().size(), 12U + 13U + 14U + 11U + 9U * 6U + 14U + 12U);
 }
 
 }  // namespace

@@ -82,6 +82,24 @@ TEST(ItemParam, GivesWorldAxesWithTheirLengths) {
   EXPECT_EQ(position[0], 7);
 }
 
+TEST(ItemParam, GivesMotionPivotAndPivotRotation) {
+  LayoutSession session;
+  Item& null = session.scene().addNull("A");
+  null.motion[kAxisH].assign(0, 0.5);
+  null.motion[kAxisSX].assign(0, 4);
+  null.pivot = {1, 2, 3};
+  null.pivotRotation = {0.25, 0, 0};
+  const auto firstOf = [&](int param) {
+    double out[3] = {};
+    session.items()->param(session.id(null), param, 0, out);
+    return out[0];
+  };
+  EXPECT_EQ(firstOf(lw::kParamRotation), 0.5);
+  EXPECT_EQ(firstOf(lw::kParamScale), 4);
+  EXPECT_EQ(firstOf(lw::kParamPivot), 1);
+  EXPECT_EQ(firstOf(lw::kParamPivotRotation), 0.25);
+}
+
 TEST(ItemParam, ThatTheHostDoesNotKnowIsAFault) {
   LayoutSession session;
   double out[16] = {};
@@ -236,6 +254,12 @@ const Refusal kRefusals[] = {
     {"LWItemInfo::parent", [](LayoutSession& s, lw::ItemId bone) { return s.items()->parent(bone) == nullptr; }},
     {"LWItemInfo::chanGroup", [](LayoutSession& s, lw::ItemId bone) { return s.items()->chanGroup(bone) == nullptr; }},
     {"LWItemInfo::flags", [](LayoutSession& s, lw::ItemId bone) { return s.items()->flags(bone) == 0; }},
+    {"LWItemInfo::target", [](LayoutSession& s, lw::ItemId bone) { return s.items()->target(bone) == nullptr; }},
+    {"LWItemInfo::pole", [](LayoutSession& s, lw::ItemId bone) { return s.items()->pole(bone) == nullptr; }},
+    {"LWBoneInfo::falloff", [](LayoutSession& s, lw::ItemId bone) { return s.bones()->falloff(bone) == 0; }},
+    {"LWBoneInfo::strength", [](LayoutSession& s, lw::ItemId bone) { return s.bones()->strength(bone) == 0; }},
+    {"LWInterfaceInfo::itemColor",
+     [](LayoutSession& s, lw::ItemId bone) { return s.interfaceInfo()->itemColor(bone) == 0; }},
     {"LWBoneInfo::flags", [](LayoutSession& s, lw::ItemId bone) { return s.bones()->flags(bone) == 0; }},
     {"global lookup", [](LayoutSession& s, lw::ItemId) { return s.items() == nullptr; }},
     {"LW Command Interface", [](LayoutSession& s, lw::ItemId) { return s.send("RefreshNow") == 0; }},
