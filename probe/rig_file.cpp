@@ -7,6 +7,8 @@
 namespace probe {
 namespace {
 
+constexpr standin::FilePoint kRigPivot{0, 0, 0.5F};
+
 // The builder's own call would replace the first.
 void tagTwice(standin::ObjectFile& rig, const standin::RigBuilder::Skelegon& skelegon) {
   standin::ObjectLayer& layer = rig.layers[skelegon.layer];
@@ -27,7 +29,7 @@ standin::ObjectFile rig() {
   builder.child(root, kRigRight, {1, 2, 0});
   builder.child(left, kRigTip, {-2, 3, 0});
   builder.colour(left, kRigColour);
-  builder.layer(1, "");
+  builder.layer(1, "", kRigPivot);
   builder.root(kRigOther, {0, 0, 2}, {0, 1, 2});
   standin::ObjectFile file = builder.take();
   tagTwice(file, root);

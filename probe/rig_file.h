@@ -1,7 +1,7 @@
 // The rig that the probe brings along, as an object file in the system's temporary folder.
 //
 // Layer 0 "Probe" holds a face and four skelegons, in an order that is not that of their tree: Root; below it Left and Right;
-// Tip below Left. The second layer has no name and holds one more skelegon. There are two weight maps, one of which has no
+// Tip below Left. The second layer has no name, a pivot and one more skelegon. There are two weight maps, one of which has no
 // name. One polygon has two tags of one type, which a file can have and a program has to choose from.
 #pragma once
 

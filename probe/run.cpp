@@ -4,6 +4,7 @@
 
 #include "probe/ask.h"
 #include "probe/modeler_questions.h"
+#include "probe/layout_area.h"
 #include "probe/not_tellable.h"
 #include "probe/process_questions.h"
 
@@ -29,6 +30,7 @@ constexpr std::array kAreas{
     Area{"what only eyes can tell", kBoth, leaveWhatNobodyCanTell},
     Area{"the process", kBoth, measureProcess},
     Area{"objects and edits", kModeler, measureModeler},
+    Area{"items and commands", kLayout, measureLayout},
 };
 
 bool isIn(const Area& area, Program program) {

@@ -1,0 +1,13 @@
+// What is measured of Layout's scene, commands and items.
+#pragma once
+
+#include "probe/facts.h"
+#include "probe/host_access.h"
+
+namespace probe {
+
+// In an empty scene, which is empty again at the end, with selection and switches as they were. Throws Trouble, with nothing
+// done, where the host does not tell how they are.
+void measureLayout(Host& host, Facts& facts);
+
+}  // namespace probe

@@ -1,0 +1,109 @@
+// What is seen of Layout for people to read: names, bones and the encoding of commands.
+#include <array>
+#include <optional>
+
+#include "host/platform.h"
+#include "objectfile/rig_builder.h"
+#include "probe/layout_site.h"
+
+namespace probe::layout {
+namespace {
+
+// Which code pages have these differs; every system has one of them.
+constexpr std::array<const char*, 4> kLetters{"\xE6\x97\xA5\xE6\x9C\xAC", "\xC3\xA9", "\xD0\x96", "\xCE\xA9"};
+
+std::string bytes(const std::string& text) {
+  constexpr char kDigits[] = "0123456789ABCDEF";
+  std::string shownBytes;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    shownBytes += {shownBytes.empty() ? '\0' : ' ', kDigits[byte >> 4], kDigits[byte & 0xF]};
+  }
+  std::erase(shownBytes, '\0');
+  return shownBytes;
+}
+
+std::string encoding(LayoutSite& site) {
+  for (const std::string letters : kLetters) {
+    const std::optional<std::string> narrow = platform::exactNarrow(letters);
+    if (!narrow) continue;
+    const std::string name = "VarnelProbe" + letters;
+    const Items before = site.scene.objects();
+    site.scene.host().mustDo("AddNull " + name);
+    const Items came = added(before, site.scene.objects());
+    std::string seen = "AddNull with the letters \"" + letters + "\" as the bytes " + bytes(*narrow) + " made ";
+    return seen + site.scene.namesOf(came);
+  }
+  return "the system's code page has none of the letters that are tried";
+}
+
+std::string layers(LayoutSite& site) {
+  std::string seen;
+  for (lw::ItemId item : site.rig().items()) {
+    seen += (seen.empty() ? "" : ", ") + site.scene.namesOf({item}) + " holds layer " +
+            std::to_string(site.scene.objectInfo().layerLoaded(item));
+  }
+  return "the items of varnel-probe.lwo, with a layer \"" + std::string(kRigLayer) + "\" and one without a name: " + seen;
+}
+
+// A file of a single layer, by whose name some hosts call the item and others not.
+std::string oneLayer(LayoutSite& site) {
+  const standin::TemporaryFolder folder;
+  const std::string path = folder.file("varnel-one.lwo");
+  standin::RigBuilder builder;
+  builder.layer(0, "Named");
+  builder.root("ProbeAlone", {0, 0, 0}, {0, 1, 0});
+  if (const auto failure = standin::writeObject(builder.take(), path)) throw Trouble{failure->text};
+  const Items before = site.scene.objects();
+  site.scene.host().mustDo("LoadObject " + path);
+  const Items came = added(before, site.scene.objects());
+  const std::string layer = came.empty() ? "" : ", layer " + std::to_string(site.scene.objectInfo().layerLoaded(came[0]));
+  return "the item of varnel-one.lwo, with the one layer \"Named\": " + site.scene.namesOf(came) + layer;
+}
+
+std::string bones(LayoutSite& site) {
+  std::string seen;
+  for (lw::ItemId bone : site.rig().bones()) {
+    seen += (seen.empty() ? "" : "; ") + site.scene.namesOf({bone}) + " below " +
+            site.scene.namesOf({site.scene.items().parent(bone)}) + ", at " +
+            shown(site.scene.param(bone, lw::kParamPosition)) + ", colour " +
+            std::to_string(site.scene.interfaceInfo().itemColor(bone));
+  }
+  return seen.empty() ? "SkelegonsToBones made none" : seen;
+}
+
+std::string switchesNow(LayoutSite& site) {
+  const unsigned flags = site.scene.interfaceInfo().generalFlags;
+  const auto word = [&](unsigned bit) { return (flags & bit) != 0 ? "on" : "off"; };
+  return std::string("parent in place ") + word(lw::kGeneralParentInPlace) + ", IK " + word(lw::kGeneralIK) +
+         ", motion controllers " + word(lw::kGeneralMotionControllers);
+}
+
+// EnableDeformations is not sent: nothing shows its state, so that it could not be left as it was.
+std::string motionControllers(LayoutSite& site) {
+  return switchAnswer(site.scene, "EnableMC", lw::kGeneralMotionControllers).seen;
+}
+
+struct FigureRow {
+  const char* name;
+  std::string (*tell)(LayoutSite&);
+};
+
+constexpr std::array<FigureRow, 6> kFigures{{
+    {"switches of the program", switchesNow},
+    {"EnableMC", motionControllers},
+    {"items of a file with two layers", layers},
+    {"item of a file with one layer", oneLayer},
+    {"bones of skelegons", bones},
+    {"encoding of commands", encoding},
+}};
+
+}  // namespace
+
+void tellLayoutFigures(LayoutSite& site, Facts& facts) {
+  for (const FigureRow& row : kFigures) {
+    facts.figure(row.name, answerOf([&] { return other(row.tell(site)); }).seen);
+  }
+}
+
+}  // namespace probe::layout

@@ -1,0 +1,54 @@
+// What the probe tells of Layout, in each host that the stand-in can play.
+#include "standin/variants/variants.h"
+#include "tests/probe/probe_fixture.h"
+
+namespace standin {
+namespace {
+
+// The facts of a file as a host to play.
+HostChoice choiceIn(const std::string& facts) {
+  HostChoice choice;
+  const auto file = nlohmann::json::parse(facts);
+  for (const auto& fact : file.at("facts")) {
+    if (fact.at("value").is_string())
+      (void)choice.choose(fact.at("name").get<std::string>(), fact.at("value").get<std::string>());
+  }
+  return choice;
+}
+
+std::string seenIn(const std::string& facts, const std::string& name) {
+  const auto file = nlohmann::json::parse(facts);
+  for (const auto& fact : file.at("facts")) {
+    if (fact.at("name") == name) return fact.at("seen");
+  }
+  return "not asked";
+}
+
+class LayoutVariant : public Probing, public testing::WithParamInterface<HostChoice> {};
+
+std::string testName(const testing::TestParamInfo<HostChoice>& info) {
+  std::string name = info.param.text();
+  for (char& c : name) {
+    if (std::isalnum(static_cast<unsigned char>(c)) == 0) c = '_';
+  }
+  return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, LayoutVariant, testing::ValuesIn(singleChoices(layoutVariants())), testName);
+
+TEST_P(LayoutVariant, IsTold) {
+  const MeasuredHost measured = inLayout(GetParam().options());
+  EXPECT_EQ(measured.complaints, "");
+  const HostChoice told = choiceIn(measured.facts);
+  EXPECT_TRUE(told.options().layout == GetParam().options().layout) << "told: " << told.text();
+}
+
+TEST_F(Probing, TellsEachRowOfLayoutInTheDefaultHost) {
+  const std::string facts = inLayout().facts;
+  for (const HostVariant& row : layoutVariants()) {
+    EXPECT_EQ(valueIn(facts, row.name), row.values.front().name) << row.name << ": " << seenIn(facts, row.name);
+  }
+}
+
+}  // namespace
+}  // namespace standin
