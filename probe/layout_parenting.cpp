@@ -34,15 +34,18 @@ Answer itemOrder(LayoutSite& site) {
   return now == Items{a, c, b} ? told("behind-parent", seen) : other(seen);
 }
 
+// Where new nulls come below what is selected, both come below the same null, which rests at 0.
+lw::ItemId nullBeside(LayoutSite& site, const char* name) {
+  site.scene.select({site.nulls().first().null});
+  return addNull(site.scene, name).null;
+}
+
 Answer parentInPlace(LayoutSite& site) {
   const LayoutScene& scene = site.scene;
   const Vector where{1, 2, 3};
   const Vector offset{10, 20, 40};
-  const lw::ItemId child = addNull(scene, "VarnelProbeChild").null;
-  const lw::ItemId above = addNull(scene, "VarnelProbeParent").null;
-  for (lw::ItemId item : {child, above}) {
-    if (scene.items().parent(item) != nullptr) throw Trouble{"a new null has a parent before it is given one"};
-  }
+  const lw::ItemId child = nullBeside(site, "VarnelProbeChild");
+  const lw::ItemId above = nullBeside(site, "VarnelProbeParent");
   scene.setPosition(child, where);
   scene.setPosition(above, offset);
   parent(scene, child, above);

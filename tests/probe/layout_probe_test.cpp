@@ -43,6 +43,39 @@ TEST_P(LayoutVariant, IsTold) {
   EXPECT_TRUE(told.options().layout == GetParam().options().layout) << "told: " << told.text();
 }
 
+// What differs in the process is told elsewhere, and changes nothing here.
+class LayoutProcess : public Probing, public testing::WithParamInterface<HostChoice> {};
+
+INSTANTIATE_TEST_SUITE_P(Rows, LayoutProcess, testing::ValuesIn(singleChoices(programVariants())), testName);
+
+TEST_P(LayoutProcess, ChangesNothingThatIsToldOfLayout) {
+  EXPECT_TRUE(choiceIn(inLayout(GetParam().options()).facts).options().layout == LayoutOptions());
+}
+
+// A host by chance in all that is told of Layout. Where another plug-in acts, some of it cannot be told.
+HostChoice layoutByChance(std::uint64_t seed) {
+  const std::vector<std::string> words = HostChoice::mixture(seed).words();
+  HostChoice choice;
+  for (const HostVariant& row : layoutVariants()) {
+    for (const std::string& word : words) {
+      if (word.starts_with(std::string(row.name) + "=") && row.name != std::string("other-plugin")) (void)choice.take(word);
+    }
+  }
+  return choice;
+}
+
+class LayoutMixture : public Probing, public testing::WithParamInterface<std::uint64_t> {};
+
+INSTANTIATE_TEST_SUITE_P(Seeds, LayoutMixture, testing::Range(std::uint64_t{1}, std::uint64_t{41}));
+
+TEST_P(LayoutMixture, IsTold) {
+  const HostChoice played = layoutByChance(GetParam());
+  const MeasuredHost measured = inLayout(played.options());
+  EXPECT_EQ(measured.complaints, "");
+  const HostChoice told = choiceIn(measured.facts);
+  EXPECT_TRUE(told.options().layout == played.options().layout) << "played: " << played.text() << "\ntold: " << told.text();
+}
+
 TEST_F(Probing, TellsEachRowOfLayoutInTheDefaultHost) {
   const std::string facts = inLayout().facts;
   for (const HostVariant& row : layoutVariants()) {
