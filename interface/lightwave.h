@@ -441,12 +441,16 @@ enum ControlAttribute : int {
   kControlLabelWidth = 9,
   kControlMouseX = 10,
   kControlMouseY = 11,
+  kControlFlags = 12,
   kControlDrawCallback = 13,
   kControlEventCallback = 14,
+  kControlLabel = 15,  // a text
   kControlUserData = 16,
   kControlMouseButton = 22,
   kControlClickCount = 24,
 };
+
+enum ControlFlags : int { kControlErased = 0x200 };
 
 enum DrawMode : int { kDrawErase = 0, kDrawRender = 1, kDrawRefresh = 3 };
 enum PanelOpenFlags : int {

@@ -14,7 +14,7 @@ namespace standin {
 namespace {
 
 // How an attribute travels in the value union. The type code is looked at for all but pointers.
-enum class Carrier { Integer, Value, Pointer };
+enum class Carrier { Integer, Value, Text, Pointer };
 
 struct AttributeRow {
   int attribute;
@@ -39,8 +39,10 @@ constexpr std::array kAttributes{
     AttributeRow{lw::kControlLabelWidth,          "label width",        Carrier::Integer, true,  false},
     AttributeRow{lw::kControlMouseX,              "mouse x",            Carrier::Integer, true,  false},
     AttributeRow{lw::kControlMouseY,              "mouse y",            Carrier::Integer, true,  false},
+    AttributeRow{lw::kControlFlags,               "flags",              Carrier::Integer, true,  false},
     AttributeRow{lw::kControlDrawCallback,        "draw callback",      Carrier::Pointer, true,  true},
     AttributeRow{lw::kControlEventCallback,       "event callback",     Carrier::Pointer, true,  true},
+    AttributeRow{lw::kControlLabel,               "label",              Carrier::Text,    true,  false},
     AttributeRow{lw::kControlUserData,            "user data",          Carrier::Pointer, true,  true},
     AttributeRow{lw::kControlMouseButton,         "mouse button",       Carrier::Integer, true,  false},
     AttributeRow{lw::kControlClickCount,          "click count",        Carrier::Integer, true,  false},
@@ -68,13 +70,14 @@ bool isTypeRight(const Control& control, const AttributeRow& row, int type) {
   switch (row.carrier) {
     case Carrier::Integer: return type == lw::kValueInteger;
     case Carrier::Value: return type == typeOf(control.kind->value);
+    case Carrier::Text: return type == lw::kValueString;
     case Carrier::Pointer: return true;
   }
   return false;
 }
 
 bool carriesText(const Control& control, const AttributeRow& row) {
-  return row.carrier == Carrier::Value && control.kind->value == ValueForm::String;
+  return row.carrier == Carrier::Text || (row.carrier == Carrier::Value && control.kind->value == ValueForm::String);
 }
 
 std::string attributeOf(const AttributeRow& row, const Control& control) {
@@ -137,6 +140,7 @@ int integerOf(const Control& control, int attribute) {
     case lw::kControlLabelWidth: return control.labelWidth();
     case lw::kControlMouseX: return control.mouseX - (panels().options.mouseFromControl ? control.hot().x : 0);
     case lw::kControlMouseY: return control.mouseY - (panels().options.mouseFromControl ? control.hot().y : 0);
+    case lw::kControlFlags: return control.isErased ? lw::kControlErased : 0;
     case lw::kControlMouseButton: return control.mouseButton;
     case lw::kControlClickCount: return control.clickCount;
     default: return 0;
@@ -165,6 +169,7 @@ void get(lw::LWControl* face, int attribute, lw::LWValue* value) {
   switch (row->carrier) {
     case Carrier::Integer: value->intv.value = integerOf(*control, attribute); break;
     case Carrier::Value: giveValue(*control, *value); break;
+    case Carrier::Text: giveText(control->label.read(), value->str); break;
     case Carrier::Pointer: value->ptr.ptr = pointerOf(*control, attribute); break;
   }
 }
@@ -251,6 +256,7 @@ void set(lw::LWControl* face, int attribute, lw::LWValue* value) {
       takeValue(*control, *value);
       if (panels().options.asksPopupsAnytime) askAnything(*control);
       break;
+    case Carrier::Text: break;  // the only one, the label, is not written
     case Carrier::Pointer: takePointer(*control, attribute, value->ptr.ptr); break;
   }
   panels().changed(*control);

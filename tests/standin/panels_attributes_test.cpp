@@ -135,6 +135,55 @@ TEST_F(ControlAttributes, PaddingComesOnTopWhereTheHostHasIt) {
             getInteger(check, lw::kControlWidth));
 }
 
+TEST_F(ControlAttributes, TheFlagsTellWhatIsErased) {
+  lw::LWControl* check = add(panel, ControlKind::Bool);
+  check->draw(check, lw::kDrawErase);
+  EXPECT_EQ(lw::kControlErased, getInteger(check, lw::kControlFlags));
+}
+
+TEST_F(ControlAttributes, TheFlagsOfWhatIsShownAreEmpty) {
+  lw::LWControl* check = add(panel, ControlKind::Bool);
+  check->draw(check, lw::kDrawErase);
+  check->draw(check, lw::kDrawRender);
+  EXPECT_EQ(0, getInteger(check, lw::kControlFlags));
+}
+
+TEST_F(ControlAttributes, FlagsCannotBeSet) {
+  setInteger(add(panel, ControlKind::Bool), lw::kControlFlags, lw::kControlErased);
+  EXPECT_THAT(takeFaults(), testing::HasSubstr("attribute 12 (flags)"));
+}
+
+TEST_F(ControlAttributes, ALabelIsReadIntoTheCallersBuffer) {
+  EXPECT_EQ("Label", getText(add(panel, ControlKind::Bool, "Label"), lw::kControlLabel));
+}
+
+TEST_F(ControlAttributes, AControlWithoutALabelGivesAnEmptyOne) {
+  EXPECT_EQ("", getText(add(panel, ControlKind::Bool), lw::kControlLabel));
+}
+
+TEST_F(ControlAttributes, ALabelThatTheModuleChangedIsReadAnew) {
+  std::string label = "Before";
+  lw::LWControl* check = add(panel, ControlKind::Bool, label.c_str());
+  label = "After";
+  EXPECT_EQ("After", getText(check, lw::kControlLabel));
+}
+
+TEST_F(ControlAttributes, ALabelThatTheHostCopiedStaysAsItWas) {
+  panels().options.copiesTexts = true;
+  std::string label = "Before";
+  lw::LWControl* check = add(panel, ControlKind::Bool, label.c_str());
+  label = "After";
+  EXPECT_EQ("Before", getText(check, lw::kControlLabel));
+}
+
+TEST_F(ControlAttributes, ALabelWithoutABufferIsAFault) {
+  lw::LWControl* check = add(panel, ControlKind::Bool, "Label");
+  lw::LWValue value{};
+  value.str = {lw::kValueString, nullptr, 10};
+  check->get(check, lw::kControlLabel, &value);
+  EXPECT_THAT(takeFaults(), testing::HasSubstr("attribute 15 (label)"));
+}
+
 TEST_F(ControlAttributes, PointersTravelWhateverTheTypeCodeSays) {
   lw::LWControl* check = add(panel, ControlKind::Bool);
   lw::LWValue value{};

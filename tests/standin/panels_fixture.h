@@ -143,11 +143,11 @@ class PanelsTest : public testing::Test {
     value.str = {lw::kValueString, text.data(), static_cast<int>(text.size())};
     control->set(control, lw::kControlValue, &value);
   }
-  static std::string getText(lw::LWControl* control) {
+  static std::string getText(lw::LWControl* control, int attribute = lw::kControlValue) {
     std::array<char, 256> buffer{};
     lw::LWValue value{};
     value.str = {lw::kValueString, buffer.data(), static_cast<int>(buffer.size()) - 1};
-    control->get(control, lw::kControlValue, &value);
+    control->get(control, attribute, &value);
     return buffer.data();
   }
   void setNumber(lw::PanelId panel, int attribute, int number) const { services->set(panel, attribute, &number); }
