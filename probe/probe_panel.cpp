@@ -65,7 +65,10 @@ void CProbePanel::open(const Host& host) {
   panels_->open(panel_, lw::kOpenNoButtons);
 }
 
-void CProbePanel::forget() { panel_ = nullptr; }
+void CProbePanel::forget() {
+  panel_ = nullptr;
+  trial_.forget();
+}
 
 void CProbePanel::say(const std::string& line) const {
   setText(now_, line);
@@ -83,6 +86,16 @@ void CProbePanel::start() {
     if (const std::string why = refusal(host_); !why.empty()) return say(why);
     facts_ = {};
     measureAlone(host_, facts_, [this](const std::string& what) { say("Measuring " + what); });
+    save();  // what is told so far, should the user not go on
+    say("Go on in the next panel");
+    trial_.begin(host_, facts_, [this] { saveAndSay(); });
+  } catch (const Trouble& trouble) {
+    say(trouble.why);
+  }
+}
+
+void CProbePanel::saveAndSay() {
+  try {
     save();
   } catch (const Trouble& trouble) {
     say(trouble.why);

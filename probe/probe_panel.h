@@ -5,6 +5,7 @@
 
 #include "probe/facts.h"
 #include "probe/host_access.h"
+#include "probe/trial.h"
 
 namespace probe {
 
@@ -23,6 +24,7 @@ class CProbePanel {
   void make();
   void start();
   void save();
+  void saveAndSay();
   void say(const std::string& line) const;
 
   static void onStart(lw::LWControl* control, void* user);
@@ -33,6 +35,7 @@ class CProbePanel {
   lw::LWControl* file_ = nullptr;
   lw::LWControl* now_ = nullptr;
   Facts facts_;
+  CTrial trial_;
 };
 
 CProbePanel& probePanel();

@@ -5,9 +5,9 @@
 #include "objectfile/file_bytes.h"
 #include "standin/core/module_file.h"
 #include "standin/core/witness.h"
+#include "standin/measure/hands.h"
 #include "standin/modeler/mesh_edit.h"
 #include "standin/panels/panel.h"
-#include "standin/panels/person.h"
 #include "standin/variants/played_host.h"
 
 namespace standin {
@@ -15,13 +15,10 @@ namespace {
 
 constexpr const char* kProbe = "Varnel:HostFacts";
 
-void must(const Done& done) {
-  if (!done) throw std::runtime_error("the hands cannot: " + done.why);
-}
-
 MeasuredHost handle(Panel& panel, const std::string& file) {
   must(person::type(panel.find("File"), file));
   must(person::press(panel.find("Start")));
+  playHands();
   MeasuredHost measured;
   const Control* const now = panel.find("Now");
   if (now != nullptr) measured.last = now->shown();
