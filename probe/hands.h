@@ -1,6 +1,7 @@
 // What only hands can do: three panels that ask for it, one after the other, and what it tells.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
@@ -16,6 +17,7 @@ inline constexpr const char* kNotReached = "the user did not come to this";
 struct Step {
   std::unique_ptr<CTrialPanel> panel;
   std::string whyNot = kNotReached;  // empty: it was done
+  std::size_t start = 0;             // of the user's doing in the log: a host may fire events for what the probe sets
 };
 
 struct Hands {

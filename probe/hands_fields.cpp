@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <numbers>
+#include <span>
 #include <string>
 
 #include "probe/ask.h"
@@ -24,16 +25,17 @@ std::string text(double number) {
   return {buffer.data(), end.ptr};
 }
 
-const Log& logOf(const Step& step) {
+// What came while the user was at it.
+std::span<const Called> logOf(const Step& step) {
   if (!step.whyNot.empty()) throw Trouble{step.whyNot};
-  return step.panel->log();
+  return std::span(step.panel->log()).subspan(step.start);
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Lists
 
 Answer sameChoice(Hands& hands) {
-  const Log& log = logOf(hands.fields);
+  const std::span<const Called> log = logOf(hands.fields);
   const auto isEvent = [&](const Called& c) { return c.call == Call::Event && c.control == hands.list; };
   const auto events = std::count_if(log.begin(), log.end(), isEvent);
   if (events > 0) {
@@ -63,7 +65,7 @@ Answer silentMenu(Hands& hands, const Facts& facts) {
 // Fields
 
 Answer typing(Hands& hands) {
-  const Log& log = logOf(hands.fields);
+  const std::span<const Called> log = logOf(hands.fields);
   std::string values;
   bool isByLetters = false;
   for (const Called& called : log) {

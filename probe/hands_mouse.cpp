@@ -47,10 +47,10 @@ Told toldBy(const Log& log, Test&& test) {
   return told;
 }
 
-// Where events paint too, one that tells nothing new is a paint.
+// Where events paint too, one that tells nothing new may be a paint; unless there are just those that the user made.
 Told eventsOf(const CTrialPanel& panel, bool eventsPaint) {
   Told told = toldBy(panel.log(), [&](const Called& c) { return c.call == Call::Event && c.control == panel.area(); });
-  if (!eventsPaint) return told;
+  if (!eventsPaint || told.size() == kPressesOfTheMouseStep) return told;
   const auto isRepeated = [](const Called& a, const Called& b) { return a.mouse == b.mouse; };
   told.erase(std::unique(told.begin(), told.end(), isRepeated), told.end());
   return told;
@@ -151,11 +151,12 @@ Answer clicks(Hands& hands, bool eventsPaint) {
     return std::chrono::duration_cast<milliseconds>(presses[i + 1].when - presses[i].when);
   };
   const int first = presses[0].mouse.clicks, second = presses[1].mouse.clicks, third = presses[2].mouse.clicks;
-  const std::string seen = "three presses, the third elsewhere, " + std::to_string(between(0).count()) + " and " +
-                           std::to_string(between(1).count()) + " ms after the one before, counted " +
-                           std::to_string(first) + ", " + std::to_string(second) + ", " + std::to_string(third);
+  const std::string seen = "three presses, the third elsewhere, counted " + std::to_string(first) + ", " +
+                           std::to_string(second) + ", " + std::to_string(third);
   if (first == 0 && second == 0 && third == 0) return told("never", seen);
-  if (between(0) > kQuick || between(1) > kQuick) return notTold("not quick enough: " + seen);
+  if (between(0) > kQuick || between(1) > kQuick)
+    return notTold("the presses were " + std::to_string(between(0).count()) + " and " + std::to_string(between(1).count()) +
+                   " ms apart, which is not quick enough: " + seen);
   if (first == 1 && second == 1 && third == 1) return told("constant", seen);
   if (first != 1 || second != 2) return other(seen);
   return told(third == 1 ? "place" : "time", seen);

@@ -32,12 +32,14 @@ CTrialPanel& make(Step& step, lw::LWPanelFuncs& panels, const char* title, const
   return *step.panel;
 }
 
-void show(CTrialPanel& panel, int flags, const Ways& ways) {
+void show(Step& step, int flags, const Ways& ways) {
+  CTrialPanel& panel = *step.panel;
   panel.addButton("Done", ways.done);
   panel.addButton("Skip", ways.skip, CTrialPanel::Where::Beside);
   panel.onUsersClosing(ways.closed);
   panel.layOut();
   panel.open(flags);
+  step.start = panel.log().size();
 }
 
 }  // namespace
@@ -51,7 +53,7 @@ void openMouseStep(Hands& hands, lw::LWPanelFuncs& panels, const Ways& ways) {
     const auto isPress = [](const Called& c) { return c.call == Call::ButtonHook && (c.bits & lw::kMouseDown) != 0; };
     if (std::count_if(log.begin(), log.end(), isPress) >= kPressesOfTheMouseStep) panel.dropMouseHooks();
   });
-  show(panel, lw::kOpenNoButtons | lw::kOpenResizable, ways);
+  show(hands.mouse, lw::kOpenNoButtons | lw::kOpenResizable, ways);
 }
 
 void openFieldsStep(Hands& hands, lw::LWPanelFuncs& panels, const Ways& ways) {
@@ -68,13 +70,13 @@ void openFieldsStep(Hands& hands, lw::LWPanelFuncs& panels, const Ways& ways) {
   setInteger(hands.slider, kFirstWhole);
   setReal(hands.percent, kFirstPercent);
   setReal(hands.angle, kFirstAngle * kDegree);
-  show(panel, lw::kOpenNoButtons | lw::kOpenResizable, ways);
+  show(hands.fields, lw::kOpenNoButtons | lw::kOpenResizable, ways);
 }
 
 void openWheelStep(Hands& hands, lw::LWPanelFuncs& panels, const Ways& ways) {
   CTrialPanel& panel = make(hands.wheel, panels, kWheelTitle, kWheelLines);
   panel.addArea(kAreaWidth, kAreaHeight);
-  show(panel, lw::kOpenMouse | lw::kOpenNoButtons | lw::kOpenResizable, ways);
+  show(hands.wheel, lw::kOpenMouse | lw::kOpenNoButtons | lw::kOpenResizable, ways);
 }
 
 void mouseStepDone(Hands& hands) {

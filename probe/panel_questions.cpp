@@ -199,12 +199,10 @@ Answer rows(CPanelSite& site) {
 
 Answer popupFunctions(CPanelSite& site) {
   const Log& log = site.panel().log();
-  const int names = countCalls(log, [](const Called& c) { return c.call == Call::PopupName; });
-  const int outside =
-      countCalls(log, [](const Called& c) { return c.call == Call::PopupName && (c.x < 0 || c.x >= kEntries); });
-  const std::string seen =
-      "before a menu was opened, names were asked for " + text(names) + " times, of these outside the list " + text(outside);
-  return told(outside > 0 ? "anytime" : "menu", seen);
+  const bool isAsked =
+      countCalls(log, [](const Called& c) { return c.call == Call::PopupName && (c.x < 0 || c.x >= kEntries); }) > 0;
+  return isAsked ? told("anytime", "before a menu was opened, names outside the list were asked for")
+                 : told("menu", "before a menu was opened, no name outside the list was asked for");
 }
 
 // Without a button down: with one it would be the mouse.

@@ -18,19 +18,19 @@ namespace standin {
 // The test programs lie in a folder below the modules'.
 inline std::string probePath() { return utf8Of(pathFromUtf8(programFolder()).parent_path() / VARNEL_PROBE); }
 
+// The value that the file holds for a question; empty when that is not told, or not asked.
+inline std::string valueIn(const std::string& facts, const std::string& name) {
+  const auto file = nlohmann::json::parse(facts);
+  for (const auto& fact : file.at("facts")) {
+    if (fact.at("name") == name && fact.at("value").is_string()) return fact.at("value");
+  }
+  return {};
+}
+
 class Probing : public testing::Test {
  protected:
   MeasuredHost inModeler(const HostOptions& host = {}) { return measuredModeler(probePath(), host, folder_.path()); }
   MeasuredHost inLayout(const HostOptions& host = {}) { return measuredLayout(probePath(), host, folder_.path()); }
-
-  // The value that the file holds for a question; empty when that is not told, or not asked.
-  static std::string valueIn(const std::string& facts, const std::string& name) {
-    const auto file = nlohmann::json::parse(facts);
-    for (const auto& fact : file.at("facts")) {
-      if (fact.at("name") == name && fact.at("value").is_string()) return fact.at("value");
-    }
-    return {};
-  }
 
  private:
   TemporaryFolder folder_;

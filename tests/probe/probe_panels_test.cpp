@@ -67,6 +67,32 @@ TEST_P(ProbedPanels, AreToldAsTheyArePlayed) {
 
 INSTANTIATE_TEST_SUITE_P(Variants, ProbedPanels, testing::ValuesIn(allPlayed()));
 
+// What was played, as far as the file does not tell it, and what the file tells.
+HostChoice completed(const std::string& facts, const HostChoice& played) {
+  HostChoice choice = hostIn(facts);
+  for (const std::string& word : played.words()) {
+    const std::string name = word.substr(0, word.find('='));
+    if (valueIn(facts, name).empty() && choice.take(word) != "") ADD_FAILURE() << word;
+  }
+  return choice;
+}
+
+struct ProbedMixtures : Probing, testing::WithParamInterface<int> {};
+
+TEST_P(ProbedMixtures, AreToldNothingWrong) {
+  const HostChoice host = HostChoice::mixture(static_cast<std::uint64_t>(GetParam()));
+  const MeasuredHost measured = inModeler(host.options());
+  EXPECT_EQ(measured.complaints, "");
+  EXPECT_EQ(completed(measured.facts, host).options().panels, host.options().panels) << host.text() << measured.facts;
+}
+
+TEST_P(ProbedMixtures, GiveTheSameFactsWhenTheyArePlayedAgain) {
+  const MeasuredHost first = inModeler(HostChoice::mixture(static_cast<std::uint64_t>(GetParam())).options());
+  EXPECT_EQ(inModeler(hostIn(first.facts).options()).facts, first.facts);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, ProbedMixtures, testing::Range(1, 31));
+
 TEST_F(Probing, TellsThePanelsOfLayoutAsThoseOfModeler) {
   const MeasuredHost measured = inLayout();
   EXPECT_EQ(measured.complaints, "");
