@@ -101,6 +101,7 @@ Answer resizeHook(CTrialPanel& panel) {
                          [](const Called& c) { return c.call == Call::Resized && c.within == Within::SetWidth; });
   };
   const int width = panel.measure(lw::kPanelWidth);
+  if (width <= 0) return notTold("the host told no width of an open panel");
   panel.setWidth(width + kWider);
   const bool isTaken = panel.measure(lw::kPanelWidth) == width + kWider;
   panel.setWidth(width);

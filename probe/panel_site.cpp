@@ -65,6 +65,7 @@ Reaction CPanelSite::react() {
   };
   const std::size_t before = resizes();
   const int width = panel_.measure(lw::kPanelWidth);
+  if (width <= 0) return reaction;
   panel_.setWidth(width + kWider);
   reaction.takesWidth = panel_.measure(lw::kPanelWidth) == width + kWider;
   panel_.setWidth(width);

@@ -21,6 +21,15 @@ void* currentContext() {
   return gl == nullptr ? nullptr : gl->currentContext();
 }
 
+// Without it some kinds do not bear opening, so a set that was dropped is made once more.
+void setUserData(lw::LWControl* control, void* user) {
+  lw::LWValue value;
+  value.ptr = {lw::kValuePointer, nullptr};
+  setPointer(control, lw::kControlUserData, user);
+  control->get(control, lw::kControlUserData, &value);
+  if (value.ptr.ptr != user) setPointer(control, lw::kControlUserData, user);
+}
+
 }  // namespace
 
 const char* kEntryNames[kEntries + 1] = {"First", "Second", "Third", nullptr};
@@ -60,7 +69,7 @@ void CTrialPanel::dropMouseHooks() const {
 lw::LWControl* CTrialPanel::add(const char* kind, lw::LWPanControlDesc what, const char* label, Reads reads, Where where) {
   lw::LWControl* const control = panels_.addControl(panel_, kind, &what, label);
   if (control == nullptr) throw Trouble{"the host makes no " + std::string(kind)};
-  setPointer(control, lw::kControlUserData, this);
+  setUserData(control, this);
   setCallback(control, lw::kControlEventCallback, &CTrialPanel::onEvent);
   if (where == Where::Below || rows_.empty()) rows_.emplace_back();
   rows_.back().push_back(control);

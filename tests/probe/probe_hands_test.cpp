@@ -1,0 +1,175 @@
+// The probe's panels in the hands of people who do not do all that they are asked for, and in hosts that fail.
+#include <optional>
+#include <stdexcept>
+
+#include "standin/core/witness.h"
+#include "standin/measure/hands.h"
+#include "standin/panels/geometry.h"
+#include "standin/panels/person.h"
+#include "standin/variants/played_host.h"
+#include "tests/probe/probe_fixture.h"
+
+namespace standin {
+namespace {
+
+struct ProbeInHands : testing::Test {
+  void SetUp() override { begin(); }
+  void TearDown() override { end(); }
+
+  void begin(const HostOptions& options = {}) {
+    host.emplace(options);
+    module.emplace();
+    ASSERT_EQ(module->load(probePath()), "");
+    activate();
+    must(person::type(own()->find("File"), folder.path() + "/facts.json"));
+  }
+  void end() {
+    if (!host) return;
+    panels().moduleUnloaded();
+    module->unload();
+    EXPECT_EQ(witness().report(), "");
+    module.reset();
+    host.reset();
+  }
+  void activate() { host->activate(*module, "Varnel:HostFacts"); }
+
+  static Panel* own() { return panels().find("Varnel:HostFacts"); }
+  // The one of the four that is open.
+  static Panel* shown() {
+    Panel* const panel = panels().find("Varnel probe ");
+    return panel != nullptr && panel->isOpen() ? panel : nullptr;
+  }
+  static void press(const char* button) { must(person::press(shown()->find(button))); }
+  static void start() { must(person::press(own()->find("Start"))); }
+  std::string facts() const {
+    const Outcome<std::string> bytes = readFileBytes(folder.path() + "/facts.json");
+    return bytes ? *bytes : "{\"facts\": []}";
+  }
+  std::string seen(const std::string& name) const {
+    const auto file = nlohmann::json::parse(facts());
+    for (const auto& fact : file.at("facts")) {
+      if (fact.at("name") == name) return fact.at("seen");
+    }
+    return {};
+  }
+
+  TemporaryFolder folder;
+  std::optional<PlayedModeler> host;
+  std::optional<ModuleFile> module;
+};
+
+TEST_F(ProbeInHands, WhatTheUserSkipsIsNotTold) {
+  start();
+  press("Next");
+  for (int step = 0; step < 3; ++step) press("Skip");
+  EXPECT_EQ(valueIn(facts(), "resize-hook"), "user");
+  for (const char* const name : {"mouse", "clicks", "typing", "same-choice", "wheel"}) {
+    EXPECT_EQ(valueIn(facts(), name), "");
+    EXPECT_EQ(seen(name), "the user skipped it") << name;
+  }
+}
+
+TEST_F(ProbeInHands, WhoWantsToDoNothingByHandSkipsItAtOnce) {
+  start();
+  press("Skip all by hand");
+  EXPECT_EQ(shown(), nullptr);
+  EXPECT_EQ(valueIn(facts(), "close-hook"), "always");
+  EXPECT_EQ(seen("mouse"), "the user skipped it");
+}
+
+TEST_F(ProbeInHands, ClosingAPanelEndsTheTrialAndTheFileTellsIt) {
+  start();
+  press("Next");
+  must(person::close(shown()));
+  EXPECT_EQ(shown(), nullptr);
+  EXPECT_EQ(valueIn(facts(), "sets"), "silent");
+  EXPECT_EQ(seen("typing"), "the user closed the panel");
+}
+
+TEST_F(ProbeInHands, StartingAnewBeginsWithTheFirstPanel) {
+  start();
+  press("Next");
+  start();
+  ASSERT_NE(shown(), nullptr);
+  EXPECT_EQ(shown()->title.read(), "Varnel probe 1 of 4");
+  EXPECT_EQ(panels().open().size(), 2U);
+}
+
+TEST_F(ProbeInHands, ActivatingAgainLeavesThePanelThatIsShown) {
+  start();
+  press("Next");
+  activate();
+  ASSERT_NE(shown(), nullptr);
+  EXPECT_EQ(shown()->title.read(), "Varnel probe 2 of 4");
+}
+
+TEST_F(ProbeInHands, ThePanelsOfATrialAreDestroyedByTheNext) {
+  start();
+  playHands();
+  const std::size_t left = panels().all().size();
+  start();
+  playHands();
+  EXPECT_EQ(panels().all().size(), left);
+}
+
+TEST_F(ProbeInHands, NothingDoneIsToldAsNothingDone) {
+  start();
+  press("Next");
+  for (int step = 0; step < 3; ++step) press("Done");
+  for (const char* const name : {"mouse", "clicks", "qualifiers", "typing", "same-choice", "range", "wheel", "drag-hook"})
+    EXPECT_EQ(valueIn(facts(), name), "") << seen(name);
+}
+
+TEST_F(ProbeInHands, AWheelTurnedTowardsTheUserTellsTheOtherWay) {
+  start();
+  press("Next");
+  press("Skip");
+  press("Skip");
+  const Control* const area = shown()->find(ControlKind::OpenGL);
+  must(person::wheel(shown(), area->hot().x, area->hot().y, -1));
+  press("Done");
+  EXPECT_EQ(valueIn(facts(), "wheel"), "down");
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+
+struct ProbeLayout : ProbeInHands, testing::WithParamInterface<const char*> {};
+
+TEST_P(ProbeLayout, HoldsAllThatItsPanelsShow) {
+  end();
+  HostChoice choice;
+  ASSERT_EQ(choice.take(GetParam()), "");
+  begin(choice.options());
+  EXPECT_EQ(layoutComplaints(*own()), "");
+  start();
+  for (const char* const button : {"Next", "Skip", "Skip", "Skip"}) {
+    EXPECT_EQ(layoutComplaints(*shown()), "");
+    press(button);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Metrics, ProbeLayout, testing::Values("rows=18", "rows=20", "rows=22", "padding=3"));
+
+// ---------------------------------------------------------------------------------------------------------------------
+
+TEST_F(ProbeInHands, AHostThatRefusesACallDoesNotBreakTheProbe) {
+  constexpr std::uint64_t kMostCalls = 2000;
+  std::uint64_t refused = 0;
+  for (std::uint64_t n = 1; n < kMostCalls; n += 1 + n / 25) {
+    end();
+    begin();
+    witness().refuseCall(n);
+    try {
+      start();
+      playHands();
+    } catch (const std::runtime_error&) {
+      // A panel that did not come: that is the host's doing.
+    }
+    refused += witness().refusalHappened() ? 1 : 0;
+    witness().refuseCall(0);
+  }
+  EXPECT_GT(refused, 50U);
+}
+
+}  // namespace
+}  // namespace standin
