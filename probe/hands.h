@@ -54,5 +54,6 @@ Answer resizeHook(CTrialPanel& panel);
 // What was done, and of the rest why not.
 void askMouse(Hands& hands, Facts& facts);
 void askFields(Hands& hands, Facts& facts);
+void figureMouse(const Hands& hands, Facts& facts);
 
 }  // namespace probe

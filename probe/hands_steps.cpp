@@ -15,9 +15,9 @@ constexpr const char* kWheelTitle = "Varnel probe 4 of 4";
 const char* kMouseLines[] = {"1. Hold Shift. Double-click the left half of the area, press at once on the right half,",
                              "    drag to the left half and let the button go. Let Shift go.",
                              "2. Click once beside the area, on no control. Then press Done.", nullptr};
-const char* kFieldsLines[] = {"1. Open the list, and choose the entry once more that it shows.",
-                              "2. Type 150 into the whole number, 150 into the percent and 30 into the angle.",
-                              "3. Press Done.", nullptr};
+const char* kFieldsLines[] = {"1. Open the list, and choose the entry that it shows already.",
+                              "2. Type 150 into the whole number, 150 into the percent and 30 into the angle,",
+                              "    each time with the Tab key behind it. Then press Done.", nullptr};
 const char* kWheelLines[] = {"1. Press on the left half of the area, drag to the right half and let the button go.",
                              "2. Turn the wheel away from you over the area. Then press Done.", nullptr};
 

@@ -15,9 +15,6 @@ constexpr int kAreaHeight = 30;
 constexpr int kPercents = 100;
 constexpr int kFieldWidth = 12;  // characters
 
-constexpr const char* kLabelAsMade = "Label";
-constexpr const char* kLabelAsChanged = "Label, changed later";
-
 bool isErased(lw::LWControl* control) { return (integerOf(control, lw::kControlFlags) & lw::kControlErased) != 0; }
 
 }  // namespace
@@ -25,7 +22,7 @@ bool isErased(lw::LWControl* control) { return (integerOf(control, lw::kControlF
 CPanelSite::CPanelSite(lw::LWPanelFuncs& panels, const Ways& ways) : panel_(panels, kTitle) {
   panel_.addLines(kLines);
   panel_.addButton("Next", ways.done);
-  panel_.addButton("Skip all by hand", ways.skip, CTrialPanel::Where::Beside);
+  panel_.addButton("Skip the rest", ways.skip, CTrialPanel::Where::Beside);
   panel_.onUsersClosing(ways.closed);
   addControls();
   panel_.layOut();

@@ -3,12 +3,17 @@
 #pragma once
 
 #include <array>
+#include <string>
 
 #include "interface/lightwave.h"
 #include "probe/facts.h"
 #include "probe/panel_trial.h"
 
 namespace probe {
+
+// The text of a label when its control is made, and what it is changed to.
+inline constexpr const char* kLabelAsMade = "Label";
+inline constexpr const char* kLabelAsChanged = "Label, changed later";
 
 // How a panel takes what it takes otherwise before it is open and after.
 struct Reaction {
@@ -26,6 +31,7 @@ class CPanelSite {
   void open();
 
   CTrialPanel& panel() { return panel_; }
+  const CTrialPanel& panel() const { return panel_; }
   lw::LWControl* area() const { return panel_.area(); }
 
   lw::LWControl* edit = nullptr;
@@ -59,6 +65,8 @@ class CPanelSite {
 // Both tell all that they are to tell, whatever fails. At once: right after opening. Later: when the user goes on.
 void askAtOnce(CPanelSite& site, Facts& facts);
 void askLater(CPanelSite& site, Facts& facts);
+// The sizes of all controls.
+std::string sizes(const CPanelSite& site);
 // After the panel was closed by the probe.
 Answer closeHook(CPanelSite& site);
 

@@ -34,6 +34,7 @@ void CTrial::begin(const Host& host, Facts& facts, std::function<void()> ended) 
                      [this] { guard([this] { end(kClosed); }); }});
   site_->open();
   askAtOnce(*site_, *facts_);
+  facts_->figure("sizes of controls", sizes(*site_));
 }
 
 void CTrial::forget() {
@@ -108,6 +109,7 @@ void CTrial::end(const std::string& whyNot) {
   }
   askMouse(*hands_, *facts_);
   askFields(*hands_, *facts_);
+  figureMouse(*hands_, *facts_);
   ended();
 }
 

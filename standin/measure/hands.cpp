@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "interface/lightwave.h"
 #include "standin/panels/panel.h"
 
 namespace standin {
@@ -38,6 +39,7 @@ void drag(Panel& panel, int from, int to, int y) {
   must(person::mouseRelease(&panel, to, y));
 }
 
+// Of the first panel nothing is asked.
 void goOn(Panel& /*panel*/) {}
 
 void useMouse(Panel& panel) {

@@ -71,7 +71,7 @@ TEST_F(ProbeInHands, WhatTheUserSkipsIsNotTold) {
 
 TEST_F(ProbeInHands, WhoWantsToDoNothingByHandSkipsItAtOnce) {
   start();
-  press("Skip all by hand");
+  press("Skip the rest");
   EXPECT_EQ(shown(), nullptr);
   EXPECT_EQ(valueIn(facts(), "close-hook"), "always");
   EXPECT_EQ(seen("mouse"), "the user skipped it");
