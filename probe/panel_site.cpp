@@ -1,6 +1,6 @@
 #include "probe/panel_site.h"
 
-#include <cstring>
+#include <algorithm>
 
 #include "probe/panel_access.h"
 
@@ -27,7 +27,7 @@ CPanelSite::CPanelSite(lw::LWPanelFuncs& panels, const Ways& ways) : panel_(pane
   addControls();
   panel_.layOut();
   labelWidthBefore = integerOf(relabelled, lw::kControlLabelWidth);
-  std::strcpy(label_.data(), kLabelAsChanged);
+  setLabel(kLabelAsChanged);
   closed = react();
   draw(erased, lw::kDrawErase);
 }
@@ -46,9 +46,15 @@ void CPanelSite::addControls() {
   distance = panel_.addRange("MiniDistanceControl", "Distance", kPercents, Reads::Real);
   number = panel_.addRange("MiniFloatControl", "Number", kPercents, Reads::Real);
   erased = panel_.add("BoolControl", description(lw::kValueBoolean), "Hidden");
-  std::strcpy(label_.data(), kLabelAsMade);
+  setLabel(kLabelAsMade);
   relabelled = panel_.add("BoolControl", description(lw::kValueBoolean), label_.data());
   panel_.addArea(kAreaWidth, kAreaHeight);
+}
+
+// With its final zero.
+void CPanelSite::setLabel(std::string_view text) {
+  label_.fill('\0');
+  std::copy_n(text.begin(), std::min(text.size(), label_.size() - 1), label_.begin());
 }
 
 // What it changes it changes back.

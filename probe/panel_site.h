@@ -4,6 +4,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 #include "interface/lightwave.h"
 #include "probe/facts.h"
@@ -56,6 +57,7 @@ class CPanelSite {
 
  private:
   void addControls();
+  void setLabel(std::string_view text);
   Reaction react();
 
   CTrialPanel panel_;
