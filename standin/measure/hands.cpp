@@ -35,8 +35,8 @@ struct Places {
 
 void drag(Panel& panel, int from, int to, int y) {
   constexpr int kSteps = 5;
-  for (int step = 1; step <= kSteps; ++step) must(person::mouseMove(&panel, from + (to - from) * step / kSteps, y));
-  must(person::mouseRelease(&panel, to, y));
+  for (int step = 1; step <= kSteps; ++step) mustBeDone(person::mouseMove(&panel, from + (to - from) * step / kSteps, y));
+  mustBeDone(person::mouseRelease(&panel, to, y));
 }
 
 // Of the first panel nothing is asked.
@@ -45,26 +45,26 @@ void goOn(Panel& /*panel*/) {}
 void useMouse(Panel& panel) {
   const Places at(panel);
   constexpr auto kLeft = MouseButton::Left;
-  must(person::click(&panel, at.left, at.y, kLeft, lw::kMouseShift, 1));
-  must(person::click(&panel, at.left, at.y, kLeft, lw::kMouseShift, 2));
-  must(person::mousePress(&panel, at.right, at.y, kLeft, lw::kMouseShift, 3));
+  mustBeDone(person::click(&panel, at.left, at.y, kLeft, lw::kMouseShift, 1));
+  mustBeDone(person::click(&panel, at.left, at.y, kLeft, lw::kMouseShift, 2));
+  mustBeDone(person::mousePress(&panel, at.right, at.y, kLeft, lw::kMouseShift, 3));
   drag(panel, at.right, at.left, at.y);
-  must(person::click(&panel, at.beside, at.y));
+  mustBeDone(person::click(&panel, at.beside, at.y));
 }
 
 void useFields(Panel& panel) {
   Control* const list = panel.find("List");
-  must(person::choose(list, list == nullptr ? 0 : list->integer));
-  must(person::type(panel.find("Whole number"), "150"));
-  must(person::type(panel.find("Percent"), "150"));
-  must(person::type(panel.find("Angle"), "30"));
+  mustBeDone(person::choose(list, list == nullptr ? 0 : list->integer));
+  mustBeDone(person::type(panel.find("Whole number"), "150"));
+  mustBeDone(person::type(panel.find("Percent"), "150"));
+  mustBeDone(person::type(panel.find("Angle"), "30"));
 }
 
 void useWheel(Panel& panel) {
   const Places at(panel);
-  must(person::mousePress(&panel, at.left, at.y));
+  mustBeDone(person::mousePress(&panel, at.left, at.y));
   drag(panel, at.left, at.right, at.y);
-  must(person::wheel(&panel, at.right, at.y, 1));
+  mustBeDone(person::wheel(&panel, at.right, at.y, 1));
 }
 
 struct HandsRow {
@@ -81,7 +81,7 @@ constexpr std::array kHands{
 
 }  // namespace
 
-void must(const Done& done) {
+void mustBeDone(const Done& done) {
   if (!done) throw std::runtime_error("the hands cannot: " + done.why);
 }
 
@@ -91,7 +91,7 @@ void playHands() {
     Panel* const panel = panels().find(row.title);
     if (panel == nullptr || !panel->isOpen()) throw std::runtime_error(std::string(row.title) + " is not open");
     row.use(*panel);
-    must(person::press(panel->find(row.button)));
+    mustBeDone(person::press(panel->find(row.button)));
   }
   hostsTurn();
 }

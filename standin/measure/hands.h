@@ -6,7 +6,7 @@
 namespace standin {
 
 // Throws std::runtime_error when it could not be done.
-void must(const Done& done);
+void mustBeDone(const Done& done);
 
 // Goes through the panels that the probe shows one after the other. Throws std::runtime_error where that cannot be done.
 void playHands();

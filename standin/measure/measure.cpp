@@ -16,8 +16,8 @@ namespace {
 constexpr const char* kProbe = "Varnel:HostFacts";
 
 MeasuredHost handle(Panel& panel, const std::string& file) {
-  must(person::type(panel.find("File"), file));
-  must(person::press(panel.find("Start")));
+  mustBeDone(person::type(panel.find("File"), file));
+  mustBeDone(person::press(panel.find("Start")));
   playHands();
   MeasuredHost measured;
   const Control* const now = panel.find("Now");

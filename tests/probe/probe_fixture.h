@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "objectfile/file_bytes.h"
 #include "objectfile/temporary_folder.h"
@@ -25,6 +26,19 @@ inline std::string valueIn(const std::string& facts, const std::string& name) {
     if (fact.at("name") == name && fact.at("value").is_string()) return fact.at("value");
   }
   return {};
+}
+
+// The host that the facts of these files describe.
+inline HostChoice hostOf(const std::vector<std::string>& files) {
+  HostChoice host;
+  for (const std::string& facts : files) {
+    const auto file = nlohmann::json::parse(facts);
+    for (const auto& fact : file.at("facts")) {
+      if (!fact.at("value").is_string()) continue;
+      EXPECT_TRUE(host.choose(fact.at("name").get<std::string>(), fact.at("value").get<std::string>())) << fact;
+    }
+  }
+  return host;
 }
 
 class Probing : public testing::Test {

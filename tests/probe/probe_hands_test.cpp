@@ -21,7 +21,7 @@ struct ProbeInHands : testing::Test {
     module.emplace();
     ASSERT_EQ(module->load(probePath()), "");
     activate();
-    must(person::type(own()->find("File"), folder.path() + "/facts.json"));
+    mustBeDone(person::type(own()->find("File"), folder.path() + "/facts.json"));
   }
   void end() {
     if (!host) return;
@@ -39,8 +39,8 @@ struct ProbeInHands : testing::Test {
     Panel* const panel = panels().find("Varnel probe ");
     return panel != nullptr && panel->isOpen() ? panel : nullptr;
   }
-  static void press(const char* button) { must(person::press(shown()->find(button))); }
-  static void start() { must(person::press(own()->find("Start"))); }
+  static void press(const char* button) { mustBeDone(person::press(shown()->find(button))); }
+  static void start() { mustBeDone(person::press(own()->find("Start"))); }
   std::string facts() const {
     const Outcome<std::string> bytes = readFileBytes(folder.path() + "/facts.json");
     return bytes ? *bytes : "{\"facts\": []}";
@@ -80,7 +80,7 @@ TEST_F(ProbeInHands, WhoWantsToDoNothingByHandSkipsItAtOnce) {
 TEST_F(ProbeInHands, ClosingAPanelEndsTheTrialAndTheFileTellsIt) {
   start();
   press("Next");
-  must(person::close(shown()));
+  mustBeDone(person::close(shown()));
   EXPECT_EQ(shown(), nullptr);
   EXPECT_EQ(valueIn(facts(), "sets"), "silent");
   EXPECT_EQ(seen("typing"), "the user closed the panel");
@@ -126,7 +126,7 @@ TEST_F(ProbeInHands, AWheelTurnedTowardsTheUserTellsTheOtherWay) {
   press("Skip");
   press("Skip");
   const Control* const area = shown()->find(ControlKind::OpenGL);
-  must(person::wheel(shown(), area->hot().x, area->hot().y, -1));
+  mustBeDone(person::wheel(shown(), area->hot().x, area->hot().y, -1));
   press("Done");
   EXPECT_EQ(valueIn(facts(), "wheel"), "down");
 }

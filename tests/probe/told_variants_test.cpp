@@ -52,22 +52,23 @@ TEST_P(ToldVariants, AreWhatIsPlayed) {
     const std::string value = valueIn(measured.facts, turned.variant->name);
     EXPECT_NE(value, turned.value) << "is told after all";
   } else {
-    EXPECT_TRUE(hostOf(measured.facts).options() == host.options()) << "told is: " << hostOf(measured.facts).text() << "\n"
-                                                                    << measured.facts;
+    EXPECT_TRUE(hostOf({measured.facts}).options() == host.options())
+        << "told is: " << hostOf({measured.facts}).text() << "\n"
+        << measured.facts;
   }
 }
 
 INSTANTIATE_TEST_SUITE_P(EachValue, ToldVariants, testing::ValuesIn(everyValueTurned()), nameOf);
 
-TEST_F(Probing, TellsTheDefaultHostInModeler) { EXPECT_EQ(hostOf(inModeler().facts).text(), "the default host"); }
-TEST_F(Probing, TellsTheDefaultHostInLayout) { EXPECT_EQ(hostOf(inLayout().facts).text(), "the default host"); }
+TEST_F(Probing, TellsTheDefaultHostInModeler) { EXPECT_EQ(hostOf({inModeler().facts}).text(), "the default host"); }
+TEST_F(Probing, TellsTheDefaultHostInLayout) { EXPECT_EQ(hostOf({inLayout().facts}).text(), "the default host"); }
 
 // In the default host each question is answered, or in the table of what cannot be.
 void expectAllTold(const std::string& facts, std::span<const HostVariant> rows) {
   for (const HostVariant& row : rows) {
     const Turned whole{&row, {}, false};
     const probe::NotTellable* const not_told = notTellable(whole);
-    EXPECT_EQ(Probing::valueIn(facts, row.name), not_told != nullptr ? "" : row.values.front().name) << row.name;
+    EXPECT_EQ(valueIn(facts, row.name), not_told != nullptr ? "" : row.values.front().name) << row.name;
   }
 }
 
