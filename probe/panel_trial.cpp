@@ -43,6 +43,8 @@ CTrialPanel::CTrialPanel(lw::LWPanelFuncs& panels, const char* title)
 CTrialPanel::~CTrialPanel() {
   if (panel_ == nullptr) return;
   closeIfOpen();
+  // A host may refuse to close. Where its hook told nothing, the panel may be open still, and must not be destroyed so.
+  if (!isCloseTold_) close();
   panels_.destroy(panel_);
 }
 
@@ -154,6 +156,7 @@ void CTrialPanel::doWithin(Within within, Action&& action) {
 
 int CTrialPanel::open(int flags) {
   mayBeOpen_ = true;
+  isCloseTold_ = false;
   int answer = 0;
   doWithin(Within::Open, [&] { answer = panels_.open(panel_, flags); });
   return answer;
@@ -239,6 +242,7 @@ void CTrialPanel::onOpen(lw::PanelId /*panel*/, void* user) {
 void CTrialPanel::onClose(lw::PanelId /*panel*/, void* user) {
   lw::onTool<CTrialPanel>(user, [](CTrialPanel& panel) {
     panel.note(Call::Closed);
+    panel.isCloseTold_ = true;
     if (panel.within_ == Within::Close || !panel.mayBeOpen_) return;
     panel.mayBeOpen_ = false;
     if (panel.usersClosing_) panel.usersClosing_();

@@ -109,6 +109,7 @@ class CTrialPanel {
   std::function<void()> released_;
   Within within_ = Within::Nothing;
   bool mayBeOpen_ = false;
+  bool isCloseTold_ = true;  // by the close hook, since it was opened
 };
 
 // The entries of the popups: as many as there are.
