@@ -23,6 +23,11 @@ int indexOf(const lw::LWObjectFuncs& objects, const std::string& reference) {
 
 std::vector<lw::PolygonId> polygonsOf(const Host& host) { return MeshEdit(host, lw::kEditAll).scan(lw::kLayersAll); }
 
+// The folder is another one in each run.
+std::optional<std::string> withoutFolder(const std::optional<std::string>& path) {
+  return path ? std::optional(path->substr(path->find_last_of("/\\:") + 1)) : std::nullopt;
+}
+
 // Those of an object that is closed, compared with those of the same object loaded again.
 Answer identifiers(ModelerSite& site) {
   const RigFile file("varnel-probe-again.lwo");
@@ -80,7 +85,7 @@ Answer objectName(const UnsavedObject& unsaved, ModelerSite& site) {
   const int rig = site.rig.index();
   const std::optional<std::string> reference = copied(objects.refName(rig));
   const std::optional<std::string> fileName = copied(objects.filename(rig));
-  seen += ", and its reference name; of one that was loaded it is " + shown(fileName);
+  seen += ", and its reference name; of one that was loaded it is " + shown(withoutFolder(fileName));
   return told(fileName == reference ? "reference" : "file", seen);
 }
 

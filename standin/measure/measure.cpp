@@ -36,7 +36,7 @@ std::string faultsSince(std::size_t first) {
 template <class Played, class Left>
 MeasuredHost measured(const std::string& module, const HostOptions& options, const std::string& file, Left&& left) {
   Played host(options);
-  witness().excuse(kSetsATag, kTagWhileSelecting);
+  excuseTrials();
   const std::size_t known = witness().faults().size();
   ModuleFile probe;
   if (const std::string why = probe.load(module); !why.empty()) throw std::runtime_error(why);
@@ -52,6 +52,8 @@ MeasuredHost measured(const std::string& module, const HostOptions& options, con
 }
 
 }  // namespace
+
+void excuseTrials() { witness().excuse(kSetsATag, kTagWhileSelecting); }
 
 MeasuredHost measuredModeler(const std::string& module, const HostOptions& options, const std::string& folder) {
   return measured<PlayedModeler>(module, options, folder + "/modeler.json", [](const PlayedModeler& host) {

@@ -7,7 +7,6 @@
 #include "standin/core/globals.h"
 #include "standin/core/module_file.h"
 #include "standin/core/witness.h"
-#include "standin/modeler/mesh_edit.h"
 #include "standin/panels/panel.h"
 #include "standin/panels/person.h"
 #include "standin/variants/played_host.h"
@@ -111,7 +110,7 @@ TEST_F(ProbingModeler, FiguresAreSeen) {
 class RefusingModeler : public Probing {
  protected:
   RefusingModeler() {
-    witness().excuse(kSetsATag, kTagWhileSelecting);
+    excuseTrials();
     EXPECT_EQ(module_.load(probePath()), "");
     host_.activate(module_, "Varnel:HostFacts");
     Panel* const panel = panels().find("Varnel:HostFacts");
