@@ -179,13 +179,14 @@ Done Driver::press(HWND button) {
   return clickOn(button, middleOf(button), MouseButton::Left, {}, 1);
 }
 
-Done Driver::drag(const Panel& panel, POINT from, POINT to, int steps) {
+Done Driver::drag(const Panel& panel, POINT from, POINT to, int steps, Held held) {
   Done done;
   const PanelWindow* const window = reach(panel, done);
   if (window == nullptr) return done;
   const POINT start = onScreen(window->handle(), from.x, from.y);
   const POINT end = onScreen(window->handle(), to.x, to.y);
   Input input;
+  input.hold(held, true);
   input.move(start);
   input.mouse(MOUSEEVENTF_LEFTDOWN);
   input.send();
@@ -196,6 +197,9 @@ Done Driver::drag(const Panel& panel, POINT from, POINT to, int steps) {
     front_.settle();
   }
   input.mouse(MOUSEEVENTF_LEFTUP);
+  input.send();
+  front_.settle();
+  input.hold(held, false);
   input.send();
   front_.settle();
   return {};

@@ -29,7 +29,7 @@ class Driver {
   Done clickAt(const Panel& panel, int x, int y, MouseButton button = MouseButton::Left, Held held = {}, int times = 1);
   Done press(HWND button);
   // With the button held from one place of the panel to another, in steps.
-  Done drag(const Panel& panel, POINT from, POINT to, int steps = 4);
+  Done drag(const Panel& panel, POINT from, POINT to, int steps = 4, Held held = {});
   Done dragSlider(const Control& control, int pixels);
   Done wheel(const Panel& panel, int x, int y, int notches);
   // Clicks into a field, replaces all of its text and stays in it.
