@@ -25,7 +25,10 @@ bool isFile(const std::string& word) {
 std::string takeFile(HostChoice& choice, const std::string& path, std::vector<std::string>& remarks) {
   const Outcome<HostFacts> facts = readHostFacts(path);
   if (!facts) return facts.why();
-  for (const std::string& remark : settle(choice, *facts)) remarks.push_back(path + ": " + remark);
+  for (const std::string& remark : settle(choice, *facts)) {
+    remarks.push_back(path);
+    remarks.back().append(": ").append(remark);
+  }
   return {};
 }
 
