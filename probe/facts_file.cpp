@@ -8,26 +8,10 @@
 #include <fstream>
 #include <system_error>
 
+#include "probe/json_text.h"
+
 namespace probe {
 namespace {
-
-// Control characters and quotes as JSON has them; the rest is UTF-8 and stays.
-std::string jsonText(const std::string& text) {
-  constexpr std::string_view kDigits = "0123456789abcdef";
-  std::string result = "\"";
-  for (const char letter : text) {
-    const auto byte = static_cast<unsigned char>(letter);
-    if (letter == '"' || letter == '\\') {
-      result += '\\';
-      result += letter;
-    } else if (byte < 0x20) {
-      result += std::string("\\u00") + kDigits[byte >> 4] + kDigits[byte & 0xF];
-    } else {
-      result += letter;
-    }
-  }
-  return result + "\"";
-}
 
 std::string hexadecimal(unsigned number) {
   std::string digits;
