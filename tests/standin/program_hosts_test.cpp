@@ -111,6 +111,17 @@ TEST_F(PlayedFacts, StayInTheValidatorsHosts) {
   EXPECT_THAT(out, HasSubstr("leaves none of these open"));
 }
 
+// By chance: each number is another ten things that differ.
+TEST_F(PlayedFacts, LeadTheProbeToTheSameFiles) {
+  for (const std::string seed : {"1", "2", "3"}) {
+    ASSERT_EQ(type("varnel probe first --force --seed " + seed), 0) << out << error;
+    ASSERT_EQ(type("varnel probe again --force --host first/modeler.json --host first/layout.json"), 0) << out << error;
+    for (const std::string file : {"/modeler.json", "/layout.json"}) {
+      EXPECT_EQ(bytesOf("again" + file), bytesOf("first" + file)) << seed;
+    }
+  }
+}
+
 class ShownFacts : public PlayedFacts {};
 
 TEST_F(ShownFacts, OfSeveralFilesStandUnderTheirNames) {
