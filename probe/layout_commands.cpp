@@ -111,6 +111,7 @@ constexpr CommandTrial kBoneTrials[] = {
     {"BoneWeightMapName (none)", weightMap},
     toggle("BoneWeightMapOnly", boneFlags),
     {"BoneStrength 0.5000000000", strength},
+    {"BoneStrength 0,2500000000", strength},  // as a host's numbers may be written in its user's country
     toggle("BoneStrengthMultiply", boneFlags),
     toggle("BoneLimitedRange", boneFlags),
     {"BoneMinRange 0.2500000000"},

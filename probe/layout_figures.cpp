@@ -46,19 +46,37 @@ std::string layers(LayoutSite& site) {
   return "the items of varnel-probe.lwo, with a layer \"" + std::string(kRigLayer) + "\" and one without a name: " + seen;
 }
 
-// A file of a single layer, by whose name some hosts call the item and others not.
-std::string oneLayer(LayoutSite& site) {
-  const standin::TemporaryFolder folder;
-  const std::string path = folder.file("varnel-one.lwo");
+// One layer with two skelegons: one with two names, which a file can have, and one without any.
+standin::ObjectFile doubtfulFile() {
   standin::RigBuilder builder;
   builder.layer(0, "Named");
-  builder.root("ProbeAlone", {0, 0, 0}, {0, 1, 0});
-  if (const auto failure = standin::writeObject(builder.take(), path)) throw Trouble{failure->text};
-  const Items before = site.scene.objects();
-  site.scene.host().mustDo("LoadObject " + path);
-  const Items came = added(before, site.scene.objects());
-  const std::string layer = came.empty() ? "" : ", layer " + std::to_string(site.scene.objectInfo().layerLoaded(came[0]));
-  return "the item of varnel-one.lwo, with the one layer \"Named\": " + site.scene.namesOf(came) + layer;
+  builder.root("ProbeFirst", {0, 0, 0}, {0, 1, 0});
+  builder.between(builder.point({1, 0, 0}), builder.point({1, 1, 0}), std::nullopt);
+  standin::ObjectFile file = builder.take();
+  file.layers.front().group(lw::kTypeBone).polygons.front().tags.push_back({lw::kTagBone, "ProbeLast"});
+  return file;
+}
+
+std::string oneLayer(LayoutSite& site) {
+  const LayoutScene& scene = site.scene;
+  const standin::TemporaryFolder folder;
+  const std::string path = folder.file("varnel-one.lwo");
+  if (const auto failure = standin::writeObject(doubtfulFile(), path)) throw Trouble{failure->text};
+  const Items before = scene.objects();
+  scene.host().mustDo("LoadObject " + path);
+  const Items came = added(before, scene.objects());
+  const std::string seen = "the item of varnel-one.lwo, with the one layer \"Named\": " + scene.namesOf(came);
+  if (came.empty()) return seen;
+  scene.select({came.front()});
+  scene.confirmed("SkelegonsToBones");
+  return seen + ", layer " + std::to_string(scene.objectInfo().layerLoaded(came.front())) +
+         "; its skelegons, one with the names ProbeFirst and ProbeLast and one without, became " +
+         scene.namesOf(scene.bonesOf(came.front()));
+}
+
+std::string weightMapOf(const LayoutScene& scene, lw::ItemId bone) {
+  const std::string map = copied(scene.boneInfo().weightMap(bone));
+  return map.empty() ? "" : ", weight map \"" + map + "\"";
 }
 
 std::string bones(LayoutSite& site) {
@@ -67,7 +85,7 @@ std::string bones(LayoutSite& site) {
     seen += (seen.empty() ? "" : "; ") + site.scene.namesOf({bone}) + " below " +
             site.scene.namesOf({site.scene.items().parent(bone)}) + ", at " +
             shown(site.scene.param(bone, lw::kParamPosition)) + ", colour " +
-            std::to_string(site.scene.interfaceInfo().itemColor(bone));
+            std::to_string(site.scene.interfaceInfo().itemColor(bone)) + weightMapOf(site.scene, bone);
   }
   return seen.empty() ? "SkelegonsToBones made none" : seen;
 }
@@ -93,7 +111,7 @@ constexpr std::array<FigureRow, 6> kFigures{{
     {"switches of the program", switchesNow},
     {"EnableMC", motionControllers},
     {"items of a file with two layers", layers},
-    {"item of a file with one layer", oneLayer},
+    {"item and bones of a file with one layer", oneLayer},
     {"bones of skelegons", bones},
     {"encoding of commands", encoding},
 }};

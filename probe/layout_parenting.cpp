@@ -50,8 +50,8 @@ Answer parentInPlace(LayoutSite& site) {
   scene.setPosition(above, offset);
   parent(scene, child, above);
   const Vector now = scene.param(child, lw::kParamWorldPosition);
-  const std::string seen =
-      "a null at " + shown(where) + ", put below one at " + shown(offset) + ", is at " + shown(now) + " in the world";
+  const std::string seen = "a null at " + shown(where) + ", put below one at " + shown(offset) + ", is at " + shown(now) +
+                           " in the world, with its position " + shown(scene.param(child, lw::kParamPosition));
   if (isNear(now, where)) return told("on", seen);
   return isNear(difference(now, where), offset) ? told("off", seen) : other(seen);
 }

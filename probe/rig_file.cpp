@@ -27,8 +27,9 @@ standin::ObjectFile rig() {
   const auto root = builder.root(kRigRoot, {0, 0, 0}, {0, 1, 0});
   const auto left = builder.child(root, kRigLeft, {-1, 2, 0});
   builder.child(root, kRigRight, {1, 2, 0});
-  builder.child(left, kRigTip, {-2, 3, 0});
+  const auto tip = builder.child(left, kRigTip, {-2, 3, 0});
   builder.colour(left, kRigColour);
+  builder.tag(tip, lw::kTagBoneWeight, kRigWeightMap);
   builder.layer(1, "", kRigPivot);
   builder.root(kRigOther, {0, 0, 2}, {0, 1, 2});
   standin::ObjectFile file = builder.take();

@@ -35,6 +35,8 @@ class LayoutUnderProbe : public Probing {
   testing::AssertionResult isAsBefore() {
     if (!host_.scene().objects().empty()) return testing::AssertionFailure() << "the scene has objects";
     if (host_.state().autoConfirm != 0) return testing::AssertionFailure() << "the host confirms by itself";
+    const bool hasItsSwitches = host_.state().ikEnabled && host_.state().motionControllersEnabled;
+    if (!hasItsSwitches) return testing::AssertionFailure() << "a switch is off";
     if (!witness().faults().empty()) return testing::AssertionFailure() << witness().report();
     return testing::AssertionSuccess();
   }
