@@ -4,9 +4,6 @@
 #include <chrono>
 #include <cstdint>
 #include <ctime>
-#include <filesystem>
-#include <fstream>
-#include <system_error>
 
 #include "probe/json_text.h"
 
@@ -56,10 +53,6 @@ std::string figureText(const Figure& figure) {
   return "{\"name\": " + jsonText(figure.name) + ", \"seen\": " + jsonText(figure.seen) + "}";
 }
 
-std::filesystem::path pathOf(const std::string& utf8) {
-  return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
-}
-
 }  // namespace
 
 std::string factsText(const Host& host, const Facts& facts) {
@@ -68,21 +61,6 @@ std::string factsText(const Host& host, const Facts& facts) {
          ",\n  \"program\": " + jsonText(nameOf(host.program)) + ",\n  \"host\": " + hostText(host) +
          ",\n  \"date\": " + jsonText(today()) + ",\n  \"facts\": " + list(facts.facts(), factText) +
          ",\n  \"figures\": " + list(facts.figures(), figureText) + "\n}\n";
-}
-
-void writeFacts(const std::string& path, const std::string& text) {
-  const std::filesystem::path file = pathOf(path);
-  std::filesystem::path part = file;
-  part += ".part";
-  std::ofstream out(part, std::ios::binary);
-  out << text;
-  out.close();
-  std::error_code failure;
-  if (out) std::filesystem::rename(part, file, failure);
-  if (out && !failure) return;
-  std::error_code ignored;
-  std::filesystem::remove(part, ignored);
-  throw Trouble{"The file cannot be written: " + path};
 }
 
 }  // namespace probe

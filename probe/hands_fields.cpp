@@ -3,18 +3,17 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <numbers>
 #include <span>
 #include <string>
 
 #include "probe/ask.h"
 #include "probe/hands.h"
 #include "probe/hands_values.h"
+#include "probe/units.h"
 
 namespace probe {
 namespace {
 
-constexpr double kDegree = std::numbers::pi / 180;
 constexpr double kNear = 1e-4;
 
 bool isNear(double a, double b) { return std::abs(a - b) < kNear; }

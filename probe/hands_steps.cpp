@@ -1,9 +1,9 @@
 #include <algorithm>
-#include <numbers>
 
 #include "probe/hands.h"
 #include "probe/hands_values.h"
 #include "probe/panel_access.h"
+#include "probe/units.h"
 
 namespace probe {
 namespace {
@@ -23,8 +23,6 @@ const char* kWheelLines[] = {"1. Press on the left half of the area, drag to the
 
 constexpr int kAreaWidth = 280;
 constexpr int kAreaHeight = 90;
-
-constexpr double kDegree = std::numbers::pi / 180;
 
 CTrialPanel& make(Step& step, lw::LWPanelFuncs& panels, const char* title, const char** lines) {
   step.panel = std::make_unique<CTrialPanel>(panels, title);

@@ -4,11 +4,10 @@
 #include <cmath>
 
 #include "probe/layout_site.h"
+#include "probe/units.h"
 
 namespace probe::layout {
 namespace {
-
-constexpr double kDegree = 3.14159265358979323846 / 180;
 
 Items inOrder(const LayoutScene& scene, const Items& wanted) {
   Items found = scene.objects();

@@ -1,35 +1,33 @@
 #include "probe/probe_panel.h"
 
-#include <algorithm>
-#include <array>
-#include <cstdlib>
+#include <filesystem>
 #include <string>
+#include <utility>
 
 #include "host/lwtool2_errors.h"
+#include "objectfile/file_bytes.h"
+#include "objectfile/whole_file.h"
 #include "probe/facts_file.h"
 #include "probe/panel_access.h"
 #include "probe/run.h"
+#include "probe/user_folder.h"
 
 namespace probe {
 namespace {
 
-constexpr int kFieldWidth = 50;  // characters
+constexpr int kFileWidth = 50;  // characters
 
 // Kept by the host, which may keep the pointers.
 const char* kExplanation[] = {"Measures how this program answers plug-ins, in less than a minute.",
                               "What it makes it removes again. The file goes to the maintainers.", nullptr};
 
-std::string folderOfTheUser() {
-  for (const char* name : {"USERPROFILE", "HOME"}) {
-    if (const char* const folder = std::getenv(name)) return folder;
-  }
-  return ".";
+std::string usualFile(Program program) {
+  return standin::utf8Of(userFolder() / (program == Program::Modeler ? "varnel-modeler.json" : "varnel-layout.json"));
 }
 
-std::string usualFile(Program program) {
-  std::string path = folderOfTheUser() + (program == Program::Modeler ? "/varnel-modeler.json" : "/varnel-layout.json");
-  std::replace(path.begin(), path.end(), '\\', '/');
-  return path;
+std::string folderOf(const std::string& path) {
+  const std::filesystem::path folder = standin::pathFromUtf8(path).parent_path();
+  return folder.empty() ? "." : standin::utf8Of(folder);
 }
 
 }  // namespace
@@ -46,7 +44,7 @@ void CProbePanel::make() {
   text.text.text = kExplanation;
   panels_->addControl(panel_, "TextControl", &text, "");
   lw::LWPanControlDesc field = description(lw::kValueString);
-  field.str.width = kFieldWidth;
+  field.str.width = kFileWidth;
   file_ = panels_->addControl(panel_, "EditControl", &field, "File");
   lw::LWPanControlDesc button = description(lw::kValueInteger);
   lw::LWControl* const start = panels_->addControl(panel_, "ButtonControl", &button, "Start");
@@ -75,15 +73,27 @@ void CProbePanel::say(const std::string& line) const {
   draw(now_, lw::kDrawRender);
 }
 
+// A file that is there is written over when the user has started in spite of being told.
+bool CProbePanel::mayWrite(const std::string& path) {
+  const bool isKnown = std::exchange(path_, path) == path;
+  if (!isKnown && standin::refusedFiles({path}, standin::Existing::Keep)) {
+    say("There is such a file. Press Start again to write over it.");
+    return false;
+  }
+  if (const auto failure = standin::refusedFolder(folderOf(path))) throw Trouble{failure->text};
+  return true;
+}
+
 void CProbePanel::save() {
-  const std::string path = textOf(file_);
-  writeFacts(path, factsText(host_, facts_));
-  say("Written: " + path);
+  const auto failure = standin::writeWholeFile(path_, factsText(host_, facts_), standin::Existing::Replace);
+  if (failure) throw Trouble{failure->text};
+  say("Written: " + path_);
 }
 
 void CProbePanel::start() {
   try {
     if (const std::string why = refusal(host_); !why.empty()) return say(why);
+    if (!mayWrite(textOf(file_))) return;
     facts_ = {};
     measureAlone(host_, facts_, [this](const std::string& what) { say("Measuring " + what); });
     save();  // what is told so far, should the user not go on

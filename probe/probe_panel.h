@@ -22,6 +22,7 @@ class CProbePanel {
 
  private:
   void make();
+  bool mayWrite(const std::string& path);
   void start();
   void save();
   void saveAndSay();
@@ -34,6 +35,7 @@ class CProbePanel {
   lw::PanelId panel_ = nullptr;
   lw::LWControl* file_ = nullptr;
   lw::LWControl* now_ = nullptr;
+  std::string path_;  // of the file, as it was when the user started
   Facts facts_;
   CTrial trial_;
 };

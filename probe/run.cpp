@@ -3,8 +3,8 @@
 #include <array>
 
 #include "probe/ask.h"
-#include "probe/modeler_questions.h"
 #include "probe/layout_area.h"
+#include "probe/modeler_questions.h"
 #include "probe/not_tellable.h"
 #include "probe/process_questions.h"
 

@@ -1,5 +1,6 @@
 #include "standin/measure/measure.h"
 
+#include <filesystem>
 #include <stdexcept>
 
 #include "objectfile/file_bytes.h"
@@ -17,7 +18,9 @@ constexpr const char* kProbe = "Varnel:HostFacts";
 
 MeasuredHost handle(Panel& panel, const std::string& file) {
   mustBeDone(person::type(panel.find("File"), file));
+  const bool isThere = std::filesystem::exists(pathFromUtf8(file));
   mustBeDone(person::press(panel.find("Start")));
+  if (isThere) mustBeDone(person::press(panel.find("Start")));  // the probe asks before it writes over a file
   playHands();
   MeasuredHost measured;
   const Control* const now = panel.find("Now");

@@ -59,6 +59,25 @@ struct ProbeInHands : testing::Test {
   std::optional<ModuleFile> module;
 };
 
+TEST_F(ProbeInHands, AFileThatIsThereIsKeptUntilTheUserStartsAgain) {
+  ASSERT_FALSE(writeFileBytes(folder.path() + "/facts.json", "mine"));
+  start();
+  EXPECT_EQ(shown(), nullptr);
+  EXPECT_EQ(*readFileBytes(folder.path() + "/facts.json"), "mine");
+  EXPECT_EQ(own()->find("Now")->shown(), "There is such a file. Press Start again to write over it.");
+  start();
+  EXPECT_NE(shown(), nullptr);
+  EXPECT_NE(*readFileBytes(folder.path() + "/facts.json"), "mine");
+}
+
+TEST_F(ProbeInHands, APlaceThatCannotBeWrittenIsToldBeforeAnythingIsMeasured) {
+  mustBeDone(person::type(own()->find("File"), folder.path() + "/nowhere/facts.json"));
+  start();
+  EXPECT_EQ(shown(), nullptr);
+  EXPECT_NE(own()->find("Now")->shown().find("nowhere"), std::string::npos);
+  EXPECT_TRUE(host->commands().empty());
+}
+
 TEST_F(ProbeInHands, WhatTheUserSkipsIsNotTold) {
   start();
   press("Next");

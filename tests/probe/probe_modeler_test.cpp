@@ -1,9 +1,7 @@
-// What the probe finds out about Modeler and about the process, in each host that differs, and in hosts that refuse.
+// What the probe does in Modeler: figures beside the facts, and hosts that refuse.
 #include <algorithm>
-#include <random>
 #include <vector>
 
-#include "probe/not_tellable.h"
 #include "standin/core/globals.h"
 #include "standin/core/module_file.h"
 #include "standin/core/witness.h"
@@ -17,80 +15,7 @@ namespace {
 
 using nlohmann::json;
 
-std::vector<HostVariant> rowsOfModeler() {
-  std::vector<HostVariant> rows;
-  for (const auto& area : {programVariants(), modelerVariants()}) rows.insert(rows.end(), area.begin(), area.end());
-  return rows;
-}
-
-bool canBeTold(const HostVariant& row, const VariantValue& value) {
-  const auto all = probe::notTellable();
-  return std::none_of(all.begin(), all.end(), [&](const probe::NotTellable& cannot) {
-    return cannot.name == std::string(row.name) && (cannot.value == nullptr || cannot.value == std::string(value.name));
-  });
-}
-
-// The host that the facts describe, as far as these rows go.
-HostOptions hostOf(const std::string& facts) {
-  const json file = json::parse(facts);
-  HostChoice choice;
-  for (const HostVariant& row : rowsOfModeler()) {
-    for (const auto& fact : file.at("facts")) {
-      if (fact.at("name") != row.name || !fact.at("value").is_string()) continue;
-      EXPECT_TRUE(choice.choose(row.name, fact.at("value").get<std::string>())) << fact;
-    }
-  }
-  return choice.options();
-}
-
-class ProbingModeler : public Probing {
- protected:
-  void expectMeasured(const HostChoice& choice) {
-    SCOPED_TRACE(choice.text());
-    const MeasuredHost measured = inModeler(choice.options());
-    EXPECT_EQ(measured.complaints, "");
-    ASSERT_TRUE(json::accept(measured.facts)) << measured.last;
-    EXPECT_TRUE(hostOf(measured.facts) == choice.options()) << measured.facts;
-  }
-};
-
-TEST_F(ProbingModeler, EachAnswerOfEachOpenQuestionIsToldOrCannotBe) {
-  for (const HostVariant& row : rowsOfModeler()) {
-    for (const VariantValue& value : row.values) {
-      if (!canBeTold(row, value)) continue;
-      HostChoice choice;
-      ASSERT_TRUE(choice.choose(row.name, value.name));
-      expectMeasured(choice);
-      EXPECT_EQ(valueIn(inModeler(choice.options()).facts, row.name), value.name);
-    }
-  }
-}
-
-TEST_F(ProbingModeler, WhatCannotBeToldIsNotTold) {
-  for (const HostVariant& row : rowsOfModeler()) {
-    for (const VariantValue& value : row.values) {
-      if (canBeTold(row, value)) continue;
-      HostChoice choice;
-      ASSERT_TRUE(choice.choose(row.name, value.name));
-      EXPECT_EQ(valueIn(inModeler(choice.options()).facts, row.name), "");
-    }
-  }
-}
-
-TEST_F(ProbingModeler, MixedHostsAreToldWhole) {
-  for (unsigned seed = 1; seed <= 20; ++seed) {
-    std::mt19937 random(seed);
-    HostChoice choice;
-    for (const HostVariant& row : rowsOfModeler()) {
-      const VariantValue& value = row.values[random() % row.values.size()];
-      if (!canBeTold(row, value)) continue;
-      ASSERT_TRUE(choice.choose(row.name, value.name));
-    }
-    expectMeasured(choice);
-  }
-}
-
-TEST_F(ProbingModeler, FiguresAreSeen) {
+TEST_F(Probing, SeesTheFiguresOfModeler) {
   const json file = json::parse(inModeler().facts);
   std::vector<std::string> seen;
   for (const auto& figure : file.at("figures")) seen.push_back(figure.at("seen"));
