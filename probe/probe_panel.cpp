@@ -96,9 +96,9 @@ void CProbePanel::start() {
     if (!mayWrite(textOf(file_))) return;
     facts_ = {};
     measureAlone(host_, facts_, [this](const std::string& what) { say("Measuring " + what); });
+    const bool goesOn = trial_.begin(host_, facts_, [this] { saveAndSay(); });
     save();  // what is told so far, should the user not go on
-    say("Go on in the next panel");
-    trial_.begin(host_, facts_, [this] { saveAndSay(); });
+    if (goesOn) say("Go on in the next panel");
   } catch (const Trouble& trouble) {
     say(trouble.why);
   }

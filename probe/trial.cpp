@@ -22,13 +22,24 @@ constexpr std::array kTold{
 
 }  // namespace
 
-void CTrial::begin(const Host& host, Facts& facts, std::function<void()> ended) {
+bool CTrial::begin(const Host& host, Facts& facts, std::function<void()> ended) {
   site_.reset();
   hands_ = std::make_unique<Hands>();
-  panels_ = &host.service<lw::LWPanelFuncs>("LWPanelServices 3");
   facts_ = &facts;
   ended_ = std::move(ended);
   for (const char* const name : kTold) facts_->tell(name, notTold(kNotReached));
+  const Answer trouble = answerOf([&] {
+    panels_ = &host.service<lw::LWPanelFuncs>("LWPanelServices 3");
+    showFirstPanel();
+    return Answer{};
+  });
+  if (trouble.seen.empty()) return true;
+  ended_ = nullptr;
+  for (const char* const name : kTold) facts_->tell(name, trouble);
+  return false;
+}
+
+void CTrial::showFirstPanel() {
   site_ = std::make_unique<CPanelSite>(
       *panels_, Ways{[this] { guard([this] { panelsDone(); }); }, [this] { guard([this] { skipHands(); }); },
                      [this] { guard([this] { end(kClosed); }); }});

@@ -17,12 +17,14 @@ namespace probe {
 class CTrial {
  public:
   // Ends the trial before, and shows the first panel. What is not told by then is in the facts as such; `ended` is called
-  // when the user is through. The facts must live as long as the trial. Throws Trouble when the host makes no such panel.
-  void begin(const Host& host, Facts& facts, std::function<void()> ended);
+  // when the user is through. The facts must live as long as the trial. False when the host makes no such panel, which the
+  // facts tell.
+  bool begin(const Host& host, Facts& facts, std::function<void()> ended);
   // At the end of the module: nothing of the host may be called any more.
   void forget();
 
  private:
+  void showFirstPanel();
   void leaveFirstPanel();
   void skipHands();
   void panelsDone();

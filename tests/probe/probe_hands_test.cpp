@@ -192,14 +192,25 @@ TEST_F(ProbeInHands, AHostThatRefusesACallDoesNotBreakTheProbe) {
   EXPECT_GT(refused, 20U);
 }
 
-TEST_F(ProbeInHands, AHostThatMakesNoPanelStillHasItsFile) {
-  for (const char* const function : {"panel create", "panel addControl"}) {
-    witness().refuseNext(function);
-    start();
-    EXPECT_TRUE(witness().refusalHappened()) << function;
-    EXPECT_EQ(shown(), nullptr) << function;
-    EXPECT_NE(valueIn(facts(), "empty-tag"), "") << function;
-  }
+TEST_F(ProbeInHands, AHostThatMakesNoPanelIsToldAllButThePanels) {
+  witness().refuseNext("panel create");
+  start();
+  EXPECT_EQ(shown(), nullptr);
+  EXPECT_NE(valueIn(facts(), "empty-tag"), "");
+  EXPECT_EQ(seen("mouse"), "the host makes no panel");
+}
+
+TEST_F(ProbeInHands, AHostThatMakesNoControlIsToldAllButThePanels) {
+  witness().refuseNext("panel addControl");
+  start();
+  EXPECT_EQ(shown(), nullptr);
+  EXPECT_EQ(seen("mouse"), "the host makes no TextControl");
+}
+
+TEST_F(ProbeInHands, WhoDoesNotGoOnHasAFileThatTellsIt) {
+  start();
+  EXPECT_EQ(valueIn(facts(), "sets"), "silent");
+  EXPECT_EQ(seen("mouse"), "the user did not come to this");
 }
 
 }  // namespace
