@@ -65,7 +65,7 @@ std::string oneLayer(LayoutSite& site) {
   const Items before = scene.objects();
   scene.host().mustDo("LoadObject " + path);
   const Items came = added(before, scene.objects());
-  const std::string seen = "the item of varnel-one.lwo, with the one layer \"Named\": " + scene.namesOf(came);
+  std::string seen = "the item of varnel-one.lwo, with the one layer \"Named\": " + scene.namesOf(came);
   if (came.empty()) return seen;
   scene.select({came.front()});
   scene.confirmed("SkelegonsToBones");
