@@ -29,8 +29,8 @@ struct Hands {
   lw::LWControl* slider = nullptr;
   lw::LWControl* percent = nullptr;
   lw::LWControl* angle = nullptr;
-  bool limitsSetWhole = false;  // values that the probe set, beyond the range
-  bool limitsSetReal = false;
+  int setWhole = 0;  // what became of values that the probe set, beyond the range
+  double setPercent = 0;
 
   // Read when the user was done.
   int qualifiers = 0;

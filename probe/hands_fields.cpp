@@ -91,6 +91,9 @@ struct Limits {
   std::string seen;
 };
 
+bool limitsSetWhole(const Hands& hands) { return hands.setWhole == kGreatestWhole; }
+bool limitsSetReal(const Hands& hands) { return isNear(hands.setPercent, kGreatestPercent); }
+
 Limits limitsOf(Hands& hands) {
   logOf(hands.fields);
   return {limitOf(hands.typedWhole, kTypedWhole, kGreatestWhole),
@@ -98,8 +101,8 @@ Limits limitsOf(Hands& hands) {
           limitOf(hands.typedAngle, kTypedAngle * kDegree, kGreatestAngle * kDegree),
           "150 typed became the whole number " + std::to_string(hands.typedWhole) + " and the percent " +
               text(hands.typedPercent) + " in ranges to 100, and 30 the angle " + text(hands.typedAngle / kDegree) +
-              " in a range to 10; 150 that was set was " + (hands.limitsSetWhole ? "held" : "kept") +
-              " as whole number and " + (hands.limitsSetReal ? "held" : "kept") + " as percent"};
+              " in a range to 10; 150 that was set became the whole number " + std::to_string(hands.setWhole) +
+              " and the percent " + text(hands.setPercent)};
 }
 
 Answer range(Hands& hands) {
@@ -110,12 +113,12 @@ Answer range(Hands& hands) {
   if (!isWhole) {
     // Where the percent is held all the same, the range is of another kind, which "range-unit" tells.
     const bool isOfUnit = isPercent && limits.angle == Limit::Free;
-    const bool isSet = hands.limitsSetWhole || hands.limitsSetReal;
+    const bool isSet = limitsSetWhole(hands) || limitsSetReal(hands);
     return isSet || (isPercent && !isOfUnit) ? other(limits.seen) : told("none", limits.seen);
   }
-  if (!isPercent) return hands.limitsSetWhole ? other(limits.seen) : told("whole-numbers", limits.seen);
-  if (hands.limitsSetWhole != hands.limitsSetReal) return other(limits.seen);
-  return told(hands.limitsSetWhole ? "all" : "all-typed", limits.seen);
+  if (!isPercent) return limitsSetWhole(hands) ? other(limits.seen) : told("whole-numbers", limits.seen);
+  if (limitsSetWhole(hands) != limitsSetReal(hands)) return other(limits.seen);
+  return told(limitsSetWhole(hands) ? "all" : "all-typed", limits.seen);
 }
 
 Answer rangeUnit(Hands& hands) {

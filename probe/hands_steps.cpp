@@ -62,8 +62,8 @@ void openFieldsStep(Hands& hands, lw::LWPanelFuncs& panels, const Ways& ways) {
   hands.angle = panel.addRange("AngleControl", "Angle", kGreatestAngle, Reads::Real);
   setInteger(hands.slider, kTypedWhole);
   setReal(hands.percent, kTypedPercent);
-  hands.limitsSetWhole = integerOf(hands.slider) == kGreatestWhole;
-  hands.limitsSetReal = realOf(hands.percent) == kGreatestPercent;
+  hands.setWhole = integerOf(hands.slider);
+  hands.setPercent = realOf(hands.percent);
   setInteger(hands.list, kFirstEntry);
   setInteger(hands.slider, kFirstWhole);
   setReal(hands.percent, kFirstPercent);

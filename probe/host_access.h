@@ -5,6 +5,7 @@
 
 #include "interface/lightwave.h"
 #include "probe/trouble.h"
+#include "probe/whole_tables.h"
 
 namespace probe {
 
@@ -20,10 +21,12 @@ struct Host {
   lw::EvaluateFunc evaluate = nullptr;
   lw::EditBeginFunc editBegin = nullptr;
 
-  // Throws Trouble when the host does not offer it.
+  // Throws Trouble when the host does not offer it, or not with all the functions that the probe calls.
   template <class Table>
   Table& service(const char* name) const {
-    return *static_cast<Table*>(found(name));
+    Table& table = *static_cast<Table*>(found(name));
+    if (!isWhole(table)) throw Trouble{"a function is missing in the host's \"" + std::string(name) + "\""};
+    return table;
   }
 
   // Sends a command, UTF-8; what the host answers. In Layout it goes out in the system's narrow encoding. Throws Trouble

@@ -8,6 +8,7 @@
 #include "probe/panel_access.h"
 #include "probe/panel_paint.h"
 #include "probe/trouble.h"
+#include "probe/whole_tables.h"
 
 namespace probe {
 namespace {
@@ -15,6 +16,7 @@ namespace {
 constexpr int kMargin = 8;
 constexpr int kGap = 12;
 constexpr int kPopupWidth = 120;
+constexpr std::size_t kMostCalls = 20000;
 
 void* currentContext() {
   const GlCalls* const gl = platform::glCalls();
@@ -71,6 +73,7 @@ void CTrialPanel::dropMouseHooks() const {
 lw::LWControl* CTrialPanel::add(const char* kind, lw::LWPanControlDesc what, const char* label, Reads reads, Where where) {
   lw::LWControl* const control = panels_.addControl(panel_, kind, &what, label);
   if (control == nullptr) throw Trouble{"the host makes no " + std::string(kind)};
+  if (!isWhole(*control)) throw Trouble{"a function is missing in the host's " + std::string(kind)};
   setUserData(control, this);
   setCallback(control, lw::kControlEventCallback, &CTrialPanel::onEvent);
   if (where == Where::Below || rows_.empty()) rows_.emplace_back();
@@ -200,11 +203,22 @@ void CTrialPanel::paint() const {
 // ---------------------------------------------------------------------------------------------------------------------
 // What the host calls
 
+// A host that calls without end must not fill the memory: what comes after the most is noted over the last.
 Called& CTrialPanel::note(Call call) {
-  log_.emplace_back().call = call;
-  log_.back().within = within_;
-  log_.back().context = currentContext();
-  return log_.back();
+  if (log_.size() == kMostCalls) log_.pop_back();
+  Called& called = log_.emplace_back();
+  called.call = call;
+  called.within = within_;
+  called.context = currentContext();
+  return called;
+}
+
+// The host may call back while it is asked something, and the log grow meanwhile: an entry is found by its place then.
+template <class Member, class Ask>
+void CTrialPanel::noteAnswer(Member Called::*member, Ask&& ask) {
+  const std::size_t place = log_.size() - 1;
+  const Member answer = ask();
+  log_[place].*member = answer;
 }
 
 void CTrialPanel::noteHook(Call call, int bits, int x, int y) {
@@ -212,35 +226,46 @@ void CTrialPanel::noteHook(Call call, int bits, int x, int y) {
   called.bits = bits;
   called.x = x;
   called.y = y;
-  called.mouse = mouse();
+  noteAnswer(&Called::mouse, [this] { return mouse(); });
   const bool isDown = (bits & lw::kMouseDown) != 0;
   if (call != Call::WheelHook && !isDown && released_) released_();
 }
 
 void CTrialPanel::event(lw::LWControl* control) {
   const auto pressed = std::find_if(buttons_.begin(), buttons_.end(), [&](const Button& b) { return b.control == control; });
-  if (pressed != buttons_.end()) return pressed->pressed();
-  Called& called = note(Call::Event);
-  called.control = control;
+  if (pressed != buttons_.end()) {
+    // A host may tell of one press twice, and leave a panel on the screen that it was to close.
+    if (mayBeOpen_) pressed->pressed();
+    return;
+  }
+  note(Call::Event).control = control;
   if (control == area_) {
-    called.mouse = mouse();
+    noteAnswer(&Called::mouse, [this] { return mouse(); });
     return paint();
   }
   for (const Field& field : fields_) {
     if (field.control != control || field.reads == Reads::Nothing) continue;
-    called.value = field.reads == Reads::Integer ? integerOf(control) : realOf(control);
+    noteAnswer(&Called::value, [&] { return field.reads == Reads::Integer ? integerOf(control) : realOf(control); });
   }
 }
 
+// Nothing once the module ends: what a panel would ask the host then must not be asked.
+template <class Action>
+void CTrialPanel::onPanel(void* user, Action&& action) {
+  lw::onTool<CTrialPanel>(user, [&](CTrialPanel& panel) {
+    if (panel.panel_ != nullptr) action(panel);
+  });
+}
+
 void CTrialPanel::onOpen(lw::PanelId /*panel*/, void* user) {
-  lw::onTool<CTrialPanel>(user, [](CTrialPanel& panel) {
+  onPanel(user, [](CTrialPanel& panel) {
     panel.note(Call::Opened);
     if (panel.within_ == Within::Open && panel.opening_) panel.opening_();
   });
 }
 
 void CTrialPanel::onClose(lw::PanelId /*panel*/, void* user) {
-  lw::onTool<CTrialPanel>(user, [](CTrialPanel& panel) {
+  onPanel(user, [](CTrialPanel& panel) {
     panel.note(Call::Closed);
     panel.isCloseTold_ = true;
     if (panel.within_ == Within::Close || !panel.mayBeOpen_) return;
@@ -250,7 +275,7 @@ void CTrialPanel::onClose(lw::PanelId /*panel*/, void* user) {
 }
 
 void CTrialPanel::onResize(lw::PanelId /*panel*/, void* user, int width, int height) {
-  lw::onTool<CTrialPanel>(user, [&](CTrialPanel& panel) {
+  onPanel(user, [&](CTrialPanel& panel) {
     Called& called = panel.note(Call::Resized);
     called.x = width;
     called.y = height;
@@ -258,35 +283,35 @@ void CTrialPanel::onResize(lw::PanelId /*panel*/, void* user, int width, int hei
 }
 
 void CTrialPanel::onButton(lw::PanelId /*panel*/, void* user, int bits, int x, int y) {
-  lw::onTool<CTrialPanel>(user, [&](CTrialPanel& panel) { panel.noteHook(Call::ButtonHook, bits, x, y); });
+  onPanel(user, [&](CTrialPanel& panel) { panel.noteHook(Call::ButtonHook, bits, x, y); });
 }
 
 void CTrialPanel::onMotion(lw::PanelId /*panel*/, void* user, int bits, int x, int y) {
-  lw::onTool<CTrialPanel>(user, [&](CTrialPanel& panel) { panel.noteHook(Call::MotionHook, bits, x, y); });
+  onPanel(user, [&](CTrialPanel& panel) { panel.noteHook(Call::MotionHook, bits, x, y); });
 }
 
 void CTrialPanel::onWheel(lw::PanelId /*panel*/, void* user, int bits, int x, int y) {
-  lw::onTool<CTrialPanel>(user, [&](CTrialPanel& panel) { panel.noteHook(Call::WheelHook, bits, x, y); });
+  onPanel(user, [&](CTrialPanel& panel) { panel.noteHook(Call::WheelHook, bits, x, y); });
 }
 
 void CTrialPanel::onEvent(lw::LWControl* control, void* user) {
-  lw::onTool<CTrialPanel>(user, [&](CTrialPanel& panel) { panel.event(control); });
+  onPanel(user, [&](CTrialPanel& panel) { panel.event(control); });
 }
 
 void CTrialPanel::onDraw(lw::LWControl* control, void* user, int /*mode*/) {
-  lw::onTool<CTrialPanel>(user, [&](CTrialPanel& panel) {
+  onPanel(user, [&](CTrialPanel& panel) {
     panel.note(Call::Draw).control = control;
     panel.paint();
   });
 }
 
 int CTrialPanel::count(void* user) {
-  lw::onTool<CTrialPanel>(user, [](CTrialPanel& panel) { panel.note(Call::PopupCount); });
+  onPanel(user, [](CTrialPanel& panel) { panel.note(Call::PopupCount); });
   return kEntries;
 }
 
 const char* CTrialPanel::name(void* user, int index) {
-  lw::onTool<CTrialPanel>(user, [&](CTrialPanel& panel) { panel.note(Call::PopupName).x = index; });
+  onPanel(user, [&](CTrialPanel& panel) { panel.note(Call::PopupName).x = index; });
   return index >= 0 && index < kEntries ? kEntryNames[index] : "";
 }
 

@@ -82,10 +82,14 @@ class CTrialPanel {
   void installHooks();
   void setHook(lw::PanelAttribute attribute, void* pointer) const;
   Called& note(Call call);
+  template <class Member, class Ask>
+  void noteAnswer(Member Called::*member, Ask&& ask);
   void noteHook(Call call, int bits, int x, int y);
   void event(lw::LWControl* control);
   void paint() const;
 
+  template <class Action>
+  static void onPanel(void* user, Action&& action);
   static void onOpen(lw::PanelId panel, void* user);
   static void onClose(lw::PanelId panel, void* user);
   static void onResize(lw::PanelId panel, void* user, int width, int height);

@@ -7,6 +7,7 @@
 #include "host/lwtool2_errors.h"
 #include "objectfile/file_bytes.h"
 #include "objectfile/whole_file.h"
+#include "probe/ask.h"
 #include "probe/facts_file.h"
 #include "probe/panel_access.h"
 #include "probe/run.h"
@@ -21,6 +22,8 @@ constexpr int kFileWidth = 50;  // characters
 const char* kExplanation[] = {"Measures how this program answers plug-ins, in less than a minute.",
                               "What it makes it removes again. The file goes to the maintainers.", nullptr};
 
+constexpr const char* kLeft = "Something of the probe's is still there. Please clear all.";
+
 std::string usualFile(Program program) {
   return standin::utf8Of(userFolder() / (program == Program::Modeler ? "varnel-modeler.json" : "varnel-layout.json"));
 }
@@ -30,6 +33,11 @@ std::string folderOf(const std::string& path) {
   return folder.empty() ? "." : standin::utf8Of(folder);
 }
 
+bool isFolder(const std::string& path) {
+  std::error_code ignored;
+  return std::filesystem::is_directory(standin::pathFromUtf8(path), ignored);
+}
+
 }  // namespace
 
 CProbePanel& probePanel() {
@@ -37,25 +45,42 @@ CProbePanel& probePanel() {
   return panel;
 }
 
-void CProbePanel::make() {
-  panel_ = panels_->create(kToolName, panels_);
-  if (panel_ == nullptr) throw Trouble{"the host makes no panel"};
+lw::LWControl* CProbePanel::add(const char* kind, lw::LWPanControlDesc what, const char* label) {
+  lw::LWControl* const control = panels_->addControl(panel_, kind, &what, label);
+  if (control == nullptr || !isWhole(*control)) throw Trouble{"the host makes no " + std::string(kind)};
+  setPointer(control, lw::kControlUserData, this);
+  return control;
+}
+
+void CProbePanel::addAll() {
   lw::LWPanControlDesc text = description(lw::kValueText);
   text.text.text = kExplanation;
-  panels_->addControl(panel_, "TextControl", &text, "");
+  add("TextControl", text, "");
   lw::LWPanControlDesc field = description(lw::kValueString);
   field.str.width = kFileWidth;
-  file_ = panels_->addControl(panel_, "EditControl", &field, "File");
-  lw::LWPanControlDesc button = description(lw::kValueInteger);
-  lw::LWControl* const start = panels_->addControl(panel_, "ButtonControl", &button, "Start");
-  now_ = panels_->addControl(panel_, "EditControl", &field, "Now");
-  if (file_ == nullptr || start == nullptr || now_ == nullptr) throw Trouble{"the host makes no control"};
-  for (lw::LWControl* const control : {file_, start, now_}) setPointer(control, lw::kControlUserData, this);
+  file_ = add("EditControl", field, "File");
+  lw::LWControl* const start = add("ButtonControl", description(lw::kValueInteger), "Start");
+  now_ = add("EditControl", field, "Now");
   setCallback(start, lw::kControlEventCallback, &CProbePanel::onStart);
   setText(file_, usualFile(host_.program));
 }
 
+// One that is made in part only would stay without its button for good.
+void CProbePanel::make() {
+  panel_ = panels_->create(kToolName, panels_);
+  if (panel_ == nullptr) throw Trouble{"the host makes no panel"};
+  const Answer end = answerOf([&] {
+    addAll();
+    return Answer{};
+  });
+  if (end.seen.empty()) return;
+  panels_->destroy(std::exchange(panel_, nullptr));
+  throw Trouble{end.seen};
+}
+
+// Not in the middle of a run, when the host's services are in use.
 void CProbePanel::open(const Host& host) {
+  if (isRunning_) return;
   host_ = host;
   panels_ = &host_.service<lw::LWPanelFuncs>("LWPanelServices 3");
   panels_->globalFun = host_.global;
@@ -75,6 +100,7 @@ void CProbePanel::say(const std::string& line) const {
 
 // A file that is there is written over when the user has started in spite of being told.
 bool CProbePanel::mayWrite(const std::string& path) {
+  if (!standin::pathFromUtf8(path).has_filename() || isFolder(path)) throw Trouble{"Name a file, with its folder."};
   const bool isKnown = std::exchange(path_, path) == path;
   if (!isKnown && standin::refusedFiles({path}, standin::Existing::Keep)) {
     say("There is such a file. Press Start again to write over it.");
@@ -87,33 +113,42 @@ bool CProbePanel::mayWrite(const std::string& path) {
 void CProbePanel::save() {
   const auto failure = standin::writeWholeFile(path_, factsText(host_, facts_), standin::Existing::Replace);
   if (failure) throw Trouble{failure->text};
-  say("Written: " + path_);
+  say(isLeft_ ? kLeft : "Written: " + path_);
+}
+
+void CProbePanel::measure() {
+  trial_.stop();
+  facts_ = {};
+  measureAlone(host_, facts_, [this](const std::string& what) { say("Measuring " + what); });
+  isLeft_ = !answerOf([&] { return Answer{{}, refusal(host_)}; }).seen.empty();
+  if (isLeft_) facts_.figure("left behind", kLeft);
 }
 
 void CProbePanel::start() {
-  try {
-    if (const std::string why = refusal(host_); !why.empty()) return say(why);
-    if (!mayWrite(textOf(file_))) return;
-    facts_ = {};
-    measureAlone(host_, facts_, [this](const std::string& what) { say("Measuring " + what); });
-    const bool goesOn = trial_.begin(host_, facts_, [this] { saveAndSay(); });
-    save();  // what is told so far, should the user not go on
-    if (goesOn) say("Go on in the next panel");
-  } catch (const Trouble& trouble) {
-    say(trouble.why);
-  }
+  if (const std::string why = refusal(host_); !why.empty()) return say(why);
+  if (!mayWrite(textOf(file_))) return;
+  measure();
+  const bool goesOn = trial_.begin(host_, facts_, [this] { sayingWhy([this] { save(); }); });
+  save();  // what is told so far, should the user not go on
+  if (goesOn && !isLeft_) say("Go on in the next panel");
 }
 
-void CProbePanel::saveAndSay() {
-  try {
-    save();
-  } catch (const Trouble& trouble) {
-    say(trouble.why);
-  }
+// What goes wrong is told in the panel: there is nobody else to tell.
+void CProbePanel::sayingWhy(const std::function<void()>& action) {
+  const Answer end = answerOf([&] {
+    action();
+    return Answer{};
+  });
+  if (!end.seen.empty()) say(end.seen);
 }
 
+// A host may let the user press again while it runs a command.
 void CProbePanel::onStart(lw::LWControl* /*control*/, void* user) {
-  lw::onTool<CProbePanel>(user, [](CProbePanel& panel) { panel.start(); });
+  lw::onTool<CProbePanel>(user, [](CProbePanel& panel) {
+    if (panel.panel_ == nullptr || std::exchange(panel.isRunning_, true)) return;
+    panel.sayingWhy([&] { panel.start(); });
+    panel.isRunning_ = false;
+  });
 }
 
 }  // namespace probe

@@ -23,18 +23,19 @@ constexpr std::array kTold{
 }  // namespace
 
 bool CTrial::begin(const Host& host, Facts& facts, std::function<void()> ended) {
-  site_.reset();
+  stop();
   hands_ = std::make_unique<Hands>();
   facts_ = &facts;
   ended_ = std::move(ended);
   for (const char* const name : kTold) facts_->tell(name, notTold(kNotReached));
   const Answer trouble = answerOf([&] {
     panels_ = &host.service<lw::LWPanelFuncs>("LWPanelServices 3");
+    panels_->globalFun = host.global;  // the host may give out another table each time
     showFirstPanel();
     return Answer{};
   });
   if (trouble.seen.empty()) return true;
-  ended_ = nullptr;
+  stop();
   for (const char* const name : kTold) facts_->tell(name, trouble);
   return false;
 }
@@ -48,7 +49,14 @@ void CTrial::showFirstPanel() {
   facts_->figure("sizes of controls", sizes(*site_));
 }
 
+void CTrial::stop() {
+  ended_ = nullptr;
+  site_.reset();
+  hands_.reset();
+}
+
 void CTrial::forget() {
+  ended_ = nullptr;
   if (site_) site_->panel().forget();
   if (!hands_) return;
   for (Step* const step : {&hands_->mouse, &hands_->fields, &hands_->wheel}) {

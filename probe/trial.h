@@ -20,6 +20,8 @@ class CTrial {
   // when the user is through. The facts must live as long as the trial. False when the host makes no such panel, which the
   // facts tell.
   bool begin(const Host& host, Facts& facts, std::function<void()> ended);
+  // Closes its panels, and tells nothing more.
+  void stop();
   // At the end of the module: nothing of the host may be called any more.
   void forget();
 

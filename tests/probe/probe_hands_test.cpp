@@ -2,6 +2,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "standin/core/shared_library.h"
 #include "standin/core/witness.h"
 #include "standin/measure/hands.h"
 #include "standin/panels/geometry.h"
@@ -211,6 +212,75 @@ TEST_F(ProbeInHands, AHostThatMakesNoControlIsToldAllButThePanels) {
   start();
   EXPECT_EQ(shown(), nullptr);
   EXPECT_EQ(seen("mouse"), "the host makes no TextControl");
+}
+
+// A host may tell of a press late, or leave a panel on the screen that is closed.
+TEST_F(ProbeInHands, AButtonOfAClosedPanelDoesNothing) {
+  start();
+  const Control* const next = shown()->find("Next");
+  mustBeDone(person::close(shown()));
+  next->event(next->face, next->user);
+  EXPECT_EQ(shown(), nullptr);
+  EXPECT_EQ(seen("mouse"), "the user closed the panel");
+}
+
+// A host that tells of other controls while it is asked for the value of one.
+void (*getOfTheHost)(lw::LWControl*, int, lw::LWValue*) = nullptr;
+const Control* toldMeanwhile = nullptr;
+
+TEST_F(ProbeInHands, WhatTheHostTellsWhileItIsAskedSpoilsNoAnswer) {
+  start();
+  press("Next");
+  press("Skip");
+  Control* const list = shown()->find("List");
+  toldMeanwhile = shown()->find("Percent");
+  getOfTheHost = std::exchange(list->face->get, [](lw::LWControl* control, int attribute, lw::LWValue* value) {
+    constexpr int kMany = 1000;
+    control->get = getOfTheHost;
+    for (int i = 0; i < kMany; ++i) toldMeanwhile->event(toldMeanwhile->face, toldMeanwhile->user);
+    getOfTheHost(control, attribute, value);
+  });
+  mustBeDone(person::choose(list, 1));
+  press("Done");
+  press("Skip");
+  EXPECT_EQ(seen("same-choice"), "the entry that was shown was chosen, and the event came");
+}
+
+TEST_F(ProbeInHands, ACallThatComesBehindTheEndOfTheModuleAsksTheHostNothing) {
+  start();
+  std::string why;
+  void* const library = openLibrary(probePath(), why);
+  ASSERT_NE(library, nullptr) << why;
+  static_cast<const lw::ModuleDescriptor*>(findSymbol(library, "_mod_descrip"))->shutdown(nullptr);
+  const std::uint64_t calls = witness().calls();
+  mustBeDone(person::press(shown()->find("Next")));
+  mustBeDone(person::press(own()->find("Start")));
+  mustBeDone(person::close(shown()));
+  EXPECT_EQ(witness().calls(), calls);
+  closeLibrary(library);
+}
+
+TEST_F(ProbeInHands, APanelThatWasMadeInPartIsMadeAnew) {
+  end();
+  host.emplace(HostOptions());
+  excuseTrials();
+  module.emplace();
+  ASSERT_EQ(module->load(probePath()), "");
+  witness().refuseNext("panel addControl");
+  activate();
+  EXPECT_EQ(own(), nullptr);
+  activate();
+  ASSERT_NE(own(), nullptr);
+  EXPECT_NE(own()->find("Start"), nullptr);
+}
+
+TEST_F(ProbeInHands, AFolderIsNoPlaceForTheFile) {
+  for (const std::string& path : {folder.path(), folder.path() + "/", std::string()}) {
+    mustBeDone(person::type(own()->find("File"), path));
+    pressStart();
+    EXPECT_EQ(own()->find("Now")->shown(), "Name a file, with its folder.") << path;
+    EXPECT_TRUE(host->commands().empty());
+  }
 }
 
 TEST_F(ProbeInHands, WhoDoesNotGoOnHasAFileThatTellsIt) {
