@@ -31,8 +31,9 @@ std::string hostText(const Host& host) {
   const unsigned word = host.number("Product Info");
   const std::string release = std::to_string(word >> 20 & 0xF) + "." + std::to_string(word >> 16 & 0xF);
   constexpr unsigned kFirstYear = 2015;
-  return "{\"release\": " + jsonText(release) + ", \"build\": " + std::to_string(word >> 4 & 0xFFF) +
-         ", \"year\": " + std::to_string(kFirstYear + (word >> 24 & 0x3F)) +
+  constexpr unsigned kMajorWithYear = 15;  // of others the bits of the year mean nothing
+  const std::string year = (word >> 20 & 0xF) == kMajorWithYear ? std::to_string(kFirstYear + (word >> 24 & 0x3F)) : "null";
+  return "{\"release\": " + jsonText(release) + ", \"build\": " + std::to_string(word >> 4 & 0xFFF) + ", \"year\": " + year +
          ", \"language\": " + jsonText(hexadecimal(host.number("Locale Info") & 0xFFFF)) +
          ", \"word\": " + jsonText(hexadecimal(word)) + "}";
 }

@@ -216,15 +216,19 @@ std::string textOf(const LayoutScene& scene, const Target& target, const Command
   return trial.names == Names::Object ? scene.withItem(trial.command, target.object) : trial.command;
 }
 
-void tell(const LayoutScene& scene, const Target& target, const CommandTrial& trial, Facts& facts) {
+// Only while the item that is meant, and nothing of the user's, is selected: a command before may have changed that.
+void tell(const LayoutScene& scene, const Target& target, lw::ItemId item, const CommandTrial& trial, Facts& facts) {
   const std::string command = textOf(scene, target, trial);
-  facts.figure(command, answerOf([&] { return other(tried(scene, target, trial, command)); }).seen);
+  facts.figure(command, answerOf([&] {
+                          if (scene.selection() != Items{item}) scene.select({item});
+                          return other(tried(scene, target, trial, command));
+                        }).seen);
 }
 
 void tellAxis(const LayoutScene& scene, const Target& target, const AxisTrials& row, Facts& facts) {
   const std::string axis = row.axis;
   const auto tellOne = [&](const std::string& command, Query query, bool isToggle = false) {
-    tell(scene, target, {command.c_str(), query, isToggle}, facts);
+    tell(scene, target, target.bone, {command.c_str(), query, isToggle}, facts);
   };
   tellOne(axis + "Controller 6", row.controller);
   tellOne("Limit" + axis, row.limits, true);
@@ -242,8 +246,8 @@ void tellOfNull(const LayoutScene& scene, const Target& target, Facts& facts) {
     return name == nullptr ? std::string("none") : "\"" + copied(name) + "\"";
   };
   const auto look = [](const LayoutScene& s, const Target& t) { return std::to_string(s.interfaceInfo().itemVis(t.null)); };
-  tell(scene, target, {"ApplyServer CustomObjHandler LW_ItemShape", server}, facts);
-  tell(scene, target, {"ItemVisibility 7", look}, facts);
+  tell(scene, target, target.null, {"ApplyServer CustomObjHandler LW_ItemShape", server}, facts);
+  tell(scene, target, target.null, {"ItemVisibility 7", look}, facts);
 }
 
 }  // namespace
@@ -253,10 +257,10 @@ void tellCommandFigures(LayoutSite& site, Facts& facts) {
   const Target target{site.rig().bone(kRigRight), site.rig().first(), site.nulls().first().null};
   tellOfNull(scene, target, facts);
   scene.select({target.bone});
-  for (const CommandTrial& trial : kBoneTrials) tell(scene, target, trial, facts);
-  for (const CommandTrial& trial : kItemTrials) tell(scene, target, trial, facts);
+  for (const CommandTrial& trial : kBoneTrials) tell(scene, target, target.bone, trial, facts);
+  for (const CommandTrial& trial : kItemTrials) tell(scene, target, target.bone, trial, facts);
   for (const AxisTrials& row : kAxes) tellAxis(scene, target, row, facts);
-  for (const CommandTrial& trial : kBareTrials) tell(scene, target, trial, facts);
+  for (const CommandTrial& trial : kBareTrials) tell(scene, target, target.bone, trial, facts);
 }
 
 }  // namespace probe::layout

@@ -69,6 +69,14 @@ void LayoutScene::select(const Items& some) const {
     host_.mustDo(withItem(command, item));
     command = "AddToSelection";
   }
+  if (!some.empty()) mustBeSelected(some);
+}
+
+// What follows a selection changes or removes what is selected: it must not reach anything of the user's.
+void LayoutScene::mustBeSelected(const Items& some) const {
+  const Items selected = selection();
+  if (!added(some, selected).empty()) throw Trouble{"after selecting " + namesOf(some) + ", selected: " + namesOf(selected)};
+  if (selected.size() < some.size()) throw Trouble{"the host selects " + namesOf(selected) + " of " + namesOf(some)};
 }
 
 std::string LayoutScene::withItem(const std::string& command, lw::ItemId item) const {
@@ -107,7 +115,7 @@ Vector LayoutScene::param(lw::ItemId item, lw::ItemParam param) const {
 // Channels
 
 void LayoutScene::addChannels(lw::GroupId group, const std::string& above, std::size_t depth,
-                              std::vector<ItemChannel>& found) const {
+                              std::vector<ItemChannel>& found, std::size_t& groups) const {
   if (depth > kDeepestGroup) throw Trouble{"the groups of channels do not end"};
   const lw::LWChannelInfo& info = channelInfo();
   for (lw::ChannelId next = info.nextChannel(group, nullptr); next != nullptr; next = info.nextChannel(group, next)) {
@@ -115,10 +123,9 @@ void LayoutScene::addChannels(lw::GroupId group, const std::string& above, std::
     found.push_back({above + name, depth, next, name});
     mustEnd(found.size(), "the channels");
   }
-  std::size_t groups = 0;
   for (lw::GroupId next = info.nextGroup(group, nullptr); next != nullptr; next = info.nextGroup(group, next)) {
-    addChannels(next, above + copied(info.groupName(next)) + ".", depth + 1, found);
     mustEnd(++groups, "the groups of channels");
+    addChannels(next, above + copied(info.groupName(next)) + ".", depth + 1, found, groups);
   }
 }
 
@@ -126,7 +133,8 @@ std::vector<ItemChannel> LayoutScene::channelsOf(lw::ItemId item) const {
   const lw::GroupId group = items().chanGroup(item);
   if (group == nullptr) throw Trouble{"\"" + nameOf(item) + "\" has no group of channels"};
   std::vector<ItemChannel> found;
-  addChannels(group, "", 0, found);
+  std::size_t groups = 0;
+  addChannels(group, "", 0, found, groups);
   return found;
 }
 

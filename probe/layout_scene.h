@@ -47,7 +47,8 @@ class LayoutScene {
   std::string namesOf(const Items& items) const;
 
   Items selection() const;
-  // The first one alone, then the others one after another. Throws Trouble when the host refuses, as all that sends does.
+  // The first one alone, then the others one after another. Throws Trouble when the host refuses, as all that sends does, and
+  // when others are selected than these.
   void select(const Items& items) const;
   // "ParentItem" and the number of the item, for example.
   std::string withItem(const std::string& command, lw::ItemId item) const;
@@ -72,7 +73,9 @@ class LayoutScene {
   void setPosition(lw::ItemId item, const Vector& position) const;
 
  private:
-  void addChannels(lw::GroupId group, const std::string& above, std::size_t depth, std::vector<ItemChannel>& found) const;
+  void mustBeSelected(const Items& items) const;
+  void addChannels(lw::GroupId group, const std::string& above, std::size_t depth, std::vector<ItemChannel>& found,
+                   std::size_t& groups) const;
 
   const Host& host_;
 };

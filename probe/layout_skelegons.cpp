@@ -41,9 +41,9 @@ Answer bonesOf(LayoutSite& site) {
 }
 
 Answer boneColour(LayoutSite& site) {
-  const auto& info = site.scene.interfaceInfo();
-  const int plain = info.itemColor(rigWithBones(site).bone(kRigRight));
-  const int coloured = info.itemColor(site.rig().bone(kRigLeft));
+  const LayoutRig& rig = rigWithBones(site);
+  const int plain = site.scene.interfaceInfo().itemColor(rig.bone(kRigRight));
+  const int coloured = site.scene.interfaceInfo().itemColor(rig.bone(kRigLeft));
   const std::string seen = std::string("the bone of a skelegon of colour ") + kRigColour + " has colour " +
                            std::to_string(coloured) + ", that of one without " + std::to_string(plain);
   return told(coloured == plain ? "fresh" : "skelegon", seen);

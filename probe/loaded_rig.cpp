@@ -12,8 +12,14 @@ bool isFrontEmpty(const Host& host) {
   return currentObject(host) && host.service<lw::LWStateQueryFuncs>("LWM: State Query 5").numLayers() == 0;
 }
 
+// Where the empty object that was in front still is, it is the user's: the host took the command and loaded nothing. A host
+// that does not tell has loaded the rig, which is then closed.
 const Host& loaded(const Host& host, const std::string& path) {
+  const std::optional<std::string> before = currentObject(host);
   host.mustDo("load \"" + path + '"');
+  bool isAsBefore = false;
+  if (before) lw::guarded([&] { isAsBefore = currentObject(host) == before && isFrontEmpty(host); });
+  if (isAsBefore) throw Trouble{"the host took \"load\", and the rig is not in front"};
   return host;
 }
 
@@ -22,7 +28,7 @@ const Host& loaded(const Host& host, const std::string& path) {
 int objectCount(const lw::LWObjectFuncs& objects) {
   // What a person can have loaded; more is no count.
   constexpr int kMostObjects = 1000;
-  return std::min(objects.numObjects(), kMostObjects);
+  return std::clamp(objects.numObjects(), 0, kMostObjects);
 }
 
 std::optional<std::string> currentObject(const Host& host) {
@@ -79,6 +85,8 @@ int LoadedRig::index() const {
   }
   throw Trouble{"the rig is not among the host's objects"};
 }
+
+void LoadedRig::mustBeInFront() const { object_.mustBeInFront(); }
 
 void LoadedRig::save() {
   object_.mustBeInFront();

@@ -44,6 +44,8 @@ class LoadedRig {
 
   // Its place among the loaded objects. Throws Trouble when it is not there.
   int index() const;
+  // Throws Trouble when it is not the current object: what deletes or undoes must not reach another one.
+  void mustBeInFront() const;
   // Writes it over its file. Throws Trouble when it is not the current object, or the host refuses.
   void save();
   const std::string& path() const { return file_.path(); }

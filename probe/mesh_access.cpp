@@ -16,6 +16,7 @@ int notePolygon(void* user, lw::PolygonId polygon) {
   return lw::guarded(
       [&] {
         auto& found = *static_cast<std::vector<lw::PolygonId>*>(user);
+        if (polygon == nullptr) return kEnough;
         found.push_back(polygon);
         return found.size() < kMostPolygons ? 0 : kEnough;
       },
@@ -30,6 +31,9 @@ void mustTake(int code, const char* what) {
 
 MeshEdit::MeshEdit(const Host& host, int mode) : op_(host.editBegin == nullptr ? nullptr : host.editBegin(0, 0, 0, mode)) {
   if (op_ == nullptr) throw Trouble{"the host begins no edit"};
+  if (isWhole(*op_)) return;
+  end(lw::kEditUserAbort);
+  throw Trouble{"a function is missing in the host's edit"};
 }
 
 MeshEdit::~MeshEdit() { end(lw::kEditUserAbort); }
@@ -40,12 +44,14 @@ void MeshEdit::end(int error) {
   if (op_ == nullptr) return;
   lw::MeshEditOp& op = *op_;
   op_ = nullptr;
-  op.done(op.state, error, 0);
+  if (op.done != nullptr) op.done(op.state, error, 0);
 }
 
 std::vector<lw::PolygonId> MeshEdit::scan(int layers) const {
   std::vector<lw::PolygonId> found;
-  mustTake(op_->fastPolyScan(op_->state, notePolygon, &found, layers, 0), "a scan");
+  const int code = op_->fastPolyScan(op_->state, notePolygon, &found, layers, 0);
+  if (found.size() >= kMostPolygons) throw Trouble{"a scan of the rig does not end"};
+  mustTake(code, "a scan");
   return found;
 }
 

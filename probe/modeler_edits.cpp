@@ -45,6 +45,7 @@ Answer selectionUndo(ModelerSite& site) {
   setTag(site.host, kRigRoot, "step");
   select(site.host, kRigLeft, true);
   if (!isSelected(site.host, kRigLeft)) return notTold("the host did not select a polygon");
+  site.rig.mustBeInFront();
   site.host.mustDo("undo");
   const bool selectionStays = isSelected(site.host, kRigLeft);
   const bool tagStays = trialTag(site.host, kRigRoot) == "step";

@@ -33,9 +33,13 @@ std::string allLayersChoice(ModelerSite& site) {
 std::string undoSteps(ModelerSite& site) {
   {
     MeshEdit edit(site.host, lw::kEditAll);
-    for (const char* const name : {kRigLeft, kRigRight}) edit.setTag(edit.skelegon(name), kTrialTag, "two");
+    for (const char* const name : {kRigLeft, kRigRight}) {
+      // Without a change of its own the undo would take back another step.
+      if (edit.setTag(edit.skelegon(name), kTrialTag, "two") != lw::kEditNoError) throw Trouble{"the host refused a tag"};
+    }
     edit.finish();
   }
+  site.rig.mustBeInFront();
   site.host.mustDo("undo");
   const int left =
       static_cast<int>(trialTag(site.host, kRigLeft) == "two") + static_cast<int>(trialTag(site.host, kRigRight) == "two");
@@ -46,7 +50,8 @@ std::string droppedEdit(ModelerSite& site) {
   const std::optional<std::string> before = trialTag(site.host, kRigOther);
   {
     const MeshEdit edit(site.host, lw::kEditAll);
-    edit.setTag(edit.skelegon(kRigOther), kTrialTag, "dropped");
+    if (edit.setTag(edit.skelegon(kRigOther), kTrialTag, "dropped") != lw::kEditNoError)
+      throw Trouble{"the host refused a tag"};
   }
   const std::optional<std::string> after = trialTag(site.host, kRigOther);
   return "a tag that read as " + shown(before) + " reads as " + shown(after) +

@@ -4,6 +4,7 @@
 #include <array>
 #include <vector>
 
+#include "host/lwtool2_errors.h"
 #include "probe/host_text.h"
 #include "probe/map_names.h"
 #include "probe/mesh_access.h"
@@ -56,14 +57,19 @@ Answer editWithoutObject(const Host& host) {
   if (host.editBegin == nullptr) return notTold("the host has no function that begins an edit");
   lw::MeshEditOp* const op = host.editBegin(0, 0, 0, lw::kEditAll);
   if (op == nullptr) return told("null", "no edit begins while no object is loaded");
-  op->done(op->state, lw::kEditUserAbort, 0);
+  if (op->done != nullptr) op->done(op->state, lw::kEditUserAbort, 0);
   return told("empty", "an edit begins while no object is loaded");
 }
 
 UnsavedObject unsavedObject(const Host& host) {
   UnsavedObject unsaved;
   const Answer end = answerOf([&] {
+    const std::optional<std::string> before = currentObject(host);
     host.mustDo("new");
+    // An empty object that was there is the user's, and stays.
+    bool isAsBefore = false;
+    if (before) lw::guarded([&] { isAsBefore = currentObject(host) == before; });
+    if (isAsBefore) throw Trouble{"the host took \"new\", and no other object came in front"};
     FrontObject object(host);
     unsaved.name = object.name();
     const auto& objects = host.service<lw::LWObjectFuncs>("Scene Objects 9");

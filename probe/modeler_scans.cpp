@@ -43,6 +43,7 @@ Answer deletedPolygons(ModelerSite& site) {
     edit.finish();
   }
   if (!isSelected(site.host, kRigRight)) return notTold("the host did not select a polygon");
+  site.rig.mustBeInFront();
   site.host.mustDo("delete");
   const StepBack restored(site.host);
   const MeshEdit edit(site.host, lw::kEditAll);
@@ -65,6 +66,7 @@ int askWithin(void* user, lw::PolygonId polygon) {
   constexpr int kEnough = 1;
   lw::guarded([&] {
     auto& scan = *static_cast<AskingScan*>(user);
+    if (polygon == nullptr) return;
     scan.polygon = polygon;
     scan.type = scan.op->polyType(scan.op->state, polygon);
   });

@@ -2,8 +2,10 @@
 
 #include <array>
 
+#include "host/lwtool2_errors.h"
 #include "probe/ask.h"
 #include "probe/layout_area.h"
+#include "probe/loaded_rig.h"
 #include "probe/modeler_questions.h"
 #include "probe/not_tellable.h"
 #include "probe/process_questions.h"
@@ -33,6 +35,13 @@ constexpr std::array kAreas{
     Area{"items and commands", kLayout, measureLayout},
 };
 
+// A host may have an empty object when nothing is loaded; of further ones any may hold data.
+bool hasOtherObjects(const Host& host) {
+  int count = 0;
+  lw::guarded([&] { count = objectCount(host.service<lw::LWObjectFuncs>("Scene Objects 9")); });
+  return count > 1;
+}
+
 bool isIn(const Area& area, Program program) {
   return (area.programs & (program == Program::Modeler ? kModeler : kLayout)) != 0;
 }
@@ -43,7 +52,8 @@ std::string refusal(const Host& host) {
   if (host.program == Program::Modeler) {
     const auto& query = host.service<lw::LWStateQueryFuncs>("LWM: State Query 5");
     const bool isEmpty = query.object() == nullptr || query.numLayers() == 0;
-    return isEmpty ? "" : "The object holds data. Close all objects, then start.";
+    if (!isEmpty) return "The object holds data. Close all objects, then start.";
+    return hasOtherObjects(host) ? "There are other objects. Close all objects, then start." : "";
   }
   const auto& items = host.service<lw::LWItemInfo>("LW Item Info 9");
   return items.first(lw::kItemObject, nullptr) == nullptr ? "" : "The scene has objects. Clear the scene, then start.";
