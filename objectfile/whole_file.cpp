@@ -42,6 +42,17 @@ std::string whyProtected(const fs::path& path, fs::perms permissions) {
   return file ? std::string() : std::generic_category().message(errno);
 }
 
+// The file itself where the path is a link.
+Outcome<fs::path> replaceable(const std::string& path) {
+  std::error_code error;
+  const fs::path target = fs::canonical(pathFromUtf8(path), error);
+  if (error) return cannotWrite(path, error.message());
+  const fs::file_status status = fs::status(target, error);
+  if (!fs::is_regular_file(status)) return cannotWrite(path, "it is no file");
+  if (const std::string why = whyProtected(target, status.permissions()); !why.empty()) return cannotWrite(path, why);
+  return target;
+}
+
 // A link that leads nowhere is something, too.
 bool isThere(const std::string& path) {
   std::error_code error;
@@ -76,19 +87,21 @@ std::optional<Failure> refusedFolder(const std::string& folder) {
   return failure;
 }
 
+std::optional<Failure> refusedReplacement(const std::string& path) {
+  const Outcome<fs::path> target = replaceable(path);
+  return target ? std::optional<Failure>() : Failure{target.why()};
+}
+
 std::optional<Failure> writeWholeFile(const std::string& path, const std::string& bytes, Existing existing) {
   if (auto refused = refusedFiles({path}, existing)) return refused;
   return isThere(path) ? replaceFile(path, bytes) : writeThrough(pathFromUtf8(path), bytes, {});
 }
 
 std::optional<Failure> replaceFile(const std::string& path, const std::string& bytes) {
-  std::error_code error;
-  const fs::path target = fs::canonical(pathFromUtf8(path), error);
-  if (error) return cannotWrite(path, error.message());
-  const fs::file_status status = fs::status(target, error);
-  if (!fs::is_regular_file(status)) return cannotWrite(path, "it is no file");
-  if (const std::string why = whyProtected(target, status.permissions()); !why.empty()) return cannotWrite(path, why);
-  return writeThrough(target, bytes, status.permissions());
+  const Outcome<fs::path> target = replaceable(path);
+  if (!target) return Failure{target.why()};
+  std::error_code ignored;
+  return writeThrough(*target, bytes, fs::status(*target, ignored).permissions());
 }
 
 }  // namespace standin

@@ -26,6 +26,9 @@ std::optional<Failure> refusedAsRead(const std::vector<std::string>& paths, cons
 // Why no file can be made in the folder, which shows only by making one; empty when it can. Nothing is left there.
 std::optional<Failure> refusedFolder(const std::string& folder);
 
+// Why a file that is there must not be written over, whoever asks for it; empty when it may.
+std::optional<Failure> refusedReplacement(const std::string& path);
+
 // Fails when there is something of that name that has to be kept. Empty when the file was written.
 std::optional<Failure> writeWholeFile(const std::string& path, const std::string& bytes, Existing existing);
 

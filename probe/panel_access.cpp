@@ -1,5 +1,6 @@
 #include "probe/panel_access.h"
 
+#include <algorithm>
 #include <array>
 
 namespace probe {
@@ -61,5 +62,31 @@ void setPointer(lw::LWControl* control, lw::ControlAttribute attribute, void* po
 }
 
 void draw(lw::LWControl* control, lw::DrawMode mode) { control->draw(control, mode); }
+
+void layOut(lw::LWPanelFuncs& panels, lw::PanelId panel, const std::vector<ControlRow>& rows) {
+  constexpr int kMargin = 8;
+  constexpr int kGap = 12;
+  int labels = 0;
+  for (const ControlRow& row : rows) labels = std::max(labels, integerOf(row.front(), lw::kControlLabelWidth));
+  int right = 0;
+  int y = kMargin;
+  for (const ControlRow& row : rows) {
+    const int label = integerOf(row.front(), lw::kControlLabelWidth);
+    int x = kMargin + (label == 0 ? 0 : labels - label);
+    int height = 0;
+    for (lw::LWControl* const control : row) {
+      setInteger(control, x, lw::kControlX);
+      setInteger(control, y, lw::kControlY);
+      x += integerOf(control, lw::kControlWidth) + kGap;
+      height = std::max(height, integerOf(control, lw::kControlHeight));
+    }
+    right = std::max(right, x);
+    y += height + 2;
+  }
+  int width = right - kGap + kMargin;
+  int height = y + kMargin;
+  panels.set(panel, lw::kPanelWidth, &width);
+  panels.set(panel, lw::kPanelHeight, &height);
+}
 
 }  // namespace probe

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "interface/lightwave.h"
 
@@ -22,5 +23,10 @@ void setCallback(lw::LWControl* control, lw::ControlAttribute attribute, Callbac
   setPointer(control, attribute, reinterpret_cast<void*>(callback));
 }
 void draw(lw::LWControl* control, lw::DrawMode mode);
+
+// Places the rows below each other, by what the host says of its controls, and sets the panel's size. Fields stand below each
+// other; what has no label begins at the left.
+using ControlRow = std::vector<lw::LWControl*>;
+void layOut(lw::LWPanelFuncs& panels, lw::PanelId panel, const std::vector<ControlRow>& rows);
 
 }  // namespace probe

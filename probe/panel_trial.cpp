@@ -13,8 +13,6 @@
 namespace probe {
 namespace {
 
-constexpr int kMargin = 8;
-constexpr int kGap = 12;
 constexpr int kPopupWidth = 120;
 constexpr std::size_t kMostCalls = 20000;
 
@@ -123,29 +121,7 @@ void CTrialPanel::addButton(const char* label, std::function<void()> pressed, Wh
   buttons_.push_back({button, std::move(pressed)});
 }
 
-void CTrialPanel::layOut() const {
-  int labels = 0;
-  for (const auto& row : rows_) labels = std::max(labels, integerOf(row.front(), lw::kControlLabelWidth));
-  int right = 0;
-  int y = kMargin;
-  for (const auto& row : rows_) {
-    const int label = integerOf(row.front(), lw::kControlLabelWidth);
-    int x = kMargin + (label == 0 ? 0 : labels - label);  // fields stand below each other
-    int height = 0;
-    for (lw::LWControl* const control : row) {
-      setInteger(control, x, lw::kControlX);
-      setInteger(control, y, lw::kControlY);
-      x += integerOf(control, lw::kControlWidth) + kGap;
-      height = std::max(height, integerOf(control, lw::kControlHeight));
-    }
-    right = std::max(right, x);
-    y += height + 2;
-  }
-  int width = right - kGap + kMargin;
-  int height = y + kMargin;
-  panels_.set(panel_, lw::kPanelWidth, &width);
-  panels_.set(panel_, lw::kPanelHeight, &height);
-}
+void CTrialPanel::layOut() const { probe::layOut(panels_, panel_, rows_); }
 
 // ---------------------------------------------------------------------------------------------------------------------
 // The panel

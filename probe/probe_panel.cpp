@@ -1,6 +1,7 @@
 #include "probe/probe_panel.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -16,17 +17,21 @@
 namespace probe {
 namespace {
 
-constexpr int kFileWidth = 50;  // characters
+constexpr int kFileWidth = 64;  // characters
 
 // Kept by the host, which may keep the pointers.
-const char* kExplanation[] = {"Measures how this program answers plug-ins, in less than a minute.",
-                              "What it makes it removes again. The file goes to the maintainers.", nullptr};
+const char* kExplanation[] = {"Measures how this program answers plug-ins: less than a minute, and four small panels.",
+                              "What it makes it removes again. It sends nothing: you send the file to the makers of Varnel.",
+                              nullptr};
 
 constexpr const char* kLeft = "Something of the probe's is still there. Please clear all.";
 
 std::string usualFile(Program program) {
   return standin::utf8Of(userFolder() / (program == Program::Modeler ? "varnel-modeler.json" : "varnel-layout.json"));
 }
+
+// What has no folder is in the user's: the host's current one is a place where nobody looks.
+std::string inUserFolder(const std::string& path) { return standin::utf8Of(userFolder() / standin::pathFromUtf8(path)); }
 
 std::string folderOf(const std::string& path) {
   const std::filesystem::path folder = standin::pathFromUtf8(path).parent_path();
@@ -55,7 +60,7 @@ lw::LWControl* CProbePanel::add(const char* kind, lw::LWPanControlDesc what, con
 void CProbePanel::addAll() {
   lw::LWPanControlDesc text = description(lw::kValueText);
   text.text.text = kExplanation;
-  add("TextControl", text, "");
+  lw::LWControl* const lines = add("TextControl", text, "");
   lw::LWPanControlDesc field = description(lw::kValueString);
   field.str.width = kFileWidth;
   file_ = add("EditControl", field, "File");
@@ -63,6 +68,7 @@ void CProbePanel::addAll() {
   now_ = add("EditControl", field, "Now");
   setCallback(start, lw::kControlEventCallback, &CProbePanel::onStart);
   setText(file_, usualFile(host_.program));
+  layOut(*panels_, panel_, {{lines}, {file_}, {start}, {now_}});
 }
 
 // One that is made in part only would stay without its button for good.
@@ -98,16 +104,19 @@ void CProbePanel::say(const std::string& line) const {
   draw(now_, lw::kDrawRender);
 }
 
-// A file that is there is written over when the user has started in spite of being told.
+// A file that is there is written over when the user has started in spite of being told, which holds for one run: the next
+// could take the place of a file for which much was done by hand.
 bool CProbePanel::mayWrite(const std::string& path) {
-  if (!standin::pathFromUtf8(path).has_filename() || isFolder(path)) throw Trouble{"Name a file, with its folder."};
-  const bool isKnown = std::exchange(path_, path) == path;
-  if (!isKnown && standin::refusedFiles({path}, standin::Existing::Keep)) {
-    say("There is such a file. Press Start again to write over it.");
-    return false;
-  }
-  if (const auto failure = standin::refusedFolder(folderOf(path))) throw Trouble{failure->text};
-  return true;
+  if (!standin::pathFromUtf8(path).has_filename() || isFolder(path)) throw Trouble{"Name a file, not only a folder."};
+  const bool isThere = standin::refusedFiles({path}, standin::Existing::Keep).has_value();
+  std::optional<standin::Failure> failure = standin::refusedFolder(folderOf(path));
+  if (!failure && isThere) failure = standin::refusedReplacement(path);
+  if (failure) throw Trouble{failure->text};
+  const bool wasTold = std::exchange(toldOf_, {}) == path;
+  if (!isThere || wasTold) return true;
+  toldOf_ = path;
+  say("There is such a file. Press Start again to write over it.");
+  return false;
 }
 
 void CProbePanel::save() {
@@ -126,11 +135,13 @@ void CProbePanel::measure() {
 
 void CProbePanel::start() {
   if (const std::string why = refusal(host_); !why.empty()) return say(why);
-  if (!mayWrite(textOf(file_))) return;
+  const std::string path = inUserFolder(textOf(file_));
+  if (!mayWrite(path)) return;
+  path_ = path;
   measure();
   const bool goesOn = trial_.begin(host_, facts_, [this] { sayingWhy([this] { save(); }); });
   save();  // what is told so far, should the user not go on
-  if (goesOn && !isLeft_) say("Go on in the next panel");
+  if (goesOn && !isLeft_) say("Now it needs your hand: see the panel \"Varnel probe 1 of 4\"");
 }
 
 // What goes wrong is told in the panel: there is nobody else to tell.

@@ -45,7 +45,8 @@ class CProbePanel {
   lw::PanelId panel_ = nullptr;
   lw::LWControl* file_ = nullptr;
   lw::LWControl* now_ = nullptr;
-  std::string path_;  // of the file, as it was when the user started
+  std::string path_;    // of the file, as it was when the user started
+  std::string toldOf_;  // a file that is there, when the user was told so at the last press of Start
   bool isRunning_ = false;
   bool isLeft_ = false;  // something that the probe made
   Facts facts_;

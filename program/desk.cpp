@@ -4,6 +4,7 @@
 #include "program/host_option.h"
 #include "program/subcommands.h"
 #include "program/support.h"
+#include "standin/measure/measure.h"
 #include "standin/variants/played_host.h"
 #include "standin/windows/desk_window.h"
 
@@ -34,6 +35,7 @@ int run(const DeskOptions& options) {
     if (!options.isEmpty) openObject(host, options.file);
     ModuleFile module;
     loadModule(module, options.module);
+    if (isProbe(module)) excuseTrials();
     {
       WindowsFront front;
       DeskWindow desk(host, module, front);

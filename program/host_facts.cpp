@@ -112,8 +112,9 @@ std::string notPlayedText(const HostFact& fact) {
 }  // namespace
 
 Outcome<HostFacts> parseHostFacts(std::string_view bytes) {
+  if (bytes.empty()) return Failure{"the file is empty"};
   const Outcome<Json> json = rigs::parseJson(bytes);
-  if (!json) return Failure{json.why()};
+  if (!json) return Failure{"it is no file of host facts, or a damaged one: " + json.why()};
   try {
     return factsIn(*json);
   } catch (const Refused& refused) {

@@ -5,6 +5,7 @@
 #include "objectfile/file_bytes.h"
 #include "program/host_facts.h"
 #include "program/support.h"
+#include "rigs/text.h"
 
 namespace standin {
 namespace {
@@ -34,7 +35,12 @@ std::string takeFile(HostChoice& choice, const std::string& path, std::vector<st
 
 std::string take(HostChoice& choice, const std::string& word, std::vector<std::string>& remarks) {
   const std::string refusal = choice.take(word);
-  return refusal.empty() || !isFile(word) ? refusal : takeFile(choice, word, remarks);
+  if (refusal.empty()) return {};
+  if (isFile(word)) return takeFile(choice, word, remarks);
+  // Not all the names: who mistyped a file's name would not find the sentence behind them.
+  if (word.find('=') == std::string::npos)
+    return rigs::inQuotes(word) + " is neither NAME=VALUE nor a file; \"varnel hosts\" lists the names";
+  return refusal;
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "objectfile/sample_rigs.h"
+#include "objectfile/temporary_folder.h"
 #include "objectfile/whole_file.h"
 #include "program/host_option.h"
 #include "program/pictured_rigs.h"
@@ -12,6 +13,7 @@
 #include "program/rig_tool_support.h"
 #include "program/subcommands.h"
 #include "program/support.h"
+#include "standin/measure/measure.h"
 #include "standin/variants/played_host.h"
 #include "standin/windows/desk_window.h"
 #include "standin/windows/driver.h"
@@ -216,13 +218,48 @@ void takeFirstTrip(const Album& album) {
   });
 }
 
+constexpr const char* kProbeTool = "Varnel:HostFacts";
+
+// Its own panel and the four that it asks with. It speaks English only, and its pictures serve both languages.
+void takeProbe(const Album& album) {
+  if (album.language() != "en") return;
+  PlayedModeler host(album.host());
+  excuseTrials();
+  ModuleFile module;
+  loadModule(module, probeFile({}));
+  {
+    const TemporaryFolder folder;
+    WindowsFront front;
+    Driver driver(front);
+    const Panel& own = openTool(host, module, kProbeTool);
+    front.settle();
+    album.take(driver, own, "probe", "start");
+    must(driver.type(*must(own.find("File"), "the file"), folder.file("facts.json")));
+    driver.key(VK_TAB);
+    const Panel* shown = &own;
+    int number = 0;
+    for (const char* const button : {"Start", "Next", "Skip", "Skip"}) {
+      must(driver.click(*must(shown->find(button), button)));
+      front.settle();
+      shown = must(panels().find("Varnel probe "), "a panel of the probe");
+      album.take(driver, *shown, "probe", std::to_string(++number));
+    }
+  }
+  endSession(module);
+}
+
 struct Subject {
   const char* name;
   void (*take)(const Album&);
 };
 constexpr std::array kSubjects{
-    Subject{"property", &takePropertyPanel}, Subject{"conversion", &takeConversionPanel}, Subject{"selector", &takeSelector},
-    Subject{"renamer", &takeRenamer},        Subject{"first-trip", &takeFirstTrip},       Subject{"desk", &takeDesk},
+    Subject{"property", &takePropertyPanel},
+    Subject{"conversion", &takeConversionPanel},
+    Subject{"selector", &takeSelector},
+    Subject{"renamer", &takeRenamer},
+    Subject{"first-trip", &takeFirstTrip},
+    Subject{"desk", &takeDesk},
+    Subject{"probe", &takeProbe},
 };
 
 bool isWanted(const PicturesOptions& options, const Subject& subject) {

@@ -11,13 +11,14 @@
 #include "program/rig_tool_support.h"
 #include "program/subcommands.h"
 #include "program/support.h"
-#include "standin/core/program_folder.h"
 #include "standin/measure/measure.h"
 
 namespace standin {
 namespace {
 
 constexpr std::size_t kDiffering = 10;  // of a host by chance
+constexpr const char* kModelerFile = "modeler.json";
+constexpr const char* kLayoutFile = "layout.json";
 
 struct ProbeOptions {
   std::string folder;
@@ -39,22 +40,12 @@ HostChoice byChance(std::uint64_t seed, HostChoice host) {
   return host;
 }
 
-// The file of --module, else the probe beside the program or in its folder of the zip.
-std::string probeFile(const std::string& chosen) {
-  if (!chosen.empty()) return chosen;
-  const std::filesystem::path own = pathFromUtf8(moduleFileName());
-  const std::filesystem::path name = own.stem().string() + "-probe" + own.extension().string();
-  const std::filesystem::path folder = pathFromUtf8(programFolder());
-  for (const std::filesystem::path& path : {folder / name, folder / "probe" / name}) {
-    if (std::filesystem::exists(path)) return utf8Of(path);
-  }
-  throw Trouble{"there is no probe beside the program; name its file with --module"};
-}
+std::string pathIn(const ProbeOptions& options, const char* name) { return utf8Of(pathFromUtf8(options.folder) / name); }
 
 // Gives the exit code.
-int keep(const ProbeOptions& options, const std::string& name, const MeasuredHost& measured) {
+int keep(const ProbeOptions& options, const char* name, const MeasuredHost& measured) {
   if (measured.facts.empty()) throw Trouble{"the probe left no file: " + measured.last};
-  const std::string path = utf8Of(pathFromUtf8(options.folder) / name);
+  const std::string path = pathIn(options, name);
   mustBeWritten(writeWholeFile(path, measured.facts, existingFiles(options.force)));
   std::cout << path << "\n";
   if (measured.complaints.empty()) return 0;
@@ -66,11 +57,12 @@ int runProbe(const ProbeOptions& options) {
   const std::string module = probeFile(options.module);
   const HostChoice host = byChance(options.seed, options.host.choice());
   mustBeFolder(options.folder);
+  mustBeWritten(refusedFiles({pathIn(options, kModelerFile), pathIn(options, kLayoutFile)}, existingFiles(options.force)));
   std::cout << "host: " << host.text() << "\n";
   try {
     const TemporaryFolder folder;
-    const int modeler = keep(options, "modeler.json", measuredModeler(module, host.options(), folder.path()));
-    const int layout = keep(options, "layout.json", measuredLayout(module, host.options(), folder.path()));
+    const int modeler = keep(options, kModelerFile, measuredModeler(module, host.options(), folder.path()));
+    const int layout = keep(options, kLayoutFile, measuredLayout(module, host.options(), folder.path()));
     return std::max(modeler, layout);
   } catch (const std::runtime_error& failure) {
     throw Trouble{failure.what()};

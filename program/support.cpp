@@ -27,6 +27,17 @@ void loadModule(ModuleFile& module, const std::string& chosen) {
   if (const std::string refusal = module.load(path); !refusal.empty()) throw Trouble{refusal};
 }
 
+std::string probeFile(const std::string& chosen) {
+  if (!chosen.empty()) return chosen;
+  const std::filesystem::path own = pathFromUtf8(moduleFileName());
+  const std::filesystem::path name = own.stem().string() + "-probe" + own.extension().string();
+  const std::filesystem::path folder = pathFromUtf8(programFolder());
+  for (const std::filesystem::path& path : {folder / name, folder / "probe" / name}) {
+    if (std::filesystem::exists(path)) return utf8Of(path);
+  }
+  throw Trouble{"there is no probe beside the program; name its file with --module"};
+}
+
 void mustBeFolder(const std::string& path) {
   std::error_code error;
   std::filesystem::create_directories(pathFromUtf8(path), error);

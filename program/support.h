@@ -39,6 +39,9 @@ T* must(T* thing, const std::string& what) {
 // The module of --module, else the one beside the program. Throws Trouble.
 void loadModule(ModuleFile& module, const std::string& chosen);
 
+// The file of --module, else the probe beside the program or in its folder of the zip. Throws Trouble.
+std::string probeFile(const std::string& chosen);
+
 // Makes the folder when it is not there. Throws Trouble.
 void mustBeFolder(const std::string& path);
 

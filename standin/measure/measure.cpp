@@ -4,7 +4,6 @@
 #include <stdexcept>
 
 #include "objectfile/file_bytes.h"
-#include "standin/core/module_file.h"
 #include "standin/core/witness.h"
 #include "standin/measure/hands.h"
 #include "standin/modeler/mesh_edit.h"
@@ -43,6 +42,7 @@ MeasuredHost measured(const std::string& module, const HostOptions& options, con
   const std::size_t known = witness().faults().size();
   ModuleFile probe;
   if (const std::string why = probe.load(module); !why.empty()) throw std::runtime_error(why);
+  if (!isProbe(probe)) throw std::runtime_error(module + " is not the probe: it has no command \"" + kProbe + "\"");
   host.activate(probe, kProbe);
   Panel* const panel = panels().find(kProbe);
   if (panel == nullptr || !panel->isOpen()) throw std::runtime_error("the probe shows no panel");
@@ -57,6 +57,8 @@ MeasuredHost measured(const std::string& module, const HostOptions& options, con
 }  // namespace
 
 void excuseTrials() { witness().excuse(kSetsATag, kTagWhileSelecting); }
+
+bool isProbe(const ModuleFile& module) { return module.server(kProbe) != nullptr; }
 
 MeasuredHost measuredModeler(const std::string& module, const HostOptions& options, const std::string& folder) {
   return measured<PlayedModeler>(module, options, folder + "/modeler.json", [](const PlayedModeler& host) {

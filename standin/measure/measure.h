@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "standin/core/module_file.h"
 #include "standin/variants/variants.h"
 
 namespace standin {
@@ -10,6 +11,9 @@ namespace standin {
 // Lets the probe break, until the next session, the one rule that it breaks on purpose: it sets a tag in an edit for selecting,
 // to see with which code a host refuses. For those who run it themselves.
 void excuseTrials();
+
+// Whether the module has the probe's command.
+bool isProbe(const ModuleFile& module);
 
 struct MeasuredHost {
   std::string facts;       // what the file holds; empty when there is none

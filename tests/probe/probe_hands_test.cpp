@@ -23,6 +23,7 @@ struct ProbeInHands : testing::Test {
     module.emplace();
     ASSERT_EQ(module->load(probePath()), "");
     activate();
+    usualFile = own()->find("File")->shown();
     mustBeDone(person::type(own()->find("File"), folder.path() + "/facts.json"));
   }
   void end() {
@@ -62,6 +63,7 @@ struct ProbeInHands : testing::Test {
   }
 
   TemporaryFolder folder;
+  std::string usualFile;
   std::optional<PlayedModeler> host;
   std::optional<ModuleFile> module;
 };
@@ -83,6 +85,60 @@ TEST_F(ProbeInHands, APlaceThatCannotBeWrittenIsToldBeforeAnythingIsMeasured) {
   EXPECT_EQ(shown(), nullptr);
   EXPECT_NE(own()->find("Now")->shown().find("nowhere"), std::string::npos);
   EXPECT_TRUE(host->commands().empty());
+}
+
+// Much was done by hand for it.
+TEST_F(ProbeInHands, AFileThatIsDoneIsKeptUntilTheUserStartsTwice) {
+  start();
+  playHands();
+  const std::string done = facts();
+  pressStart();
+  EXPECT_EQ(shown(), nullptr);
+  EXPECT_EQ(facts(), done);
+  EXPECT_EQ(own()->find("Now")->shown(), "There is such a file. Press Start again to write over it.");
+}
+
+TEST_F(ProbeInHands, AFileThatMayNotBeWrittenOverIsToldBeforeAnythingIsMeasured) {
+  const std::string path = folder.path() + "/facts.json";
+  ASSERT_FALSE(writeFileBytes(path, "mine"));
+  std::filesystem::permissions(pathFromUtf8(path), std::filesystem::perms::owner_read);
+  pressStart();
+  pressStart();
+  EXPECT_EQ(own()->find("Now")->shown(), "cannot write " + path + ": it is read-only");
+  EXPECT_TRUE(host->commands().empty());
+  std::filesystem::permissions(pathFromUtf8(path), std::filesystem::perms::owner_all);
+}
+
+TEST_F(ProbeInHands, AFolderInPlaceOfAFileIsToldBeforeAnythingIsMeasured) {
+  mustBeDone(person::type(own()->find("File"), folder.path()));
+  pressStart();
+  pressStart();
+  EXPECT_EQ(own()->find("Now")->shown(), "Name a file, not only a folder.");
+  EXPECT_TRUE(host->commands().empty());
+}
+
+TEST_F(ProbeInHands, WithoutAFileNameNothingIsMeasured) {
+  mustBeDone(person::type(own()->find("File"), ""));
+  pressStart();
+  EXPECT_EQ(own()->find("Now")->shown(), "Name a file, not only a folder.");
+  EXPECT_TRUE(host->commands().empty());
+}
+
+// The host's current folder is a place where nobody looks.
+TEST_F(ProbeInHands, AFileWithoutAFolderIsLookedForInTheUsers) {
+  const std::string name = "varnel-modeler.json";
+  ASSERT_TRUE(usualFile.ends_with(name)) << usualFile;
+  const std::string usersFolder = usualFile.substr(0, usualFile.size() - name.size());
+  mustBeDone(person::type(own()->find("File"), "no such folder/facts.json"));
+  pressStart();
+  EXPECT_NE(own()->find("Now")->shown().find(usersFolder), std::string::npos) << own()->find("Now")->shown();
+}
+
+TEST_F(ProbeInHands, AFileWithLettersOfAnyLanguageIsWritten) {
+  const std::string path = folder.path() + "/実測 facts.json";
+  mustBeDone(person::type(own()->find("File"), path));
+  pressStart();
+  EXPECT_TRUE(readFileBytes(path)) << own()->find("Now")->shown();
 }
 
 TEST_F(ProbeInHands, WhatTheUserSkipsIsNotTold) {
@@ -278,7 +334,7 @@ TEST_F(ProbeInHands, AFolderIsNoPlaceForTheFile) {
   for (const std::string& path : {folder.path(), folder.path() + "/", std::string()}) {
     mustBeDone(person::type(own()->find("File"), path));
     pressStart();
-    EXPECT_EQ(own()->find("Now")->shown(), "Name a file, with its folder.") << path;
+    EXPECT_EQ(own()->find("Now")->shown(), "Name a file, not only a folder.") << path;
     EXPECT_TRUE(host->commands().empty());
   }
 }

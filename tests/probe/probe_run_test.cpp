@@ -20,5 +20,16 @@ TEST_F(Probing, WritesAFileInLayoutAndBreaksNoRule) {
   EXPECT_EQ(nlohmann::json::parse(measured.facts).at("program"), "Layout");
 }
 
+TEST_F(Probing, KnowsAModuleThatIsNotTheProbe) {
+  const std::string other = modulePath();
+  try {
+    TemporaryFolder folder;
+    static_cast<void>(measuredModeler(other, {}, folder.path()));
+    FAIL() << "it was measured with";
+  } catch (const std::runtime_error& error) {
+    EXPECT_EQ(error.what(), other + " is not the probe: it has no command \"Varnel:HostFacts\"");
+  }
+}
+
 }  // namespace
 }  // namespace standin

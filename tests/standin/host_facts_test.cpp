@@ -73,6 +73,18 @@ TEST(HostFactsFile, IsRefusedWhenItIsCut) {
   }
 }
 
+TEST(HostFactsFile, SaysWhatADamagedFileIsInPlainWords) {
+  EXPECT_EQ(whyRefused(""), "the file is empty");
+  for (const std::string& bytes : {sampleBytes().substr(0, 300), std::string("FORM"), std::string("\n")})
+    EXPECT_THAT(whyRefused(bytes), HasSubstr("it is no file of host facts, or a damaged one: ")) << bytes;
+}
+
+TEST(HostFactsFile, IsReadAsEditorsLeaveIt) {
+  std::string lines = "\xEF\xBB\xBF";
+  for (const char c : sampleBytes()) lines += c == '\n' ? "\r\n" : std::string(1, c);
+  EXPECT_TRUE(parseHostFacts(lines));
+}
+
 TEST(HostFactsFile, IsRefusedWhenItIsSomethingElse) {
   for (const char* const bytes : {"[]", "{}", "3", "{\"format\": 7}", "{\"format\": \"varnel settings\"}"}) {
     EXPECT_EQ(whyRefused(bytes), "it is no file of host facts") << bytes;

@@ -122,6 +122,20 @@ TEST_F(PlayedFacts, LeadTheProbeToTheSameFiles) {
   }
 }
 
+TEST_F(PlayedFacts, ThatAreNeitherAFileNorAVariantAreRefusedInOneLine) {
+  expectRefused("varnel trip --host nowhere",
+                "--host: \"nowhere\" is neither NAME=VALUE nor a file; \"varnel hosts\" lists the names\n");
+}
+
+// All or none: a file that is there is found before the other one is written.
+TEST_F(PlayedFacts, AreMeasuredOnlyWhereBothFilesMayBeWritten) {
+  std::filesystem::create_directory("measured");
+  write("measured/layout.json", "mine");
+  expectRefused("varnel probe measured", "measured/layout.json exists and is not written over; --force writes over it");
+  EXPECT_FALSE(std::filesystem::exists("measured/modeler.json"));
+  EXPECT_EQ(bytesOf("measured/layout.json"), "mine");
+}
+
 class ShownFacts : public PlayedFacts {};
 
 TEST_F(ShownFacts, OfSeveralFilesStandUnderTheirNames) {
