@@ -15,16 +15,16 @@ constexpr const char* kWheelTitle = "Varnel probe 4 of 4";
 const char* kMouseLines[] = {
     "1. Hold Shift, and double-click on the left, blue half of the area.",
     "2. At once press on the right half, drag to the left half and let the button go. Let Shift go.",
-    "3. Click once on the bare panel, right of the area.", "Then press Done; or Skip, where it went otherwise.", nullptr};
+    "3. Click once on the bare panel, right of the area.", "Then press Done; or Skip, if it went otherwise.", nullptr};
 const char* kFieldsLines[] = {"1. Open the list, and choose the entry that it shows already.",
                               "2. Type 150 into the whole number, and press the Tab key.",
                               "3. The same with 150 in the percent, and with 30 in the angle.",
                               "What becomes of the numbers is right: leave it so.",
-                              "Then press Done; or Skip, where it went otherwise.",
+                              "Then press Done; or Skip, if it went otherwise.",
                               nullptr};
 const char* kWheelLines[] = {"1. Press on the left, blue half of the area, drag to the right half and let the button go.",
                              "2. Turn the wheel one step away from you, over the area.",
-                             "Then press Done; or Skip, where it went otherwise.", nullptr};
+                             "Then press Done; or Skip, if it went otherwise.", nullptr};
 
 constexpr int kAreaWidth = 280;
 constexpr int kAreaHeight = 90;
