@@ -24,8 +24,9 @@ TEST_F(ProgramTrouble, AFullDiskIsToldByEveryCommand) {
        {"varnel export rigs/lizard.lwo", "varnel export --textconv rigs/lizard.lwo", "varnel inspect rigs/lizard.lwo",
         "varnel inspect --json rigs/lizard.lwo", "varnel commands rigs/lizard.lwo", "varnel convert rigs/lizard.lwo",
         "varnel diff rigs/lizard.lwo rigs/人形.lwo", "varnel rigs more-rigs", "varnel trip", "varnel rename",
-        "varnel panels --lang en", "varnel hosts", "varnel validate --list", "varnel --help", "varnel export --help",
-        "varnel --version"}) {
+        "varnel panels --lang en", "varnel hosts", "varnel probe facts",
+        "varnel host " VARNEL_REPOSITORY "/tests/data/host-facts.json", "varnel validate --list", "varnel --help",
+        "varnel export --help", "varnel --version"}) {
     EXPECT_EQ(type(std::string(line) + " >/dev/full"), 2) << line;
     EXPECT_THAT(error, HasSubstr("varnel: the output could not be written: No space left on device\n")) << line;
   }
