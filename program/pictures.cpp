@@ -220,10 +220,10 @@ void takeFirstTrip(const Album& album) {
 
 constexpr const char* kProbeTool = "Varnel:HostFacts";
 
-// Its own panel and the four that it asks with. It speaks English only, and its pictures serve both languages.
+// Its own panel and the four that it asks with, in English whatever the host's language is.
 void takeProbe(const Album& album) {
-  if (album.language() != "en") return;
   PlayedModeler host(album.host());
+  host.options().localeInfo = localeOf(album.language());
   excuseTrials();
   ModuleFile module;
   loadModule(module, probeFile({}));
