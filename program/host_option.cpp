@@ -34,7 +34,7 @@ std::string takeFile(HostChoice& choice, const std::string& path, std::vector<st
 }
 
 std::string take(HostChoice& choice, const std::string& word, std::vector<std::string>& remarks) {
-  const std::string refusal = choice.take(word);
+  std::string refusal = choice.take(word);
   if (refusal.empty()) return {};
   if (isFile(word)) return takeFile(choice, word, remarks);
   // Not all the names: who mistyped a file's name would not find the sentence behind them.
