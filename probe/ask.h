@@ -30,6 +30,22 @@ Answer answerOf(Action&& action) {
   }
 }
 
+// Why the action failed; empty when it did not.
+template <class Action>
+std::string troubleOf(Action&& action) {
+  return answerOf([&] {
+           action();
+           return Answer{};
+         })
+      .seen;
+}
+
+// The sentence that the action gives; where it throws, why.
+template <class Action>
+std::string sentenceOf(Action&& action) {
+  return answerOf([&] { return Answer{{}, action()}; }).seen;
+}
+
 template <class Site>
 void ask(std::span<const Question<Site>> questions, Site& site, Facts& facts) {
   for (const Question<Site>& question : questions) {

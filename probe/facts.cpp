@@ -18,6 +18,13 @@ void Facts::tell(const std::string& name, Answer answer) {
   }
 }
 
+Answer Facts::answerTo(const std::string& name) const {
+  for (const Fact& fact : facts_) {
+    if (fact.name == name) return fact.answer;
+  }
+  return {};
+}
+
 void Facts::figure(std::string name, std::string seen) { figures_.push_back({std::move(name), std::move(seen)}); }
 
 }  // namespace probe

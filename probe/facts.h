@@ -36,6 +36,8 @@ class Facts {
   void tell(const std::string& name, Answer answer);
   void figure(std::string name, std::string seen);
 
+  // What was told of it so far; not told where nothing was.
+  Answer answerTo(const std::string& name) const;
   const std::vector<Fact>& facts() const { return facts_; }
   const std::vector<Figure>& figures() const { return figures_; }
 

@@ -2,22 +2,13 @@
 
 #include <array>
 #include <chrono>
-#include <cstdint>
 #include <ctime>
 
 #include "probe/json_text.h"
+#include "probe/number_text.h"
 
 namespace probe {
 namespace {
-
-std::string hexadecimal(unsigned number) {
-  std::string digits;
-  do {
-    digits.insert(digits.begin(), "0123456789abcdef"[number & 0xF]);
-    number >>= 4;
-  } while (number != 0);
-  return "0x" + digits;
-}
 
 std::string today() {
   const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());

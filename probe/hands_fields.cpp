@@ -1,7 +1,6 @@
 // What choosing from a list and typing into fields tells.
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <span>
 #include <string>
@@ -9,6 +8,7 @@
 #include "probe/ask.h"
 #include "probe/hands.h"
 #include "probe/hands_values.h"
+#include "probe/number_text.h"
 #include "probe/units.h"
 
 namespace probe {
@@ -17,12 +17,6 @@ namespace {
 constexpr double kNear = 1e-4;
 
 bool isNear(double a, double b) { return std::abs(a - b) < kNear; }
-
-std::string text(double number) {
-  std::array<char, 64> buffer{};
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::general, 6);
-  return {buffer.data(), end.ptr};
-}
 
 // What came while the user was at it.
 std::span<const Called> logOf(const Step& step) {
@@ -50,11 +44,8 @@ Answer sameChoice(Hands& hands) {
 Answer silentMenu(Hands& hands, const Facts& facts) {
   const Answer choice = sameChoice(hands);
   if (choice.value.empty()) return notTold(choice.seen);
-  const auto outside = std::find_if(facts.facts().begin(), facts.facts().end(),
-                                    [](const Fact& fact) { return fact.name == "outside-index"; });
-  if (outside == facts.facts().end() || outside->answer.value.empty() || outside->answer.value == kOther)
-    return notTold("it follows from \"outside-index\", which was not told");
-  const std::string& kept = outside->answer.value;
+  const std::string kept = facts.answerTo("outside-index").value;
+  if (kept.empty() || kept == kOther) return notTold("it follows from \"outside-index\", which was not told");
   if (choice.value == "fires" || kept == "kept")
     return told("free", "not both of \"same-choice\" and \"outside-index\" hold");
   return told(kept + "-and-silent", "\"outside-index\" is " + kept + " and \"same-choice\" is silent");
@@ -69,7 +60,7 @@ Answer typing(Hands& hands) {
   bool isByLetters = false;
   for (const Called& called : log) {
     if (called.call != Call::Event || called.control != hands.slider) continue;
-    values += (values.empty() ? "" : ", ") + text(called.value);
+    values += (values.empty() ? "" : ", ") + shown(called.value);
     isByLetters = isByLetters || called.value == 1 || called.value == 15;
   }
   if (hands.typedWhole == kFirstWhole) return notTold("nothing was typed into the whole number");
@@ -100,9 +91,9 @@ Limits limitsOf(Hands& hands) {
           limitOf(hands.typedPercent, kTypedPercent, kGreatestPercent),
           limitOf(hands.typedAngle, kTypedAngle * kDegree, kGreatestAngle * kDegree),
           "150 typed became the whole number " + std::to_string(hands.typedWhole) + " and the percent " +
-              text(hands.typedPercent) + " in ranges to 100, and 30 the angle " + text(hands.typedAngle / kDegree) +
+              shown(hands.typedPercent) + " in ranges to 100, and 30 the angle " + shown(hands.typedAngle / kDegree) +
               " in a range to 10; 150 that was set became the whole number " + std::to_string(hands.setWhole) +
-              " and the percent " + text(hands.setPercent)};
+              " and the percent " + shown(hands.setPercent)};
 }
 
 Answer range(Hands& hands) {

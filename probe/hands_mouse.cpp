@@ -270,9 +270,7 @@ constexpr std::array kMouseQuestions{
 }  // namespace
 
 void askMouse(Hands& hands, Facts& facts) {
-  const auto painter =
-      std::find_if(facts.facts().begin(), facts.facts().end(), [](const Fact& fact) { return fact.name == "painter"; });
-  const bool eventsPaint = painter != facts.facts().end() && painter->answer.value != "draw";
+  const bool eventsPaint = facts.answerTo("painter").value != "draw";
   for (const MouseQuestion& question : kMouseQuestions)
     facts.tell(question.name, answerOf([&] { return question.measure(hands, eventsPaint); }));
 }

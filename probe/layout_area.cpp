@@ -1,6 +1,7 @@
 #include "probe/layout_area.h"
 
 #include <array>
+#include <utility>
 
 #include "probe/layout_site.h"
 
@@ -15,11 +16,8 @@ constexpr std::array kQuestionsInOrder{selectionQuestions, itemQuestions,    ske
 
 template <class Action>
 void doAndTell(Facts& facts, const char* what, Action&& action) {
-  const Answer end = answerOf([&] {
-    action();
-    return Answer{};
-  });
-  if (!end.seen.empty()) facts.figure(what, end.seen);
+  const std::string trouble = troubleOf(std::forward<Action>(action));
+  if (!trouble.empty()) facts.figure(what, trouble);
 }
 
 void remove(const LayoutScene& scene, const Items& items) {

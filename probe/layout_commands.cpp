@@ -219,10 +219,10 @@ std::string textOf(const LayoutScene& scene, const Target& target, const Command
 // Only while the item that is meant, and nothing of the user's, is selected: a command before may have changed that.
 void tell(const LayoutScene& scene, const Target& target, lw::ItemId item, const CommandTrial& trial, Facts& facts) {
   const std::string command = textOf(scene, target, trial);
-  facts.figure(command, answerOf([&] {
-                          if (scene.selection() != Items{item}) scene.select({item});
-                          return other(tried(scene, target, trial, command));
-                        }).seen);
+  facts.figure(command, sentenceOf([&] {
+                 if (scene.selection() != Items{item}) scene.select({item});
+                 return tried(scene, target, trial, command);
+               }));
 }
 
 void tellAxis(const LayoutScene& scene, const Target& target, const AxisTrials& row, Facts& facts) {

@@ -120,7 +120,7 @@ constexpr std::array<FigureRow, 6> kFigures{{
 
 void tellLayoutFigures(LayoutSite& site, Facts& facts) {
   for (const FigureRow& row : kFigures) {
-    facts.figure(row.name, answerOf([&] { return other(row.tell(site)); }).seen);
+    facts.figure(row.name, sentenceOf([&] { return row.tell(site); }));
   }
 }
 

@@ -1,11 +1,11 @@
 #include "probe/layout_scene.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <iterator>
 
 #include "probe/ask.h"
+#include "probe/host_text.h"
 
 namespace probe::layout {
 namespace {
@@ -13,19 +13,9 @@ namespace {
 // A walk that is longer than this does not end.
 constexpr std::size_t kMostSteps = 10000;
 constexpr std::size_t kDeepestGroup = 8;
-constexpr std::size_t kLongestText = 4096;
-constexpr int kDigits = 7;
-constexpr double kNothing = 1e-9;
 
 void mustEnd(std::size_t steps, const char* walk) {
   if (steps > kMostSteps) throw Trouble{std::string("the walk through ") + walk + " does not end"};
-}
-
-// The same in any locale of the host's process.
-template <class... Form>
-std::string digits(Form... form) {
-  std::array<char, 64> text{};
-  return {text.data(), std::to_chars(text.data(), text.data() + text.size(), form...).ptr};
 }
 
 std::uint64_t bitsOf(lw::ItemId item) { return reinterpret_cast<std::uintptr_t>(item); }
@@ -87,10 +77,7 @@ int LayoutScene::confirmed(const std::string& command) const {
   struct Asking {
     const LayoutScene& scene;
     ~Asking() {
-      answerOf([&] {
-        scene.leaveConfirming();
-        return Answer{};
-      });
+      troubleOf([&] { scene.leaveConfirming(); });
     }
   } const after{*this};
   host_.mustDo("AutoConfirm 1");
@@ -182,19 +169,11 @@ void LayoutScene::setPosition(lw::ItemId item, const Vector& position) const {
 // ---------------------------------------------------------------------------------------------------------------------
 // Numbers and texts
 
-std::string copied(const char* text) {
-  std::size_t length = 0;
-  while (text != nullptr && length < kLongestText && text[length] != '\0') ++length;
-  return {text == nullptr ? "" : text, length};
-}
+std::string copied(const char* text) { return probe::copied(text).value_or(""); }
 
 std::uint32_t lowBits(lw::ItemId item) { return static_cast<std::uint32_t>(bitsOf(item)); }
 std::uint32_t highBits(lw::ItemId item) { return static_cast<std::uint32_t>(bitsOf(item) >> 32); }
-std::string hexadecimal(std::uint32_t number) { return "0x" + digits(number, 16); }
 
-std::string shown(double number) {
-  return digits(std::abs(number) < kNothing ? 0 : number, std::chars_format::general, kDigits);
-}
 std::string shown(const Vector& vector) {
   return "(" + shown(vector[0]) + ", " + shown(vector[1]) + ", " + shown(vector[2]) + ")";
 }

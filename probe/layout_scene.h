@@ -9,6 +9,7 @@
 
 #include "interface/lightwave.h"
 #include "probe/host_access.h"
+#include "probe/number_text.h"
 
 namespace probe::layout {
 
@@ -85,9 +86,7 @@ std::string copied(const char* text);
 // The part of an identifier that counts in commands.
 std::uint32_t lowBits(lw::ItemId item);
 std::uint32_t highBits(lw::ItemId item);
-std::string hexadecimal(std::uint32_t number);
-// Rounded, for people to read.
-std::string shown(double number);
+using probe::shown;
 std::string shown(const Vector& vector);
 bool isNear(const Vector& a, const Vector& b);
 Vector difference(const Vector& a, const Vector& b);

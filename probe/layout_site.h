@@ -20,10 +20,7 @@ class Once {
   template <class... Arguments>
   Made& get(Arguments&&... arguments) {
     if (!made_ && why_.empty()) {
-      why_ = answerOf([&] {
-               made_.emplace(std::forward<Arguments>(arguments)...);
-               return Answer{};
-             }).seen;
+      why_ = troubleOf([&] { made_.emplace(std::forward<Arguments>(arguments)...); });
     }
     if (!made_) throw Trouble{why_};
     return *made_;

@@ -63,7 +63,7 @@ Answer editWithoutObject(const Host& host) {
 
 UnsavedObject unsavedObject(const Host& host) {
   UnsavedObject unsaved;
-  const Answer end = answerOf([&] {
+  unsaved.why = troubleOf([&] {
     const std::optional<std::string> before = currentObject(host);
     host.mustDo("new");
     // An empty object that was there is the user's, and stays.
@@ -75,9 +75,7 @@ UnsavedObject unsavedObject(const Host& host) {
     const auto& objects = host.service<lw::LWObjectFuncs>("Scene Objects 9");
     unsaved.fileName = copied(objects.filename(indexOf(objects, unsaved.name)));
     object.close();
-    return Answer{};
   });
-  unsaved.why = end.seen;
   return unsaved;
 }
 

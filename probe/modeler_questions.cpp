@@ -19,8 +19,7 @@ void askRig(ModelerSite& site, const UnsavedObject& unsaved, Facts& facts) {
   facts.tell("object-name", answerOf([&] { return objectName(unsaved, site); }));
   for (const Tables table : kTables) ask<ModelerSite>(table(), site, facts);
   for (const ModelerFigure& figure : modelerFigures()) {
-    const Answer answer = answerOf([&] { return told({}, figure.measure(site)); });
-    facts.figure(figure.name, answer.seen);
+    facts.figure(figure.name, sentenceOf([&] { return figure.measure(site); }));
   }
 }
 

@@ -63,11 +63,8 @@ void measureAlone(Host& host, Facts& facts, const Progress& progress) {
   for (const Area& area : kAreas) {
     if (!isIn(area, host.program)) continue;
     progress(area.name);
-    const Answer end = answerOf([&] {
-      area.measure(host, facts);
-      return Answer{};
-    });
-    if (!end.seen.empty()) facts.figure(area.name, end.seen);
+    const std::string trouble = troubleOf([&] { area.measure(host, facts); });
+    if (!trouble.empty()) facts.figure(area.name, trouble);
   }
 }
 

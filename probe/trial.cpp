@@ -28,15 +28,14 @@ bool CTrial::begin(const Host& host, Facts& facts, std::function<void()> ended) 
   facts_ = &facts;
   ended_ = std::move(ended);
   for (const char* const name : kTold) facts_->tell(name, notTold(kNotReached));
-  const Answer trouble = answerOf([&] {
+  const std::string trouble = troubleOf([&] {
     panels_ = &host.service<lw::LWPanelFuncs>("LWPanelServices 3");
     panels_->globalFun = host.global;  // the host may give out another table each time
     showFirstPanel();
-    return Answer{};
   });
-  if (trouble.seen.empty()) return true;
+  if (trouble.empty()) return true;
   stop();
-  for (const char* const name : kTold) facts_->tell(name, trouble);
+  for (const char* const name : kTold) facts_->tell(name, notTold(trouble));
   return false;
 }
 
@@ -66,11 +65,8 @@ void CTrial::forget() {
 
 // Trouble in a callback ends the trial: there is nobody else to tell.
 void CTrial::guard(const std::function<void()>& action) {
-  const Answer trouble = answerOf([&] {
-    action();
-    return Answer{};
-  });
-  if (!trouble.seen.empty()) end(trouble.seen);
+  const std::string trouble = troubleOf(action);
+  if (!trouble.empty()) end(trouble);
 }
 
 Ways CTrial::waysOf(Step& step, void (CTrial::*done)(bool isSkipped)) {
