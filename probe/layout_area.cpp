@@ -73,9 +73,18 @@ void leaveAsBefore(const LayoutScene& scene, const Before& before, Facts& facts)
   doAndTell(facts, "selection", [&] { selectAgain(scene, before.selected); });
 }
 
+void tellNothing(const std::string& why, Facts& facts) {
+  for (const auto questions : kQuestionsInOrder) {
+    for (const Question<LayoutSite>& question : questions()) facts.tell(question.name, notTold(why));
+  }
+}
+
+// Where the host does not tell how things are, they could not be left so.
 void measure(Host& host, Facts& facts) {
   LayoutSite site(host);
-  const Before before = stateOf(site.scene);
+  Before before;
+  const std::string trouble = troubleOf([&] { before = stateOf(site.scene); });
+  if (!trouble.empty()) return tellNothing(trouble, facts);
   for (const auto questions : kQuestionsInOrder) ask(questions(), site, facts);
   tellLayoutFigures(site, facts);
   doAndTell(facts, "commands", [&] { tellCommandFigures(site, facts); });

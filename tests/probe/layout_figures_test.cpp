@@ -6,13 +6,7 @@ namespace {
 
 class LayoutFigure : public Probing {
  protected:
-  std::string figure(const std::string& name) {
-    const auto file = nlohmann::json::parse(inLayout().facts);
-    for (const auto& figure : file.at("figures")) {
-      if (figure.at("name") == name) return figure.at("seen");
-    }
-    return "no such figure";
-  }
+  std::string figure(const std::string& name) { return figureIn(inLayout().facts, name); }
 };
 
 TEST_F(LayoutFigure, TellsWhatACommandDidByTheQueryBeforeAndBehindIt) {

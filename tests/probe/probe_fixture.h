@@ -28,6 +28,24 @@ inline std::string valueIn(const std::string& facts, const std::string& name) {
   return {};
 }
 
+// The sentence that the file holds for a question; empty when that is not asked.
+inline std::string seenIn(const std::string& facts, const std::string& name) {
+  const auto file = nlohmann::json::parse(facts);
+  for (const auto& fact : file.at("facts")) {
+    if (fact.at("name") == name) return fact.at("seen");
+  }
+  return {};
+}
+
+// What the file holds for people under a name.
+inline std::string figureIn(const std::string& facts, const std::string& name) {
+  const auto file = nlohmann::json::parse(facts);
+  for (const auto& figure : file.at("figures")) {
+    if (figure.at("name") == name) return figure.at("seen");
+  }
+  return "no such figure";
+}
+
 // The host that the facts of these files describe.
 inline HostChoice hostOf(const std::vector<std::string>& files) {
   HostChoice host;
