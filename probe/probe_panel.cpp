@@ -129,7 +129,7 @@ void CProbePanel::measure() {
   trial_.stop();
   facts_ = {};
   measureAlone(host_, facts_, [this](const std::string& what) { say("Measuring " + what); });
-  isLeft_ = !answerOf([&] { return Answer{{}, refusal(host_)}; }).seen.empty();
+  isLeft_ = !sentenceOf([&] { return refusal(host_); }).empty();
   if (isLeft_) facts_.figure("left behind", kLeft);
 }
 

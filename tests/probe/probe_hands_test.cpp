@@ -1,6 +1,9 @@
 // The probe's panels in the hands of people who do not do all that they are asked for, and in hosts that fail.
+#include <chrono>
 #include <optional>
 #include <stdexcept>
+#include <thread>
+#include <vector>
 
 #include "standin/core/shared_library.h"
 #include "standin/core/witness.h"
@@ -54,13 +57,7 @@ struct ProbeInHands : testing::Test {
     const Outcome<std::string> bytes = readFileBytes(folder.path() + "/facts.json");
     return bytes ? *bytes : "{\"facts\": []}";
   }
-  std::string seen(const std::string& name) const {
-    const auto file = nlohmann::json::parse(facts());
-    for (const auto& fact : file.at("facts")) {
-      if (fact.at("name") == name) return fact.at("seen");
-    }
-    return {};
-  }
+  std::string seen(const std::string& name) const { return seenIn(facts(), name); }
 
   TemporaryFolder folder;
   std::string usualFile;
@@ -203,6 +200,60 @@ TEST_F(ProbeInHands, NothingDoneIsToldAsNothingDone) {
     EXPECT_EQ(valueIn(facts(), name), "") << seen(name);
 }
 
+TEST_F(ProbeInHands, OnePanelOfTheFourIsOpenAtATime) {
+  start();
+  for (const char* const button : {"Next", "Done", "Done", "Done"}) {
+    EXPECT_EQ(panels().open().size(), 2U) << button;
+    press(button);
+  }
+  EXPECT_EQ(panels().open().size(), 1U);
+}
+
+TEST_F(ProbeInHands, WhatWasSkippedBeforeThePanelsWereClosedIsToldAsSkipped) {
+  start();
+  press("Next");
+  press("Skip");
+  mustBeDone(person::close(shown()));
+  EXPECT_EQ(seen("mouse"), "the user skipped it");
+  EXPECT_EQ(seen("typing"), "the user closed the panel");
+}
+
+TEST_F(ProbeInHands, AnotherEntryThanTheShownOneTellsNothing) {
+  start();
+  press("Next");
+  press("Skip");
+  mustBeDone(person::choose(shown()->find("List"), 2));
+  press("Done");
+  press("Skip");
+  EXPECT_EQ(valueIn(facts(), "same-choice"), "");
+  EXPECT_EQ(seen("same-choice"), "another entry was chosen than the one that was shown");
+}
+
+TEST_F(ProbeInHands, ClicksThatAreNotQuickTellNothing) {
+  start();
+  press("Next");
+  const Rectangle hot = shown()->find(ControlKind::OpenGL)->hot();
+  mustBeDone(person::click(shown(), hot.x, hot.y));
+  std::this_thread::sleep_for(std::chrono::milliseconds(600));
+  mustBeDone(person::click(shown(), hot.x, hot.y));
+  mustBeDone(person::click(shown(), hot.x + hot.width - 1, hot.y));
+  press("Done");
+  press("Skip");
+  press("Skip");
+  EXPECT_EQ(valueIn(facts(), "clicks"), "") << seen("clicks");
+}
+
+TEST_F(ProbeInHands, TheCallsOfTheMouseAreToldOneByOne) {
+  start();
+  playHands();
+  const std::string without = figureIn(facts(), "mouse over the panel without its flag");
+  const std::string with = figureIn(facts(), "mouse over the panel with its flag");
+  EXPECT_TRUE(without.starts_with("event panel 78,103 control 78,103 qualifiers 162 clicks 1; event ")) << without;
+  EXPECT_TRUE(with.starts_with("button hook 78,89 bits 160 panel 78,89 control 78,89 qualifiers 160 clicks 1; event "))
+      << with;
+  EXPECT_TRUE(with.ends_with("wheel hook 218,89 bits 1 panel 218,89 control 218,89 qualifiers 32 clicks 1")) << with;
+}
+
 TEST_F(ProbeInHands, AWheelTurnedTowardsTheUserTellsTheOtherWay) {
   start();
   press("Next");
@@ -343,6 +394,64 @@ TEST_F(ProbeInHands, WhoDoesNotGoOnHasAFileThatTellsIt) {
   start();
   EXPECT_EQ(valueIn(facts(), "sets"), "silent");
   EXPECT_EQ(seen("mouse"), "the user did not come to this");
+}
+
+std::vector<std::string> namesIn(const std::string& facts) {
+  std::vector<std::string> names;
+  const auto file = nlohmann::json::parse(facts);
+  for (const auto& fact : file.at("facts")) names.push_back(fact.at("name"));
+  return names;
+}
+
+TEST_F(ProbeInHands, WhoDoesNotGoOnHasAFileOfAllQuestions) {
+  start();
+  const std::vector<std::string> early = namesIn(facts());
+  playHands();
+  EXPECT_EQ(early, namesIn(facts()));
+}
+
+// ---------------------------------------------------------------------------------------------------------------------
+
+TEST_F(ProbeInHands, AnotherVersionOfTheProgramIsToldSo) {
+  EXPECT_EQ(host->activate(*module, "Varnel:HostFacts", {}, lw::kModCommandVersion + 1), lw::kActivationBadVersion);
+}
+
+TEST_F(ProbeInHands, AProgramWithoutPanelsIsToldThatTheProbeCannotRun) {
+  globals().withhold("LWPanelServices 3");
+  EXPECT_EQ(host->activate(*module, "Varnel:HostFacts"), lw::kActivationBadGlobal);
+}
+
+// What the line says whenever it is drawn.
+struct LinesOfNow : PanelListener {
+  void drawn(Control& control, int /*mode*/) override {
+    if (control.panel == panels().find("Varnel:HostFacts")) lines.push_back(control.shown());
+  }
+  std::vector<std::string> lines;
+};
+
+TEST_F(ProbeInHands, EachStepIsShownBeforeItIsDone) {
+  LinesOfNow now;
+  panels().listener = &now;
+  start();
+  panels().listener = nullptr;
+  ASSERT_GE(now.lines.size(), 3U);
+  EXPECT_EQ(now.lines[0], "Measuring what only eyes can tell");
+  EXPECT_EQ(now.lines[1], "Measuring the process");
+  EXPECT_EQ(now.lines[2], "Measuring objects and edits");
+  EXPECT_EQ(now.lines.back(), "Go on in the next panel");
+}
+
+TEST_F(ProbeInHands, TheFileTellsReleaseBuildYearAndLanguage) {
+  end();
+  HostOptions options;
+  options.modeler.productInfo = 0x0A21ABC1;
+  options.modeler.localeInfo = 0x30411;
+  begin(options);
+  start();
+  const auto told = nlohmann::json::parse(facts()).at("host");
+  const nlohmann::json wanted{
+      {"release", "2.1"}, {"build", 0xABC}, {"year", 2025}, {"language", "0x411"}, {"word", "0xa21abc1"}};
+  EXPECT_EQ(told, wanted);
 }
 
 }  // namespace
