@@ -1,4 +1,5 @@
 // The probe's panels in the hands of people who do not do all that they are asked for, and in hosts that fail.
+#include <algorithm>
 #include <chrono>
 #include <optional>
 #include <stdexcept>
@@ -263,6 +264,28 @@ TEST_F(ProbeInHands, AWheelTurnedTowardsTheUserTellsTheOtherWay) {
   mustBeDone(person::wheel(shown(), area->hot().x, area->hot().y, -1));
   press("Done");
   EXPECT_EQ(valueIn(facts(), "wheel"), "down");
+}
+
+// The width that the probe tried is that which holds all controls again, and what it hid for a trial is there.
+TEST_F(ProbeInHands, TrialsLeaveAPanelAsItWas) {
+  end();
+  HostChoice choice;
+  ASSERT_EQ(choice.take("panel-size=always"), "");
+  begin(choice.options());
+  start();
+  EXPECT_TRUE(person::toggle(shown()->find("Mark")));
+  for (const char* const button : {"Next", "Skip"}) {
+    int right = 0;
+    for (const auto& control : shown()->controls) right = std::max(right, control->x + control->width());
+    EXPECT_EQ(shown()->width, right + 8) << shown()->title.read();
+    press(button);
+  }
+}
+
+TEST_F(ProbeInHands, TheSizesOfControlsAreTold) {
+  start();
+  const std::string sizes = figureIn(facts(), "sizes of controls");
+  EXPECT_TRUE(sizes.starts_with("EditControl of 12: 108 by 20, label 28, hot 80 by 18; PopupControl: ")) << sizes;
 }
 
 // ---------------------------------------------------------------------------------------------------------------------
