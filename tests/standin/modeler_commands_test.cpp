@@ -93,6 +93,7 @@ TEST_F(ModelerCommands, SetlayerOfALayerThatIsNotThereIsRefused) {
   EXPECT_EQ(send("setlayer 3"), kCommandArgumentValue);
   EXPECT_EQ(send("setlayer 0"), kCommandArgumentValue);
   EXPECT_EQ(send("setlayer Tail"), kCommandArgumentType);
+  EXPECT_EQ(send("setlayer 1x"), kCommandArgumentType);
   EXPECT_TRUE(object->layer(0)->foreground);
 }
 
