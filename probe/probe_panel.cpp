@@ -75,13 +75,10 @@ void CProbePanel::addAll() {
 void CProbePanel::make() {
   panel_ = panels_->create(kToolName, panels_);
   if (panel_ == nullptr) throw Trouble{"the host makes no panel"};
-  const Answer end = answerOf([&] {
-    addAll();
-    return Answer{};
-  });
-  if (end.seen.empty()) return;
+  const std::string trouble = troubleOf([&] { addAll(); });
+  if (trouble.empty()) return;
   panels_->destroy(std::exchange(panel_, nullptr));
-  throw Trouble{end.seen};
+  throw Trouble{trouble};
 }
 
 // Not in the middle of a run, when the host's services are in use.
@@ -146,11 +143,8 @@ void CProbePanel::start() {
 
 // What goes wrong is told in the panel: there is nobody else to tell.
 void CProbePanel::sayingWhy(const std::function<void()>& action) {
-  const Answer end = answerOf([&] {
-    action();
-    return Answer{};
-  });
-  if (!end.seen.empty()) say(end.seen);
+  const std::string trouble = troubleOf(action);
+  if (!trouble.empty()) say(trouble);
 }
 
 // A host may let the user press again while it runs a command.

@@ -249,10 +249,10 @@ TEST_F(ProbeInHands, TheCallsOfTheMouseAreToldOneByOne) {
   playHands();
   const std::string without = figureIn(facts(), "mouse over the panel without its flag");
   const std::string with = figureIn(facts(), "mouse over the panel with its flag");
-  EXPECT_TRUE(without.starts_with("event panel 78,103 control 78,103 qualifiers 162 clicks 1; event ")) << without;
-  EXPECT_TRUE(with.starts_with("button hook 78,89 bits 160 panel 78,89 control 78,89 qualifiers 160 clicks 1; event "))
+  EXPECT_TRUE(without.starts_with("event panel 78,117 control 78,117 qualifiers 162 clicks 1; event ")) << without;
+  EXPECT_TRUE(with.starts_with("button hook 78,103 bits 160 panel 78,103 control 78,103 qualifiers 160 clicks 1; event "))
       << with;
-  EXPECT_TRUE(with.ends_with("wheel hook 218,89 bits 1 panel 218,89 control 218,89 qualifiers 32 clicks 1")) << with;
+  EXPECT_TRUE(with.ends_with("wheel hook 218,103 bits 1 panel 218,103 control 218,103 qualifiers 32 clicks 1")) << with;
 }
 
 TEST_F(ProbeInHands, AWheelTurnedTowardsTheUserTellsTheOtherWay) {
@@ -461,20 +461,32 @@ TEST_F(ProbeInHands, EachStepIsShownBeforeItIsDone) {
   EXPECT_EQ(now.lines[0], "Measuring what only eyes can tell");
   EXPECT_EQ(now.lines[1], "Measuring the process");
   EXPECT_EQ(now.lines[2], "Measuring objects and edits");
-  EXPECT_EQ(now.lines.back(), "Go on in the next panel");
+  EXPECT_EQ(now.lines.back(), "Now it needs your hand: see the panel \"Varnel probe 1 of 4\"");
 }
 
 TEST_F(ProbeInHands, TheFileTellsReleaseBuildYearAndLanguage) {
   end();
   HostOptions options;
-  options.modeler.productInfo = 0x0A21ABC1;
+  options.modeler.productInfo = 0x0AF1ABC1;
   options.modeler.localeInfo = 0x30411;
   begin(options);
   start();
   const auto told = nlohmann::json::parse(facts()).at("host");
   const nlohmann::json wanted{
-      {"release", "2.1"}, {"build", 0xABC}, {"year", 2025}, {"language", "0x411"}, {"word", "0xa21abc1"}};
+      {"release", "15.1"}, {"build", 0xABC}, {"year", 2025}, {"language", "0x411"}, {"word", "0xaf1abc1"}};
   EXPECT_EQ(told, wanted);
+}
+
+// The year's bits count from that release on.
+TEST_F(ProbeInHands, TheFileTellsNoYearOfAnotherRelease) {
+  end();
+  HostOptions options;
+  options.modeler.productInfo = 0x0A21ABC1;
+  begin(options);
+  start();
+  const auto told = nlohmann::json::parse(facts()).at("host");
+  EXPECT_EQ(told.at("release"), "2.1");
+  EXPECT_TRUE(told.at("year").is_null());
 }
 
 }  // namespace
