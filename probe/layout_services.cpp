@@ -45,10 +45,11 @@ Answer layoutTexts(LayoutSite& site) {
   const char* const third = info.name(site.nulls().third().null);
   if (first == nullptr || second == nullptr) throw Trouble{"a null has no name"};
   if (first == second && second == third) return told("one-place", "the names of three nulls lie in one place");
-  if (info.name(a) != first) return told("until-next", "one name asked again lies in another place");
+  const bool isThere = info.name(a) == first;
   info.name(site.nulls().second().null);
-  return copied(first) == name ? told("session", "a name lies where it lay, and is whole after the names of others")
-                               : told("until-next", "a name lies where it lay, and is not whole after the names of others");
+  return isThere && copied(first) == name
+             ? told("session", "a name is where and as it was after the names of others")
+             : told("until-next", "a name is not where and as it was after the names of others");
 }
 
 constexpr std::array<Question<LayoutSite>, 6> kServiceQuestions{{

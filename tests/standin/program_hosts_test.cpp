@@ -131,7 +131,7 @@ TEST_F(PlayedFacts, ThatAreNeitherAFileNorAVariantAreRefusedShortly) {
 TEST_F(PlayedFacts, AreMeasuredOnlyWhereBothFilesMayBeWritten) {
   std::filesystem::create_directory("measured");
   write("measured/layout.json", "mine");
-  expectRefused("varnel probe measured", "measured/layout.json exists and is not written over; --force writes over it");
+  expectRefused("varnel probe measured", "layout.json exists and is not written over; --force writes over it");
   EXPECT_FALSE(std::filesystem::exists("measured/modeler.json"));
   EXPECT_EQ(bytesOf("measured/layout.json"), "mine");
 }
