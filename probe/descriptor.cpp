@@ -1,4 +1,5 @@
 // The one symbol that the probe exports, and the table of its servers.
+#include "interface/exported.h"
 #include "interface/lightwave.h"
 #include "probe/activations.h"
 #include "probe/probe_panel.h"
@@ -18,14 +19,8 @@ void shutDown(void* /*serverData*/) { probe::probePanel().forget(); }
 
 }  // namespace
 
-#if defined(_WIN32)
-#define VARNEL_EXPORT __declspec(dllexport)
-#else
-#define VARNEL_EXPORT __attribute__((visibility("default")))
-#endif
-
 extern "C" {
-extern VARNEL_EXPORT const lw::ModuleDescriptor _mod_descrip;
+extern LW_EXPORTED const lw::ModuleDescriptor _mod_descrip;
 const lw::ModuleDescriptor _mod_descrip = {
     lw::kSysSync, lw::kSysVersion, lw::kSysMachine, startUp, shutDown, kServers,
 };

@@ -6,8 +6,8 @@
 
 namespace probe {
 
-// In an empty scene, which is empty again at the end, with selection and switches as they were. Throws Trouble, with nothing
-// done, where the host does not tell how they are.
+// In an empty scene, which is empty again at the end, with selection and switches as they were. Where the host does not tell
+// how they are, nothing is done, and each question is told to be unanswered for that.
 void measureLayout(Host& host, Facts& facts);
 
 }  // namespace probe

@@ -42,7 +42,7 @@ std::string boneType(const LayoutScene& s, const Target& t) { return std::to_str
 std::string strength(const LayoutScene& s, const Target& t) { return shown(s.boneInfo().strength(t.bone)); }
 std::string weightMap(const LayoutScene& s, const Target& t) {
   const char* const map = s.boneInfo().weightMap(t.bone);
-  return map == nullptr ? "null" : "\"" + copied(map) + "\"";
+  return map == nullptr ? "null" : "\"" + textOfHost(map) + "\"";
 }
 std::string boneSource(const LayoutScene& s, const Target& t) { return nameOrNone(s, s.objectInfo().boneSource(t.object)); }
 std::string boneMode(const LayoutScene& s, const Target& t) { return std::to_string(s.objectInfo().boneMode(t.object)); }
@@ -243,7 +243,7 @@ void tellOfNull(const LayoutScene& scene, const Target& target, Facts& facts) {
   scene.select({target.null});
   const auto server = [](const LayoutScene& s, const Target& t) {
     const char* const name = s.items().server(t.null, "CustomObjHandler", 1);
-    return name == nullptr ? std::string("none") : "\"" + copied(name) + "\"";
+    return name == nullptr ? std::string("none") : "\"" + textOfHost(name) + "\"";
   };
   const auto look = [](const LayoutScene& s, const Target& t) { return std::to_string(s.interfaceInfo().itemVis(t.null)); };
   tell(scene, target, target.null, {"ApplyServer CustomObjHandler LW_ItemShape", server}, facts);

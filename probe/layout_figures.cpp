@@ -75,7 +75,7 @@ std::string oneLayer(LayoutSite& site) {
 }
 
 std::string weightMapOf(const LayoutScene& scene, lw::ItemId bone) {
-  const std::string map = copied(scene.boneInfo().weightMap(bone));
+  const std::string map = textOfHost(scene.boneInfo().weightMap(bone));
   return map.empty() ? "" : ", weight map \"" + map + "\"";
 }
 

@@ -20,7 +20,7 @@ Answer nullFile(LayoutSite& site) {
   const lw::ItemId null = site.nulls().first().null;
   const char* const answer = site.scene.objectInfo().filename(null);
   if (answer == nullptr) return told("null", "the file name of a null is null");
-  const std::string file = copied(answer);
+  const std::string file = textOfHost(answer);
   const std::string seen = "the file name of a null is \"" + file + "\"";
   if (file.empty()) return told("empty", seen);
   if (file == " ") return told("blank", seen);
@@ -30,7 +30,7 @@ Answer nullFile(LayoutSite& site) {
 Answer noWeightMap(LayoutSite& site) {
   const char* const map = site.scene.boneInfo().weightMap(site.rig().bone(kRigRoot));
   if (map == nullptr) return told("null", "the weight map name of a bone without one is null");
-  const std::string seen = "the weight map name of a bone without one is \"" + copied(map) + "\"";
+  const std::string seen = "the weight map name of a bone without one is \"" + textOfHost(map) + "\"";
   return *map == '\0' ? told("empty", seen) : other(seen);
 }
 

@@ -35,7 +35,7 @@ Items LayoutScene::all(lw::ItemType type, lw::ItemId object) const {
   return found;
 }
 
-std::string LayoutScene::nameOf(lw::ItemId item) const { return item == nullptr ? "" : copied(items().name(item)); }
+std::string LayoutScene::nameOf(lw::ItemId item) const { return item == nullptr ? "" : textOfHost(items().name(item)); }
 
 std::string LayoutScene::namesOf(const Items& some) const {
   std::string text;
@@ -106,13 +106,13 @@ void LayoutScene::addChannels(lw::GroupId group, const std::string& above, std::
   if (depth > kDeepestGroup) throw Trouble{"the groups of channels do not end"};
   const lw::LWChannelInfo& info = channelInfo();
   for (lw::ChannelId next = info.nextChannel(group, nullptr); next != nullptr; next = info.nextChannel(group, next)) {
-    const std::string name = copied(info.channelName(next));
+    const std::string name = textOfHost(info.channelName(next));
     found.push_back({above + name, depth, next, name});
     mustEnd(found.size(), "the channels");
   }
   for (lw::GroupId next = info.nextGroup(group, nullptr); next != nullptr; next = info.nextGroup(group, next)) {
     mustEnd(++groups, "the groups of channels");
-    addChannels(next, above + copied(info.groupName(next)) + ".", depth + 1, found, groups);
+    addChannels(next, above + textOfHost(info.groupName(next)) + ".", depth + 1, found, groups);
   }
 }
 
@@ -169,7 +169,7 @@ void LayoutScene::setPosition(lw::ItemId item, const Vector& position) const {
 // ---------------------------------------------------------------------------------------------------------------------
 // Numbers and texts
 
-std::string copied(const char* text) { return probe::copied(text).value_or(""); }
+std::string textOfHost(const char* text) { return probe::copied(text).value_or(""); }
 
 std::uint32_t lowBits(lw::ItemId item) { return static_cast<std::uint32_t>(bitsOf(item)); }
 std::uint32_t highBits(lw::ItemId item) { return static_cast<std::uint32_t>(bitsOf(item) >> 32); }

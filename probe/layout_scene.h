@@ -82,7 +82,7 @@ class LayoutScene {
 };
 
 // Copies a text of the host's. Empty for null.
-std::string copied(const char* text);
+std::string textOfHost(const char* text);
 // The part of an identifier that counts in commands.
 std::uint32_t lowBits(lw::ItemId item);
 std::uint32_t highBits(lw::ItemId item);

@@ -47,7 +47,7 @@ Answer layoutTexts(LayoutSite& site) {
   if (first == second && second == third) return told("one-place", "the names of three nulls lie in one place");
   const bool isThere = info.name(a) == first;
   info.name(site.nulls().second().null);
-  return isThere && copied(first) == name
+  return isThere && textOfHost(first) == name
              ? told("session", "a name is where and as it was after the names of others")
              : told("until-next", "a name is not where and as it was after the names of others");
 }

@@ -13,6 +13,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "interface/exported.h"
 #include "interface/lightwave.h"
 #include "module/CustomNodel.h"
 
@@ -278,13 +279,7 @@ const lw::ServerRecord kServers[] = {
 
 }  // namespace
 
-#if defined(_WIN32)
-#define BAD_EXPORT __declspec(dllexport)
-#else
-#define BAD_EXPORT __attribute__((visibility("default")))
-#endif
-
 extern "C" {
-extern BAD_EXPORT const lw::ModuleDescriptor _mod_descrip;
+extern LW_EXPORTED const lw::ModuleDescriptor _mod_descrip;
 const lw::ModuleDescriptor _mod_descrip = {lw::kSysSync, lw::kSysVersion, lw::kSysMachine, &startUp, &shutDown, kServers};
 }

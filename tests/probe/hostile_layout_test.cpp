@@ -2,6 +2,7 @@
 // and what is the user's stays as it is.
 #include <array>
 #include <cstring>
+#include <functional>
 #include <set>
 #include <vector>
 
@@ -9,6 +10,7 @@
 #include "standin/layout/scene_report.h"
 #include "standin/panels/person.h"
 #include "standin/variants/played_host.h"
+#include "tests/probe/holed_tables.h"
 #include "tests/probe/probe_fixture.h"
 
 namespace standin {
@@ -164,31 +166,16 @@ TEST_F(HostileLayout, AnyServiceCanBeMissing) {
   }
 }
 
-// Runs the probe with each pointer of a table null in turn. Those that are no functions of the probe's change nothing.
-template <class Table>
-void withEachSlotNull(const char* name, void* table, const std::function<void()>& run) {
-  constexpr std::size_t kSlots = sizeof(Table) / sizeof(void*);
-  for (std::size_t slot = 0; slot < kSlots; ++slot) {
-    SCOPED_TRACE(std::string(name) + " without the slot at " + std::to_string(slot * sizeof(void*)));
-    Table holed;
-    std::memcpy(&holed, table, sizeof(Table));
-    std::memset(reinterpret_cast<char*>(&holed) + slot * sizeof(void*), 0, sizeof(void*));
-    globals().offer(name, &holed);
-    run();
-  }
-  globals().offer(name, table);
-}
-
 TEST_F(HostileLayout, AnyFunctionCanBeMissing) {
   const auto run = [&] {
     measured();
     ASSERT_TRUE(light_.alive && camera_.alive && keepsSettings());
   };
-  withEachSlotNull<lw::LWItemInfo>("LW Item Info 9", service("LW Item Info 9"), run);
-  withEachSlotNull<lw::LWObjectInfo>("LW Object Info 14", service("LW Object Info 14"), run);
-  withEachSlotNull<lw::LWBoneInfo>("LW Bone Info 7", service("LW Bone Info 7"), run);
-  withEachSlotNull<lw::LWChannelInfo>("Channel Info 3", service("Channel Info 3"), run);
-  withEachSlotNull<lw::LWEnvelopeFuncs>("Animation Envelopes 4", service("Animation Envelopes 4"), run);
+  withEachSlotNull<lw::LWItemInfo>("LW Item Info 9", run);
+  withEachSlotNull<lw::LWObjectInfo>("LW Object Info 14", run);
+  withEachSlotNull<lw::LWBoneInfo>("LW Bone Info 7", run);
+  withEachSlotNull<lw::LWChannelInfo>("Channel Info 3", run);
+  withEachSlotNull<lw::LWEnvelopeFuncs>("Animation Envelopes 4", run);
 }
 
 TEST_F(HostileLayout, TheInterfacesRecordCanLackItsFunctions) {

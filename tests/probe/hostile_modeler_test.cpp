@@ -2,13 +2,12 @@
 // through, leaves no edit open, and what is the user's stays as it is.
 #include <climits>
 #include <cstring>
-#include <deque>
-#include <functional>
 #include <set>
 
 #include "standin/core/witness.h"
 #include "standin/panels/person.h"
 #include "standin/variants/played_host.h"
+#include "tests/probe/holed_tables.h"
 #include "tests/probe/probe_fixture.h"
 
 namespace standin {
@@ -143,29 +142,15 @@ TEST_F(HostileModeler, AnyServiceCanBeMissing) {
   }
 }
 
-template <class Table>
-void withEachMissing(const char* name, const std::function<void()>& run) {
-  auto* const table = static_cast<Table*>(Globals::lookup()(name, lw::kUseTransient));
-  static std::deque<Table> tables;  // panels that were made with one stay with it
-  for (std::size_t offset = 0; offset < sizeof(Table); offset += sizeof(void*)) {
-    SCOPED_TRACE(std::string(name) + " without the slot at " + std::to_string(offset));
-    Table& holed = tables.emplace_back(*table);
-    std::memset(reinterpret_cast<char*>(&holed) + offset, 0, sizeof(void*));
-    globals().offer(name, &holed);
-    run();
-  }
-  globals().offer(name, table);
-}
-
 TEST_F(HostileModeler, AnyFunctionCanBeMissing) {
   const auto run = [&] {
     measured();
     EXPECT_EQ(host_.current(), nullptr);
     EXPECT_FALSE(hasOpenEdit());
   };
-  withEachMissing<lw::LWStateQueryFuncs>("LWM: State Query 5", run);
-  withEachMissing<lw::LWObjectFuncs>("Scene Objects 9", run);
-  withEachMissing<lw::LWPanelFuncs>("LWPanelServices 3", run);
+  withEachSlotNull<lw::LWStateQueryFuncs>("LWM: State Query 5", run);
+  withEachSlotNull<lw::LWObjectFuncs>("Scene Objects 9", run);
+  withEachSlotNull<lw::LWPanelFuncs>("LWPanelServices 3", run);
 }
 
 // But for the state, which is the host's own, and the function that ends it.

@@ -1,6 +1,7 @@
 // A module in miniature, built several times with one thing wrong each, to see that the loader says what it is.
 #include <stdexcept>
 
+#include "interface/exported.h"
 #include "interface/lightwave.h"
 
 #ifndef SAMPLE_SYNC
@@ -14,12 +15,6 @@
 #endif
 #ifndef SAMPLE_SYMBOL
 #define SAMPLE_SYMBOL _mod_descrip
-#endif
-
-#ifdef _WIN32
-#define SAMPLE_EXPORT __declspec(dllexport)
-#else
-#define SAMPLE_EXPORT __attribute__((visibility("default")))
 #endif
 
 namespace {
@@ -61,7 +56,6 @@ const lw::ServerRecord servers[] = {
 }  // namespace
 
 extern "C" {
-extern SAMPLE_EXPORT lw::ModuleDescriptor SAMPLE_SYMBOL;
-SAMPLE_EXPORT lw::ModuleDescriptor SAMPLE_SYMBOL = {SAMPLE_SYNC, SAMPLE_VERSION, SAMPLE_MACHINE,
-                                                    &startUp,    &shutDown,      servers};
+extern LW_EXPORTED lw::ModuleDescriptor SAMPLE_SYMBOL;
+LW_EXPORTED lw::ModuleDescriptor SAMPLE_SYMBOL = {SAMPLE_SYNC, SAMPLE_VERSION, SAMPLE_MACHINE, &startUp, &shutDown, servers};
 }
