@@ -32,6 +32,8 @@ struct Hands {
   int setWhole = 0;  // what became of values that the probe set, beyond the range
   double setPercent = 0;
 
+  bool eventsPaint = false;  // an event of the area may be a paint
+
   // Read when the user was done.
   int qualifiers = 0;
   int typedWhole = 0;

@@ -110,9 +110,9 @@ Answer named(Kind events, bool hooksOver, bool hooksBeside, const std::string& s
   return other(seen);
 }
 
-Answer mouse(Hands& hands, bool eventsPaint) {
+Answer mouse(Hands& hands) {
   const CTrialPanel& panel = panelOf(hands.mouse);
-  const Told events = eventsOf(panel, eventsPaint);
+  const Told events = eventsOf(panel, hands.eventsPaint);
   const bool hooksOver = !hooksOverArea(panel).empty();
   const bool beside = hearsBeside(panel);
   const Kind kind = kindOf(events);
@@ -135,16 +135,16 @@ Told pressesOf(const Told& told) {
   return presses;
 }
 
-Told mousePresses(Hands& hands, bool eventsPaint) {
+Told mousePresses(Hands& hands) {
   const CTrialPanel& panel = panelOf(hands.mouse);
-  const Told events = eventsOf(panel, eventsPaint);
+  const Told events = eventsOf(panel, hands.eventsPaint);
   Told presses = pressesOf(events.empty() ? hooksOverArea(panel) : events);
   if (presses.empty()) throw Trouble{"no call told of a press"};
   return presses;
 }
 
-Answer clicks(Hands& hands, bool eventsPaint) {
-  const Told presses = mousePresses(hands, eventsPaint);
+Answer clicks(Hands& hands) {
+  const Told presses = mousePresses(hands);
   if (presses.size() < kPressesOfTheMouseStep)
     return notTold("only " + std::to_string(presses.size()) + " presses were told apart");
   const auto between = [&](std::size_t i) {
@@ -163,7 +163,7 @@ Answer clicks(Hands& hands, bool eventsPaint) {
 }
 
 // The click beside the area was without Shift, and nothing told of it.
-Answer qualifiers(Hands& hands, bool /*eventsPaint*/) {
+Answer qualifiers(Hands& hands) {
   const CTrialPanel& panel = panelOf(hands.mouse);
   const Log& log = panel.log();
   const auto isTold = [&](const Called& c) { return isHook(c) || (c.call == Call::Event && c.control == panel.area()); };
@@ -176,8 +176,8 @@ Answer qualifiers(Hands& hands, bool /*eventsPaint*/) {
                   : told("last", "after a click without Shift of which nothing told, the qualifiers had no Shift");
 }
 
-Answer mouseOrigin(Hands& hands, bool eventsPaint) {
-  const Told presses = mousePresses(hands, eventsPaint);
+Answer mouseOrigin(Hands& hands) {
+  const Told presses = mousePresses(hands);
   const MouseTold& mouse = presses.front().mouse;
   const int dx = mouse.panelX - mouse.controlX;
   const int dy = mouse.panelY - mouse.controlY;
@@ -202,7 +202,7 @@ std::vector<const CTrialPanel*> panelsWithMouse(const Hands& hands) {
   return panels;
 }
 
-Answer mouseOrder(Hands& hands, bool /*eventsPaint*/) {
+Answer mouseOrder(Hands& hands) {
   for (const CTrialPanel* const panel : panelsWithMouse(hands)) {
     const Log& log = panel->log();
     for (std::size_t i = 1; i < log.size(); ++i) {
@@ -218,7 +218,7 @@ Answer mouseOrder(Hands& hands, bool /*eventsPaint*/) {
   return notTold("no press came in both ways");
 }
 
-Answer dragHook(Hands& hands, bool /*eventsPaint*/) {
+Answer dragHook(Hands& hands) {
   for (const CTrialPanel* const panel : panelsWithMouse(hands)) {
     const Called* before = nullptr;
     for (const Called& called : panel->log()) {
@@ -233,7 +233,7 @@ Answer dragHook(Hands& hands, bool /*eventsPaint*/) {
   return notTold("no hook told of a move with the button down");
 }
 
-Answer wheel(Hands& hands, bool /*eventsPaint*/) {
+Answer wheel(Hands& hands) {
   for (const CTrialPanel* const panel : panelsWithMouse(hands)) {
     for (const Called& called : panel->log()) {
       if (called.call != Call::WheelHook || called.bits == 0) continue;
@@ -243,7 +243,7 @@ Answer wheel(Hands& hands, bool /*eventsPaint*/) {
   return notTold("the wheel hook was not called");
 }
 
-Answer context(Hands& hands, bool /*eventsPaint*/) {
+Answer context(Hands& hands) {
   if (platform::glCalls() == nullptr) return notTold("there is no OpenGL on this system");
   for (const CTrialPanel* const panel : panelsWithMouse(hands)) {
     void* ofArea = nullptr;
@@ -257,22 +257,22 @@ Answer context(Hands& hands, bool /*eventsPaint*/) {
   return notTold("no hook was called, or no context was current in the area's callbacks");
 }
 
-struct MouseQuestion {
-  const char* name;
-  Answer (*measure)(Hands&, bool eventsPaint);
-};
-constexpr std::array kMouseQuestions{
-    MouseQuestion{"mouse", mouse},   MouseQuestion{"mouse-order", mouseOrder}, MouseQuestion{"drag-hook", dragHook},
-    MouseQuestion{"clicks", clicks}, MouseQuestion{"qualifiers", qualifiers},  MouseQuestion{"mouse-origin", mouseOrigin},
-    MouseQuestion{"wheel", wheel},   MouseQuestion{"context", context},
-};
+constexpr std::array<Question<Hands>, 8> kMouseQuestions{{
+    {"mouse", mouse},
+    {"mouse-order", mouseOrder},
+    {"drag-hook", dragHook},
+    {"clicks", clicks},
+    {"qualifiers", qualifiers},
+    {"mouse-origin", mouseOrigin},
+    {"wheel", wheel},
+    {"context", context},
+}};
 
 }  // namespace
 
 void askMouse(Hands& hands, Facts& facts) {
-  const bool eventsPaint = facts.answerTo("painter").value != "draw";
-  for (const MouseQuestion& question : kMouseQuestions)
-    facts.tell(question.name, answerOf([&] { return question.measure(hands, eventsPaint); }));
+  hands.eventsPaint = facts.answerTo("painter").value != "draw";
+  ask<Hands>(kMouseQuestions, hands, facts);
 }
 
 }  // namespace probe
