@@ -25,17 +25,17 @@ if(WIN32)
   target_compile_definitions(varnel_compile INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX)
 endif()
 if(VARNEL_SANITIZE)
+  add_compile_definitions(VARNEL_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
-  if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-    # Undefined behaviour ends the program without a word but the stack's (ASAN_OPTIONS=handle_sigill=1). The words for each of some
-    # 100,000 checks are eight megabytes of pointers to relocate, and the tests load the module thousands of times.
-    add_compile_options(-fsanitize-undefined-trap-on-error)
-  else()
-    add_compile_options(-fno-sanitize-recover=all)
-  endif()
+  # Undefined behaviour ends the program without a word but the stack's (ASAN_OPTIONS=handle_sigill=1). The words for each of some
+  # 100,000 checks are eight megabytes of pointers to relocate, and the tests load the module thousands of times.
+  add_compile_options(-fsanitize-undefined-trap-on-error)
 endif()
 
+if(CMAKE_CXX_COMPILER_ID MATCHES Clang AND NOT MSVC)
+  add_link_options(-fuse-ld=lld)
+endif()
 if(VARNEL_QUICK AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   # The compiler looks for memory to use again only when it has taken this much (KB), which no file of ours does: a tenth of its time.
   add_compile_options("SHELL:--param ggc-min-heapsize=1048576")

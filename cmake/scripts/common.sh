@@ -9,13 +9,13 @@ say() { printf "== %s\n" "$*"; }
 
 # The packages of each part of the work, by name in Debian 12.
 packages_of() {
-  local base="g++ cmake ninja-build make"
+  local base="g++ cmake ninja-build make" clang="clang-14 libclang-rt-14-dev lld-14"
   case $1 in
-    native) echo "$base googletest nlohmann-json3-dev libcli11-dev libtinygltf-dev binutils locales git" ;;
+    native) echo "$base $clang googletest nlohmann-json3-dev libcli11-dev libtinygltf-dev binutils locales git" ;;
     windows) echo "$base googletest nlohmann-json3-dev libcli11-dev libtinygltf-dev g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64
-      wine wine64 xvfb xauth locales fonts-ipafont-gothic fonts-vlgothic libgl1-mesa-dri libstb-dev lld-15" ;;
-    fuzz) echo "$base clang-14 libclang-rt-14-dev" ;;
-    lint) echo "$base googletest nlohmann-json3-dev libcli11-dev libtinygltf-dev clang-format-14 clang-tidy-14 git" ;;
+      wine wine64 xvfb xauth locales fonts-ipafont-gothic fonts-vlgothic libgl1-mesa-dri libstb-dev lld-14" ;;
+    fuzz) echo "$base $clang" ;;
+    lint) echo "$base $clang googletest nlohmann-json3-dev libcli11-dev libtinygltf-dev clang-format-14 clang-tidy-14 git" ;;
     bench) echo "$base libbenchmark-dev libassimp-dev libcli11-dev nlohmann-json3-dev libtinygltf-dev valgrind" ;;
     demo) echo "$base libcli11-dev nlohmann-json3-dev libtinygltf-dev locales" ;;
     coverage) echo "$(packages_of native) gcovr" ;;

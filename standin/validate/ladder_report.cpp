@@ -175,7 +175,7 @@ std::string thisBuild() {
 #else
   std::string text = "stand-in for this machine";
 #endif
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(VARNEL_SANITIZE)
   text += ", with sanitizers";
 #elif defined(NDEBUG)
   text += ", optimised";

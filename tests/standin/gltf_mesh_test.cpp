@@ -98,7 +98,7 @@ TEST(GltfMesh, AnObjectWithNextToNothingIsAFile) {
   const GlbFile file = glbFileOf(rig.object());
   EXPECT_EQ(file.nodes().size(), 2U);
   EXPECT_FALSE(file.json.contains("buffers"));
-  EXPECT_EQ(file.json["scenes"][0]["nodes"], Json({0}));
+  EXPECT_EQ(file.json["scenes"][0]["nodes"], Json::array({0}));
 }
 
 TEST(GltfMesh, ASkeletonAloneIsJointsWithoutAMesh) {

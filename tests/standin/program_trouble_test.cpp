@@ -90,7 +90,7 @@ TEST_F(ProgramTrouble, AFolderThatCannotBeWrittenIntoIsNamed) {
 }
 
 // Not with the sanitizers, whose own memory takes more than any limit leaves.
-#ifndef __SANITIZE_ADDRESS__
+#ifndef VARNEL_SANITIZE
 TEST_F(ProgramTrouble, AFileThatIsLargerThanTheMemoryIsNamed) {
   write("large.lwo", "FORM");
   std::filesystem::resize_file("large.lwo", 3'000'000'000);  // takes no room on the disk

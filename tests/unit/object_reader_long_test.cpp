@@ -111,7 +111,7 @@ TEST(LongObject, IsReadWhateverItsFacesAre) {
     list.id("FACE");
     while (list.size() < 200000) {
       const auto corners = static_cast<unsigned>(random() % 8 == 0 ? random() % 1024 : random() % 6);
-      list.u2(corners | (random() % 64) << 10U);
+      list.u2(corners | static_cast<unsigned>(random() % 64) << 10U);
       for (unsigned corner = 0; corner < corners; ++corner) {
         const auto point = static_cast<std::uint32_t>(random() % 1100);
         random() % 2 == 0 ? list.vx(point) : list.longVx(point);
