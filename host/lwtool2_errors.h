@@ -8,7 +8,7 @@
 
 #include "host/host_call.h"
 
-#if defined(__MINGW32__)
+#if defined(__MINGW32__) && !defined(__clang__)
 #define VARNEL_PRINTF(text, values) __attribute__((format(gnu_printf, text, values)))
 #elif defined(__GNUC__)
 #define VARNEL_PRINTF(text, values) __attribute__((format(printf, text, values)))

@@ -13,7 +13,7 @@ packages_of() {
   case $1 in
     native) echo "$base $clang googletest nlohmann-json3-dev libcli11-dev libtinygltf-dev binutils locales git" ;;
     windows) echo "$base googletest nlohmann-json3-dev libcli11-dev libtinygltf-dev g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64
-      wine wine64 xvfb xauth locales fonts-ipafont-gothic fonts-vlgothic libgl1-mesa-dri libstb-dev lld-14" ;;
+      wine wine64 xvfb xauth locales fonts-ipafont-gothic fonts-vlgothic libgl1-mesa-dri libstb-dev clang-14 lld-14" ;;
     fuzz) echo "$base $clang" ;;
     lint) echo "$base $clang googletest nlohmann-json3-dev libcli11-dev libtinygltf-dev clang-format-14 clang-tidy-14 git" ;;
     bench) echo "$base libbenchmark-dev libassimp-dev libcli11-dev nlohmann-json3-dev libtinygltf-dev valgrind" ;;
