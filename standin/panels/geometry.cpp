@@ -17,28 +17,33 @@ std::vector<const Control*> visibleControls(const Panel& panel, Test test) {
   return found;
 }
 
-// What of a control is painted: padding is not.
-std::array<Rectangle, 2> inked(const Control& control) { return {control.labelArea(), control.hot()}; }
+// What of a control is painted: padding is not. Measured once, for the label's text has to be.
+struct Inked {
+  explicit Inked(const Control* of) : control(of), parts{of->labelArea(), of->hot()} {}
+  bool isBorder() const { return control->is(ControlKind::Border); }
+  const Rectangle& hot() const { return parts[1]; }
 
-bool share(const Control& a, const Control& b) {
-  for (const Rectangle& first : inked(a)) {
-    for (const Rectangle& second : inked(b)) {
+  const Control* control;
+  std::array<Rectangle, 2> parts;
+};
+
+bool share(const Inked& a, const Inked& b) {
+  for (const Rectangle& first : a.parts) {
+    for (const Rectangle& second : b.parts) {
       if (first.meets(second)) return true;
     }
   }
   return false;
 }
 
-bool collide(const Control& a, const Control& b) {
-  if (a.is(ControlKind::Border) && b.is(ControlKind::Border)) {
-    return a.hot().meets(b.hot()) && !a.hot().holds(b.hot()) && !b.hot().holds(a.hot());
-  }
-  if (a.is(ControlKind::Border) || b.is(ControlKind::Border)) return false;
+bool collide(const Inked& a, const Inked& b) {
+  if (a.isBorder() && b.isBorder()) return a.hot().meets(b.hot()) && !a.hot().holds(b.hot()) && !b.hot().holds(a.hot());
+  if (a.isBorder() || b.isBorder()) return false;
   return share(a, b);
 }
 
 bool leaves(const Control& control, const Rectangle& area) {
-  const auto parts = inked(control);
+  const auto parts = Inked(&control).parts;
   return std::any_of(parts.begin(), parts.end(),
                      [&](const Rectangle& part) { return !part.isEmpty() && !area.holds(part); });
 }
@@ -70,11 +75,12 @@ std::string linesOf(const std::vector<const Control*>& controls, const std::stri
 }  // namespace
 
 std::vector<ControlPair> overlapping(const Panel& panel) {
-  const std::vector<const Control*> visible = visibleControls(panel, [](const Control&) { return true; });
+  std::vector<Inked> visible;
+  for (const Control* control : visibleControls(panel, [](const Control&) { return true; })) visible.emplace_back(control);
   std::vector<ControlPair> pairs;
   for (std::size_t i = 0; i < visible.size(); ++i) {
     for (std::size_t k = i + 1; k < visible.size(); ++k) {
-      if (collide(*visible[i], *visible[k])) pairs.emplace_back(visible[i], visible[k]);
+      if (collide(visible[i], visible[k])) pairs.emplace_back(visible[i].control, visible[k].control);
     }
   }
   return pairs;

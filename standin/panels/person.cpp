@@ -23,12 +23,12 @@ Done failed(std::string why) { return {false, std::move(why)}; }
 // Whether a person can reach the control at all.
 Done reachable(const Control* control) {
   if (control == nullptr) return failed("there is no such control");
-  const std::string name = control->describe();
-  if (!control->isAlive) return failed(name + " was destroyed");
-  if (!control->panel->isOpen()) return failed(name + ": the panel is not open");
-  if (control->isErased) return failed(name + " is hidden");
-  if (control->isCovered || control->isMisplaced) return failed(name + " is not seen: it was not drawn again");
-  if (!control->panel->area().meets(control->hot())) return failed(name + " lies outside the panel");
+  const auto cannot = [&](const char* why) { return failed(control->describe() + why); };
+  if (!control->isAlive) return cannot(" was destroyed");
+  if (!control->panel->isOpen()) return cannot(": the panel is not open");
+  if (control->isErased) return cannot(" is hidden");
+  if (control->isCovered || control->isMisplaced) return cannot(" is not seen: it was not drawn again");
+  if (!control->panel->area().meets(control->hot())) return cannot(" lies outside the panel");
   return {};
 }
 
