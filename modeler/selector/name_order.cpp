@@ -27,6 +27,12 @@ int compareNumbers(std::string_view first, std::string_view second) {
 }  // namespace
 
 bool comesBefore(std::string_view first, std::string_view second) {
+  // What both begin with decides nothing, but for a number that may go on behind it.
+  const auto differ = std::mismatch(first.begin(), first.end(), second.begin(), second.end()).first;
+  auto same = static_cast<std::size_t>(differ - first.begin());
+  while (same > 0 && skg::isDigit(first[same - 1])) --same;
+  first.remove_prefix(same);
+  second.remove_prefix(same);
   while (!first.empty() && !second.empty()) {
     if (skg::isDigit(first.front()) && skg::isDigit(second.front())) {
       const int order = compareNumbers(takeNumber(first), takeNumber(second));

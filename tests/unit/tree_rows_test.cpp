@@ -231,6 +231,7 @@ TEST(NameOrder, NumbersCountAsNumbers) {
                          "Bone9", "Bone10", "Bone10b", "Bone", "a",   "a1", "a1b2", "a1b10"};
   EXPECT_TRUE(comesBefore("Bone2", "Bone10"));
   EXPECT_FALSE(comesBefore("Bone10", "Bone2"));
+  EXPECT_TRUE(comesBefore("Bone11", "Bone101"));  // they begin alike, and are compared whole
   Names sorted = ordered;
   std::stable_sort(sorted.begin(), sorted.end(), comesBefore);
   EXPECT_EQ(sorted, (Names{"", "1", "2", "10", "10a", "A", "Bone", "Bone", "Bone1", "Bone2", "Bone9", "Bone10", "Bone10b",
