@@ -68,15 +68,18 @@ void Witness::stopClock() {
   clockRuns_ = false;
 }
 
-HostCall::HostCall(const char* function)
-    : function_(function), clockRan_(witness().clockRuns_), moduleRan_(std::exchange(witness().moduleRuns_, false)) {
-  witness().stopClock();
-  refused_ = witness().enter(function);
+HostCall::HostCall(const char* function) : function_(function) {
+  Witness& seen = witness();
+  clockRan_ = seen.clockRuns_;
+  moduleRan_ = std::exchange(seen.moduleRuns_, false);
+  seen.stopClock();
+  refused_ = seen.enter(function);
 }
 
 HostCall::~HostCall() {
-  witness().moduleRuns_ = moduleRan_;
-  if (clockRan_) witness().startClock();
+  Witness& seen = witness();
+  seen.moduleRuns_ = moduleRan_;
+  if (clockRan_) seen.startClock();
 }
 
 }  // namespace standin

@@ -78,6 +78,12 @@ KeptText KeptText::kept(const char* text) {
   return kept;
 }
 
+void Control::isDrawn() {
+  isCovered = isMisplaced = false;
+  stale.reset();
+  if (!std::exchange(isListed, true)) panel->drawn.push_back(this);
+}
+
 int Control::labelWidth() const {
   if (kind->labelInside) return 0;
   const int width = textWidth(label.view());

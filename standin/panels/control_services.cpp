@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 #include <cstring>
+#include <tuple>
 
 #include "standin/core/witness.h"
 #include "standin/panels/limits.h"
@@ -215,16 +216,15 @@ void takeValue(Control& control, const lw::LWValue& value) {
 }
 
 void takePlace(Control& control, int attribute, int number) {
-  const Rectangle before = control.whole();
+  const auto place = [&] { return std::tuple(control.x, control.y, control.hotWidth, control.hotHeight); };
+  const auto before = place();
   switch (attribute) {
     case lw::kControlX: control.x = number; break;
     case lw::kControlY: control.y = number; break;
     case lw::kControlWidth: control.setWidth(number); break;
     default: control.setHeight(number); break;
   }
-  const Rectangle now = control.whole();
-  const bool isSame = now.x == before.x && now.y == before.y && now.width == before.width && now.height == before.height;
-  if (!isSame && control.panel->isOpen() && !panels().options.movesRepaint) control.isMisplaced = true;
+  if (place() != before && control.panel->isOpen() && !panels().options.movesRepaint) control.isMisplaced = true;
 }
 
 void takePointer(Control& control, int attribute, void* pointer) {
@@ -268,24 +268,17 @@ void set(lw::LWControl* face, int attribute, lw::LWValue* value) {
 // Erasing fills where the control is with the panel's colour. A border around it keeps its lines.
 void coverOthers(const Control& erased) {
   const Rectangle area = erased.whole();
-  for (Control* const other : erased.panel->unerased) {
-    // Rows first: widths are those of texts, and take their time.
-    if (!other->isAlive || other->isCovered || other->y >= area.bottom() || other->y + other->height() <= area.y) continue;
-    const bool isAround = other->is(ControlKind::Border) && other->whole().holds(area);
-    if (!isAround && other->whole().meets(area)) other->isCovered = true;
-  }
-}
-
-void setErased(Control& control, bool isErased) {
-  if (control.isErased == isErased) return;
-  control.isErased = isErased;
-  std::vector<Control*>& unerased = control.panel->unerased;
-  if (isErased) {
-    *std::find(unerased.begin(), unerased.end(), &control) = unerased.back();
-    unerased.pop_back();
-  } else {
-    unerased.push_back(&control);
-  }
+  std::erase_if(erased.panel->drawn, [&](Control* other) {
+    if (other->isAlive && !other->isErased) {
+      // Rows first: widths are those of texts, and take their time.
+      if (other->y >= area.bottom() || other->y + other->height() <= area.y) return false;
+      const bool isAround = other->is(ControlKind::Border) && other->whole().holds(area);
+      if (isAround || !other->whole().meets(area)) return false;
+      other->isCovered = true;
+    }
+    other->isListed = false;
+    return true;
+  });
 }
 
 void draw(lw::LWControl* face, int mode) {
@@ -301,7 +294,7 @@ void draw(lw::LWControl* face, int mode) {
     return;
   }
   if (call.refused() || (!control->panel->isOpen() && !panels().options.drawBeforeOpenHolds)) return;
-  if (mode != lw::kDrawRefresh) setErased(*control, mode == lw::kDrawErase);
+  if (mode != lw::kDrawRefresh) control->isErased = mode == lw::kDrawErase;
   control->wantsPaint = !control->isErased;
   if (mode != lw::kDrawErase) control->isDrawn();
   if (mode == lw::kDrawErase && control->panel->isOpen() && panels().options.eraseCovers) coverOthers(*control);

@@ -69,22 +69,23 @@ struct Control {
   int hotWidth = 0;
   int hotHeight = 0;
 
-  // The value, in the form that the kind has; `real` as the module sees it (radians, metres, percent).
-  int integer = 0;
-  double real = 0;
-  std::string text;
-  int rangeLeast = 0;
-  int rangeGreatest = 0;
-
   bool isErased = false;
   bool isAlive = true;
   bool wantsPaint = false;  // exposed or drawn since the last paint
   // What the screen still lacks, until the control is drawn.
   bool isCovered = false;            // painted over by the erasing of another one
   bool isMisplaced = false;          // moved, and not drawn there yet
+  bool isListed = false;             // in the panel's list of what is drawn
   std::optional<std::string> stale;  // the value that it still shows
   bool isPainting = false;
   int paints = 0;  // how often the host had it painted
+
+  // The value, in the form that the kind has; `real` as the module sees it (radians, metres, percent).
+  int integer = 0;
+  double real = 0;
+  std::string text;
+  int rangeLeast = 0;
+  int rangeGreatest = 0;
 
   lw::ControlEvent event = nullptr;
   lw::ControlDraw drawCallback = nullptr;
@@ -100,10 +101,7 @@ struct Control {
 
   bool is(ControlKind which) const { return kind->kind == which; }
   // The screen shows the control as it is.
-  void isDrawn() {
-    isCovered = isMisplaced = false;
-    stale.reset();
-  }
+  void isDrawn();
   int labelWidth() const;
   int width() const;
   int height() const;
@@ -174,7 +172,7 @@ struct Panel {
   lw::PanelResizeHook resizeHook = nullptr;
 
   std::vector<std::unique_ptr<Control>> controls;  // in order of creation, destroyed ones too
-  std::vector<Control*> unerased;                  // of these, in any order: each erasing asks them all
+  std::vector<Control*> drawn;                     // of these: each erasing asks them, and drops what is gone by then
 
   bool isOpen() const { return state == State::Open; }
   bool isResizable() const { return (openFlags & lw::kOpenResizable) != 0; }

@@ -197,7 +197,7 @@ Control* Panels::createControl(Panel& panel, const KindRow& kind, const lw::LWPa
   control.hotWidth = firstWidth(control);
   control.hotHeight = firstHeight(control);
   giveHandle(control);
-  panel.unerased.push_back(&control);
+  control.isDrawn();
   stack(panel, control);
   if (options.asksPopupsAnytime) askAnything(control);
   return &control;
