@@ -129,8 +129,9 @@ struct RecordedCalls {
     GlRecorder& r = outside("genLists");
     if (r.hasNoMoreLists) return 0;
     unsigned first = 1;
-    for (unsigned list = first; list < first + static_cast<unsigned>(count); ++list) {
-      if (r.lists.contains(list)) first = list + 1;
+    for (const unsigned list : r.lists) {
+      if (list >= first + static_cast<unsigned>(count)) break;
+      first = list + 1;
     }
     for (unsigned list = first; list < first + static_cast<unsigned>(count); ++list) r.lists.insert(list);
     return first;
