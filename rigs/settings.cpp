@@ -27,13 +27,13 @@ constexpr UnlabelledRow kUnlabelled[] = {
 constexpr const char* kOffset = "オフセット";
 constexpr const char* kOfTheBone = "ボーン";
 
-std::string labelOf(Slot slot, Language language) {
+std::string_view labelOf(Slot slot, Language language) {
   const std::optional<std::size_t> control = mst::controlOf(slot);
   return control ? texts::propertyLabels(language)[*control] : "";
 }
 
 // How many settings show this Japanese label.
-std::size_t labelCount(const std::string& label) {
+std::size_t labelCount(std::string_view label) {
   const auto shows = [&](const skg::SlotRow& row) { return labelOf(row.slot, Language::Japanese) == label; };
   return static_cast<std::size_t>(std::count_if(skg::kSlotTable.begin(), skg::kSlotTable.end(), shows));
 }
@@ -45,8 +45,8 @@ std::string ownerLabel(std::string_view english) {
       const std::string_view name = row.setting;
       const bool begins = name.starts_with(english) && name.size() > english.size() && name[english.size()] == ' ';
       if (whole ? name == english : begins) {
-        std::string label = labelOf(row.slot, Language::Japanese);
-        if (!label.empty()) return label;
+        const std::string_view label = labelOf(row.slot, Language::Japanese);
+        if (!label.empty()) return std::string(label);
       }
     }
   }
@@ -54,7 +54,7 @@ std::string ownerLabel(std::string_view english) {
 }
 
 std::string japaneseName(const skg::SlotRow& row) {
-  std::string label = labelOf(row.slot, Language::Japanese);
+  std::string label(labelOf(row.slot, Language::Japanese));
   if (!label.empty() && labelCount(label) == 1) return label;
   const std::string_view english = row.setting;
   // "Min (X Pos Limits)": the label is that of several settings, the parentheses say whose it is here.

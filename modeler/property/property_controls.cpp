@@ -340,6 +340,15 @@ constexpr bool fillersFollowTheirField() {
 }
 static_assert(fillersFollowTheirField());
 
+constexpr auto kControlOfSlot = [] {
+  std::array<std::optional<std::size_t>, skg::kSlotTable.size()> controls{};
+  for (const PropertyRow& row : kControls) {
+    if (row.slot) controls[skg::indexOf(*row.slot)] = row.number;
+  }
+  controls[skg::indexOf(Slot::Name)] = control::kNameEdit;
+  return controls;
+}();
+
 static_assert(kControls[control::kHeadLine].role == Role::Decoration);
 static_assert(kControls[control::kFrame].role == Role::Decoration);
 static_assert(kControls[control::kReset].role == Role::Reset);
@@ -360,12 +369,6 @@ ControlSlot ControlSlotMap(std::size_t control) {
   return {slot ? skg::valueKindOf(skg::rowOf(*slot).kind) : ValueKind::None, slot};
 }
 
-std::optional<std::size_t> controlOf(skg::Slot slot) {
-  if (slot == Slot::Name) return control::kNameEdit;
-  const auto found =
-      std::find_if(kControls.begin(), kControls.end(), [slot](const PropertyRow& row) { return row.slot == slot; });
-  if (found == kControls.end()) return std::nullopt;
-  return found->number;
-}
+std::optional<std::size_t> controlOf(skg::Slot slot) { return kControlOfSlot[skg::indexOf(slot)]; }
 
 }  // namespace mst
