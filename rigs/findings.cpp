@@ -68,9 +68,8 @@ class FindingSearch {
     for (std::size_t i = 0; i < rig.skelegons.size(); ++i) {
       const Skelegon& skelegon = rig.skelegons[i];
       layersOfName_[skelegon.name].insert(skelegon.layer);
-      for (const Setting& setting : allSettings()) {
-        const std::string* const text = skg::linkedItemOf(setting.slot) != nullptr ? skelegon.stored(setting) : nullptr;
-        const bool isMade = text != nullptr && !text->empty() && !skelegon.name.empty();
+      for (const auto& [setting, text] : skelegon.storedSettings()) {
+        const bool isMade = skg::linkedItemOf(setting->slot) != nullptr && !text->empty() && !skelegon.name.empty();
         if (isMade) nulls_.try_emplace(itemMeant(layerOf(skelegon), *text), i);
       }
     }
@@ -179,10 +178,7 @@ class FindingSearch {
   }
 
   void checkSettings(std::size_t i) {
-    for (const Setting& setting : allSettings()) {
-      const std::string* const text = rig_.skelegons[i].stored(setting);
-      if (text != nullptr) checkValue(i, setting, *text);
-    }
+    for (const auto& [setting, text] : rig_.skelegons[i].storedSettings()) checkValue(i, *setting, *text);
     checkTogether(i);
     checkColourStored(i);
   }

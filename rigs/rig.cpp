@@ -75,6 +75,17 @@ const std::string* Skelegon::stored(const Setting& setting) const {
   return found == tags.end() ? nullptr : &found->text;
 }
 
+std::vector<StoredSetting> Skelegon::storedSettings() const {
+  std::vector<StoredSetting> stored;
+  for (const PolygonTag& tag : tags) {
+    if (const Setting* const setting = settingOfTag(tag.type)) stored.push_back({setting, &tag.text});
+  }
+  // All lie in one list.
+  std::sort(stored.begin(), stored.end(),
+            [](const StoredSetting& a, const StoredSetting& b) { return a.setting < b.setting; });
+  return stored;
+}
+
 Rig rigOf(const ObjectFile& object, const std::string& fileName) {
   Rig rig;
   rig.fileName = fileName;

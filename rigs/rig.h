@@ -13,6 +13,11 @@
 
 namespace standin::rigs {
 
+struct StoredSetting {
+  const Setting* setting = nullptr;
+  const std::string* text = nullptr;
+};
+
 struct Skelegon {
   std::size_t layer = 0;  // place in Rig::layers
   // Where it stands in the object.
@@ -33,6 +38,8 @@ struct Skelegon {
 
   // The stored text, or null.
   const std::string* stored(const Setting& setting) const;
+  // All of them, in the order of the settings.
+  std::vector<StoredSetting> storedSettings() const;
 };
 
 struct Layer {

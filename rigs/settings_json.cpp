@@ -76,9 +76,7 @@ Json jsonOf(const Skelegon& skelegon) {
   json["name"] = jsonOfText(skelegon.name);
   if (skelegon.namesakes > 1) json["nth"] = skelegon.number + 1;
   Json settings = Json::object();
-  for (const Setting& setting : allSettings()) {
-    if (const std::string* const text = skelegon.stored(setting)) settings[setting.english] = valueOf(setting, *text);
-  }
+  for (const auto& [setting, text] : skelegon.storedSettings()) settings[setting->english] = valueOf(*setting, *text);
   json["settings"] = std::move(settings);
   return json;
 }
