@@ -43,6 +43,18 @@ SelectorNode layerNode(int layer, const std::vector<std::string>& layerNames) {
   return node;
 }
 
+// Pointers are sorted, for a skelegon is much to move.
+SkelegonInfos inOrderOfName(SkelegonInfos skelegons) {
+  std::vector<skg::SkelegonInfo*> order;
+  order.reserve(skelegons.size());
+  for (skg::SkelegonInfo& skelegon : skelegons) order.push_back(&skelegon);
+  std::stable_sort(order.begin(), order.end(), [](const auto* a, const auto* b) { return comesBefore(a->name, b->name); });
+  SkelegonInfos sorted;
+  sorted.reserve(order.size());
+  for (skg::SkelegonInfo* const skelegon : order) sorted.push_back(std::move(*skelegon));
+  return sorted;
+}
+
 class CBuilder {
  public:
   CBuilder() { add(group("[Top]", kRootColour)); }
@@ -56,6 +68,7 @@ class CBuilder {
   void addSkelegons(SkelegonInfos& skelegons) {
     const std::vector<std::size_t> parents = skelegonParents(skelegons);
     const std::size_t first = nodes_.size();
+    nodes_.reserve(first + skelegons.size());
     for (skg::SkelegonInfo& skelegon : skelegons) add(skelegonNode(skelegon));
     for (std::size_t i = 0; i < skelegons.size(); ++i) {
       const bool isTop = parents[i] == kNoParent;
@@ -99,8 +112,7 @@ int colourOf(const skg::SkelegonInfo& skelegon) {
 
 SelectorNodes buildSelectorNodes(SkelegonInfos skelegons, const std::vector<std::string>& layerNames,
                                  std::vector<std::string> weightMaps) {
-  std::stable_sort(skelegons.begin(), skelegons.end(),
-                   [](const skg::SkelegonInfo& a, const skg::SkelegonInfo& b) { return comesBefore(a.name, b.name); });
+  skelegons = inOrderOfName(std::move(skelegons));
   CBuilder builder;
   builder.addLayers(skelegons, layerNames);
   builder.addSkelegons(skelegons);
