@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <tuple>
 
 namespace standin::views {
 namespace {
@@ -78,8 +77,9 @@ void MeshOutline::makeEdges() {
       if (a != b) all.push_back({std::min(a, b), std::max(a, b), f, kNone, true});
     }
   }
-  std::sort(all.begin(), all.end(),
-            [](const Edge& x, const Edge& y) { return std::tie(x.a, x.b, x.face) < std::tie(y.a, y.b, y.face); });
+  std::sort(all.begin(), all.end(), [](const Edge& x, const Edge& y) {
+    return x.a != y.a ? x.a < y.a : x.b != y.b ? x.b < y.b : x.face < y.face;
+  });
   for (const Edge& edge : all) {
     if (edges_.empty() || edges_.back().a != edge.a || edges_.back().b != edge.b) {
       edges_.push_back(edge);

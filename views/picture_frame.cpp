@@ -267,12 +267,18 @@ std::size_t PictureFrame::placeLabels(PathData& leaders) {
   for (const Wish& wish : wishes()) {
     const PosedBone* const bone = wish.isNull ? nullptr : &content_.rig.bones[wish.index];
     const PosedNull* const null = wish.isNull ? &content_.rig.nulls[wish.index] : nullptr;
-    std::string text = shortened(rigs::printable(null != nullptr ? null->name : bone->name));
+    const std::string& name = null != nullptr ? null->name : bone->name;
+    // Looking on would take as long as there are bones.
+    const bool isFull = left > kMostFailures;
+    if (isFull && !name.empty()) {
+      ++left;
+      continue;
+    }
+    std::string text = shortened(rigs::printable(name));
     if (null != nullptr) text += captionOf(*null, content_.options.language);
     if (text.empty()) continue;
-    // The page is full then, and looking on would take as long as there are bones.
     const std::optional<LabelPlace> place =
-        left > kMostFailures ? std::nullopt : places_.place(wish.at, textWidth(text, kFontSize), kFontSize);
+        isFull ? std::nullopt : places_.place(wish.at, textWidth(text, kFontSize), kFontSize);
     if (!place) {
       ++left;
       continue;
