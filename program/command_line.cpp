@@ -50,11 +50,18 @@ void addRow(CLI::App& app, const CommandOption& row) {
   if (!rules.excludes.empty()) option->excludes(app.get_option(rules.excludes));
 }
 
-void addCommand(CLI::App& app, const Command& command, int& result) {
+// What stands behind a command is its own: nobody asks for the options of another.
+bool areOptionsAskedFor(const Command& command, const std::vector<std::string>& words) {
+  return words.empty() || words.front().starts_with('-') || words.front() == command.name;
+}
+
+void addCommand(CLI::App& app, const Command& command, bool hasOptions, int& result) {
   CLI::App* const subcommand = app.add_subcommand(command.name, command.text);
   if (command.isHidden) subcommand->group("");
   if (command.takesAnything) subcommand->allow_extras();
-  for (const CommandOption& option : command.options) addRow(*subcommand, option);
+  if (hasOptions) {
+    for (const CommandOption& option : command.options) addRow(*subcommand, option);
+  }
   subcommand->footer(command.footer);
   subcommand->callback([&command, &result] { result = command.run(); });
 }
@@ -94,7 +101,7 @@ int runCommandLine(const Program& program, std::vector<std::string> words) {
   app.set_help_all_flag("--help-all", "Print the help of every command and exit");
   app.set_version_flag("--version", program.version);
   int result = 0;
-  for (const Command& command : program.commands) addCommand(app, command, result);
+  for (const Command& command : program.commands) addCommand(app, command, areOptionsAskedFor(command, words), result);
   if (const std::string why = refusalOfCommand(program, words); !why.empty()) return refused(why);
   std::reverse(words.begin(), words.end());  // the parser takes them from the back
   try {
