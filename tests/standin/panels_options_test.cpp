@@ -94,6 +94,23 @@ TEST_F(PanelsOptions, ErasingPaintsOverWhatIsThereUntilItIsDrawn) {
   EXPECT_TRUE(isVisible(*record(below)));
 }
 
+TEST_F(PanelsOptions, ErasingPaintsOverAgainWhatWasDrawnSince) {
+  lw::LWControl* const below = addButton(panel, "Below");
+  lw::LWControl* const above = addButton(panel, "Above");
+  setInteger(above, lw::kControlY, getInteger(below, lw::kControlY));
+  open();
+  above->draw(above, lw::kDrawErase);
+  below->draw(below, lw::kDrawRender);
+  above->draw(above, lw::kDrawRender);
+  above->draw(above, lw::kDrawErase);
+  EXPECT_FALSE(isVisible(*record(below)));
+  below->draw(below, lw::kDrawRender);
+  below->draw(below, lw::kDrawErase);
+  below->draw(below, lw::kDrawRender);
+  above->draw(above, lw::kDrawErase);
+  EXPECT_FALSE(isVisible(*record(below))) << "it was hidden and shown meanwhile";
+}
+
 TEST_F(PanelsOptions, DrawingThePanelShowsWhatWasPaintedOver) {
   lw::LWControl* const below = addButton(panel, "Below");
   lw::LWControl* const above = addButton(panel, "Above");
