@@ -1,4 +1,5 @@
 // Replacement by regular expression under hostile patterns and names: whatever comes, it ends, soon and politely.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <ostream>
@@ -260,7 +261,7 @@ struct Hostile {
   std::string what;
   std::string pattern;
   std::string text;
-  std::string expected;  // what is thrown
+  std::string expected;  // what is thrown, or "one or other"
 };
 void PrintTo(const Hostile& hostile, std::ostream* out) { *out << hostile.what; }
 
@@ -307,7 +308,7 @@ std::vector<Hostile> hostilePatterns() {
       {"look ahead within look ahead", repeated("(?=", 240) + repeated(")", 240), "a", "stack"},
       {"the longest pattern", std::string(mst::kLongestPattern, 'a'), "a", "none"},
       {"as many empty alternatives as a pattern takes", repeated("|", 499), "a", "none"},
-      {"as many copies of nothing as a pattern takes", kCopiesOfNothing, "a", ""},
+      {"as many copies of nothing as a pattern takes", kCopiesOfNothing, "a", "complexity or stack"},
       {"as many open look aheads as a pattern takes", repeated("(?=", 100) + repeated(")", 100), "a", "none"},
       {"a deep match behind many empty alternatives", repeated("(|)", 150) + ".*b", kLongText, "stack"},
       {"a pattern without end", std::string(1'000'000, 'a'), "a", "space"},
@@ -328,7 +329,7 @@ TEST_P(HostilePattern, Ends) {
       mst::runOnStack(kHostStack, [&] { thrown = thrownFor(GetParam().pattern, "", GetParam().text, kSmallBudget); }));
   // Where the library itself may be quicker than its limit, or not, only the end counts.
   if (!GetParam().expected.empty()) {
-    EXPECT_EQ(thrown, GetParam().expected);
+    EXPECT_THAT(GetParam().expected, testing::HasSubstr(thrown));
   }
 }
 
