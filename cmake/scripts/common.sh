@@ -43,12 +43,20 @@ need_packages() {
   apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
+# Configures a preset. From the beginning where the presets are newer: a folder that was made for another compiler would forget the
+# preset's other values, the sanitizers among them, without a word.
+configure() {
+  local preset=$1 fresh=()
+  [ "build/$preset/build.ninja" -nt CMakePresets.json ] || fresh=(--fresh)
+  cmake "${fresh[@]}" --preset "$preset" >/dev/null
+}
+
 # Configures and builds a preset, with a progress line now and then.
 build() {
   local preset=$1
   shift
   say "building $preset"
-  [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
+  [ "build/$preset/build.ninja" -nt CMakePresets.json ] || configure "$preset"
   NINJA_STATUS='[%f/%t] ' cmake --build --preset "$preset" "$@" | awk '
     /^\[[0-9]+\/[0-9]+\]/ { n++; last = $0; if (n % 25 == 0) { print $1 " " $2 " " $3 " " $NF; fflush() } next }
     { print; fflush() }'
