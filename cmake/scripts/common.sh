@@ -43,11 +43,14 @@ need_packages() {
   apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
+# Whether a preset was configured as it stands now.
+is_configured() { [ "build/$1/build.ninja" -nt CMakePresets.json ]; }
+
 # Configures a preset. From the beginning where the presets are newer: a folder that was made for another compiler would forget the
 # preset's other values, the sanitizers among them, without a word.
 configure() {
   local preset=$1 fresh=()
-  [ "build/$preset/build.ninja" -nt CMakePresets.json ] || fresh=(--fresh)
+  is_configured "$preset" || fresh=(--fresh)
   cmake "${fresh[@]}" --preset "$preset" >/dev/null
 }
 
@@ -56,7 +59,7 @@ build() {
   local preset=$1
   shift
   say "building $preset"
-  [ "build/$preset/build.ninja" -nt CMakePresets.json ] || configure "$preset"
+  is_configured "$preset" || configure "$preset"
   NINJA_STATUS='[%f/%t] ' cmake --build --preset "$preset" "$@" | awk '
     /^\[[0-9]+\/[0-9]+\]/ { n++; last = $0; if (n % 25 == 0) { print $1 " " $2 " " $3 " " $NF; fflush() } next }
     { print; fflush() }'
