@@ -34,8 +34,9 @@ if(VARNEL_SANITIZE)
 endif()
 
 if(CMAKE_CXX_COMPILER_ID MATCHES Clang AND NOT MSVC)
-  add_link_options(-fuse-ld=lld)
+  add_link_options(-fuse-ld=lld)  # a blink a program, where the system's takes a second
 endif()
+
 if(VARNEL_QUICK AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   # The compiler looks for memory to use again only when it has taken this much (KB), which no file of ours does: a tenth of its time.
   add_compile_options("SHELL:--param ggc-min-heapsize=1048576")
